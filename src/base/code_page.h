@@ -1,0 +1,19 @@
+// Windows-1252, the code page of the receiver's records and of every file beside the program, to and from
+// UTF-8.
+#pragma once
+
+#include <optional>
+#include <string>
+#include <string_view>
+
+namespace Base {
+
+// Total: each of the 256 bytes has a character of its own; the five that the code page leaves undefined stand
+// for the control characters of the same number, so that every byte survives the way there and back.
+char32_t CharacterOf(unsigned char byte);
+std::string ToUtf8(std::string_view bytes);
+
+// The bytes of a UTF-8 text; nothing when a character is not in the code page or the text is not UTF-8.
+std::optional<std::string> FromUtf8(std::string_view text);
+
+}  // namespace Base

@@ -1,0 +1,197 @@
+#include "base/file.h"
+
+#include <algorithm>
+#include <array>
+#include <cerrno>
+#include <cstdlib>
+#include <cstring>
+#include <fcntl.h>
+#include <filesystem>
+#include <sys/stat.h>
+#include <unistd.h>
+#include <utility>
+
+namespace Base {
+namespace {
+
+class Descriptor {
+ public:
+  explicit Descriptor(int number) : number_(number) {}
+  ~Descriptor() {
+    if (number_ >= 0) ::close(number_);
+  }
+  Descriptor(const Descriptor&) = delete;
+  Descriptor& operator=(const Descriptor&) = delete;
+
+  [[nodiscard]] bool Valid() const { return number_ >= 0; }
+  [[nodiscard]] int Number() const { return number_; }
+
+ private:
+  int number_;
+};
+
+Error Failure(const char* what, const std::string& path, int code) {
+  return {std::string(what) + " " + FileName(path) + ": " + SystemReason(code), "", code};
+}
+
+Error ReadFailure(const std::string& path, int code) { return Failure("Impossibile leggere", path, code); }
+Error WriteFailure(const std::string& path, int code) { return Failure("Impossibile scrivere", path, code); }
+
+bool WriteAll(int file, ByteView bytes) {
+  while (!bytes.empty()) {
+    const ssize_t written = ::write(file, bytes.data(), bytes.size());
+    if (written < 0 && errno != EINTR) return false;
+    if (written > 0) bytes = bytes.subspan(static_cast<std::size_t>(written));
+  }
+  return true;
+}
+
+// Reads up to `limit` bytes from where the file stands; nothing but an error gives false.
+bool ReadUpTo(int file, std::size_t limit, Bytes& bytes) {
+  std::array<Byte, 65536> block{};
+  while (bytes.size() < limit) {
+    const ssize_t got = ::read(file, block.data(), std::min(block.size(), limit - bytes.size()));
+    if (got < 0 && errno != EINTR) return false;
+    if (got == 0) break;
+    if (got > 0) bytes.insert(bytes.end(), block.begin(), block.begin() + got);
+  }
+  return true;
+}
+
+// Writes from the start, flushes to the disk and compares what the file then holds. 0, or the errno.
+int WriteFlushCompare(int file, ByteView bytes) {
+  if (::lseek(file, 0, SEEK_SET) != 0 || !WriteAll(file, bytes) || ::fsync(file) != 0) return errno;
+  Bytes back;
+  if (::lseek(file, 0, SEEK_SET) != 0 || !ReadUpTo(file, bytes.size() + 1, back)) return errno;
+  return std::equal(back.begin(), back.end(), bytes.begin(), bytes.end()) ? 0 : EIO;
+}
+
+void FlushFolder(const std::string& folder) {
+  const Descriptor opened(::open(folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
+  if (opened.Valid()) ::fsync(opened.Number());
+}
+
+// Permissions of the file to be replaced, or those of any new file. Ownership follows where the system lets
+// it.
+int TakeOver(int file, const struct stat* old) {
+  if (old == nullptr) {
+    const mode_t mask = ::umask(0);
+    ::umask(mask);
+    return ::fchmod(file, 0666 & ~mask) == 0 ? 0 : errno;
+  }
+  if (::fchown(file, old->st_uid, old->st_gid) != 0 && errno != EPERM) return errno;
+  return ::fchmod(file, old->st_mode & 07777) == 0 ? 0 : errno;
+}
+
+// 0 where `path` may be replaced: it is a file that can be written to, or nothing yet.
+int Refusal(const std::string& path, bool exists, const struct stat& old) {
+  if (!exists) return errno == ENOENT ? 0 : errno;
+  if (S_ISDIR(old.st_mode)) return EISDIR;
+  if (!S_ISREG(old.st_mode)) return EINVAL;
+  return ::faccessat(AT_FDCWD, path.c_str(), W_OK, AT_EACCESS) == 0 ? 0 : errno;
+}
+
+}  // namespace
+
+std::string SystemReason(int systemCode) {
+  switch (systemCode) {
+    case ENOENT:
+      return "il file o la cartella non esiste";
+    case EACCES:
+    case EPERM:
+      return "permesso negato";
+    case EROFS:
+      return "il disco è in sola lettura";
+    case ENOSPC:
+    case EDQUOT:
+      return "spazio su disco esaurito";
+    case EFBIG:
+      return "il file supera la dimensione consentita";
+    case EISDIR:
+      return "è una cartella";
+    case ENOTDIR:
+      return "il percorso non è una cartella";
+    case EINVAL:
+      return "non è un file normale";
+    case EIO:
+      return "errore di lettura o scrittura del disco";
+    case ENAMETOOLONG:
+      return "il nome è troppo lungo";
+    case ELOOP:
+      return "troppi collegamenti simbolici";
+    case ETXTBSY:
+    case EBUSY:
+      return "il file è in uso";
+    default:
+      return std::strerror(systemCode);
+  }
+}
+
+std::string FileName(std::string_view path) { return std::string(path.substr(path.rfind('/') + 1)); }
+
+std::string ResolvedPath(const std::string& path) {
+  std::error_code error;
+  const std::filesystem::path resolved = std::filesystem::canonical(path, error);
+  if (!error) return resolved.string();
+  const std::filesystem::path target = std::filesystem::read_symlink(path, error);
+  return error ? path : (std::filesystem::path(path).parent_path() / target).string();
+}
+
+Result<std::uint64_t> FileSize(const std::string& path) {
+  struct stat status {};
+  if (::stat(path.c_str(), &status) != 0) return ReadFailure(path, errno);
+  if (!S_ISREG(status.st_mode)) return ReadFailure(path, S_ISDIR(status.st_mode) ? EISDIR : EINVAL);
+  return static_cast<std::uint64_t>(status.st_size);
+}
+
+Result<Bytes> ReadFile(const std::string& path, std::size_t limit) {
+  const Result<std::uint64_t> size = FileSize(path);
+  if (!size) return size.error();
+  if (*size > limit) return ReadFailure(path, EFBIG);
+  const Descriptor file(::open(path.c_str(), O_RDONLY | O_CLOEXEC));
+  if (!file.Valid()) return ReadFailure(path, errno);
+  Bytes bytes;
+  bytes.reserve(static_cast<std::size_t>(*size));
+  if (!ReadUpTo(file.Number(), limit + 1, bytes)) return ReadFailure(path, errno);
+  if (bytes.size() > limit) return ReadFailure(path, EFBIG);
+  return bytes;
+}
+
+Outcome ReplaceFile(const std::string& path, ByteView bytes) {
+  const std::string target = ResolvedPath(path);
+  struct stat old {};
+  const bool exists = ::stat(target.c_str(), &old) == 0;
+  if (const int refused = Refusal(target, exists, old); refused != 0) return WriteFailure(path, refused);
+
+  const std::size_t slash = target.rfind('/');
+  const std::string folder = slash == std::string::npos ? "." : target.substr(0, slash + 1);
+  std::string temporary = folder + "/.trovalis-XXXXXX";
+  const Descriptor file(::mkostemp(temporary.data(), O_CLOEXEC));
+  if (!file.Valid()) return WriteFailure(path, errno);
+  int code = TakeOver(file.Number(), exists ? &old : nullptr);
+  if (code == 0) code = WriteFlushCompare(file.Number(), bytes);
+  if (code == 0 && ::rename(temporary.c_str(), target.c_str()) != 0) code = errno;
+  if (code != 0) {
+    ::unlink(temporary.c_str());
+    return WriteFailure(path, code);
+  }
+  FlushFolder(folder);
+  return Done{};
+}
+
+Outcome OverwriteInPlace(const std::string& path, ByteView before, ByteView bytes) {
+  const Descriptor file(::open(path.c_str(), O_RDWR | O_CLOEXEC));
+  if (!file.Valid()) return WriteFailure(path, errno);
+  const int code = WriteFlushCompare(file.Number(), bytes);
+  if (code == 0) return Done{};
+  if (WriteFlushCompare(file.Number(), before) == 0) return WriteFailure(path, code);
+  Error error = WriteFailure(path, code);
+  error.message += "\nIl file può essere danneggiato: la copia di sicurezza ne conserva il contenuto";
+  return error;
+}
+
+bool FolderRefuses(const Error& error) {
+  return error.systemCode == EACCES || error.systemCode == EPERM || error.systemCode == EROFS;
+}
+
+}  // namespace Base

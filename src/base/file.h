@@ -1,0 +1,43 @@
+// Whole files in, whole files out. A file is replaced altogether or left as it was.
+#pragma once
+
+#include "base/bytes.h"
+#include "base/result.h"
+
+#include <cstddef>
+#include <cstdint>
+#include <string>
+#include <string_view>
+
+namespace Base {
+
+// The system's reason in Italian ("spazio su disco esaurito").
+std::string SystemReason(int systemCode);
+
+// The part of a path behind its last slash.
+std::string FileName(std::string_view path);
+
+// Where writing to `path` really goes: symbolic links are followed. `path` itself where nothing can be
+// resolved.
+std::string ResolvedPath(const std::string& path);
+
+// Size in bytes of a regular file; anything else is an error.
+Result<std::uint64_t> FileSize(const std::string& path);
+
+// The whole of a regular file of at most `limit` bytes.
+Result<Bytes> ReadFile(const std::string& path, std::size_t limit);
+
+// Writes a file beside `path`, flushes it, reads it back, and puts it in the place of `path` in one step.
+// Follows a symbolic link and keeps the permissions of an existing file. After an error the old file is as it
+// was.
+Outcome ReplaceFile(const std::string& path, ByteView bytes);
+
+// For a folder that takes no new file: overwrites an existing file of the same size where it lies, flushes it
+// and reads it back. `before` is what it holds now; after an error those bytes are written again.
+Outcome OverwriteInPlace(const std::string& path, ByteView before, ByteView bytes);
+
+// Whether an error of ReplaceFile means that only the folder refuses, so that a file in it may yet be
+// written.
+bool FolderRefuses(const Error& error);
+
+}  // namespace Base

@@ -1,0 +1,32 @@
+// The few text habits that every plain file of the program shares. Texts here are bytes of the code page.
+#pragma once
+
+#include <cstddef>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace Base {
+
+// Blanks only: tabs and other white space belong to the text.
+std::string_view TrimmedLeft(std::string_view text);
+std::string_view TrimmedRight(std::string_view text);
+std::string_view Trimmed(std::string_view text);
+
+// Lines without their ends, CR LF or LF alone; what follows the last line end is a line only if it is not
+// empty.
+std::vector<std::string_view> Lines(std::string_view text);
+
+// The decimal digits at the front, blanks before them left out.
+std::string_view LeadingDigits(std::string_view text);
+
+// Their value, 0 where there are none; a value above 65535 is 0, as it fits no field.
+int LeadingNumber(std::string_view text);
+
+// `value` (0 or more) in decimal, with zeros in front up to `width` digits.
+std::string ZeroPadded(int value, int width);
+
+// Two upper-case hexadecimal digits of a byte.
+std::string HexByte(int value);
+
+}  // namespace Base

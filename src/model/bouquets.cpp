@@ -1,0 +1,24 @@
+#include "model/bouquets.h"
+
+namespace Routines {
+
+const Bouquet* FindBouquet(const BouquetTables& tables, int frequencyMHz, std::string_view label) {
+  for (const Bouquet& bouquet : tables.bouquets) {
+    if (WithinThreeMHz(bouquet.megahertz, frequencyMHz) && bouquet.label == label) return &bouquet;
+  }
+  return nullptr;
+}
+
+void NameBouquets(State& state, const BouquetTables& tables) {
+  for (int slot = 1; slot <= state.TransponderCount; ++slot) {
+    TransponderRow& row = state.TransponderTable[static_cast<std::size_t>(slot)];
+    const Bouquet* bouquet = FindBouquet(tables, FrequencyMHz(row.record), SatelliteLabel(row.record));
+    if (bouquet != nullptr) {
+      row.SetBouquet(bouquet->name, bouquet->code);
+    } else {
+      row.SetBouquet("Nessuno", "");
+    }
+  }
+}
+
+}  // namespace Routines

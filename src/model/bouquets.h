@@ -1,0 +1,41 @@
+// The satellites and bouquets (channel packages) that the user has named, and the naming of transponders by
+// them.
+#pragma once
+
+#include "model/routines.h"
+
+#include <string>
+#include <vector>
+
+namespace Routines {
+
+// Texts are bytes of the code page.
+struct Satellite {
+  std::string name;
+  std::string label;  // "SAT B"
+};
+
+struct Bouquet {
+  std::string name;
+  std::string frequency;   // as written
+  std::string label;       // of its satellite
+  std::string code;        // two digits
+  char satelliteCode = 0;  // the satellite number where a transponder's flags byte has it (bits 3 to 7)
+  double megahertz = 0;    // `frequency` as a number, 0 where it is none
+};
+
+struct BouquetTables {
+  static constexpr std::size_t MaxSatellites = 25;
+  static constexpr std::size_t MaxBouquets = 254;
+
+  std::vector<Satellite> satellites;
+  std::vector<Bouquet> bouquets;
+};
+
+// The first bouquet of that satellite less than 3 MHz away, or null.
+const Bouquet* FindBouquet(const BouquetTables& tables, int frequencyMHz, std::string_view label);
+
+// Looks up transponders 1..TransponderCount; one without a bouquet is named "Nessuno" and has no code.
+void NameBouquets(State& state, const BouquetTables& tables);
+
+}  // namespace Routines

@@ -1,0 +1,175 @@
+#include "model/flash_writer.h"
+
+#include "model/favourites.h"
+#include "model/flash_loader.h"
+
+#include <algorithm>
+#include <memory>
+
+namespace Routines {
+namespace {
+
+class Writer {
+ public:
+  Writer(const State& state, Base::ByteView original, const WritePlan& plan)
+      : state_(state), original_(original), plan_(plan) {
+    patched_.image.assign(original_.begin(), original_.end());
+  }
+
+  PatchedFlash Run() {
+    for (const Entry& entry : EntriesOf(original_)) {
+      switch (entry.kind) {
+        case EntryKind::Channels:
+          WriteChannels(entry);
+          break;
+        case EntryKind::Transponders:
+          WriteTransponders(entry);
+          break;
+        case EntryKind::Support:
+          WriteFavourites(entry);
+          break;
+        case EntryKind::Unknown:
+          break;
+      }
+    }
+    return std::move(patched_);
+  }
+
+ private:
+  void Put(std::size_t at, Base::ByteView bytes) {
+    std::copy(bytes.begin(), bytes.end(), patched_.image.begin() + static_cast<std::ptrdiff_t>(at));
+  }
+
+  void Clear(std::size_t first, std::size_t end) {
+    if (first >= end) return;
+    const auto begin = patched_.image.begin();
+    std::fill(begin + static_cast<std::ptrdiff_t>(first), begin + static_cast<std::ptrdiff_t>(end),
+              Base::Byte{0});
+  }
+
+  void WriteChannels(const Entry& entry) {
+    ++patched_.channelSections;
+    // Types 1 and 3 keep a second copy of the list, which lacks its first channel_; type 2 spreads one list
+    // over all sections.
+    if (plan_.type != FlashType::Two && patched_.channelSections > 1) channel_ = 1;
+    const Range space = RecordSpaceOf(entry);
+    std::size_t at = space.first;
+    while (at + ChannelRecord::Size <= space.End()) {
+      ++channel_;
+      if (channel_ > plan_.maxChannels) break;
+      Put(at, state_.ChannelTable[static_cast<std::size_t>(channel_)].bytes);
+      at += ChannelRecord::Size;
+    }
+    Clear(at, std::min(space.first + entry.length, space.End()));
+  }
+
+  void WriteTransponders(const Entry& entry) {
+    const Range space = RecordSpaceOf(entry);
+    std::size_t at = space.first;
+    for (int slot = 1; slot <= state_.TransponderCount; ++slot) {
+      if (at + TransponderRecord::Size > space.End()) break;
+      Put(at, state_.TransponderTable[static_cast<std::size_t>(slot)].record.bytes);
+      at += TransponderRecord::Size;
+    }
+  }
+
+  void WriteFavourites(const Entry& entry) {
+    if (plan_.type != FlashType::Two || state_.FavouritesBlock.empty()) return;
+    const auto area = WritableFavouritesAreaOf(original_, entry);
+    if (!area) return;
+    const Base::ByteView block = state_.FavouritesBlock;
+    const std::size_t count = std::min(block.size(), area->count);
+    Put(area->first, block.first(count));
+    Clear(area->first + count, area->End());
+    patched_.favouritesWritten = true;
+  }
+
+  const State& state_;
+  Base::ByteView original_;
+  const WritePlan& plan_;
+  int channel_ = 0;  // last one written
+  PatchedFlash patched_;
+};
+
+void CompareChannels(const State& state, const State& reloaded, Unwritten& unwritten) {
+  for (int slot = 1; slot <= state.ChannelCount; ++slot) {
+    const ChannelRecord& ours = state.ChannelTable[static_cast<std::size_t>(slot)];
+    const ChannelRecord& theirs = reloaded.ChannelTable[static_cast<std::size_t>(slot)];
+    if (ours.Empty()) {
+      if (!theirs.Empty()) ++unwritten.extraChannels;
+    } else if (ours != theirs) {
+      ++unwritten.channels;
+    }
+  }
+}
+
+void CompareFavourites(const State& state, const State& reloaded, Unwritten& unwritten) {
+  for (std::size_t list = 0; list < FavouriteLists; ++list) {
+    if (FavouriteEntriesOf(state.FavouritesBlock, list) !=
+        FavouriteEntriesOf(reloaded.FavouritesBlock, list)) {
+      unwritten.favourites = true;
+    }
+    if (FavouriteNameOf(state.FavouritesBlock, list) != FavouriteNameOf(reloaded.FavouritesBlock, list)) {
+      unwritten.favouriteNames = true;
+    }
+  }
+}
+
+}  // namespace
+
+PatchedFlash PatchFlash(const State& state, Base::ByteView original, const WritePlan& plan) {
+  return Writer(state, original, plan).Run();
+}
+
+bool DiffersOnlyInSections(Base::ByteView original, Base::ByteView patched) {
+  if (original.size() != patched.size()) return false;
+  Base::Bytes expected(patched.begin(), patched.end());
+  const auto takeOriginal = [&](const Range& range) {
+    const Base::ByteView bytes = original.subspan(range.first, range.count);
+    std::copy(bytes.begin(), bytes.end(), expected.begin() + static_cast<std::ptrdiff_t>(range.first));
+  };
+  for (const Entry& entry : EntriesOf(original)) {
+    if (entry.kind == EntryKind::Channels || entry.kind == EntryKind::Transponders)
+      takeOriginal(RecordSpaceOf(entry));
+    if (entry.kind != EntryKind::Support) continue;
+    if (const auto area = WritableFavouritesAreaOf(original, entry)) takeOriginal(*area);
+  }
+  return std::equal(expected.begin(), expected.end(), original.begin(), original.end());
+}
+
+std::string WriteSummary(const State& state, const PatchedFlash& patched) {
+  return std::to_string(patched.channelSections) + " Sezioni TCS per " +
+         std::to_string(LastUsedChannel(state)) +
+         " Canali effettivi\nSezioni Preferiti: " + (patched.favouritesWritten ? "scritta" : "non scritta");
+}
+
+std::string Unwritten::Text() const {
+  std::string text;
+  const auto add = [&text](std::string_view part) { text.append(text.empty() ? "" : ", ").append(part); };
+  const auto count = [&add](int number, std::string_view one, std::string_view many) {
+    if (number > 0) add(std::to_string(number).append(" ").append(number == 1 ? one : many));
+  };
+  count(channels, "canale non scritto", "canali non scritti");
+  count(extraChannels, "canale in più nell'immagine", "canali in più nell'immagine");
+  count(transponders, "transponder non scritto", "transponder non scritti");
+  if (favourites) add("preferiti non scritti");
+  if (favouriteNames && !favourites) add("nomi delle liste persi");
+  return text;
+}
+
+Unwritten FindUnwritten(const State& state, Base::ByteView written, FlashType type) {
+  const auto reloaded = std::make_unique<State>();
+  LoadFlash(*reloaded, written, std::max(state.ChannelCount, 1), 0, {});
+  Unwritten unwritten;
+  CompareChannels(state, *reloaded, unwritten);
+  for (int slot = 1; slot <= state.TransponderCount; ++slot) {
+    const auto at = static_cast<std::size_t>(slot);
+    const TransponderRecord& ours = state.TransponderTable[at].record;
+    if (!IsFree(ours) && ours != reloaded->TransponderTable[at].record) ++unwritten.transponders;
+  }
+  if (type == FlashType::Two && !state.FavouritesBlock.empty())
+    CompareFavourites(state, *reloaded, unwritten);
+  return unwritten;
+}
+
+}  // namespace Routines

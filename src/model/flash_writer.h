@@ -1,0 +1,47 @@
+// Patching the tables into an image of the receiver. Only the data of its channel, transponder and favourites
+// sections change; every other byte stays as the receiver made it.
+#pragma once
+
+#include "model/flash_image.h"
+#include "model/routines.h"
+#include "model/write_settings.h"
+
+#include <string>
+
+namespace Routines {
+
+struct PatchedFlash {
+  Base::Bytes image;
+  int channelSections = 0;
+  bool favouritesWritten = false;
+};
+
+// `original` has FlashSize bytes. Slots 1..plan.maxChannels are written as far as the image's sections reach.
+PatchedFlash PatchFlash(const State& state, Base::ByteView original, const WritePlan& plan);
+
+// Whether two images differ only where a write may change one: from the start of a channel or transponder
+// section's data to the section's limit, and in the favourites area.
+bool DiffersOnlyInSections(Base::ByteView original, Base::ByteView patched);
+
+// "2 Sezioni TCS per 931 Canali effettivi" and whether the favourites were written, for the box after a
+// write.
+std::string WriteSummary(const State& state, const PatchedFlash& patched);
+
+// What loading a written image would not give back.
+struct Unwritten {
+  int channels = 0;       // channels that are missing or different
+  int extraChannels = 0;  // channels where the list has an empty slot
+  int transponders = 0;
+  bool favourites = false;
+  bool favouriteNames = false;
+
+  [[nodiscard]] bool Nothing() const {
+    return channels == 0 && extraChannels == 0 && transponders == 0 && !favourites && !favouriteNames;
+  }
+  // "344 canali non scritti, preferiti non scritti"; empty when nothing is missing.
+  [[nodiscard]] std::string Text() const;
+};
+
+Unwritten FindUnwritten(const State& state, Base::ByteView written, FlashType type);
+
+}  // namespace Routines

@@ -1,0 +1,54 @@
+// The state that every command works on: the tables of one channel list and what belongs to them. It is one
+// plain value, so that a copy of it is a complete snapshot.
+#pragma once
+
+#include "model/channel.h"
+#include "model/transponder.h"
+
+#include <string>
+
+namespace Routines {
+
+inline constexpr int LastChannelSlot = 3996;     // slot 0 is never used
+inline constexpr int LastTransponderSlot = 254;  // slot 0 is never used
+inline constexpr std::size_t NormalFavouritesSize = 2488;
+
+struct State {
+  std::array<ChannelRecord, LastChannelSlot + 1> ChannelTable{};  // by channel number
+  std::array<TransponderRow, LastTransponderSlot + 1> TransponderTable{};
+  Base::Bytes FavouritesBlock;  // see favourites.h
+  std::string SymbolRateTable;  // see symbol_rates.h
+
+  int MaxChannels = 0;       // highest usable channel slot; 0 before a load and after a write
+  int ChannelCount = 0;      // slots of the loaded list; a write leaves it alone
+  int TransponderCount = 0;  // at most 254
+
+  bool Loaded = false;
+  std::string InputFlash;   // path of the flash image last opened
+  std::string OutputFlash;  // path of the flash image chosen for writing, empty when none is
+
+  friend bool operator==(const State&, const State&) = default;
+};
+
+// The highest slot that holds a channel, 0 when there is none.
+inline int LastUsedChannel(const State& state) {
+  int slot = LastChannelSlot;
+  while (slot > 0 && state.ChannelTable[static_cast<std::size_t>(slot)].Empty()) --slot;
+  return slot;
+}
+
+// Channels in slots 1..ChannelCount.
+inline int UsedChannels(const State& state) {
+  const auto first = state.ChannelTable.begin() + 1;
+  return static_cast<int>(
+      std::count_if(first, first + state.ChannelCount, [](const ChannelRecord& c) { return !c.Empty(); }));
+}
+
+// Transponders in slots 1..TransponderCount.
+inline int UsedTransponders(const State& state) {
+  const auto first = state.TransponderTable.begin() + 1;
+  return static_cast<int>(std::count_if(first, first + state.TransponderCount,
+                                        [](const TransponderRow& row) { return !IsFree(row.record); }));
+}
+
+}  // namespace Routines

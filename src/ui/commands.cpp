@@ -1,0 +1,76 @@
+#include "ui/commands.h"
+
+#include <QAction>
+#include <QIcon>
+#include <QMainWindow>
+#include <QMenu>
+#include <QMenuBar>
+#include <QToolBar>
+#include <QToolButton>
+
+namespace Ui {
+namespace {
+
+QIcon IconNamed(const char* name) { return QIcon(QString(":/icons/%1.svg").arg(name)); }
+
+QString ButtonName(const char* key) { return "Toolbar1_" + QString(key).replace(' ', '_'); }
+
+void AddCommand(QMainWindow& window, QMenu& menu, const Command& command) {
+  if (command.startsGroup) menu.addSeparator();
+  auto* action = new QAction(command.caption, &window);
+  action->setObjectName(command.name);
+  if (*command.icon != '\0') action->setIcon(IconNamed(command.icon));
+  if (*command.key != '\0') action->setShortcut(QKeySequence(command.key));
+  action->setCheckable(command.checkable);
+  action->setEnabled(false);
+  menu.addAction(action);
+}
+
+}  // namespace
+
+void BuildMenus(QMainWindow& window) {
+  QMenuBar& bar = *window.menuBar();
+  QMenu* file = bar.addMenu("&File");
+  QMenu* utilities = bar.addMenu("&Utilities");
+  QMenu* sdx = bar.addMenu("&SDX");
+  QMenu* exchange = bar.addMenu("&Importa-Esporta");
+  QMenu* import = exchange->addMenu("Importa");
+  QMenu* exports = exchange->addMenu("Esporta");
+  QMenu* about = bar.addMenu("&About");
+  const std::array menus = {file, utilities, sdx, import, exports, about};
+  for (const Command& command : Commands) {
+    AddCommand(window, *menus[static_cast<std::size_t>(command.menu)], command);
+  }
+}
+
+void BuildToolbar(QMainWindow& window) {
+  auto* toolbar = window.addToolBar("Barra degli strumenti");
+  toolbar->setObjectName("Toolbar1");
+  toolbar->setMovable(false);
+  toolbar->setContextMenuPolicy(Qt::PreventContextMenu);
+  toolbar->setIconSize(QSize(24, 24));
+  for (const ToolbarButton& button : ToolbarButtons) {
+    if (button.startsGroup) toolbar->addSeparator();
+    auto* action = toolbar->addAction(IconNamed(button.icon), button.tip);
+    action->setObjectName(ButtonName(button.key));
+    action->setToolTip(button.tip);
+    action->setEnabled(false);
+    auto* widget = qobject_cast<QToolButton*>(toolbar->widgetForAction(action));
+    widget->setObjectName(ButtonName(button.key));
+    widget->setAccessibleName(button.tip);
+  }
+}
+
+QAction& CommandAction(const QMainWindow& window, const char* name) {
+  auto* action = window.findChild<QAction*>(name);
+  Q_ASSERT(action != nullptr);
+  return *action;
+}
+
+QAction& ButtonAction(const QMainWindow& window, const char* key) {
+  auto* action = window.findChild<QAction*>(ButtonName(key));
+  Q_ASSERT(action != nullptr);
+  return *action;
+}
+
+}  // namespace Ui

@@ -1,0 +1,125 @@
+// Every menu command and toolbar button of the window, in one table: control name, caption, place, key and
+// icon.
+#pragma once
+
+#include <QString>
+
+#include <array>
+
+class QAction;
+class QMainWindow;
+
+namespace Ui {
+
+enum class Menu { File, Utilities, Sdx, Import, Export, About };
+
+struct Command {
+  const char* name;  // control name
+  const char* caption;
+  Menu menu;
+  const char* icon = "";  // file below :/icons, without its ending
+  const char* key = "";
+  bool checkable = false;
+  bool startsGroup = false;  // a line divides it from the command above
+};
+
+inline constexpr std::array Commands = {
+    Command{"ApriFlashInput", "Apri Flash Input", Menu::File, "open", "Ctrl+O"},
+    Command{"CaricaAggiuntiva", "Carica Flash aggiuntiva", Menu::File},
+    Command{.name = "Salva",
+            .caption = "Salva",
+            .menu = Menu::File,
+            .icon = "save",
+            .key = "Ctrl+S",
+            .startsGroup = true},
+    Command{"ApriFlashOutput", "Salva Flash come", Menu::File, "save-as", "Ctrl+Shift+S"},
+    Command{.name = "Fine", .caption = "Fine", .menu = Menu::File, .icon = "exit", .startsGroup = true},
+
+    Command{"CaricaImportato", "Carica Canali da file esportato", Menu::Utilities, "import"},
+    Command{.name = "Azzera",
+            .caption = "Azzera Canali e Transponder",
+            .menu = Menu::Utilities,
+            .startsGroup = true},
+    Command{"OrdinaPerBouquet", "Ordina Canali per Bouquet", Menu::Utilities},
+    Command{"SpostaRadio", "Raggruppa RADIO e SERVIZI", Menu::Utilities},
+    Command{"CanaliDoppi", "Controlla Canali Doppi", Menu::Utilities},
+    Command{.name = "InvertiSatelliti",
+            .caption = "Inverti Satelliti",
+            .menu = Menu::Utilities,
+            .startsGroup = true},
+    Command{"RiportaAB", "Riporta tutto a SAT A-B", Menu::Utilities},
+    Command{"ConvertiSR", "Converti SR", Menu::Utilities, "convert-sr"},
+    Command{"VisualizzaCanali", "Visualizza Canali", Menu::Utilities, "channels", "", true, true},
+    Command{"VisualizzaTransponder", "Visualizza Transponders", Menu::Utilities, "transponders", "", true},
+    Command{"VisualizzaPreferiti", "Visualizza Preferiti", Menu::Utilities, "favourites"},
+    Command{"VisualizzaBouquet", "Visualizza Struttura per Bouquet", Menu::Utilities, "bouquet", "", true},
+    Command{.name = "CercaCanale",
+            .caption = "Ricerca canale per Nome",
+            .menu = Menu::Utilities,
+            .icon = "find",
+            .startsGroup = true},
+    Command{"VaiAlCanale", "Vai al Canale Nr.", Menu::Utilities, "goto"},
+    Command{.name = "StampaGriglia",
+            .caption = "Stampa",
+            .menu = Menu::Utilities,
+            .icon = "print",
+            .startsGroup = true},
+
+    Command{"ScaricaInternet", "Scarica da Internet", Menu::Sdx, "internet"},
+    Command{"SDX", "Carica File (.sdx)", Menu::Sdx, "open-sdx"},
+    Command{"VediSDX", "Visualizza", Menu::Sdx, "", "", true, true},
+    Command{"RicercaSDX", "Ricerca", Menu::Sdx, "find-sdx"},
+    Command{"StampaSDX", "Stampa", Menu::Sdx, "print"},
+    Command{.name = "ImportaTuttoSDX",
+            .caption = "Importa tutto SDX",
+            .menu = Menu::Sdx,
+            .icon = "import",
+            .startsGroup = true},
+
+    Command{"DaEsportato", "Da formato FLASH", Menu::Import},
+    Command{"DaEsportatoTesto", "Da formato TESTO", Menu::Import},
+    Command{"Digiquest", "Da File Digiquest/FortecStar", Menu::Import},
+    Command{"Pelko", "Da File Pelko", Menu::Import},
+    Command{"FormatoFLASH", "In formato FLASH", Menu::Export},
+    Command{"FormatoTesto", "In formato Testo", Menu::Export},
+
+    Command{"About", "&About", Menu::About, "info"},
+};
+
+struct ToolbarButton {
+  const char* key;
+  const char* tip;
+  const char* icon;
+  bool startsGroup = false;
+};
+
+inline constexpr std::array ToolbarButtons = {
+    ToolbarButton{"Open", "Apri Flash", "open"},
+    ToolbarButton{"Save", "Salva Flash", "save"},
+    ToolbarButton{"Canali", "Visualizza Canali", "channels", true},
+    ToolbarButton{"TRANSPONDERS", "Visualizza Transponders", "transponders"},
+    ToolbarButton{"Copy", "Copia canali selezionati", "copy", true},
+    ToolbarButton{"Paste", "Incolla canali salvati con Copia o Taglia", "paste"},
+    ToolbarButton{"Cut", "Taglia canali selezionati", "cut"},
+    ToolbarButton{"Delete", "Elimina i canali selezionati", "delete"},
+    ToolbarButton{"CanaliXTransponder", "Ricalcola il numero di Canali per transponder", "recount"},
+    ToolbarButton{"Goto", "Vai al Canale Nr.", "goto", true},
+    ToolbarButton{"Find", "Ricerca canale per Nome", "find"},
+    ToolbarButton{"Print", "Stampa Canali o Transponders", "print"},
+    ToolbarButton{"Internet", "Collegamento a SotCodx", "internet", true},
+    ToolbarButton{"Apri SDX", "Apri File SDX", "open-sdx"},
+    ToolbarButton{"Copy SDX", "Copia canali selezionati SDX", "copy-sdx"},
+    ToolbarButton{"Find SDX", "Ricerca canale SDX per nome", "find-sdx"},
+    ToolbarButton{"Fine Programma", "Fine Programma", "exit", true},
+};
+
+// Builds menus and toolbar with an action of its own for every command and button, each disabled: whoever
+// makes a command work enables it.
+void BuildMenus(QMainWindow& window);
+void BuildToolbar(QMainWindow& window);
+
+// The action of a menu command, or of a toolbar button by its key. The name must be one of the tables'.
+QAction& CommandAction(const QMainWindow& window, const char* name);
+QAction& ButtonAction(const QMainWindow& window, const char* key);
+
+}  // namespace Ui

@@ -1,0 +1,38 @@
+// Everything the program asks or tells in a box goes through this interface, so that a test can answer.
+#pragma once
+
+#include <QString>
+
+#include <string>
+#include <string_view>
+
+namespace Ui {
+
+// Texts of the core are UTF-8, texts of records and files are Windows-1252.
+inline QString Text(std::string_view utf8) {
+  return QString::fromUtf8(utf8.data(), static_cast<qsizetype>(utf8.size()));
+}
+QString CodePageText(std::string_view bytes);
+
+// Paths are the file system's own bytes.
+QString PathText(const std::string& path);
+std::string PathBytes(const QString& path);
+
+struct FileQuestion {
+  QString title;
+  QString filters;  // "Caption|*.dat|Caption|*.*|"
+  QString folder;   // empty for the toolkit's own choice
+};
+
+class Dialogs {
+ public:
+  virtual ~Dialogs() = default;
+
+  // An empty title stands for the program's name.
+  virtual void Message(const QString& text, const QString& title) = 0;
+  virtual bool YesNo(const QString& question) = 0;
+  // The chosen path, empty when the user cancels.
+  virtual QString OpenFile(const FileQuestion& question) = 0;
+};
+
+}  // namespace Ui

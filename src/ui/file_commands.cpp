@@ -1,0 +1,193 @@
+#include "ui/file_commands.h"
+
+#include "base/file.h"
+#include "model/flash_loader.h"
+#include "model/flash_writer.h"
+#include "model/symbol_rates.h"
+#include "support/pos_ini.h"
+
+#include <cerrno>
+
+namespace Ui {
+
+using Routines::State;
+using Support::FolderKind;
+
+namespace {
+
+constexpr const char* InputTitle = "Errore FLASH di Input";
+constexpr const char* OutputTitle = "Errore FLASH di Output";
+
+QString LoadResult(const State& state, const Routines::LoadReport& report, bool appended) {
+  QString text;
+  if (report.channelsInImage > report.channelsRead) {
+    text = QString("letti %1 di %2 canali").arg(report.channelsRead).arg(report.channelsInImage);
+  } else {
+    text = QString(appended ? "accodati %1 canali" : "letti %1 canali").arg(report.channelsRead);
+  }
+  if (report.strandedChannels > 0) {
+    text += QString(", %1 canali su transponder oltre il %2")
+                .arg(report.strandedChannels)
+                .arg(state.TransponderCount);
+  }
+  return text;
+}
+
+}  // namespace
+
+std::string FileCommands::AskFlash(const QString& title, FolderKind folder) {
+  return PathBytes(
+      session_.dialogs.OpenFile({title, "Binary files(*.dat)|*.dat|Tutti i file (*.*)|*.*|",
+                                 PathText(Support::RememberedFolder(session_.programFolder, folder))}));
+}
+
+// 0 to replace what is loaded; nothing where the user gives up.
+std::optional<int> FileCommands::AskAppendStart() {
+  Dialogs& ask = session_.dialogs;
+  if (!session_.document.Tables().Loaded ||
+      !ask.YesNo("Si desidera accodare la nuova Flash a quella già caricata?")) {
+    return 0;
+  }
+  if (!ask.YesNo("La flash che si sta accodando è dello stesso dipo di quella già caricata?"))
+    return std::nullopt;
+  return Routines::AppendStart(session_.document.Tables());
+}
+
+void FileCommands::ApriFlashInput() {
+  if (!session_.settings.Chosen().quantiCanali) {
+    session_.dialogs.Message(Text(Routines::NoCapacityChosen), {});
+    return;
+  }
+  const auto appendStart = AskAppendStart();
+  if (!appendStart) return;
+  const std::string path = AskFlash("Selezionare la flash di input", FolderKind::Input);
+  if (path.empty()) return;
+  const auto image = Routines::ReadFlash(path, InputTitle);
+  if (!image) {
+    session_.Message(image.error());
+    return;
+  }
+  Support::RememberFolderOf(session_.programFolder, FolderKind::Input, path);
+  Load(path, *image, *appendStart);
+}
+
+void FileCommands::Load(const std::string& path, const Base::Bytes& image, int appendStart) {
+  const auto rates = session_.LoadSymbolRates();
+  if (!rates) return;
+  const int capacity = session_.settings.Chosen().Capacity();
+  Document& document = session_.document;
+  const Routines::LoadReport report = document.Apply([&](State& state) {
+    auto loaded = Routines::LoadFlash(state, image, capacity, appendStart, session_.bouquets.tables);
+    state.SymbolRateTable = rates->table;
+    state.InputFlash = path;
+    if (appendStart == 0) state.OutputFlash.clear();
+    return loaded;
+  });
+  if (appendStart == 0) document.MarkSaved();
+  session_.view.Show(View::Channels);
+  for (const std::string& message : report.messages) session_.dialogs.Message(Text(message), {});
+  session_.status.ShowResult(PathText(Base::FileName(path)) + ": " +
+                             LoadResult(document.Tables(), report, appendStart > 0));
+}
+
+std::optional<FileCommands::Preparation> FileCommands::Prepare() {
+  if (!session_.NeedsFlash()) return std::nullopt;
+  const Routines::Settings chosen = session_.settings.Chosen();
+  if (const auto complete = Routines::CheckSettings(chosen); !complete) {
+    session_.Message(complete.error());
+    return std::nullopt;
+  }
+  const auto rates = session_.LoadSymbolRates();
+  if (!rates || !rates->missing.empty()) return std::nullopt;
+
+  const State& state = session_.document.Tables();
+  Preparation preparation{Routines::PlanWrite(state, chosen), rates->table != state.SymbolRateTable};
+  if (!preparation.plan.warning.empty()) session_.dialogs.Message(Text(preparation.plan.warning), {});
+  return preparation;
+}
+
+void FileCommands::ApriFlashOutput() {
+  if (const auto preparation = Prepare()) AskAndWrite(*preparation);
+}
+
+void FileCommands::Salva() {
+  const auto preparation = Prepare();
+  if (!preparation) return;
+  const std::string path = session_.document.Tables().OutputFlash;
+  if (path.empty()) {
+    AskAndWrite(*preparation);
+    return;
+  }
+  const auto original = Routines::ReadFlash(path, OutputTitle);
+  if (!original) {
+    session_.Message(original.error());
+    return;
+  }
+  Write(path, *original, *preparation);
+}
+
+void FileCommands::AskAndWrite(const Preparation& preparation) {
+  const std::string path = AskFlash("Selezionare la flash di output", FolderKind::Output);
+  if (path.empty()) return;
+  const auto original = Routines::ReadFlash(path, OutputTitle);
+  if (!original) {
+    const bool vanished = original.error().systemCode == ENOENT;
+    session_.Message(vanished ? Routines::WrongFlashSize(0, OutputTitle) : original.error());
+    return;
+  }
+  Support::RememberFolderOf(session_.programFolder, FolderKind::Output, path);
+  Write(path, *original, preparation);
+}
+
+void FileCommands::Write(const std::string& path, const Base::Bytes& original,
+                         const Preparation& preparation) {
+  StatusLine& status = session_.status;
+  status.ShowProgress(10);
+  const State& state = session_.document.Tables();
+  const Routines::PatchedFlash patched = Routines::PatchFlash(state, original, preparation.plan);
+  status.ShowProgress(30);
+  const auto saved = Routines::DiffersOnlyInSections(original, patched.image)
+                         ? Routines::SaveFlash(path, original, patched.image, session_.backups)
+                         : Base::Error{"Impossibile scrivere " + Base::FileName(path) +
+                                       ": la modifica esce dalle sezioni conosciute"};
+  status.ShowProgress(100);
+  if (!saved) {
+    session_.dialogs.Message(Text(saved.error().message), OutputTitle);
+    return;
+  }
+  TellWritten(path, patched, preparation);
+}
+
+void FileCommands::TellWritten(const std::string& path, const Routines::PatchedFlash& patched,
+                               const Preparation& preparation) {
+  Document& document = session_.document;
+  const Routines::Unwritten unwritten =
+      Routines::FindUnwritten(document.Tables(), patched.image, preparation.plan.type);
+  document.Apply([&path](State& state) {
+    state.OutputFlash = path;
+    state.MaxChannels = 0;
+    return Base::Done{};
+  });
+  if (unwritten.Nothing()) document.MarkSaved();
+
+  QString result = "Scritta " + PathText(Base::FileName(path));
+  if (!unwritten.Nothing()) result += ": " + Text(unwritten.Text());
+  if (preparation.ratesMoved) result += " - SR 22000 spostato senza Converti SR";
+  session_.status.ShowResult(result);
+  session_.dialogs.Message(Text(Routines::WriteSummary(document.Tables(), patched)), {});
+}
+
+void FileCommands::ConvertiSR() {
+  if (!session_.NeedsFlash()) return;
+  const Routines::Settings chosen = session_.settings.Chosen();
+  if (const auto complete = Routines::CheckSettings(chosen); !complete) {
+    session_.Message(complete.error());
+    return;
+  }
+  const int changed = session_.document.Apply(
+      [&chosen](State& state) { return Routines::ConvertiSR(state, chosen.Place()); });
+  session_.view.Show(View::Transponders);
+  session_.status.ShowResult(QString("Converti SR: %1 transponder ricodificati").arg(changed));
+}
+
+}  // namespace Ui

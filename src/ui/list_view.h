@@ -1,0 +1,49 @@
+// The place of the window that shows the channel list, the transponder list or neither, and the two menu
+// commands that switch it.
+#pragma once
+
+#include "ui/griglia.h"
+#include "ui/list_model.h"
+
+#include <QWidget>
+
+class QAction;
+class QLabel;
+class QStackedLayout;
+
+namespace Ui {
+
+enum class View { None, Channels, Transponders };
+
+class ListView : public QWidget {
+  Q_OBJECT
+
+ public:
+  ListView(const Document& document, QAction& showChannels, QAction& showTransponders, QWidget* parent);
+
+  [[nodiscard]] View Current() const { return current_; }
+  // "Stampa Canali" or "Stampa Transponder", as the list last shown asks for.
+  [[nodiscard]] QString PrintHeading() const { return printHeading_; }
+
+  // Shows a list from its start, marker and ticks included. A list already shown keeps its place.
+  void Show(View view);
+  // The menu commands: a list that is shown is closed, else it is shown.
+  void Toggle(View view);
+  // Sets the ticks to what is shown, for a command that was refused.
+  void RestoreTicks();
+
+ private:
+  const Document& document_;
+  QAction& showChannels_;
+  QAction& showTransponders_;
+  ListModel channels_;
+  ListModel transponders_;
+  QLabel* marker_;  // Text1: "Canali", "Transponders" or nothing
+  QLabel* hint_;
+  Griglia* grid_;
+  QStackedLayout* stack_;
+  View current_ = View::None;
+  QString printHeading_;
+};
+
+}  // namespace Ui

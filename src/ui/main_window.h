@@ -1,0 +1,42 @@
+// The main window. It builds and wires what it is made of; each command lives with its kind.
+#pragma once
+
+#include "ui/dialogs.h"
+#include "ui/file_commands.h"
+#include "ui/session.h"
+
+#include <QMainWindow>
+
+#include <memory>
+
+namespace Ui {
+
+class CopiaTCSTPT : public QMainWindow {
+  Q_OBJECT
+
+ public:
+  // `programFolder` holds the support files. Without `dialogs` the toolkit's own boxes are used.
+  explicit CopiaTCSTPT(const std::string& programFolder, std::unique_ptr<Dialogs> dialogs = nullptr);
+  ~CopiaTCSTPT() override;
+
+  // Reads the symbol rates, as every start does; false where a malformed SR.INI ends the program.
+  bool Start();
+
+  [[nodiscard]] const Document& List() const { return *document_; }
+
+ protected:
+  void closeEvent(QCloseEvent* event) override;
+
+ private:
+  void ConnectCommands();
+  void ShowList();
+  void ShowAbout();
+  [[nodiscard]] QString SettingsFile() const;
+
+  std::unique_ptr<Dialogs> dialogs_;
+  Document* document_;
+  std::unique_ptr<Session> session_;
+  std::unique_ptr<FileCommands> files_;
+};
+
+}  // namespace Ui

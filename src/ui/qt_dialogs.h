@@ -1,0 +1,27 @@
+// The toolkit's own boxes.
+#pragma once
+
+#include "ui/dialogs.h"
+
+#include <QStringList>
+
+class QWidget;
+
+namespace Ui {
+
+class QtDialogs : public Dialogs {
+ public:
+  explicit QtDialogs(QWidget* parent) : parent_(parent) {}
+
+  void Message(const QString& text, const QString& title) override;
+  bool YesNo(const QString& question) override;
+  QString OpenFile(const FileQuestion& question) override;
+
+ private:
+  QWidget* parent_;
+};
+
+// "Caption|*.dat|" pairs as the toolkit's name filters, each matching upper and lower case.
+QStringList NameFilters(const QString& filters);
+
+}  // namespace Ui

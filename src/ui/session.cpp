@@ -1,0 +1,28 @@
+#include "ui/session.h"
+
+namespace Ui {
+
+bool Session::NeedsFlash() {
+  if (document.Tables().Loaded) return true;
+  dialogs.Message("Si deve caricare prima una FLASH di input", {});
+  return false;
+}
+
+std::optional<Support::SymbolRates> Session::LoadSymbolRates() {
+  const Routines::Settings chosen = settings.Chosen();
+  const auto place = chosen.srDef ? chosen.Place() : Routines::Sr22000::Come2;
+  auto rates = Support::CaricaTabelleSR(programFolder, place);
+  if (!rates) {
+    Message(rates.error());
+    endProgram();
+    return std::nullopt;
+  }
+  if (!rates->missing.empty()) {
+    if (!srIniMissingTold) dialogs.Message(Text(rates->missing), {});
+    srIniMissingTold = true;
+    status.ShowResult(Text(rates->missing));
+  }
+  return *rates;
+}
+
+}  // namespace Ui

@@ -1,0 +1,40 @@
+// What every command of the window works with, for as long as the program runs.
+#pragma once
+
+#include "model/flash_file.h"
+#include "support/bouquets_txt.h"
+#include "support/sr_ini.h"
+#include "ui/dialogs.h"
+#include "ui/document.h"
+#include "ui/list_view.h"
+#include "ui/settings_panel.h"
+#include "ui/status_line.h"
+
+#include <functional>
+#include <optional>
+
+namespace Ui {
+
+struct Session {
+  std::string programFolder;
+  Support::BouquetDefinitions bouquets;
+  Routines::Backups backups;
+  Dialogs& dialogs;
+  Document& document;
+  SettingsPanel& settings;
+  ListView& view;
+  StatusLine& status;
+  std::function<void()> endProgram;
+  bool srIniMissingTold = false;
+
+  void Message(const Base::Error& error) { dialogs.Message(Text(error.message), Text(error.title)); }
+
+  // Whether a list is loaded; says so where none is.
+  bool NeedsFlash();
+
+  // The symbol rates of SR.INI as `SRDef` now places them. Where the file is missing it says so, in a box
+  // once and in the status bar after that. A malformed file ends the program: nothing comes back then.
+  std::optional<Support::SymbolRates> LoadSymbolRates();
+};
+
+}  // namespace Ui

@@ -1,0 +1,61 @@
+#include "ui/settings_panel.h"
+
+#include "ui/dialogs.h"
+
+#include <QButtonGroup>
+#include <QGroupBox>
+#include <QHBoxLayout>
+#include <QRadioButton>
+#include <QVBoxLayout>
+
+namespace Ui {
+namespace {
+
+template <std::size_t N>
+std::vector<std::string_view> Captions(const std::array<Routines::CapacityOption, N>& options) {
+  std::vector<std::string_view> captions;
+  for (const Routines::CapacityOption& option : options) captions.push_back(option.caption);
+  return captions;
+}
+
+std::optional<std::size_t> Index(const QButtonGroup& group) {
+  const int id = group.checkedId();
+  return id < 0 ? std::nullopt : std::optional(static_cast<std::size_t>(id));
+}
+
+}  // namespace
+
+SettingsPanel::SettingsPanel(QWidget* parent) : QWidget(parent) {
+  auto* row = new QHBoxLayout(this);
+  row->setContentsMargins(0, 0, 0, 0);
+  row->setSpacing(10);
+  quantiCanali_ = AddGroup("QuantiCanali", "Canali da copiare", Captions(Routines::QuantiCanali));
+  flashScrittura_ = AddGroup("FlashScrittura", "Tipo Flash in scrittura", Captions(Routines::FlashScrittura));
+  srDef_ = AddGroup("SRDef", "Definizione SR 22000", {Routines::SRDef.begin(), Routines::SRDef.end()});
+  srDef_->button(0)->setChecked(true);
+}
+
+Routines::Settings SettingsPanel::Chosen() const {
+  return {Index(*quantiCanali_), Index(*flashScrittura_), Index(*srDef_)};
+}
+
+QButtonGroup* SettingsPanel::AddGroup(const char* name, const QString& title,
+                                      const std::vector<std::string_view>& captions) {
+  auto* box = new QGroupBox(title, this);
+  box->setObjectName(name);
+  auto* column = new QVBoxLayout(box);
+  column->setContentsMargins(10, 4, 10, 4);
+  column->setSpacing(2);
+  auto* group = new QButtonGroup(box);
+  for (std::size_t i = 0; i < captions.size(); ++i) {
+    auto* button = new QRadioButton(Text(captions[i]), box);
+    button->setObjectName(QString("%1_%2").arg(name).arg(i));
+    column->addWidget(button);
+    group->addButton(button, static_cast<int>(i));
+  }
+  column->addStretch();
+  static_cast<QHBoxLayout*>(layout())->addWidget(box, 1);
+  return group;
+}
+
+}  // namespace Ui

@@ -1,0 +1,30 @@
+// The three option groups above the grid: capacity, flash type and place of the 22000 symbol rate.
+#pragma once
+
+#include "model/write_settings.h"
+
+#include <QWidget>
+
+class QButtonGroup;
+class QGroupBox;
+
+namespace Ui {
+
+class SettingsPanel : public QWidget {
+  Q_OBJECT
+
+ public:
+  explicit SettingsPanel(QWidget* parent);
+
+  [[nodiscard]] Routines::Settings Chosen() const;
+
+ private:
+  QButtonGroup* AddGroup(const char* name, const QString& title,
+                         const std::vector<std::string_view>& captions);
+
+  QButtonGroup* quantiCanali_;
+  QButtonGroup* flashScrittura_;
+  QButtonGroup* srDef_;
+};
+
+}  // namespace Ui
