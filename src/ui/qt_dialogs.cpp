@@ -4,7 +4,9 @@
 
 #include <QFile>
 #include <QFileDialog>
+#include <QHeaderView>
 #include <QMessageBox>
+#include <QTreeView>
 
 namespace Ui {
 namespace {
@@ -53,6 +55,10 @@ QString QtDialogs::OpenFile(const FileQuestion& question) {
   dialog.setOption(QFileDialog::HideNameFilterDetails);
   dialog.setFileMode(QFileDialog::ExistingFile);
   dialog.setNameFilters(NameFilters(question.filters));
+  dialog.resize(860, 560);
+  if (auto* details = dialog.findChild<QTreeView*>("treeView")) {
+    details->header()->setSectionResizeMode(QHeaderView::ResizeToContents);
+  }
   return dialog.exec() == QDialog::Accepted ? dialog.selectedFiles().value(0) : QString();
 }
 

@@ -12,6 +12,7 @@ StatusLine::StatusLine(QStatusBar& bar)
     : QObject(&bar), result_(new QLabel(&bar)), progress_(new QProgressBar(&bar)) {
   result_->setObjectName("UltimoRisultato");
   result_->setTextFormat(Qt::PlainText);
+  result_->setContentsMargins(6, 0, 6, 0);
   result_->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
   bar.addWidget(result_, 1);
 

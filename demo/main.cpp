@@ -1,0 +1,154 @@
+// Plays one session of the real window, from the first choice to a saved list, and leaves pictures of it:
+//   trovalis_demo DEMO.dat SUPPORT_FOLDER OUTPUT_FOLDER
+// Every step is printed with what came of it; the first that fails ends the session with an error.
+#include "ui/toolkit.h"
+#include "window_driver.h"
+
+#include <QApplication>
+#include <QDir>
+#include <QFile>
+#include <QScreen>
+#include <QTest>
+
+#include <cstdio>
+
+namespace {
+
+class Session {
+ public:
+  Session(const QString& flash, const QString& support, const QString& output)
+      : flash_(QFileInfo(flash).absoluteFilePath()), output_(QDir(output).absolutePath()) {
+    QDir(output_).removeRecursively();
+    QDir().mkpath(ProgramFolder());
+    for (const char* name : {"Bouquets.txt", "SR.INI", "SDX.INI"}) {
+      QFile::copy(support + "/" + name, ProgramFolder() + "/" + name);
+    }
+    copy_ = output_ + "/copia.dat";
+    QFile::copy(flash_, copy_);
+    QFile::setPermissions(copy_, QFile::ReadOwner | QFile::WriteOwner);
+    window_ = std::make_unique<Ui::CopiaTCSTPT>(Ui::PathBytes(ProgramFolder()));
+    driver_ = std::make_unique<Demo::WindowDriver>(*window_);
+  }
+
+  int Run() {
+    window_->show();
+    const bool exposed = QTest::qWaitForWindowExposed(window_.get());
+    Step("start", exposed && window_->Start(), window_->windowTitle());
+    ChooseSettings();
+    OpenFlash();
+    LookAtTransponders();
+    Convert();
+    SaveCopy();
+    OpenCopyAgain();
+    for (const QString& failure : driver_->Failures()) Step("boxes", false, failure);
+    std::printf("%s: %d steps, %d failed; pictures in %s\n", failed_ == 0 ? "OK" : "FAILED", steps_, failed_,
+                qPrintable(output_));
+    return failed_ == 0 ? 0 : 1;
+  }
+
+ private:
+  [[nodiscard]] QString ProgramFolder() const { return output_ + "/programma"; }
+
+  // Prints a step and takes its picture.
+  void Step(const char* name, bool good, const QString& seen) {
+    QTest::qWait(80);
+    ++steps_;
+    if (!good) ++failed_;
+    std::printf("%2d %-22s %-6s %s\n", steps_, name, good ? "ok" : "FAILED", qPrintable(seen));
+    std::fflush(stdout);
+    Picture(QString(name).replace(' ', '-'));
+  }
+
+  void Picture(const QString& name) {
+    const QPixmap picture = window_->screen()->grabWindow(0);
+    picture.save(QString("%1/%2-%3.png").arg(output_).arg(++pictures_, 2, 10, QChar('0')).arg(name));
+  }
+
+  void PictureBoxes(const QString& name) {
+    driver_->onBox = [this, name](const QString&) {
+      QTest::qWait(150);
+      Picture(name);
+    };
+  }
+
+  void ChooseSettings() {
+    const bool good = driver_->Pick("QuantiCanali_2") && driver_->Pick("FlashScrittura_1");
+    Step("settings", good, "3996 channels, type 2.x, SR 22000 come 2");
+  }
+
+  void OpenFlash() {
+    PictureBoxes("dialog-open");
+    driver_->ExpectFile("Selezionare la flash di input", flash_);
+    const bool chosen = driver_->Choose("ApriFlashInput");
+    Step("open demo flash",
+         chosen && driver_->TextOf("Text1") == "Canali" && driver_->Cell(1, 0) == "0001" &&
+             !driver_->Cell(1, 1).isEmpty() && window_->windowTitle().contains(flash_),
+         driver_->TextOf("UltimoRisultato") + "; first channel " + driver_->Cell(1, 1));
+  }
+
+  void LookAtTransponders() {
+    const bool chosen = driver_->Choose("VisualizzaTransponder");
+    const int frequency = driver_->Cell(1, 1).toInt();
+    Step("transponders",
+         chosen && driver_->TextOf("Text1") == "Transponders" && frequency >= 10700 && frequency <= 12750,
+         QString("first: %1 MHz %2 %3 %4")
+             .arg(driver_->Cell(1, 1), driver_->Cell(1, 7), driver_->Cell(1, 5), driver_->Cell(1, 10)));
+    Step("channels", driver_->Press("Toolbar1_Canali") && driver_->TextOf("Text1") == "Canali",
+         driver_->TextOf("CanaliUsati"));
+  }
+
+  void Convert() {
+    const bool good = driver_->Pick("SRDef_1") && driver_->Choose("ConvertiSR");
+    Step("convert symbol rates", good && driver_->TextOf("ModificheNonSalvate") == "Modifiche non salvate",
+         driver_->TextOf("UltimoRisultato"));
+  }
+
+  void SaveCopy() {
+    PictureBoxes("dialog-save");
+    driver_->ExpectFile("Selezionare la flash di output", copy_);
+    driver_->ExpectMessage(QString("2 Sezioni TCS per %1 Canali effettivi\nSezioni Preferiti: scritta")
+                               .arg(Routines::LastUsedChannel(window_->List().Tables())));
+    const bool chosen = driver_->Choose("ApriFlashOutput");
+    Step("save into a copy",
+         chosen && driver_->TextOf("FlashOutput") == "Flash di output : copia.dat" &&
+             driver_->TextOf("ModificheNonSalvate").isEmpty() && QFile::exists(copy_ + ".bak"),
+         driver_->TextOf("UltimoRisultato") + "; " + driver_->TextOf("FlashOutput"));
+  }
+
+  void OpenCopyAgain() {
+    driver_->onBox = nullptr;
+    const Routines::State before = window_->List().Tables();
+    driver_->ExpectQuestion("Si desidera accodare la nuova Flash a quella già caricata?", false);
+    driver_->ExpectFile("Selezionare la flash di input", copy_);
+    const bool chosen = driver_->Choose("ApriFlashInput");
+    const Routines::State& after = window_->List().Tables();
+    Step("open the copy again",
+         chosen && after.ChannelTable == before.ChannelTable &&
+             after.TransponderTable == before.TransponderTable &&
+             after.FavouritesBlock == before.FavouritesBlock &&
+             after.TransponderCount == before.TransponderCount,
+         "same channels, transponders and favourites as before the save");
+  }
+
+  QString flash_;
+  QString output_;
+  QString copy_;
+  std::unique_ptr<Ui::CopiaTCSTPT> window_;
+  std::unique_ptr<Demo::WindowDriver> driver_;
+  int steps_ = 0;
+  int failed_ = 0;
+  int pictures_ = 0;
+};
+
+}  // namespace
+
+int main(int argc, char** argv) {
+  QApplication application(argc, argv);
+  const QStringList arguments = QApplication::arguments();
+  if (arguments.size() != 4) {
+    std::fputs("trovalis_demo DEMO.dat SUPPORT_FOLDER OUTPUT_FOLDER\n", stderr);
+    return 2;
+  }
+  Ui::SetUpToolkit(application);
+  return Session(arguments[1], arguments[2], arguments[3]).Run();
+}

@@ -1,0 +1,143 @@
+#include "window_driver.h"
+
+#include <QAbstractButton>
+#include <QApplication>
+#include <QFileDialog>
+#include <QLabel>
+#include <QLineEdit>
+#include <QMenu>
+#include <QMenuBar>
+#include <QMessageBox>
+#include <QTableView>
+#include <QTest>
+#include <QToolButton>
+
+namespace Demo {
+namespace {
+
+void Click(QWidget& widget, QPoint place = {}) {
+  QTest::mouseClick(&widget, Qt::LeftButton, Qt::NoModifier, place);
+}
+
+void ClickStandardButton(QDialog& dialog, QMessageBox::StandardButton button) {
+  auto* box = qobject_cast<QMessageBox*>(&dialog);
+  if (box != nullptr && box->button(button) != nullptr) {
+    Click(*box->button(button));
+  } else {
+    dialog.reject();
+  }
+}
+
+void EnterPath(QDialog& dialog, const QString& path) {
+  auto* edit = dialog.findChild<QLineEdit*>("fileNameEdit");
+  if (edit == nullptr) {
+    dialog.reject();
+    return;
+  }
+  edit->setText(path);
+  QTest::keyClick(edit, Qt::Key_Return);
+}
+
+// Opens the menus one in another on the way to `action`.
+bool ClickThroughMenus(QMenuBar& bar, QAction& action) {
+  std::vector<QMenu*> way;
+  for (QObject* at = action.associatedObjects().value(0); at != nullptr;) {
+    auto* menu = qobject_cast<QMenu*>(at);
+    if (menu == nullptr) break;
+    way.insert(way.begin(), menu);
+    at = menu->menuAction()->associatedObjects().value(0);
+  }
+  if (way.empty()) return false;
+  Click(bar, bar.actionGeometry(way.front()->menuAction()).center());
+  for (std::size_t i = 1; i < way.size(); ++i) {
+    Click(*way[i - 1], way[i - 1]->actionGeometry(way[i]->menuAction()).center());
+  }
+  Click(*way.back(), way.back()->actionGeometry(&action).center());
+  return true;
+}
+
+}  // namespace
+
+WindowDriver::WindowDriver(Ui::CopiaTCSTPT& window) : window_(window) {
+  connect(&timer_, &QTimer::timeout, this, &WindowDriver::AnswerBox);
+  timer_.start(20);
+}
+
+void WindowDriver::ExpectMessage(const QString& text, const QString& title) {
+  expected_.push_back({title, text, [](QDialog& box) { ClickStandardButton(box, QMessageBox::Ok); }});
+}
+
+void WindowDriver::ExpectQuestion(const QString& text, bool yes) {
+  const auto button = yes ? QMessageBox::Yes : QMessageBox::No;
+  expected_.push_back({"Trovalis", text, [button](QDialog& box) { ClickStandardButton(box, button); }});
+}
+
+void WindowDriver::ExpectFile(const QString& title, const QString& path) {
+  expected_.push_back({title, {}, [path](QDialog& box) { EnterPath(box, path); }});
+}
+
+void WindowDriver::ExpectFileCancelled(const QString& title) {
+  expected_.push_back({title, {}, [](QDialog& box) { box.reject(); }});
+}
+
+void WindowDriver::AnswerBox() {
+  auto* dialog = qobject_cast<QDialog*>(QApplication::activeModalWidget());
+  if (dialog == nullptr || !dialog->isVisible()) return;
+  const auto* message = qobject_cast<QMessageBox*>(dialog);
+  const QString text = message == nullptr ? QString() : message->text();
+  if (expected_.empty()) {
+    failures_ += "unexpected box: " + dialog->windowTitle() + ": " + text;
+    dialog->reject();
+    return;
+  }
+  timer_.stop();
+  const Expected expected = expected_.front();
+  expected_.pop_front();
+  Check("title", expected.title, dialog->windowTitle());
+  Check("text", expected.text, text);
+  if (onBox) onBox(dialog->windowTitle());
+  timer_.start();
+  expected.answer(*dialog);
+}
+
+void WindowDriver::Check(const QString& what, const QString& wanted, const QString& seen) {
+  if (wanted != seen) failures_ += QString("box %1: wanted \"%2\", saw \"%3\"").arg(what, wanted, seen);
+}
+
+bool WindowDriver::Choose(const char* command) {
+  auto* action = window_.findChild<QAction*>(command);
+  if (action == nullptr || !action->isEnabled()) return false;
+  return ClickThroughMenus(*window_.menuBar(), *action);
+}
+
+bool WindowDriver::Press(const char* toolbarButton) {
+  auto* button = window_.findChild<QToolButton*>(toolbarButton);
+  if (button == nullptr || !button->isEnabled()) return false;
+  Click(*button);
+  return true;
+}
+
+bool WindowDriver::Pick(const char* radioButton) {
+  auto* button = window_.findChild<QAbstractButton*>(radioButton);
+  if (button == nullptr) return false;
+  Click(*button, QPoint(10, button->height() / 2));
+  return button->isChecked();
+}
+
+QString WindowDriver::TextOf(const char* label) const {
+  const auto* found = window_.findChild<QLabel*>(label);
+  return found == nullptr ? QString() : found->text();
+}
+
+QString WindowDriver::Cell(int row, int column) const {
+  const auto* grid = window_.findChild<QTableView*>("Griglia");
+  return grid->model()->index(row - 1, column).data().toString();
+}
+
+QStringList WindowDriver::Failures() const {
+  QStringList all = failures_;
+  for (const Expected& missing : expected_) all += "never came: " + missing.title + ": " + missing.text;
+  return all;
+}
+
+}  // namespace Demo

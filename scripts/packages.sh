@@ -1,0 +1,36 @@
+# Sourced by run, test and .ci/run: makes sure that Debian packages are there.
+
+BUILD_PACKAGES="build-essential cmake ninja-build qt6-base-dev qt6-svg-dev qt6-translations-l10n fonts-dejavu-core"
+SHOW_PACKAGES="xvfb xauth"
+TEST_PACKAGES="libgtest-dev libbenchmark-dev"
+CHECK_PACKAGES="clang clang-format clang-tidy git"
+
+# need_packages NAME... - installs those that are missing, as root or through sudo; else says what to type.
+need_packages() {
+  local missing=() name
+  for name in "$@"; do
+    dpkg-query -W -f='${Status}' "$name" 2>/dev/null | grep -q '^install ok installed$' || missing+=("$name")
+  done
+  [ ${#missing[@]} -eq 0 ] && return 0
+  local as_root=()
+  if [ "$(id -u)" -ne 0 ]; then
+    if ! sudo -n true 2>/dev/null; then
+      echo "These packages are missing. Please type this once, then start again:" >&2
+      echo "  su -c 'apt-get update && apt-get install -y --no-install-recommends ${missing[*]}'" >&2
+      exit 1
+    fi
+    as_root=(sudo -n)
+  fi
+  echo "Installing: ${missing[*]}"
+  "${as_root[@]}" apt-get -q update
+  "${as_root[@]}" env DEBIAN_FRONTEND=noninteractive apt-get -q install -y --no-install-recommends "${missing[@]}"
+}
+
+# build_preset NAME [CMAKE_OPTION...] - configures and builds one of the presets.
+build_preset() {
+  local preset=$1
+  shift
+  echo "Building ($preset)"
+  cmake --preset "$preset" "$@"
+  cmake --build --preset "$preset"
+}
