@@ -1,0 +1,114 @@
+#include "base/file.h"
+
+#include "support/test_folder.h"
+
+#include <gtest/gtest.h>
+
+#include <cerrno>
+#include <sys/stat.h>
+#include <unistd.h>
+
+namespace Base {
+
+using Tests::Contents;
+using Tests::TestFolder;
+
+namespace {
+
+const Bytes Old(3000, 'o');
+const Bytes New(200000, 'n');
+
+}  // namespace
+
+TEST(File, ReplacingFollowsLinksAndKeepsPermissions) {
+  const TestFolder folder;
+  const std::string path = folder.Write("flash.dat", Old);
+  ::chmod(path.c_str(), 0640);
+  const std::string link = folder.Path("link.dat");
+  ASSERT_EQ(::symlink("flash.dat", link.c_str()), 0);
+
+  ASSERT_TRUE(ReplaceFile(link, New));
+
+  struct stat status {};
+  ASSERT_EQ(::lstat(link.c_str(), &status), 0);
+  EXPECT_TRUE(S_ISLNK(status.st_mode));
+  ASSERT_EQ(::stat(path.c_str(), &status), 0);
+  EXPECT_EQ(status.st_mode & 07777U, 0640U);
+  EXPECT_EQ(Contents(path), New);
+  EXPECT_EQ(folder.Files(), 2) << "no temporary file is left";
+}
+
+TEST(File, ALinkToNothingMakesItsTarget) {
+  const TestFolder folder;
+  ASSERT_EQ(::symlink("target", folder.Path("link").c_str()), 0);
+  ASSERT_TRUE(ReplaceFile(folder.Path("link"), New));
+  EXPECT_EQ(Contents(folder.Path("target")), New);
+}
+
+TEST(File, AFullDiskLeavesTheOldFile) {
+  const TestFolder folder;
+  const std::string path = folder.Write("flash.dat", Old);
+  const Tests::FileSizeLimit limit(100000);
+  const Outcome result = ReplaceFile(path, New);
+  ASSERT_FALSE(result);
+  EXPECT_EQ(result.error().message,
+            "Impossibile scrivere flash.dat: il file supera la dimensione consentita");
+  EXPECT_EQ(Contents(path), Old);
+  EXPECT_EQ(folder.Files(), 1);
+}
+
+TEST(File, WhatIsNoFileToWriteIsRefused) {
+  const TestFolder folder;
+  const std::string locked = folder.Write("locked.dat", Old);
+  ::chmod(locked.c_str(), 0444);
+  const Tests::OrdinaryUser user;
+  const std::string loop = folder.Path("loop");
+  ASSERT_EQ(::symlink("loop", loop.c_str()), 0);
+  const struct {
+    std::string path;
+    int code;
+  } cases[] = {{locked, EACCES},
+               {folder.Path(), EISDIR},
+               {folder.Path("none/flash.dat"), ENOENT},
+               {loop, ELOOP},
+               {"/dev/null", EINVAL}};
+  for (const auto& c : cases) {
+    const Outcome result = ReplaceFile(c.path, New);
+    ASSERT_FALSE(result) << c.path;
+    EXPECT_EQ(result.error().systemCode, c.code) << c.path;
+  }
+  EXPECT_EQ(Contents(locked), Old);
+}
+
+TEST(File, AFileInALockedFolderIsWrittenWhereItLies) {
+  const TestFolder folder;
+  const std::string path = folder.Write("flash.dat", Old);
+  ::chmod(folder.Path().c_str(), 0555);
+  const Tests::OrdinaryUser user;
+  const Outcome replaced = ReplaceFile(path, New);
+  ASSERT_FALSE(replaced);
+  EXPECT_TRUE(FolderRefuses(replaced.error()));
+
+  const Bytes other(Old.size(), 'x');
+  EXPECT_TRUE(OverwriteInPlace(path, Old, other));
+  EXPECT_EQ(Contents(path), other);
+  {
+    const Tests::FileSizeLimit limit(1000);
+    EXPECT_FALSE(OverwriteInPlace(path, other, Old));
+  }
+  EXPECT_TRUE(OverwriteInPlace(path, other, Old));
+}
+
+TEST(File, ReadingStopsAtTheLimitAndAtWhatIsNoFile) {
+  const TestFolder folder;
+  const std::string path = folder.Write("flash.dat", Old);
+  EXPECT_EQ(*ReadFile(path, Old.size()), Old);
+  EXPECT_FALSE(ReadFile(path, Old.size() - 1));
+  EXPECT_EQ(ReadFile(folder.Path(), 10).error().systemCode, EISDIR);
+  ASSERT_EQ(::mkfifo(folder.Path("pipe").c_str(), 0600), 0);
+  EXPECT_FALSE(ReadFile(folder.Path("pipe"), 10)) << "a pipe would be waited for";
+  EXPECT_EQ(ReadFile("/none", 10).error().message,
+            "Impossibile leggere none: il file o la cartella non esiste");
+}
+
+}  // namespace Base

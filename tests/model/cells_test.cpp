@@ -1,0 +1,66 @@
+#include "model/cells.h"
+
+#include "image_builder.h"
+#include "model/symbol_rates.h"
+
+#include <gtest/gtest.h>
+
+#include <memory>
+
+namespace Routines {
+namespace {
+
+std::string Row(std::string (*cell)(const State&, int, int), const State& state, int columns) {
+  std::string row;
+  for (int column = 0; column < columns; ++column) row += (column > 0 ? "|" : "") + cell(state, 1, column);
+  return row;
+}
+
+}  // namespace
+
+TEST(Cells, ChannelRowsByKind) {
+  const auto state = std::make_unique<State>();
+  const struct {
+    int vpid, apid, flags;
+    Colour colour;
+    const char* ends;  // Codifica and Attivo
+  } cases[] = {{512, 650, 0x24, 0x00FFFF, "24|S"},   {0, 650, 0x04, 0xFFFF80, "04|S"},
+               {65535, 650, 0x04, 0xFFFF80, "04|S"}, {65535, 65535, 0x04, 0xFF80FF, "04|S"},
+               {0, 0, 0xF4, 0xFF80FF, "F4|S"},       {0, 650, 0x20, 0xC0C0C0, "20|N"}};
+  for (const auto& c : cases) {
+    state->ChannelTable[1] = Samples::MakeChannel("Uno", 7, 300, c.vpid, c.apid, c.flags);
+    EXPECT_EQ(ChannelColour(*state, 1), c.colour) << c.vpid << " " << c.apid << " " << c.flags;
+    const std::string row = Row(ChannelCell, *state, 11);
+    EXPECT_TRUE(row.ends_with(c.ends)) << row;
+    EXPECT_TRUE(row.starts_with("0001|Uno|007|300|")) << row;
+  }
+  state->ChannelTable[1].bytes[0] = 0;
+  EXPECT_EQ(Row(ChannelCell, *state, 11), "0001||||||||||") << "only the number of an empty slot shows";
+  EXPECT_EQ(ChannelColour(*state, 1), 0xE0E0E0U);
+}
+
+TEST(Cells, TransponderRows) {
+  const auto state = std::make_unique<State>();
+  state->SymbolRateTable = EmptySymbolRateTable();
+  PlaceUsualRates(state->SymbolRateTable, Sr22000::Come2);
+  TransponderRow& row = state->TransponderTable[1];
+  row.record = Samples::MakeTransponder(12092, true, 1, 3, 5, 7, 65535);
+  EXPECT_EQ(Row(TransponderCell, *state, 10), "001|12092|7|65535|0|27500|Auto|H|On|SAT B");
+  EXPECT_EQ(TransponderColour(*state, 1, 1), 0xFFFFFFU);
+  EXPECT_TRUE(SatelliteLabel(Samples::MakeTransponder(11000, false, 31, 0, 0)).ends_with('`'));
+
+  row.record = Samples::MakeTransponder(11000, false, 0, 16, 0);
+  EXPECT_EQ(TransponderCell(*state, 1, 5), "") << "a code past the table";
+  EXPECT_EQ(TransponderColour(*state, 1, 2), 0x8080FFU) << "no symbol rate";
+  row.record = Samples::MakeTransponder(10699, false, 0, 1, 0);
+  EXPECT_EQ(TransponderColour(*state, 1, 1), 0x8080FFU) << "outside the band";
+
+  row.record = {};
+  EXPECT_EQ(TransponderCell(*state, 1, 1), "0");
+  EXPECT_EQ(TransponderColour(*state, 1, 1), 0x008000U);
+  EXPECT_EQ(TransponderColour(*state, 1, 2), 0xFFFFFFU) << "a free slot is no fault";
+  row.record.bytes[1] = 1;
+  EXPECT_EQ(TransponderCell(*state, 1, 1), "0") << "the cell goes by the first byte";
+}
+
+}  // namespace Routines

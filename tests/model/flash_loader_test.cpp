@@ -1,0 +1,241 @@
+#include "model/flash_loader.h"
+
+#include "image_builder.h"
+#include "model/favourites.h"
+
+#include <gtest/gtest.h>
+
+#include <memory>
+
+namespace Routines {
+namespace {
+
+using Samples::ImageBuilder;
+using Samples::MakeChannel;
+using Samples::MakeTransponder;
+
+using StatePointer = std::unique_ptr<State>;
+
+StatePointer Loaded(const ImageBuilder& image, int capacity, LoadReport* report = nullptr) {
+  auto state = std::make_unique<State>();
+  const LoadReport told = LoadFlash(*state, image.Image(), capacity, 0, {});
+  if (report != nullptr) *report = told;
+  return state;
+}
+
+// Channels named `prefix` + number, on transponder 1.
+std::vector<ChannelRecord> Channels(const std::string& prefix, int count) {
+  std::vector<ChannelRecord> records;
+  for (int i = 1; i <= count; ++i) records.push_back(MakeChannel(prefix + std::to_string(i), 1, i, 100, 200));
+  return records;
+}
+
+std::string NameAt(const State& state, int slot) {
+  return std::string(state.ChannelTable[static_cast<std::size_t>(slot)].Name());
+}
+
+int TransponderAt(const State& state, int slot) {
+  return static_cast<int>(Get(state.ChannelTable[static_cast<std::size_t>(slot)], ChannelField::Transponder));
+}
+
+}  // namespace
+
+TEST(FlashLoader, SectionsFollowSectorsAndDirectoryOrder) {
+  ImageBuilder image(1);
+  image.PutRecords(5, 0, 3000, "TCS", Channels("c", 2));
+  image.PutRecords(2, 6, 9000, "TCS9", Channels("b", 2)).PutRecords(2, 2, 40000, "TCS", Channels("a", 3));
+  image.PutRecords(1, 0, 100, "tcs", Channels("no", 5))
+      .PutRecords(3, 7, 16, "TPTX", std::vector{MakeTransponder(11000, true, 0, 1, 2)});
+  LoadReport report;
+  const auto state = Loaded(image, 999, &report);
+  std::string names;
+  for (int slot = 1; slot <= 8; ++slot) names += NameAt(*state, slot) + " ";
+  EXPECT_EQ(names, "a1 a2 a3 b1 b2 c1 c2  ");
+  EXPECT_EQ(report.channelsRead, 7);
+  EXPECT_EQ(state->TransponderCount, 1);
+  EXPECT_EQ(state->TransponderTable[1].BouquetName().substr(0, 8), "Nessuno ");
+  EXPECT_EQ(state->MaxChannels, 999);
+  EXPECT_EQ(state->ChannelCount, 999);
+}
+
+TEST(FlashLoader, CapacityEndsTheListAndSkipsWhatFollows) {
+  ImageBuilder image(2);
+  image.PutRecords(1, 0, 16, "TCS", Channels("a", 1500)).PutRecords(2, 0, 16, "TCS", Channels("b", 1500));
+  LoadReport report;
+  auto state = Loaded(image, 999, &report);
+  EXPECT_EQ(NameAt(*state, 999), "a999");
+  EXPECT_EQ(NameAt(*state, 1000), "");
+  EXPECT_EQ(report.channelsRead, 999);
+  EXPECT_EQ(report.channelsInImage, 3000);
+  state = Loaded(image, 2000);
+  EXPECT_EQ(NameAt(*state, 1501), "b1");
+  EXPECT_EQ(NameAt(*state, 2000), "b500");
+  EXPECT_EQ(NameAt(*state, 2001), "");
+
+  // A second copy of the same list, from its second channel on, is no surplus.
+  auto copy = Channels("a", 1500);
+  copy.erase(copy.begin());
+  image.PutRecords(2, 0, 16, "TCS", copy);
+  Loaded(image, 1500, &report);
+  EXPECT_EQ(report.channelsInImage, report.channelsRead);
+}
+
+TEST(FlashLoader, EmptyRecordsKeepTheirSlotAndLoseTheirJunk) {
+  auto channels = Channels("a", 3);
+  channels[1].bytes[0] = 0;
+  Base::Bytes data;
+  for (const auto& c : channels) data.insert(data.end(), c.bytes.begin(), c.bytes.end());
+  data.resize(data.size() + 29, 'x');  // not a whole record
+  ImageBuilder image(3);
+  image.Put(4, 3, 20, "TCS", data);
+  const auto state = Loaded(image, 999);
+  EXPECT_EQ(state->ChannelTable[2], ChannelRecord{});
+  EXPECT_EQ(NameAt(*state, 3), "a3");
+  EXPECT_TRUE(state->ChannelTable[4].Empty());
+}
+
+TEST(FlashLoader, NothingOfALargerListSurvives) {
+  ImageBuilder large(4);
+  large.PutRecords(1, 0, 16, "TCS", Channels("old", 2000));
+  large.PutRecords(2, 0, 16, "TPT", std::vector(254, MakeTransponder(11000, true, 0, 1, 2)));
+  auto state = Loaded(large, 3996);
+  state->TransponderTable[9].SetBouquet("Vecchio", "07");
+  LoadFlash(*state, ImageBuilder(5).PutRecords(1, 0, 16, "TCS", Channels("new", 3)).Image(), 999, 0, {});
+  EXPECT_EQ(LastUsedChannel(*state), 3);
+  EXPECT_EQ(state->TransponderCount, 0);
+  EXPECT_EQ(state->TransponderTable[9], TransponderRow{});
+  EXPECT_EQ(state->FavouritesBlock, Base::Bytes(NormalFavouritesSize, 0));
+}
+
+TEST(FlashLoader, TheLastOfSeveralTransponderSectionsSetsTheCount) {
+  const auto low = MakeTransponder(10800, false, 0, 1, 2);
+  const auto high = MakeTransponder(12500, true, 1, 1, 2);
+  ImageBuilder image(6);
+  image.PutRecords(1, 0, 16, "TPT", std::vector(300, low)).PutRecords(2, 0, 16, "TPT", std::vector(5, high));
+  const auto state = Loaded(image, 999);
+  EXPECT_EQ(state->TransponderCount, 5);
+  EXPECT_EQ(state->TransponderTable[5].record, high);
+  EXPECT_EQ(state->TransponderTable[254].record, low);
+}
+
+TEST(FlashLoader, FavouritesComeFromConfigPre) {
+  Base::Bytes block(NormalFavouritesSize, 0xEE);
+  ImageBuilder image(7);
+  image.PutFavourites(3, 1, 500, block, 77);
+  EXPECT_EQ(Loaded(image, 999)->FavouritesBlock, block);
+
+  // At the very end of the sector nothing is left for its contents.
+  ImageBuilder end(8);
+  const std::size_t offset = SectorSize - EntryHeaderSize - 12;
+  end.Put(3, 1, offset, "Support", Base::AsBytes("..config.pre")).SetLength(3, offset, 60000);
+  EXPECT_EQ(Loaded(end, 999)->FavouritesBlock, Base::Bytes(NormalFavouritesSize, 0));
+  // A length that runs past the sector is cut there.
+  ImageBuilder long_(9);
+  long_.PutFavourites(3, 1, 65000, block, 0).SetLength(3, 65000, 65535);
+  EXPECT_EQ(Loaded(long_, 999)->FavouritesBlock,
+            Base::Bytes(SectorSize - 65000 - EntryHeaderSize - 20, 0xEE));
+}
+
+TEST(FlashLoader, BouquetsAreFoundBySatelliteAndLessThanThreeMegahertz) {
+  BouquetTables tables;
+  tables.bouquets = {{"Altro", "11000", "SAT B", "01", 8, 11000},
+                     {"Lontano", "11003", "SAT A", "02", 0, 11003},
+                     {"Giusto", "11002", "SAT A", "03", 0, 11002},
+                     {"Dopo", "11000", "SAT A", "04", 0, 11000}};
+  ImageBuilder image(10);
+  image.PutRecords(1, 0, 16, "TPT",
+                   std::vector{MakeTransponder(11000, true, 0, 1, 2), MakeTransponder(11500, true, 0, 1, 2)});
+  State state;
+  LoadFlash(state, image.Image(), 999, 0, tables);
+  EXPECT_EQ(state.TransponderTable[1].BouquetName(), "Giusto" + std::string(30, ' '));
+  EXPECT_EQ(state.TransponderTable[1].BouquetCode(), "03");
+  EXPECT_EQ(state.TransponderTable[2].BouquetCode(), "  ");
+}
+
+TEST(FlashLoader, AppendingMergesTranspondersAndLeavesASlotFree) {
+  ImageBuilder first(11);
+  first.PutRecords(1, 0, 16, "TCS", Channels("a", 4));
+  first.PutRecords(1, 1, 900, "TPT",
+                   std::vector{MakeTransponder(10800, true, 0, 1, 2), TransponderRecord{},
+                               MakeTransponder(12000, true, 0, 1, 2)});
+  auto state = Loaded(first, 999);
+  state->FavouritesBlock[1] = 4;
+  const Base::Bytes favourites = state->FavouritesBlock;
+
+  // Its 1 is the first's 3, its 2 is new, its 3 is free, its 4 finds no slot.
+  const auto fresh = MakeTransponder(11200, false, 1, 1, 2);
+  ImageBuilder second(12);
+  std::vector<ChannelRecord> channels = Channels("b", 6);
+  for (int i = 0; i < 6; ++i)
+    Set(channels[static_cast<std::size_t>(i)], ChannelField::Transponder, static_cast<std::uint32_t>(i + 1));
+  second.PutRecords(2, 0, 16, "TCS", channels);
+  second.PutRecords(2, 1, 900, "TPT",
+                    std::vector{MakeTransponder(12002, true, 0, 9, 2), fresh, TransponderRecord{},
+                                MakeTransponder(12600, true, 0, 1, 2)});
+  second.PutFavourites(3, 0, 16, Base::Bytes(NormalFavouritesSize, 9), 0);
+  ASSERT_EQ(AppendStart(*state), 5);
+  LoadReport report = LoadFlash(*state, second.Image(), 2000, AppendStart(*state), {});
+
+  EXPECT_EQ(NameAt(*state, 4), "a4");
+  EXPECT_EQ(NameAt(*state, 5), "");
+  EXPECT_EQ(NameAt(*state, 6), "b1");
+  EXPECT_EQ(state->MaxChannels, 2999);
+  EXPECT_EQ(state->TransponderCount, 4);
+  EXPECT_EQ(state->TransponderTable[2].record, fresh);
+  EXPECT_EQ(TransponderAt(*state, 6), 3);
+  EXPECT_EQ(TransponderAt(*state, 7), 2);
+  EXPECT_EQ(TransponderAt(*state, 8), 3) << "a free record is not mapped";
+  EXPECT_EQ(TransponderAt(*state, 9), 4) << "slot 4 was free";
+  EXPECT_EQ(TransponderAt(*state, 1), 1) << "the first list is left alone";
+  EXPECT_EQ(report.strandedChannels, 2);
+  EXPECT_TRUE(report.messages.empty());
+  EXPECT_EQ(state->FavouritesBlock, favourites);
+}
+
+TEST(FlashLoader, AppendingWithoutRoomTellsEachTransponder) {
+  ImageBuilder first(13);
+  first.PutRecords(1, 0, 16, "TCS", Channels("a", 1));
+  first.PutRecords(1, 1, 900, "TPT",
+                   std::vector{MakeTransponder(10800, true, 0, 1, 2), MakeTransponder(10900, true, 0, 1, 2),
+                               MakeTransponder(11900, true, 0, 1, 2)});
+  const auto state = Loaded(first, 3996);
+  ImageBuilder second(14);
+  second.PutRecords(1, 0, 16, "TCS", Channels("b", 1));
+  second.PutRecords(
+      1, 1, 900, "TPT",
+      std::vector{MakeTransponder(12000, true, 0, 1, 2), MakeTransponder(12100, true, 0, 1, 2)});
+  const LoadReport report = LoadFlash(*state, second.Image(), 3996, AppendStart(*state), {});
+  const std::string told =
+      "Superato il numero di transponders gestibili 2\ncollego i canali restanti sul transponder 2";
+  EXPECT_EQ(report.messages, std::vector<std::string>({told, told}));
+  EXPECT_EQ(state->MaxChannels, 3996) << "the table ends there";
+  EXPECT_EQ(TransponderAt(*state, 3), 2);
+}
+
+// Whatever an image says, reading it stays inside it and inside the tables.
+TEST(FlashLoader, HostileImagesAreReadAsFarAsTheyGo) {
+  for (std::uint32_t seed = 1; seed <= 60; ++seed) {
+    Samples::Junk junk(seed);
+    ImageBuilder image(seed);
+    constexpr const char* Names[] = {"TCS", "TPT", "Support", "EPG"};
+    for (std::size_t sector = 1; sector <= 8; ++sector) {
+      for (std::size_t slot = 0; slot < DirectorySlots; ++slot) {
+        const std::size_t offset = junk.Below(3) == 0 ? 65480 + junk.Below(56) : 1 + junk.Below(65534);
+        if (offset + EntryHeaderSize <= SectorSize) {
+          image.Put(sector, slot, offset, Names[junk.Below(4)], Base::AsBytes("config.pre"));
+          image.SetLength(sector, offset, junk.Below(2) == 0 ? junk.Below(65536) : 65535 * junk.Below(2));
+        } else {
+          image.SetDirectory(sector, slot, offset);
+        }
+      }
+    }
+    State state;
+    LoadFlash(state, image.Image(), 3996, 0, {});
+    LoadFlash(state, image.Image(), 999, AppendStart(state), {});
+    EXPECT_LE(state.TransponderCount, LastTransponderSlot) << seed;
+    EXPECT_LE(state.FavouritesBlock.size(), SectorSize) << seed;
+    for (std::size_t list = 0; list < FavouriteLists; ++list) FavouriteEntriesOf(state.FavouritesBlock, list);
+  }
+}
+
+}  // namespace Routines

@@ -1,0 +1,229 @@
+#include "model/flash_writer.h"
+
+#include "image_builder.h"
+#include "model/favourites.h"
+#include "model/flash_loader.h"
+
+#include <gtest/gtest.h>
+
+#include <memory>
+
+namespace Routines {
+namespace {
+
+using Samples::ImageBuilder;
+using Samples::Junk;
+using Samples::MakeChannel;
+using Samples::MakeTransponder;
+
+std::vector<ChannelRecord> Channels(int count) {
+  std::vector<ChannelRecord> records;
+  for (int i = 1; i <= count; ++i) records.push_back(MakeChannel("n" + std::to_string(i), 1, i, 100, 200));
+  return records;
+}
+
+std::unique_ptr<State> ListOf(int channels, int capacity) {
+  auto state = std::make_unique<State>();
+  const auto records = Channels(channels);
+  std::copy(records.begin(), records.end(), state->ChannelTable.begin() + 1);
+  state->MaxChannels = state->ChannelCount = capacity;
+  state->TransponderCount = 2;
+  state->TransponderTable[1].record = MakeTransponder(11000, true, 0, 1, 2);
+  state->TransponderTable[2].record = MakeTransponder(12000, true, 0, 1, 2);
+  state->FavouritesBlock.assign(NormalFavouritesSize, 3);
+  return state;
+}
+
+// The SID, and so the number, of a record in an image; 0 for an empty one.
+int NumberAt(const Base::Bytes& image, std::size_t at) {
+  ChannelRecord record;
+  std::copy_n(image.begin() + static_cast<std::ptrdiff_t>(at), ChannelRecord::Size, record.bytes.begin());
+  return static_cast<int>(Get(record, ChannelField::Sid));
+}
+
+constexpr std::size_t In(std::size_t sector, std::size_t offset) {
+  return (sector - 1) * SectorSize + offset;
+}
+constexpr std::size_t FirstData = In(2, 16 + EntryHeaderSize);
+constexpr std::size_t SecondData = In(4, 100 + EntryHeaderSize);
+
+// Two channel sections of 5 and 4 records; behind the first there is room for one record more and 7 bytes.
+ImageBuilder Template() {
+  ImageBuilder image(21);
+  image.PutRecords(2, 0, 16, "TCS", Channels(5))
+      .Put(2, 1, 16 + EntryHeaderSize + 187, "EPG", Base::Bytes(50, 'e'));
+  image.PutRecords(4, 3, 100, "TCS", Channels(4))
+      .Put(4, 2, 100 + EntryHeaderSize + 120, "EPG", Base::Bytes(9, 'e'));
+  image.PutRecords(5, 0, 16, "TPT", std::vector(3, TransponderRecord{}));
+  return image.PutFavourites(6, 0, 16, Base::Bytes(NormalFavouritesSize, 9), 5);
+}
+
+// Entries of every kind in random places of sectors 1 to 7, and the bytes that a write may change.
+struct RandomImage {
+  explicit RandomImage(std::uint32_t seed) : junk(seed * 77), image(seed), mayChange(FlashSize) {
+    for (std::size_t sector = 1; sector <= 7; ++sector) {
+      std::size_t offset = 16 + junk.Below(2000);
+      for (std::size_t slot = 0; slot < 4; ++slot) {
+        const std::size_t next = slot == 3 ? SectorSize : offset + 4000 + junk.Below(8000);
+        PutEntry(sector, slot, offset, next);
+        offset = next;
+      }
+    }
+  }
+
+  void PutEntry(std::size_t sector, std::size_t slot, std::size_t offset, std::size_t next) {
+    if (sector == 7 && slot == 0) {
+      image.PutFavourites(sector, slot, offset, Base::Bytes(NormalFavouritesSize, 5), 300);
+      Allow(In(sector, offset + EntryHeaderSize + 320), NormalFavouritesSize);
+      return;
+    }
+    switch (junk.Below(3)) {
+      case 0:
+        image.PutRecords(sector, slot, offset, "TCS", RandomChannels());
+        break;
+      case 1:
+        image.PutRecords(sector, slot, offset, "TPT",
+                         std::vector(1 + junk.Below(300), MakeTransponder(11000, true, 2, 1, 7)));
+        break;
+      default:
+        image.Put(sector, slot, offset, "Suppor", Base::Bytes(junk.Below(3000), 'u'));
+        return;
+    }
+    Allow(In(sector, offset + EntryHeaderSize), next - offset - EntryHeaderSize);
+  }
+
+  std::vector<ChannelRecord> RandomChannels() {
+    std::vector<ChannelRecord> records = Channels(static_cast<int>(junk.Below(120)));
+    for (ChannelRecord& record : records) {
+      if (junk.Below(6) == 0) record = {};
+    }
+    return records;
+  }
+
+  void Allow(std::size_t first, std::size_t count) {
+    std::fill_n(mayChange.begin() + static_cast<std::ptrdiff_t>(first), count, true);
+  }
+
+  Junk junk;
+  ImageBuilder image;
+  std::vector<bool> mayChange;
+};
+
+}  // namespace
+
+TEST(FlashWriter, EachFlashTypeFillsTheSectionsItsWay) {
+  const Base::Bytes original = Template().Image();
+  const auto state = ListOf(20, 20);
+  const struct {
+    FlashType type;
+    int secondBegins;
+    bool favourites;
+  } cases[] = {{FlashType::One, 2, false}, {FlashType::Two, 7, true}, {FlashType::Three, 2, false}};
+  for (const auto& c : cases) {
+    const PatchedFlash patched = PatchFlash(*state, original, {c.type, 20, ""});
+    EXPECT_EQ(NumberAt(patched.image, FirstData), 1);
+    EXPECT_EQ(NumberAt(patched.image, FirstData + 5 * 30), 6)
+        << "up to the next entry, past the section's own length";
+    EXPECT_EQ(NumberAt(patched.image, SecondData), c.secondBegins);
+    EXPECT_EQ(NumberAt(patched.image, SecondData + 3 * 30), c.secondBegins + 3);
+    EXPECT_EQ(patched.channelSections, 2);
+    EXPECT_EQ(patched.favouritesWritten, c.favourites);
+    EXPECT_TRUE(DiffersOnlyInSections(original, patched.image));
+    EXPECT_EQ(PatchFlash(*state, patched.image, {c.type, 20, ""}).image, patched.image) << "a second write";
+  }
+}
+
+TEST(FlashWriter, TheListsEndIsFilledWithZeros) {
+  const Base::Bytes original = Template().Image();
+  const auto state = ListOf(3, 3);
+  const Base::Bytes patched = PatchFlash(*state, original, {FlashType::Two, 3, ""}).image;
+  EXPECT_EQ(Base::Bytes(patched.begin() + FirstData + 90, patched.begin() + FirstData + 150),
+            Base::Bytes(60, 0));
+  EXPECT_TRUE(std::equal(patched.begin() + FirstData + 150, patched.begin() + FirstData + 187,
+                         original.begin() + FirstData + 150))
+      << "what lies behind the section stays";
+  EXPECT_EQ(Base::Bytes(patched.begin() + SecondData, patched.begin() + SecondData + 120),
+            Base::Bytes(120, 0));
+}
+
+TEST(FlashWriter, TheLastSectionRunsToTheSectorsEndAndNoFurther) {
+  ImageBuilder image(22);
+  const std::size_t offset = SectorSize - EntryHeaderSize - 100;
+  image.PutRecords(3, 0, offset, "TCS", Channels(3)).SetLength(3, offset, 65535);
+  const auto state = ListOf(10, 10);
+  const Base::Bytes patched = PatchFlash(*state, image.Image(), {FlashType::Two, 10, ""}).image;
+  EXPECT_EQ(NumberAt(patched, In(3, SectorSize - 40)), 3);
+  EXPECT_EQ(Base::Bytes(patched.begin() + In(3, SectorSize - 10), patched.begin() + In(4, 0)),
+            Base::Bytes(10, 0));
+  EXPECT_TRUE(std::equal(patched.begin() + In(4, 0), patched.end(), image.Image().begin() + In(4, 0)));
+}
+
+TEST(FlashWriter, AShortFavouritesBlockIsFilledUpAndALongOneCut) {
+  const Base::Bytes original = Template().Image();
+  const auto state = ListOf(3, 3);
+  const std::size_t area = In(6, 16 + EntryHeaderSize + 5 + 20);
+  for (const std::size_t size : {2291UL, 4000UL, 1UL}) {
+    state->FavouritesBlock.assign(size, 3);
+    const Base::Bytes patched = PatchFlash(*state, original, {FlashType::Two, 3, ""}).image;
+    Base::Bytes expected(std::min(size, NormalFavouritesSize), 3);
+    expected.resize(NormalFavouritesSize, 0);
+    EXPECT_EQ(Base::Bytes(patched.begin() + static_cast<std::ptrdiff_t>(area),
+                          patched.begin() + static_cast<std::ptrdiff_t>(area + NormalFavouritesSize)),
+              expected);
+    EXPECT_TRUE(DiffersOnlyInSections(original, patched));
+  }
+  state->FavouritesBlock.clear();
+  EXPECT_FALSE(PatchFlash(*state, original, {FlashType::Two, 3, ""}).favouritesWritten);
+}
+
+// Random images with room between their entries: only section data change.
+TEST(FlashWriter, SavingAnImageIntoItselfChangesSectionsOnly) {
+  for (std::uint32_t seed = 1; seed <= 40; ++seed) {
+    RandomImage random(seed);
+    const Base::Bytes& original = random.image.Image();
+    State state;
+    LoadFlash(state, original, 3996, 0, {});
+    const PatchedFlash patched = PatchFlash(state, original, PlanWrite(state, {2, 1, 0}));
+    for (std::size_t at = 0; at < FlashSize; ++at) {
+      ASSERT_TRUE(patched.image[at] == original[at] || random.mayChange[at])
+          << "seed " << seed << " at " << at;
+    }
+    EXPECT_TRUE(DiffersOnlyInSections(original, patched.image)) << seed;
+
+    Base::Bytes spoilt = patched.image;
+    std::size_t at = random.junk.Below(FlashSize);
+    while (random.mayChange[at]) at = random.junk.Below(FlashSize);
+    spoilt[at] ^= 1U;
+    EXPECT_FALSE(DiffersOnlyInSections(original, spoilt)) << "seed " << seed << " at " << at;
+  }
+}
+
+TEST(FlashWriter, WhatAnImageDoesNotTakeIsTold) {
+  const Base::Bytes original = Template().Image();
+  const auto unwritten = [&](const State& state, FlashType type) {
+    const PatchedFlash patched = PatchFlash(state, original, {type, state.ChannelCount, ""});
+    return FindUnwritten(state, patched.image, type).Text();
+  };
+  auto state = ListOf(9, 9);
+  EXPECT_EQ(unwritten(*state, FlashType::Two), "4 canali non scritti")
+      << "the sixth lies where no reader looks";
+  state = ListOf(5, 5);
+  EXPECT_EQ(unwritten(*state, FlashType::Two), "");
+  EXPECT_EQ(unwritten(*state, FlashType::One), "");
+  state = ListOf(353, 999);
+  EXPECT_EQ(unwritten(*state, FlashType::Two), "348 canali non scritti");
+  state = ListOf(5, 5);
+  state->TransponderCount = 4;
+  state->TransponderTable[4].record = state->TransponderTable[1].record;
+  EXPECT_EQ(unwritten(*state, FlashType::Three), "1 transponder non scritto");
+  state = ListOf(5, 5);
+  state->FavouritesBlock.assign(2291, 0);
+  state->FavouritesBlock[FavouriteNameOffset(2291, 0)] = 'C';
+  EXPECT_EQ(unwritten(*state, FlashType::Two), "nomi delle liste persi");
+  EXPECT_EQ(unwritten(*state, FlashType::One), "");
+  const Base::Bytes bare = ImageBuilder(3).PutRecords(1, 0, 16, "TCS", Channels(5)).Image();
+  EXPECT_EQ(FindUnwritten(*ListOf(5, 5), bare, FlashType::Two).Text(),
+            "2 transponder non scritti, preferiti non scritti");
+}
+
+}  // namespace Routines

@@ -1,0 +1,43 @@
+#include "model/symbol_rates.h"
+
+#include "image_builder.h"
+
+#include <gtest/gtest.h>
+
+namespace Routines {
+
+TEST(SymbolRates, ConvertingMovesRatesAndKeepsWhatTheOutputLacks) {
+  State state;
+  state.SymbolRateTable = EmptySymbolRateTable();
+  SetSymbolRate(state.SymbolRateTable, 0, "29900");
+  SetSymbolRate(state.SymbolRateTable, 5, "5632");
+  PlaceUsualRates(state.SymbolRateTable, Sr22000::Come2);
+  EXPECT_EQ(SymbolRateText(state.SymbolRateTable, 5), "5632\\");
+  const int before[] = {1, 3, 0, 5, 9, 16, 255};
+  const int after[] = {3, 1, 0, 5, 9, 16, 255};
+  state.TransponderCount = 7;
+  for (std::size_t i = 0; i < 7; ++i) {
+    state.TransponderTable[i + 1].record = Samples::MakeTransponder(11000, true, 0, before[i], 0);
+  }
+  EXPECT_EQ(ConvertiSR(state, Sr22000::Come0), 2);
+  for (std::size_t i = 0; i < 7; ++i) {
+    EXPECT_EQ(Get(state.TransponderTable[i + 1].record, TransponderField::SymbolRate),
+              static_cast<std::uint32_t>(after[i]));
+  }
+  EXPECT_EQ(SymbolRateText(state.SymbolRateTable, 1), "27500");
+  EXPECT_EQ(SymbolRateText(state.SymbolRateTable, 3), "22000");
+  EXPECT_EQ(ConvertiSR(state, Sr22000::Come0), 0) << "the output table is the input table now";
+}
+
+// A rate that the conversion pushes out of the table has no other cell: its code stays.
+TEST(SymbolRates, ARateThatIsPushedOutKeepsItsCode) {
+  State state;
+  state.SymbolRateTable = EmptySymbolRateTable();
+  SetSymbolRate(state.SymbolRateTable, 1, "30000");
+  state.TransponderCount = 1;
+  state.TransponderTable[1].record = Samples::MakeTransponder(11000, true, 0, 1, 0);
+  EXPECT_EQ(ConvertiSR(state, Sr22000::Come2), 0);
+  EXPECT_EQ(SymbolRateText(state.SymbolRateTable, 1), "22000");
+}
+
+}  // namespace Routines

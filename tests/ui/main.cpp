@@ -1,0 +1,14 @@
+#include "ui/toolkit.h"
+
+#include <QApplication>
+
+#include <gtest/gtest.h>
+
+int main(int argc, char** argv) {
+  // Tests need no display; the listing of tests at build time has no environment of its own.
+  if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "offscreen");
+  testing::InitGoogleTest(&argc, argv);
+  QApplication application(argc, argv);
+  Ui::SetUpToolkit(application);
+  return RUN_ALL_TESTS();
+}

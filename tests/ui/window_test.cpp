@@ -1,0 +1,291 @@
+// The real window, driven by its menus, controls and boxes.
+#include "demo_flash.h"
+#include "image_builder.h"
+#include "model/flash_loader.h"
+#include "support/test_folder.h"
+#include "ui/griglia.h"
+#include "ui/qt_dialogs.h"
+#include "window_driver.h"
+
+#include <QAbstractItemModelTester>
+#include <QHeaderView>
+#include <QListWidget>
+#include <QRadioButton>
+#include <QScrollBar>
+#include <QTest>
+
+#include <gtest/gtest.h>
+
+#include <filesystem>
+#include <sys/stat.h>
+
+namespace Ui {
+namespace {
+
+using Tests::Contents;
+
+const QString InputDialog = "Selezionare la flash di input";
+const QString OutputDialog = "Selezionare la flash di output";
+const QString NoFlash = "Si deve caricare prima una FLASH di input";
+
+class Window : public testing::Test {
+ protected:
+  Window() {
+    for (const char* name : {"Bouquets.txt", "SR.INI"}) {
+      std::filesystem::copy(std::string(SAMPLES_FOLDER) + "/" + name, folder_.Path(name));
+    }
+    const auto table = Support::CaricaTabelleSR(folder_.Path(), Routines::Sr22000::Come2);
+    flash_ = folder_.Write("demo.dat", Samples::DemoFlash(table->table));
+  }
+
+  ~Window() override { EXPECT_EQ(driver_->Failures().join("\n").toStdString(), ""); }
+
+  void Start() {
+    window_ = std::make_unique<CopiaTCSTPT>(folder_.Path());
+    driver_ = std::make_unique<Demo::WindowDriver>(*window_);
+    window_->show();
+  }
+
+  void Open(const std::string& path, const char* capacity = "QuantiCanali_2") {
+    ASSERT_TRUE(driver_->Pick(capacity));
+    if (List().Loaded)
+      driver_->ExpectQuestion("Si desidera accodare la nuova Flash a quella già caricata?", false);
+    driver_->ExpectFile(InputDialog, PathText(path));
+    ASSERT_TRUE(driver_->Choose("ApriFlashInput"));
+  }
+
+  void OpenDemo() {
+    Start();
+    ASSERT_TRUE(window_->Start());
+    Open(flash_);
+    ASSERT_TRUE(driver_->Pick("FlashScrittura_1"));
+  }
+
+  [[nodiscard]] const Routines::State& List() const { return window_->List().Tables(); }
+  [[nodiscard]] QAction& Action(const char* name) const { return *window_->findChild<QAction*>(name); }
+  [[nodiscard]] std::string Said() const { return driver_->TextOf("UltimoRisultato").toStdString(); }
+
+  static void Summary(Demo::WindowDriver& driver, int sections, int channels, bool favourites) {
+    driver.ExpectMessage(QString("%1 Sezioni TCS per %2 Canali effettivi\nSezioni Preferiti: %3")
+                             .arg(sections)
+                             .arg(channels)
+                             .arg(favourites ? "scritta" : "non scritta"));
+  }
+
+  Tests::TestFolder folder_;
+  std::string flash_;
+  std::unique_ptr<CopiaTCSTPT> window_;
+  std::unique_ptr<Demo::WindowDriver> driver_;
+};
+
+}  // namespace
+
+TEST_F(Window, RefusesWhatNeedsAFlash) {
+  Start();
+  ASSERT_TRUE(window_->Start());
+  EXPECT_EQ(window_->windowTitle(), "Trovalis  - Versione 1.0ß");
+  for (const char* name : {"Salva", "ApriFlashOutput", "ConvertiSR"})
+    EXPECT_FALSE(Action(name).isEnabled()) << name;
+  driver_->ExpectMessage("Si deve selezionare il numero di canali da visualizzare");
+  EXPECT_TRUE(driver_->Choose("ApriFlashInput"));
+  for (const char* name : {"VisualizzaCanali", "VisualizzaTransponder"}) {
+    driver_->ExpectMessage(NoFlash);
+    EXPECT_TRUE(driver_->Choose(name));
+    EXPECT_FALSE(Action(name).isChecked()) << name << " gets its old check mark back";
+  }
+  driver_->ExpectMessage(NoFlash);
+  EXPECT_TRUE(driver_->Press("Toolbar1_Save"));
+}
+
+TEST_F(Window, AWholeSessionGivesTheSameListBack) {
+  OpenDemo();
+  EXPECT_EQ(window_->windowTitle(), "Trovalis  - Versione 1.0ß (" + PathText(flash_) + ")");
+  EXPECT_EQ(driver_->TextOf("Text1"), "Canali");
+  EXPECT_EQ(driver_->Cell(7, 1), "Città Più");
+  EXPECT_EQ(Said(), "demo.dat: letti 620 canali");
+
+  ASSERT_TRUE(driver_->Pick("SRDef_1"));
+  ASSERT_TRUE(driver_->Choose("ConvertiSR"));
+  EXPECT_EQ(driver_->TextOf("Text1"), "Transponders");
+  EXPECT_EQ(driver_->TextOf("ModificheNonSalvate"), "Modifiche non salvate");
+
+  const Routines::State before = List();
+  const std::string copy = folder_.Write("copia.dat", Contents(flash_));
+  driver_->ExpectFile(OutputDialog, PathText(copy));
+  Summary(*driver_, 2, 647, true);
+  ASSERT_TRUE(driver_->Choose("ApriFlashOutput"));
+  EXPECT_EQ(List().MaxChannels, 0);
+  EXPECT_EQ(driver_->TextOf("FlashOutput"), "Flash di output : copia.dat");
+  EXPECT_EQ(driver_->TextOf("ModificheNonSalvate"), "");
+  EXPECT_EQ(Contents(copy + ".bak"), Contents(flash_));
+  const Base::Bytes written = Contents(copy);
+
+  Summary(*driver_, 2, 647, true);
+  ASSERT_TRUE(driver_->Choose("Salva"));
+  EXPECT_EQ(Contents(copy), written) << "a second save writes the same";
+
+  Open(copy);
+  EXPECT_TRUE(
+      List().ChannelTable == before.ChannelTable && List().TransponderTable == before.TransponderTable &&
+      List().FavouritesBlock == before.FavouritesBlock && List().SymbolRateTable == before.SymbolRateTable);
+  EXPECT_EQ(driver_->TextOf("FlashOutput"), "Flash di output : nessuna") << "a load forgets the output";
+}
+
+TEST_F(Window, AppendingAsksTwice) {
+  OpenDemo();
+  const QString append = "Si desidera accodare la nuova Flash a quella già caricata?";
+  const QString sameKind = "La flash che si sta accodando è dello stesso dipo di quella già caricata?";
+  driver_->ExpectQuestion(append, true);
+  driver_->ExpectQuestion(sameKind, false);
+  ASSERT_TRUE(driver_->Choose("ApriFlashInput"));
+  EXPECT_EQ(driver_->TextOf("CanaliUsati"), "Canali 620 di 3996");
+
+  driver_->ExpectQuestion(append, true);
+  driver_->ExpectQuestion(sameKind, true);
+  driver_->ExpectFile(InputDialog, PathText(flash_));
+  ASSERT_TRUE(driver_->Choose("ApriFlashInput"));
+  EXPECT_EQ(driver_->Cell(649, 1), driver_->Cell(1, 1));
+  EXPECT_EQ(driver_->TextOf("CanaliUsati"), "Canali 1240 di 3996");
+  EXPECT_EQ(driver_->TextOf("ModificheNonSalvate"), "Modifiche non salvate");
+}
+
+TEST_F(Window, ViewsToggleAndCloseTheList) {
+  OpenDemo();
+  auto* grid = window_->findChild<Griglia*>("Griglia");
+  EXPECT_EQ(grid->currentIndex().row(), 0);
+  EXPECT_FALSE(grid->selectionModel()->hasSelection());
+  ASSERT_TRUE(driver_->Choose("VisualizzaTransponder"));
+  EXPECT_TRUE(Action("VisualizzaTransponder").isChecked());
+  EXPECT_FALSE(Action("VisualizzaCanali").isChecked());
+  EXPECT_EQ(grid->model()->rowCount(), 120);
+  ASSERT_TRUE(driver_->Press("Toolbar1_TRANSPONDERS"));
+  EXPECT_FALSE(Action("VisualizzaTransponder").isChecked());
+  EXPECT_EQ(driver_->TextOf("Text1"), "");
+  EXPECT_FALSE(grid->isVisible());
+  ASSERT_TRUE(driver_->Choose("VisualizzaCanali"));
+  EXPECT_EQ(grid->model()->rowCount(), 3996);
+  const QAbstractItemModelTester tester(grid->model(), QAbstractItemModelTester::FailureReportingMode::Fatal);
+  Open(flash_, "QuantiCanali_0");
+  EXPECT_EQ(grid->model()->rowCount(), 999);
+}
+
+TEST_F(Window, TheFirstColumnStaysAndTheSpareWidthIsUsed) {
+  OpenDemo();
+  auto* grid = window_->findChild<Griglia*>("Griglia");
+  auto* fixed = window_->findChild<QTableView*>("ColonnaFissa");
+  for (const int width : {700, 1600}) {
+    window_->resize(width, 700);
+    QTest::qWait(20);
+    EXPECT_GE(grid->horizontalHeader()->length(), grid->viewport()->width()) << width;
+    EXPECT_EQ(fixed->geometry().right() + 1, grid->viewport()->geometry().left() + grid->columnWidth(0));
+  }
+  window_->resize(700, 700);
+  QTest::qWait(20);
+  grid->horizontalScrollBar()->setValue(grid->horizontalScrollBar()->maximum());
+  grid->verticalScrollBar()->setValue(300);
+  EXPECT_EQ(fixed->indexAt(QPoint(5, 5)), grid->model()->index(300, 0));
+}
+
+TEST_F(Window, WrongFilesAreToldAndChangeNothing) {
+  OpenDemo();
+  const Routines::State before = List();
+  const auto openBad = [this](const std::string& path, const QString& message, const char* command) {
+    if (std::string_view(command) == "ApriFlashInput") {
+      driver_->ExpectQuestion("Si desidera accodare la nuova Flash a quella già caricata?", false);
+    }
+    const bool input = std::string_view(command) == "ApriFlashInput";
+    driver_->ExpectFile(input ? InputDialog : OutputDialog, PathText(path));
+    driver_->ExpectMessage(message, input ? "Errore FLASH di Input" : "Errore FLASH di Output");
+    ASSERT_TRUE(driver_->Choose(command));
+  };
+  const std::string small = folder_.Write("[*]piccola.dat", Base::Bytes(524287, 'x'));
+  openBad(small, "Dimensione FLASH selezionata errata 524287", "ApriFlashInput");
+  openBad(small, "Dimensione FLASH selezionata errata 524287", "ApriFlashOutput");
+  driver_->ExpectFileCancelled(OutputDialog);
+  ASSERT_TRUE(driver_->Choose("ApriFlashOutput"));
+  EXPECT_TRUE(List() == before);
+}
+
+TEST_F(Window, AFailedSaveLeavesFileAndListAsTheyWere) {
+  OpenDemo();
+  const std::string copy = folder_.Write("copia.dat", Contents(flash_));
+  driver_->ExpectFile(OutputDialog, PathText(copy));
+  Summary(*driver_, 2, 647, true);
+  ASSERT_TRUE(driver_->Choose("ApriFlashOutput"));
+  const Routines::State before = List();
+  const Base::Bytes written = Contents(copy);
+  const auto failing = [this](const char* message) {
+    driver_->ExpectMessage(message, "Errore FLASH di Output");
+    ASSERT_TRUE(driver_->Choose("Salva"));
+  };
+  {
+    const Tests::FileSizeLimit limit(100000);
+    failing("Impossibile scrivere copia.dat: il file supera la dimensione consentita");
+  }
+  ::chmod(copy.c_str(), 0444);
+  {
+    const Tests::OrdinaryUser user;
+    failing("Impossibile scrivere copia.dat: permesso negato");
+  }
+  EXPECT_EQ(Contents(copy), written);
+  folder_.Write("altra.dat", Base::Bytes(3, 'x'));
+  std::filesystem::rename(folder_.Path("altra.dat"), copy);
+  failing("Dimensione FLASH selezionata errata 3");
+  std::filesystem::remove(copy);
+  failing("Impossibile leggere copia.dat: il file o la cartella non esiste");
+  std::filesystem::create_directory(copy);
+  failing("Impossibile leggere copia.dat: è una cartella");
+  EXPECT_TRUE(List() == before);
+}
+
+TEST_F(Window, WhatASaveLeavesOutIsTold) {
+  OpenDemo();
+  ASSERT_TRUE(driver_->Pick("FlashScrittura_0"));
+  ASSERT_TRUE(driver_->Pick("SRDef_1"));
+  const std::string copy = folder_.Write("copia.dat", Contents(flash_));
+  driver_->ExpectMessage(
+      "Impossibile gestire più di 999 canali sulla FLASH tipo D- 1-x (999 canali)\nne verranno salvati solo "
+      "999");
+  driver_->ExpectFile(OutputDialog, PathText(copy));
+  Summary(*driver_, 2, 647, false);
+  ASSERT_TRUE(driver_->Choose("ApriFlashOutput"));
+  EXPECT_TRUE(QString::fromStdString(Said()).contains("canali non scritti")) << Said();
+  EXPECT_TRUE(QString::fromStdString(Said()).contains("SR 22000 spostato senza Converti SR")) << Said();
+}
+
+TEST_F(Window, AMissingSrIniStopsWritesAndABrokenOneTheProgram) {
+  std::filesystem::remove(folder_.Path("SR.INI"));
+  Start();
+  driver_->ExpectMessage("File SR.INI non trovato: " + PathText(folder_.Path("SR.INI")));
+  ASSERT_TRUE(window_->Start());
+  Open(flash_);
+  ASSERT_TRUE(driver_->Pick("FlashScrittura_1"));
+  ASSERT_TRUE(driver_->Choose("ApriFlashOutput"));
+  EXPECT_EQ(Said(), "File SR.INI non trovato: " + folder_.Path("SR.INI"));
+
+  folder_.Write("SR.INI", "[INPUT]\nventidue\n");
+  driver_->ExpectMessage("Formato invalido del file SR.INI - Correggere e rilanciare");
+  ASSERT_TRUE(driver_->Choose("ApriFlashOutput"));
+  EXPECT_FALSE(window_->isVisible());
+}
+
+TEST_F(Window, MistakesInBouquetsAreListed) {
+  Start();
+  EXPECT_FALSE(window_->findChild<QWidget*>("FrameErrori")->isVisible());
+  folder_.Write("Bouquets.txt", "Citt\xE0,1\nX,1,SAT=1\n");
+  Start();
+  auto* pane = window_->findChild<QWidget*>("FrameErrori");
+  EXPECT_TRUE(pane->isVisible());
+  const auto* list = window_->findChild<QListWidget*>("ListaErrori");
+  ASSERT_EQ(list->count(), 2);
+  EXPECT_EQ(list->item(0)->text(), "Record Bouquet errato: Città,1");
+  window_->findChild<QAbstractButton*>("ChiudiErrori")->click();
+  EXPECT_FALSE(pane->isVisible());
+}
+
+TEST(FileFilters, KeepCaptionsAndMatchAnyCase) {
+  EXPECT_EQ(NameFilters("Binary files(*.dat)|*.dat|Tutti i file (*.*)|*.*|"),
+            QStringList({"Binary files(*.dat) (*.[dD][aA][tT])", "Tutti i file (*.*) (*)"}));
+}
+
+}  // namespace Ui
