@@ -14,6 +14,8 @@
 namespace Base {
 namespace {
 
+constexpr uid_t NoOwner = static_cast<uid_t>(-1);  // leaves the owner as it is
+
 class Descriptor {
  public:
   explicit Descriptor(int number) : number_(number) {}
@@ -71,23 +73,25 @@ void FlushFolder(const std::string& folder) {
   if (opened.Valid()) ::fsync(opened.Number());
 }
 
-// Permissions of the file to be replaced, or those of any new file. Ownership follows where the system lets
-// it.
+// Owner and permissions of `old`, or those of any new file. Ownership follows as far as the system lets it.
 int TakeOver(int file, const struct stat* old) {
   if (old == nullptr) {
     const mode_t mask = ::umask(0);
     ::umask(mask);
     return ::fchmod(file, 0666 & ~mask) == 0 ? 0 : errno;
   }
-  if (::fchown(file, old->st_uid, old->st_gid) != 0 && errno != EPERM) return errno;
-  return ::fchmod(file, old->st_mode & 07777) == 0 ? 0 : errno;
+  const bool owned =
+      ::fchown(file, old->st_uid, old->st_gid) == 0 || ::fchown(file, NoOwner, old->st_gid) == 0;
+  // A group that could not follow must not be given the rights of another one.
+  const mode_t mode = old->st_mode & (owned ? 07777U : 07707U);
+  return ::fchmod(file, mode) == 0 ? 0 : errno;
 }
 
 // 0 where `path` may be replaced: it is a file that can be written to, or nothing yet.
 int Refusal(const std::string& path, bool exists, const struct stat& old) {
   if (!exists) return errno == ENOENT ? 0 : errno;
   if (S_ISDIR(old.st_mode)) return EISDIR;
-  if (!S_ISREG(old.st_mode)) return EINVAL;
+  if (!S_ISREG(old.st_mode)) return NotAFile;
   return ::faccessat(AT_FDCWD, path.c_str(), W_OK, AT_EACCESS) == 0 ? 0 : errno;
 }
 
@@ -111,7 +115,7 @@ std::string SystemReason(int systemCode) {
       return "è una cartella";
     case ENOTDIR:
       return "il percorso non è una cartella";
-    case EINVAL:
+    case NotAFile:
       return "non è un file normale";
     case EIO:
       return "errore di lettura o scrittura del disco";
@@ -129,6 +133,11 @@ std::string SystemReason(int systemCode) {
 
 std::string FileName(std::string_view path) { return std::string(path.substr(path.rfind('/') + 1)); }
 
+std::string FolderOf(std::string_view path) {
+  const std::size_t slash = path.rfind('/');
+  return slash == std::string_view::npos ? "." : std::string(path.substr(0, slash + 1));
+}
+
 std::string ResolvedPath(const std::string& path) {
   std::error_code error;
   const std::filesystem::path resolved = std::filesystem::canonical(path, error);
@@ -140,7 +149,7 @@ std::string ResolvedPath(const std::string& path) {
 Result<std::uint64_t> FileSize(const std::string& path) {
   struct stat status {};
   if (::stat(path.c_str(), &status) != 0) return ReadFailure(path, errno);
-  if (!S_ISREG(status.st_mode)) return ReadFailure(path, S_ISDIR(status.st_mode) ? EISDIR : EINVAL);
+  if (!S_ISREG(status.st_mode)) return ReadFailure(path, S_ISDIR(status.st_mode) ? EISDIR : NotAFile);
   return static_cast<std::uint64_t>(status.st_size);
 }
 
@@ -157,18 +166,19 @@ Result<Bytes> ReadFile(const std::string& path, std::size_t limit) {
   return bytes;
 }
 
-Outcome ReplaceFile(const std::string& path, ByteView bytes) {
+Outcome ReplaceFile(const std::string& path, ByteView bytes, const std::string& like) {
   const std::string target = ResolvedPath(path);
   struct stat old {};
   const bool exists = ::stat(target.c_str(), &old) == 0;
   if (const int refused = Refusal(target, exists, old); refused != 0) return WriteFailure(path, refused);
 
-  const std::size_t slash = target.rfind('/');
-  const std::string folder = slash == std::string::npos ? "." : target.substr(0, slash + 1);
+  struct stat model {};
+  const bool hasModel = exists || (!like.empty() && ::stat(like.c_str(), &model) == 0);
+  const std::string folder = FolderOf(target);
   std::string temporary = folder + "/.trovalis-XXXXXX";
   const Descriptor file(::mkostemp(temporary.data(), O_CLOEXEC));
   if (!file.Valid()) return WriteFailure(path, errno);
-  int code = TakeOver(file.Number(), exists ? &old : nullptr);
+  int code = TakeOver(file.Number(), !hasModel ? nullptr : exists ? &old : &model);
   if (code == 0) code = WriteFlushCompare(file.Number(), bytes);
   if (code == 0 && ::rename(temporary.c_str(), target.c_str()) != 0) code = errno;
   if (code != 0) {
@@ -186,7 +196,7 @@ Outcome OverwriteInPlace(const std::string& path, ByteView before, ByteView byte
   if (code == 0) return Done{};
   if (WriteFlushCompare(file.Number(), before) == 0) return WriteFailure(path, code);
   Error error = WriteFailure(path, code);
-  error.message += "\nIl file può essere danneggiato: la copia di sicurezza ne conserva il contenuto";
+  error.message += "\nIl file può essere danneggiato: vedere le copie di sicurezza (.bak)";
   return error;
 }
 

@@ -14,8 +14,12 @@ namespace Base {
 // The system's reason in Italian ("spazio su disco esaurito").
 std::string SystemReason(int systemCode);
 
-// The part of a path behind its last slash.
+// The reason of an error where something else than a file was found.
+inline constexpr int NotAFile = -1;
+
+// The part of a path behind its last slash, and the folder before it.
 std::string FileName(std::string_view path);
+std::string FolderOf(std::string_view path);
 
 // Where writing to `path` really goes: symbolic links are followed. `path` itself where nothing can be
 // resolved.
@@ -27,10 +31,10 @@ Result<std::uint64_t> FileSize(const std::string& path);
 // The whole of a regular file of at most `limit` bytes.
 Result<Bytes> ReadFile(const std::string& path, std::size_t limit);
 
-// Writes a file beside `path`, flushes it, reads it back, and puts it in the place of `path` in one step.
-// Follows a symbolic link and keeps the permissions of an existing file. After an error the old file is as it
-// was.
-Outcome ReplaceFile(const std::string& path, ByteView bytes);
+// Writes a file beside `path`, flushes it, reads it back, and puts it in the place of `path` in one step. Follows
+// a symbolic link and keeps the permissions of an existing file; a new one takes those of the file `like`, if it
+// is given. After an error the old file is as it was.
+Outcome ReplaceFile(const std::string& path, ByteView bytes, const std::string& like = {});
 
 // For a folder that takes no new file: overwrites an existing file of the same size where it lies, flushes it
 // and reads it back. `before` is what it holds now; after an error those bytes are written again.

@@ -10,26 +10,40 @@ namespace Routines {
 namespace {
 
 constexpr int MostBackups = 999;
+constexpr std::size_t LongestName = 240;  // leaves room for the ending in any file system
 
-// Keeps `bytes` in `folder` as NAME.bak or the first free name after it, unless one of those holds them
-// already.
-Base::Outcome KeepCopy(const std::string& folder, const std::string& name, Base::ByteView bytes) {
+// Whether a name is taken by something that is no copy of an image.
+bool TakenByAnother(int systemCode) {
+  return systemCode == EFBIG || systemCode == EISDIR || systemCode == Base::NotAFile;
+}
+
+// Keeps `bytes`, the image at `target`, in `folder` as NAME.bak or the first free name after it, unless one of those
+// holds them already.
+Base::Outcome KeepCopy(const std::string& folder, const std::string& target, Base::ByteView bytes) {
+  const std::string first = folder + "/" + Base::FileName(target).substr(0, LongestName) + ".bak";
   for (int number = 1; number <= MostBackups; ++number) {
-    const std::string copy = folder + "/" + name + ".bak" + (number == 1 ? "" : std::to_string(number));
+    const std::string copy = number == 1 ? first : first + std::to_string(number);
     const auto existing = Base::ReadFile(copy, FlashSize);
     if (existing && std::equal(existing->begin(), existing->end(), bytes.begin(), bytes.end()))
       return Base::Done{};
-    if (!existing && existing.error().systemCode == ENOENT) return Base::ReplaceFile(copy, bytes);
+    if (existing || TakenByAnother(existing.error().systemCode)) continue;
+    if (existing.error().systemCode == ENOENT) return Base::ReplaceFile(copy, bytes, target);
+    return existing.error();
   }
-  return Base::Error{"Troppe copie di sicurezza di " + name};
+  return Base::Error{"Troppe copie di sicurezza di " + Base::FileName(target)};
 }
 
 Base::Outcome BackUp(const std::string& target, Base::ByteView before, const Backups& backups) {
-  const std::string name = Base::FileName(target);
-  const std::string folder = target.substr(0, target.size() - name.size());
-  const auto beside = KeepCopy(folder.empty() ? "." : folder, name, before);
+  auto beside = KeepCopy(Base::FolderOf(target), target, before);
   if (beside || !Base::FolderRefuses(beside.error())) return beside;
-  return KeepCopy(backups.programFolder, name, before);
+  return KeepCopy(backups.programFolder, target, before);
+}
+
+// In one step, or where the image lies when its folder takes no new file.
+Base::Outcome Overwrite(const std::string& target, Base::ByteView before, Base::ByteView after) {
+  auto replaced = Base::ReplaceFile(target, after);
+  if (replaced || !Base::FolderRefuses(replaced.error())) return replaced;
+  return Base::OverwriteInPlace(target, before, after);
 }
 
 }  // namespace
@@ -51,13 +65,13 @@ Base::Outcome SaveFlash(const std::string& path, Base::ByteView before, Base::By
                         Backups& backups) {
   const std::string target = Base::ResolvedPath(path);
   if (!backups.taken.contains(target)) {
-    const auto kept = BackUp(target, before, backups);
+    auto kept = BackUp(target, before, backups);
     if (!kept) return kept;
-    backups.taken.insert(target);
   }
-  const auto replaced = Base::ReplaceFile(target, after);
-  if (replaced || !Base::FolderRefuses(replaced.error())) return replaced;
-  return Base::OverwriteInPlace(target, before, after);
+  auto written = Overwrite(target, before, after);
+  // A failed attempt does not count: the file may hold something else by the next one.
+  if (written) backups.taken.insert(target);
+  return written;
 }
 
 }  // namespace Routines

@@ -1,9 +1,8 @@
 // The layout of a receiver's flash image, for its reader and its writer alike.
 //   image    524,288 bytes: 8 sectors of 65,536
-//   sector   begins with a directory of 8 entry offsets of two bytes, low byte first; 0 and 65535 are no
-//   entry entry    at its offset: name (10 bytes), data length L (2 bytes, low byte first), 24 bytes that
-//   only the
-//            receiver understands, then L bytes of data
+//   sector   begins with a directory of 8 entry offsets of two bytes, low byte first; 0 and 65535 are none
+//   entry    at its offset: name (10 bytes), data length L (2 bytes, low byte first), 24 bytes that only
+//            the receiver understands, then L bytes of data
 // Nothing an image says is trusted: offsets and lengths are clamped to the sector.
 #pragma once
 

@@ -145,7 +145,7 @@ class Loader {
   int channelSections_ = 0;
   std::vector<ChannelRecord> firstSection_;
   std::array<int, LastTransponderSlot + 1>
-      mapping_{};  // second flash's number -> slot_, 0 where there is none
+      mapping_{};  // second flash's number -> slot, 0 where there is none
   LoadReport report_;
 };
 

@@ -17,7 +17,7 @@ struct LoadReport {
   std::vector<std::string> messages;  // to be shown, in this order
 };
 
-// `image` has FlashSize bytes, `capacity` is 1..3996 channels. With `appendStart` 0 everything is replaced;
+// `image` has FlashSize bytes, `capacity` is 0..3996 channels. With `appendStart` 0 everything is replaced;
 // else the channels go to the slots behind `appendStart`, their transponders are merged with those that are
 // loaded, and the favourites stay. What an image has no room for, or does not have, is no error.
 LoadReport LoadFlash(State& state, Base::ByteView image, int capacity, int appendStart,

@@ -49,7 +49,7 @@ class Writer {
 
   void WriteChannels(const Entry& entry) {
     ++patched_.channelSections;
-    // Types 1 and 3 keep a second copy of the list, which lacks its first channel_; type 2 spreads one list
+    // Types 1 and 3 keep a second copy of the list, which lacks its first channel; type 2 spreads one list
     // over all sections.
     if (plan_.type != FlashType::Two && patched_.channelSections > 1) channel_ = 1;
     const Range space = RecordSpaceOf(entry);
@@ -157,9 +157,9 @@ std::string Unwritten::Text() const {
   return text;
 }
 
-Unwritten FindUnwritten(const State& state, Base::ByteView written, FlashType type) {
+Unwritten FindUnwritten(const State& state, Base::ByteView written, const WritePlan& plan) {
   const auto reloaded = std::make_unique<State>();
-  LoadFlash(*reloaded, written, std::max(state.ChannelCount, 1), 0, {});
+  LoadFlash(*reloaded, written, std::min(state.ChannelCount, plan.maxChannels), 0, {});
   Unwritten unwritten;
   CompareChannels(state, *reloaded, unwritten);
   for (int slot = 1; slot <= state.TransponderCount; ++slot) {
@@ -167,7 +167,7 @@ Unwritten FindUnwritten(const State& state, Base::ByteView written, FlashType ty
     const TransponderRecord& ours = state.TransponderTable[at].record;
     if (!IsFree(ours) && ours != reloaded->TransponderTable[at].record) ++unwritten.transponders;
   }
-  if (type == FlashType::Two && !state.FavouritesBlock.empty())
+  if (plan.type == FlashType::Two && !state.FavouritesBlock.empty())
     CompareFavourites(state, *reloaded, unwritten);
   return unwritten;
 }

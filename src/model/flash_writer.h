@@ -42,6 +42,7 @@ struct Unwritten {
   [[nodiscard]] std::string Text() const;
 };
 
-Unwritten FindUnwritten(const State& state, Base::ByteView written, FlashType type);
+// `written` is loaded as the receiver that `plan` was made for does, up to the channels it can take.
+Unwritten FindUnwritten(const State& state, Base::ByteView written, const WritePlan& plan);
 
 }  // namespace Routines

@@ -36,6 +36,10 @@ std::string_view SymbolRateText(std::string_view table, std::size_t code) {
   return Cell(table, code).substr(0, SymbolRateCell - 1);
 }
 
+bool SamePlaces(std::string_view one, std::string_view other) {
+  return Cell(one, 1) == Cell(other, 1) && Cell(one, 3) == Cell(other, 3);
+}
+
 int ConvertiSR(State& state, Sr22000 place) {
   std::string output = state.SymbolRateTable;
   PlaceUsualRates(output, place);

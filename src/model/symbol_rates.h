@@ -26,6 +26,9 @@ void PlaceUsualRates(std::string& table, Sr22000 place);
 // The five characters shown for a code; empty for a code above 15.
 std::string_view SymbolRateText(std::string_view table, std::size_t code);
 
+// Whether two tables have 22000 and 27500 in the same cells.
+bool SamePlaces(std::string_view one, std::string_view other);
+
 // Recodes transponders 1..TransponderCount for a receiver that has 22000 at `place`: the input table with its
 // second and fourth cells set so becomes the table in force. A rate that this table lacks, and a code whose
 // cell was never filled, keep their code. Returns how many transponders have another code now.

@@ -5,7 +5,7 @@ namespace Routines {
 Base::Outcome CheckSettings(const Settings& settings) {
   if (!settings.quantiCanali) return Base::Error{std::string(NoCapacityChosen)};
   if (!settings.flashScrittura) return Base::Error{"Si deve selezionare il tipo di FLASH da registrare"};
-  if (!settings.srDef) return Base::Error{"Si deve definire la posizione dell' SR 22000"};
+  if (!settings.srDef) return Base::Error{"Si deve definere la posizione dell' SR 22000"};
   return Base::Done{};
 }
 

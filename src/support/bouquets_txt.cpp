@@ -10,7 +10,7 @@
 namespace Support {
 namespace {
 
-constexpr std::size_t SizeLimit = 16U << 20U;
+constexpr std::size_t SizeLimit = 1U << 20U;
 
 double Megahertz(std::string_view text) {
   text = Base::TrimmedLeft(text);

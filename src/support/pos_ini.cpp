@@ -35,8 +35,9 @@ void RememberFolderOf(const std::string& programFolder, FolderKind kind, const s
   Folders folders = ReadFolders(programFolder);
   const std::size_t separator = path.find_last_of("/\\");
   // A line end inside a folder's name would push the other folders off their lines.
-  if (separator == std::string::npos || path.find_first_of("\r\n") < separator) return;
-  folders[static_cast<std::size_t>(kind)] = path.substr(0, separator);
+  if (separator != std::string::npos && path.find_first_of("\r\n") >= separator) {
+    folders[static_cast<std::size_t>(kind)] = path.substr(0, separator);
+  }
   std::string text;
   for (std::size_t i = 0; i < folders.size(); ++i) text += std::to_string(i) + ":" + folders[i] + "\r\n";
   // Nothing to be done where it cannot be written: the next dialog opens in its default folder.

@@ -15,7 +15,7 @@ enum class Section { None, Input, Output };
 bool TakeRate(std::string_view line, std::string& table) {
   const std::string_view code = line.substr(0, 2);
   if (line.size() < 3 || code < "00" || code > "15" || line[2] != '=') return false;
-  const std::string_view rate = line.substr(3);
+  const std::string_view rate = Base::TrimmedLeft(line.substr(3));
   if (Base::LeadingDigits(rate).find_first_not_of('0') == std::string_view::npos) return true;
   Routines::SetSymbolRate(table, static_cast<std::size_t>(Base::LeadingNumber(code)), rate);
   return true;

@@ -17,6 +17,7 @@ namespace {
 
 constexpr const char* InputTitle = "Errore FLASH di Input";
 constexpr const char* OutputTitle = "Errore FLASH di Output";
+constexpr const char* RatesMovedText = " - SR 22000 spostato senza Converti SR";
 
 QString LoadResult(const State& state, const Routines::LoadReport& report, bool appended) {
   QString text;
@@ -75,19 +76,27 @@ void FileCommands::Load(const std::string& path, const Base::Bytes& image, int a
   const auto rates = session_.LoadSymbolRates();
   if (!rates) return;
   const int capacity = session_.settings.Chosen().Capacity();
+  const bool appended = appendStart > 0;
+  const bool ratesMoved = appended && RatesMoved(*rates);
   Document& document = session_.document;
   const Routines::LoadReport report = document.Apply([&](State& state) {
     auto loaded = Routines::LoadFlash(state, image, capacity, appendStart, session_.bouquets.tables);
     state.SymbolRateTable = rates->table;
     state.InputFlash = path;
-    if (appendStart == 0) state.OutputFlash.clear();
+    if (!appended) state.OutputFlash.clear();
     return loaded;
   });
-  if (appendStart == 0) document.MarkSaved();
-  session_.view.Show(View::Channels);
+  if (!appended) document.MarkSaved();
+  session_.view.ShowFromStart(View::Channels);
   for (const std::string& message : report.messages) session_.dialogs.Message(Text(message), {});
   session_.status.ShowResult(PathText(Base::FileName(path)) + ": " +
-                             LoadResult(document.Tables(), report, appendStart > 0));
+                             LoadResult(document.Tables(), report, appended) +
+                             (ratesMoved ? RatesMovedText : ""));
+}
+
+// Whether the list's codes were read with 22000 in another place than `SRDef` now says.
+bool FileCommands::RatesMoved(const Support::SymbolRates& rates) const {
+  return !Routines::SamePlaces(rates.table, session_.document.Tables().SymbolRateTable);
 }
 
 std::optional<FileCommands::Preparation> FileCommands::Prepare() {
@@ -101,7 +110,7 @@ std::optional<FileCommands::Preparation> FileCommands::Prepare() {
   if (!rates || !rates->missing.empty()) return std::nullopt;
 
   const State& state = session_.document.Tables();
-  Preparation preparation{Routines::PlanWrite(state, chosen), rates->table != state.SymbolRateTable};
+  Preparation preparation{Routines::PlanWrite(state, chosen), RatesMoved(*rates)};
   if (!preparation.plan.warning.empty()) session_.dialogs.Message(Text(preparation.plan.warning), {});
   return preparation;
 }
@@ -162,7 +171,7 @@ void FileCommands::TellWritten(const std::string& path, const Routines::PatchedF
                                const Preparation& preparation) {
   Document& document = session_.document;
   const Routines::Unwritten unwritten =
-      Routines::FindUnwritten(document.Tables(), patched.image, preparation.plan.type);
+      Routines::FindUnwritten(document.Tables(), patched.image, preparation.plan);
   document.Apply([&path](State& state) {
     state.OutputFlash = path;
     state.MaxChannels = 0;
@@ -172,7 +181,7 @@ void FileCommands::TellWritten(const std::string& path, const Routines::PatchedF
 
   QString result = "Scritta " + PathText(Base::FileName(path));
   if (!unwritten.Nothing()) result += ": " + Text(unwritten.Text());
-  if (preparation.ratesMoved) result += " - SR 22000 spostato senza Converti SR";
+  if (preparation.ratesMoved) result += RatesMovedText;
   session_.status.ShowResult(result);
   session_.dialogs.Message(Text(Routines::WriteSummary(document.Tables(), patched)), {});
 }

@@ -25,6 +25,7 @@ class FileCommands {
 
   std::optional<int> AskAppendStart();
   void Load(const std::string& path, const Base::Bytes& image, int appendStart);
+  [[nodiscard]] bool RatesMoved(const Support::SymbolRates& rates) const;
   std::optional<Preparation> Prepare();
   void AskAndWrite(const Preparation& preparation);
   void Write(const std::string& path, const Base::Bytes& original, const Preparation& preparation);

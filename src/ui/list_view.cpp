@@ -36,11 +36,18 @@ ListView::ListView(const Document& document, QAction& showChannels, QAction& sho
   column->setSpacing(3);
   column->addWidget(marker_);
   column->addLayout(stack_, 1);
-  Show(View::None);
+  ShowFromStart(View::None);
 }
 
 void ListView::Show(View view) {
-  const bool changed = view != current_;
+  if (view == current_) {
+    RestoreTicks();
+    return;
+  }
+  ShowFromStart(view);
+}
+
+void ListView::ShowFromStart(View view) {
   current_ = view;
   if (view == View::None) {
     marker_->clear();
@@ -53,7 +60,7 @@ void ListView::Show(View view) {
     const bool channels = view == View::Channels;
     marker_->setText(channels ? "Canali" : "Transponders");
     printHeading_ = channels ? "Stampa Canali" : "Stampa Transponder";
-    if (changed) grid_->ShowList(channels ? &channels_ : &transponders_);
+    grid_->ShowList(channels ? &channels_ : &transponders_);
     stack_->setCurrentWidget(grid_);
   }
   marker_->setVisible(view != View::None);

@@ -25,8 +25,9 @@ class ListView : public QWidget {
   // "Stampa Canali" or "Stampa Transponder", as the list last shown asks for.
   [[nodiscard]] QString PrintHeading() const { return printHeading_; }
 
-  // Shows a list from its start, marker and ticks included. A list already shown keeps its place.
+  // Shows a list, marker and ticks included. One that is shown already keeps its place, unless it is to start anew.
   void Show(View view);
+  void ShowFromStart(View view);
   // The menu commands: a list that is shown is closed, else it is shown.
   void Toggle(View view);
   // Sets the ticks to what is shown, for a command that was refused.

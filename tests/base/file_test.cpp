@@ -71,7 +71,7 @@ TEST(File, WhatIsNoFileToWriteIsRefused) {
                {folder.Path(), EISDIR},
                {folder.Path("none/flash.dat"), ENOENT},
                {loop, ELOOP},
-               {"/dev/null", EINVAL}};
+               {"/dev/null", NotAFile}};
   for (const auto& c : cases) {
     const Outcome result = ReplaceFile(c.path, New);
     ASSERT_FALSE(result) << c.path;

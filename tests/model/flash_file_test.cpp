@@ -68,6 +68,25 @@ TEST(FlashFile, InALockedFolderTheCopyGoesToTheProgramsFolder) {
   EXPECT_EQ(Contents(path), New);
 }
 
+// The copy of a failed attempt is not the copy of what the file holds by the next one.
+TEST(FlashFile, AFailedOverwritingDoesNotUseUpTheCopy) {
+  const TestFolder folder;
+  const std::string path = folder.Write("a.dat", Old);
+  Backups session{folder.Path(), {}};
+  ::chmod(path.c_str(), 0400);
+  {
+    const Tests::OrdinaryUser user;
+    EXPECT_FALSE(SaveFlash(path, Old, New, session));
+  }
+  const Base::Bytes other(FlashSize, '7');
+  folder.Write("a.dat", other);
+  ASSERT_TRUE(SaveFlash(path, other, New, session));
+  EXPECT_EQ(Contents(path + ".bak2"), other);
+  struct stat status {};
+  ASSERT_EQ(::stat((path + ".bak2").c_str(), &status), 0);
+  EXPECT_EQ(status.st_mode & 0777U, 0666U) << "a copy is as open or closed as its image";
+}
+
 TEST(FlashFile, WithoutRoomForTheCopyNothingIsWritten) {
   const TestFolder folder;
   const std::string path = folder.Write("a.dat", Old);

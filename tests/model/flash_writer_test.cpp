@@ -202,7 +202,7 @@ TEST(FlashWriter, WhatAnImageDoesNotTakeIsTold) {
   const Base::Bytes original = Template().Image();
   const auto unwritten = [&](const State& state, FlashType type) {
     const PatchedFlash patched = PatchFlash(state, original, {type, state.ChannelCount, ""});
-    return FindUnwritten(state, patched.image, type).Text();
+    return FindUnwritten(state, patched.image, {type, state.ChannelCount, ""}).Text();
   };
   auto state = ListOf(9, 9);
   EXPECT_EQ(unwritten(*state, FlashType::Two), "4 canali non scritti")
@@ -222,7 +222,7 @@ TEST(FlashWriter, WhatAnImageDoesNotTakeIsTold) {
   EXPECT_EQ(unwritten(*state, FlashType::Two), "nomi delle liste persi");
   EXPECT_EQ(unwritten(*state, FlashType::One), "");
   const Base::Bytes bare = ImageBuilder(3).PutRecords(1, 0, 16, "TCS", Channels(5)).Image();
-  EXPECT_EQ(FindUnwritten(*ListOf(5, 5), bare, FlashType::Two).Text(),
+  EXPECT_EQ(FindUnwritten(*ListOf(5, 5), bare, {FlashType::Two, 5, ""}).Text(),
             "2 transponder non scritti, preferiti non scritti");
 }
 

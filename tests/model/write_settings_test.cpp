@@ -7,7 +7,7 @@ namespace Routines {
 TEST(WriteSettings, TheFirstMissingChoiceIsTold) {
   EXPECT_EQ(CheckSettings({}).error().message, "Si deve selezionare il numero di canali da visualizzare");
   EXPECT_EQ(CheckSettings({0, {}, {}}).error().message, "Si deve selezionare il tipo di FLASH da registrare");
-  EXPECT_EQ(CheckSettings({0, 0, {}}).error().message, "Si deve definire la posizione dell' SR 22000");
+  EXPECT_EQ(CheckSettings({0, 0, {}}).error().message, "Si deve definere la posizione dell' SR 22000");
   EXPECT_TRUE(CheckSettings({2, 2, 1}));
 }
 
