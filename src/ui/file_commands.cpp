@@ -20,12 +20,9 @@ constexpr const char* OutputTitle = "Errore FLASH di Output";
 constexpr const char* RatesMovedText = " - SR 22000 spostato senza Converti SR";
 
 QString LoadResult(const State& state, const Routines::LoadReport& report, bool appended) {
-  QString text;
-  if (report.channelsInImage > report.channelsRead) {
-    text = QString("letti %1 di %2 canali").arg(report.channelsRead).arg(report.channelsInImage);
-  } else {
-    text = QString(appended ? "accodati %1 canali" : "letti %1 canali").arg(report.channelsRead);
-  }
+  QString text = (appended ? "accodati " : "letti ") + QString::number(report.channelsRead);
+  if (report.channelsInImage > report.channelsRead) text += QString(" di %1").arg(report.channelsInImage);
+  text += " canali";
   if (report.strandedChannels > 0) {
     text += QString(", %1 canali su transponder oltre il %2")
                 .arg(report.strandedChannels)
