@@ -30,6 +30,8 @@ std::vector<ChannelRecord> Channels(const std::string& prefix, int count) {
   return records;
 }
 
+TransponderRecord At(int megahertz) { return MakeTransponder(megahertz, true, 0, 1, 2); }
+
 std::string NameAt(const State& state, int slot) {
   return std::string(state.ChannelTable[static_cast<std::size_t>(slot)].Name());
 }
@@ -45,14 +47,17 @@ TEST(FlashLoader, SectionsFollowSectorsAndDirectoryOrder) {
   image.PutRecords(5, 0, 3000, "TCS", Channels("c", 2));
   image.PutRecords(2, 6, 9000, "TCS9", Channels("b", 2)).PutRecords(2, 2, 40000, "TCS", Channels("a", 3));
   image.PutRecords(1, 0, 100, "tcs", Channels("no", 5))
-      .PutRecords(3, 7, 16, "TPTX", std::vector{MakeTransponder(11000, true, 0, 1, 2)});
+      .PutRecords(1, 1, 9000, "TPT", std::vector(300, At(10800)));
+  image.PutRecords(3, 7, 16, "TPTX", std::vector(5, At(12500)));
   LoadReport report;
   const auto state = Loaded(image, 999, &report);
   std::string names;
   for (int slot = 1; slot <= 8; ++slot) names += NameAt(*state, slot) + " ";
   EXPECT_EQ(names, "a1 a2 a3 b1 b2 c1 c2  ");
   EXPECT_EQ(report.channelsRead, 7);
-  EXPECT_EQ(state->TransponderCount, 1);
+  EXPECT_EQ(state->TransponderCount, 5) << "the last section sets the count";
+  EXPECT_EQ(state->TransponderTable[5].record, At(12500));
+  EXPECT_EQ(state->TransponderTable[254].record, At(10800));
   EXPECT_EQ(state->TransponderTable[1].BouquetName().substr(0, 8), "Nessuno ");
   EXPECT_EQ(state->MaxChannels, 999);
   EXPECT_EQ(state->ChannelCount, 999);
@@ -97,7 +102,7 @@ TEST(FlashLoader, EmptyRecordsKeepTheirSlotAndLoseTheirJunk) {
 TEST(FlashLoader, NothingOfALargerListSurvives) {
   ImageBuilder large(4);
   large.PutRecords(1, 0, 16, "TCS", Channels("old", 2000));
-  large.PutRecords(2, 0, 16, "TPT", std::vector(254, MakeTransponder(11000, true, 0, 1, 2)));
+  large.PutRecords(2, 0, 16, "TPT", std::vector(254, At(11000)));
   auto state = Loaded(large, 3996);
   state->TransponderTable[9].SetBouquet("Vecchio", "07");
   LoadFlash(*state, ImageBuilder(5).PutRecords(1, 0, 16, "TCS", Channels("new", 3)).Image(), 999, 0, {});
@@ -105,17 +110,6 @@ TEST(FlashLoader, NothingOfALargerListSurvives) {
   EXPECT_EQ(state->TransponderCount, 0);
   EXPECT_EQ(state->TransponderTable[9], TransponderRow{});
   EXPECT_EQ(state->FavouritesBlock, Base::Bytes(NormalFavouritesSize, 0));
-}
-
-TEST(FlashLoader, TheLastOfSeveralTransponderSectionsSetsTheCount) {
-  const auto low = MakeTransponder(10800, false, 0, 1, 2);
-  const auto high = MakeTransponder(12500, true, 1, 1, 2);
-  ImageBuilder image(6);
-  image.PutRecords(1, 0, 16, "TPT", std::vector(300, low)).PutRecords(2, 0, 16, "TPT", std::vector(5, high));
-  const auto state = Loaded(image, 999);
-  EXPECT_EQ(state->TransponderCount, 5);
-  EXPECT_EQ(state->TransponderTable[5].record, high);
-  EXPECT_EQ(state->TransponderTable[254].record, low);
 }
 
 TEST(FlashLoader, FavouritesComeFromConfigPre) {
@@ -143,8 +137,7 @@ TEST(FlashLoader, BouquetsAreFoundBySatelliteAndLessThanThreeMegahertz) {
                      {"Giusto", "11002", "SAT A", "03", 0, 11002},
                      {"Dopo", "11000", "SAT A", "04", 0, 11000}};
   ImageBuilder image(10);
-  image.PutRecords(1, 0, 16, "TPT",
-                   std::vector{MakeTransponder(11000, true, 0, 1, 2), MakeTransponder(11500, true, 0, 1, 2)});
+  image.PutRecords(1, 0, 16, "TPT", std::vector{At(11000), At(11500)});
   State state;
   LoadFlash(state, image.Image(), 999, 0, tables);
   EXPECT_EQ(state.TransponderTable[1].BouquetName(), "Giusto" + std::string(30, ' '));
@@ -155,9 +148,7 @@ TEST(FlashLoader, BouquetsAreFoundBySatelliteAndLessThanThreeMegahertz) {
 TEST(FlashLoader, AppendingMergesTranspondersAndLeavesASlotFree) {
   ImageBuilder first(11);
   first.PutRecords(1, 0, 16, "TCS", Channels("a", 4));
-  first.PutRecords(1, 1, 900, "TPT",
-                   std::vector{MakeTransponder(10800, true, 0, 1, 2), TransponderRecord{},
-                               MakeTransponder(12000, true, 0, 1, 2)});
+  first.PutRecords(1, 1, 900, "TPT", std::vector{At(10800), TransponderRecord{}, At(12000)});
   auto state = Loaded(first, 999);
   state->FavouritesBlock[1] = 4;
   const Base::Bytes favourites = state->FavouritesBlock;
@@ -169,9 +160,9 @@ TEST(FlashLoader, AppendingMergesTranspondersAndLeavesASlotFree) {
   for (int i = 0; i < 6; ++i)
     Set(channels[static_cast<std::size_t>(i)], ChannelField::Transponder, static_cast<std::uint32_t>(i + 1));
   second.PutRecords(2, 0, 16, "TCS", channels);
-  second.PutRecords(2, 1, 900, "TPT",
-                    std::vector{MakeTransponder(12002, true, 0, 9, 2), fresh, TransponderRecord{},
-                                MakeTransponder(12600, true, 0, 1, 2)});
+  second.PutRecords(
+      2, 1, 900, "TPT",
+      std::vector{MakeTransponder(12002, true, 0, 9, 2), fresh, TransponderRecord{}, At(12600)});
   second.PutFavourites(3, 0, 16, Base::Bytes(NormalFavouritesSize, 9), 0);
   ASSERT_EQ(AppendStart(*state), 5);
   LoadReport report = LoadFlash(*state, second.Image(), 2000, AppendStart(*state), {});
@@ -195,15 +186,11 @@ TEST(FlashLoader, AppendingMergesTranspondersAndLeavesASlotFree) {
 TEST(FlashLoader, AppendingWithoutRoomTellsEachTransponder) {
   ImageBuilder first(13);
   first.PutRecords(1, 0, 16, "TCS", Channels("a", 1));
-  first.PutRecords(1, 1, 900, "TPT",
-                   std::vector{MakeTransponder(10800, true, 0, 1, 2), MakeTransponder(10900, true, 0, 1, 2),
-                               MakeTransponder(11900, true, 0, 1, 2)});
+  first.PutRecords(1, 1, 900, "TPT", std::vector{At(10800), At(10900), At(11900)});
   const auto state = Loaded(first, 3996);
   ImageBuilder second(14);
   second.PutRecords(1, 0, 16, "TCS", Channels("b", 1));
-  second.PutRecords(
-      1, 1, 900, "TPT",
-      std::vector{MakeTransponder(12000, true, 0, 1, 2), MakeTransponder(12100, true, 0, 1, 2)});
+  second.PutRecords(1, 1, 900, "TPT", std::vector{At(12000), At(12100)});
   const LoadReport report = LoadFlash(*state, second.Image(), 3996, AppendStart(*state), {});
   const std::string told =
       "Superato il numero di transponders gestibili 2\ncollego i canali restanti sul transponder 2";
