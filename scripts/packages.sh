@@ -1,7 +1,7 @@
 # Sourced by run, test and .ci/run: makes sure that Debian packages are there.
 
 BUILD_PACKAGES="build-essential cmake ninja-build qt6-base-dev qt6-svg-dev qt6-translations-l10n fonts-dejavu-core"
-SHOW_PACKAGES="xvfb xauth"
+SHOW_PACKAGES="xvfb xauth qt6-wayland"
 TEST_PACKAGES="libgtest-dev libbenchmark-dev"
 CHECK_PACKAGES="clang clang-format clang-tidy git"
 
@@ -16,7 +16,8 @@ need_packages() {
   if [ "$(id -u)" -ne 0 ]; then
     if ! sudo -n true 2>/dev/null; then
       echo "These packages are missing. Please type this once, then start again:" >&2
-      echo "  su -c 'apt-get update && apt-get install -y --no-install-recommends ${missing[*]}'" >&2
+      local command="apt-get update && apt-get install -y --no-install-recommends ${missing[*]}"
+      if command -v sudo >/dev/null; then echo "  sudo sh -c '$command'" >&2; else echo "  su -c '$command'" >&2; fi
       exit 1
     fi
     as_root=(sudo -n)

@@ -9,15 +9,18 @@ const Bouquet* FindBouquet(const BouquetTables& tables, int frequencyMHz, std::s
   return nullptr;
 }
 
+void NameBouquet(TransponderRow& row, const BouquetTables& tables) {
+  const Bouquet* bouquet = FindBouquet(tables, FrequencyMHz(row.record), SatelliteLabel(row.record));
+  if (bouquet != nullptr) {
+    row.SetBouquet(bouquet->name, bouquet->code);
+  } else {
+    row.SetBouquet("Nessuno", "");
+  }
+}
+
 void NameBouquets(State& state, const BouquetTables& tables) {
   for (int slot = 1; slot <= state.TransponderCount; ++slot) {
-    TransponderRow& row = state.TransponderTable[static_cast<std::size_t>(slot)];
-    const Bouquet* bouquet = FindBouquet(tables, FrequencyMHz(row.record), SatelliteLabel(row.record));
-    if (bouquet != nullptr) {
-      row.SetBouquet(bouquet->name, bouquet->code);
-    } else {
-      row.SetBouquet("Nessuno", "");
-    }
+    NameBouquet(state.TransponderTable[static_cast<std::size_t>(slot)], tables);
   }
 }
 

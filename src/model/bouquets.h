@@ -35,7 +35,10 @@ struct BouquetTables {
 // The first bouquet of that satellite less than 3 MHz away, or null.
 const Bouquet* FindBouquet(const BouquetTables& tables, int frequencyMHz, std::string_view label);
 
-// Looks up transponders 1..TransponderCount; one without a bouquet is named "Nessuno" and has no code.
+// Looks a transponder up; one without a bouquet is named "Nessuno" and has no code.
+void NameBouquet(TransponderRow& row, const BouquetTables& tables);
+
+// Does so for transponders 1..TransponderCount.
 void NameBouquets(State& state, const BouquetTables& tables);
 
 }  // namespace Routines

@@ -21,6 +21,8 @@ inline constexpr Colour Service = 0xFF80FF;
 inline constexpr Colour Transponder = 0xFFFFFF;
 inline constexpr Colour DoubtfulTransponder = 0x8080FF;
 inline constexpr Colour NoFrequency = 0x008000;
+inline constexpr Colour Found = 0x0080FF;     // by the search for a name
+inline constexpr Colour Filtered = 0x80C8FF;  // by the filter above the grid
 }  // namespace Colours
 
 // Header format strings: columns divided by "|", "^" centres and "<" aligns left, the length sets the width.

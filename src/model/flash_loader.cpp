@@ -91,26 +91,13 @@ class Loader {
   // Finds or makes the slot of the second flash's transponder `number`.
   void Merge(int number, const TransponderRecord& record) {
     if (IsFree(record)) return;
-    int free = 0;
-    for (int i = 1; i <= state_.TransponderCount; ++i) {
-      const TransponderRecord& known = state_.TransponderTable[static_cast<std::size_t>(i)].record;
-      if (IsFree(known)) {
-        if (free == 0) free = i;
-      } else if (SameTransponder(known, record)) {
-        Map(number, i);
-        return;
-      }
+    int slot = FindOrAddTransponder(state_, record);
+    if (slot == 0) {
+      slot = state_.TransponderCount;
+      report_.messages.push_back(TooManyTransponders(slot));
     }
-    if (free == 0) {
-      report_.messages.push_back(TooManyTransponders(state_.TransponderCount));
-      Map(number, state_.TransponderCount);
-      return;
-    }
-    state_.TransponderTable[static_cast<std::size_t>(free)].record = record;
-    Map(number, free);
+    mapping_[static_cast<std::size_t>(number)] = slot;
   }
-
-  void Map(int number, int transponderSlot) { mapping_[static_cast<std::size_t>(number)] = transponderSlot; }
 
   void TakeFavourites(const Entry& entry) {
     if (Appending()) return;

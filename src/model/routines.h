@@ -24,6 +24,7 @@ struct State {
   int TransponderCount = 0;  // at most 254
 
   bool Loaded = false;
+  int ListNumber = 0;       // another one for every list loaded in the place of the last
   std::string InputFlash;   // path of the flash image last opened
   std::string OutputFlash;  // path of the flash image chosen for writing, empty when none is
 
@@ -49,6 +50,22 @@ inline int UsedTransponders(const State& state) {
   const auto first = state.TransponderTable.begin() + 1;
   return static_cast<int>(std::count_if(first, first + state.TransponderCount,
                                         [](const TransponderRow& row) { return !IsFree(row.record); }));
+}
+
+// The slot 1..TransponderCount whose transponder is the same as `record`, else the first free one, which then takes
+// it; 0 when there is neither.
+inline int FindOrAddTransponder(State& state, const TransponderRecord& record) {
+  int free = 0;
+  for (int slot = 1; slot <= state.TransponderCount; ++slot) {
+    const TransponderRecord& known = state.TransponderTable[static_cast<std::size_t>(slot)].record;
+    if (IsFree(known)) {
+      if (free == 0) free = slot;
+    } else if (SameTransponder(known, record)) {
+      return slot;
+    }
+  }
+  if (free != 0) state.TransponderTable[static_cast<std::size_t>(free)].record = record;
+  return free;
 }
 
 }  // namespace Routines

@@ -4,6 +4,7 @@
 #include "base/file.h"
 #include "base/text.h"
 
+#include <cerrno>
 #include <charconv>
 #include <cmath>
 
@@ -87,7 +88,10 @@ BouquetDefinitions BouquetsOf(std::string_view text) { return Reader().Run(text)
 
 BouquetDefinitions LoadBouquets(const std::string& folder) {
   const auto bytes = Base::ReadFile(folder + "/Bouquets.txt", SizeLimit);
-  return bytes ? BouquetsOf(Base::AsText(*bytes)) : BouquetDefinitions{};
+  if (bytes) return BouquetsOf(Base::AsText(*bytes));
+  BouquetDefinitions none;
+  if (bytes.error().systemCode != ENOENT) none.errors.push_back(bytes.error().message);
+  return none;
 }
 
 }  // namespace Support

@@ -21,7 +21,9 @@ void AddCommand(QMainWindow& window, QMenu& menu, const Command& command) {
   action->setObjectName(command.name);
   if (*command.icon != '\0') action->setIcon(IconNamed(command.icon));
   if (*command.key != '\0') action->setShortcut(QKeySequence(command.key));
+  if (command.forRows) action->setShortcutContext(Qt::WidgetShortcut);
   action->setCheckable(command.checkable);
+  if (command.checkable) action->setIconVisibleInMenu(false);  // it would hide the tick
   action->setEnabled(false);
   menu.addAction(action);
 }
@@ -55,6 +57,7 @@ void BuildToolbar(QMainWindow& window) {
     action->setObjectName(ButtonName(button.key));
     action->setToolTip(button.tip);
     action->setEnabled(false);
+    action->setVisible(!button.hidden);
     auto* widget = qobject_cast<QToolButton*>(toolbar->widgetForAction(action));
     widget->setObjectName(ButtonName(button.key));
     widget->setAccessibleName(button.tip);

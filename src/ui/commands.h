@@ -21,6 +21,7 @@ struct Command {
   const char* key = "";
   bool checkable = false;
   bool startsGroup = false;  // a line divides it from the command above
+  bool forRows = false;      // its key counts only while the grid has the focus
 };
 
 inline constexpr std::array Commands = {
@@ -35,7 +36,16 @@ inline constexpr std::array Commands = {
     Command{"ApriFlashOutput", "Salva Flash come", Menu::File, "save-as", "Ctrl+Shift+S"},
     Command{.name = "Fine", .caption = "Fine", .menu = Menu::File, .icon = "exit", .startsGroup = true},
 
-    Command{"CaricaImportato", "Carica Canali da file esportato", Menu::Utilities, "import"},
+    Command{"Annulla", "Annulla", Menu::Utilities, "undo", "Ctrl+Z"},
+    Command{"Ripeti", "Ripeti", Menu::Utilities, "redo", "Ctrl+Y"},
+    Command{"Copia", "Copia", Menu::Utilities, "copy", "Ctrl+C", false, true, true},
+    Command{"Taglia", "Taglia", Menu::Utilities, "cut", "Ctrl+X", false, false, true},
+    Command{"Incolla", "Incolla", Menu::Utilities, "paste", "Ctrl+V", false, false, true},
+    Command{"Elimina", "Elimina", Menu::Utilities, "delete", "Del", false, false, true},
+    Command{"SpostaSu", "Sposta su", Menu::Utilities, "", "Alt+Up", false, true, true},
+    Command{"SpostaGiu", "Sposta giù", Menu::Utilities, "", "Alt+Down", false, false, true},
+    Command{"SpostaA", "Sposta a…", Menu::Utilities},
+    Command{"CaricaImportato", "Carica Canali da file esportato", Menu::Utilities, "import", "", false, true},
     Command{.name = "Azzera",
             .caption = "Azzera Canali e Transponder",
             .menu = Menu::Utilities,
@@ -57,8 +67,11 @@ inline constexpr std::array Commands = {
             .caption = "Ricerca canale per Nome",
             .menu = Menu::Utilities,
             .icon = "find",
+            .key = "Ctrl+F",
             .startsGroup = true},
-    Command{"VaiAlCanale", "Vai al Canale Nr.", Menu::Utilities, "goto"},
+    Command{"CercaSuccessivo", "Ricerca successivo", Menu::Utilities, "", "F3"},
+    Command{"Filtra", "Filtro", Menu::Utilities, "", "Ctrl+Shift+F"},
+    Command{"VaiAlCanale", "Vai al Canale Nr.", Menu::Utilities, "goto", "Ctrl+G"},
     Command{.name = "StampaGriglia",
             .caption = "Stampa",
             .menu = Menu::Utilities,
@@ -91,6 +104,7 @@ struct ToolbarButton {
   const char* tip;
   const char* icon;
   bool startsGroup = false;
+  bool hidden = false;
 };
 
 inline constexpr std::array ToolbarButtons = {
@@ -98,6 +112,8 @@ inline constexpr std::array ToolbarButtons = {
     ToolbarButton{"Save", "Salva Flash", "save"},
     ToolbarButton{"Canali", "Visualizza Canali", "channels", true},
     ToolbarButton{"TRANSPONDERS", "Visualizza Transponders", "transponders"},
+    ToolbarButton{"Rectangle", "Rectangle", "", false, true},
+    ToolbarButton{"New", "New", "", false, true},
     ToolbarButton{"Copy", "Copia canali selezionati", "copy", true},
     ToolbarButton{"Paste", "Incolla canali salvati con Copia o Taglia", "paste"},
     ToolbarButton{"Cut", "Taglia canali selezionati", "cut"},

@@ -3,6 +3,7 @@
 
 #include <QString>
 
+#include <optional>
 #include <string>
 #include <string_view>
 
@@ -24,13 +25,20 @@ struct FileQuestion {
   QString folder;   // empty for the toolkit's own choice
 };
 
+enum class Tone { Warning, Information };
+enum class Answer { Yes, No, Cancel };
+
 class Dialogs {
  public:
   virtual ~Dialogs() = default;
 
   // An empty title stands for the program's name.
-  virtual void Message(const QString& text, const QString& title) = 0;
+  virtual void Message(const QString& text, const QString& title, Tone tone = Tone::Warning) = 0;
   virtual bool YesNo(const QString& question) = 0;
+  virtual Answer YesNoCancel(const QString& question) = 0;
+  virtual bool OkCancel(const QString& question) = 0;
+  // The line typed, nothing when the user cancels.
+  virtual std::optional<QString> AskLine(const QString& question) = 0;
   // The chosen path, empty when the user cancels.
   virtual QString OpenFile(const FileQuestion& question) = 0;
 };

@@ -2,6 +2,7 @@
 // date and a command that changed nothing leaves no trace.
 #pragma once
 
+#include "edit/history.h"
 #include "model/routines.h"
 
 #include <QObject>
@@ -18,27 +19,49 @@ class Document : public QObject {
 
   [[nodiscard]] const Routines::State& Tables() const { return *state_; }
 
-  // Runs `operation` on the tables and tells the views where it changed any. Returns what `operation`
-  // returns.
+  // Runs `operation` on the tables as one step that can be undone, named `label` (UTF-8), and tells the views
+  // where it changed any. Without a change there is no step. Returns what `operation` returns.
   template <class Operation>
-  auto Apply(Operation operation) {
-    const auto before = std::make_unique<Routines::State>(*state_);
+  auto Apply(const std::string& label, Operation operation,
+             Edit::History::Kind kind = Edit::History::Kind::Edit) {
+    auto before = std::make_unique<Routines::State>(*state_);
     auto result = operation(*state_);
-    if (*before != *state_) emit Changed();
+    if (*before != *state_) {
+      history_.Push(label, kind, std::move(before));
+      Q_EMIT Changed();
+    }
     return result;
   }
+
+  // Changes what is no part of the list itself, and so no step: where it is written, how rates are shown.
+  template <class Operation>
+  void Adjust(Operation operation) {
+    operation(*state_);
+    Q_EMIT Changed();
+  }
+
+  [[nodiscard]] const Edit::History& Steps() const { return history_; }
+  void Undo();
+  void Redo();
+
+  // A number for a list that takes the place of the loaded one; never the same twice.
+  int NextListNumber() { return ++lastListNumber_; }
 
   // Whether the tables hold anything that no flash image gives back.
   [[nodiscard]] bool Unsaved() const;
   // The tables are as an image on the disk has them.
   void MarkSaved();
+  // No image on the disk has them whole, however little was changed.
+  void MarkUnsaved();
 
- signals:
+ Q_SIGNALS:
   void Changed();
 
  private:
   std::unique_ptr<Routines::State> state_;
-  std::unique_ptr<Routines::State> saved_;
+  std::unique_ptr<Routines::State> saved_;  // null where nothing on the disk has the list
+  Edit::History history_;
+  int lastListNumber_ = 0;
 };
 
 }  // namespace Ui

@@ -19,6 +19,13 @@ constexpr const char* InputTitle = "Errore FLASH di Input";
 constexpr const char* OutputTitle = "Errore FLASH di Output";
 constexpr const char* RatesMovedText = " - SR 22000 spostato senza Converti SR";
 
+// A file's name, short enough to leave room for what is said of it.
+QString ShortName(const std::string& path) {
+  constexpr qsizetype Longest = 60;
+  const QString name = PathText(Base::FileName(path));
+  return name.size() <= Longest ? name : name.left(Longest / 2) + "…" + name.right(Longest / 2);
+}
+
 QString LoadResult(const State& state, const Routines::LoadReport& report, bool appended) {
   QString text = (appended ? "accodati " : "letti ") + QString::number(report.channelsRead);
   if (report.channelsInImage > report.channelsRead) text += QString(" di %1").arg(report.channelsInImage);
@@ -74,20 +81,27 @@ void FileCommands::Load(const std::string& path, const Base::Bytes& image, int a
   if (!rates) return;
   const int capacity = session_.settings.Chosen().Capacity();
   const bool appended = appendStart > 0;
+  session_.status.ShowProgress(30);
   const bool ratesMoved = appended && RatesMoved(*rates);
   Document& document = session_.document;
-  const Routines::LoadReport report = document.Apply([&](State& state) {
-    auto loaded = Routines::LoadFlash(state, image, capacity, appendStart, session_.bouquets.tables);
-    state.SymbolRateTable = rates->table;
-    state.InputFlash = path;
-    if (!appended) state.OutputFlash.clear();
-    return loaded;
-  });
+  const Routines::LoadReport report = document.Apply(
+      appended ? "Accoda Flash" : "Apri Flash",
+      [&](State& state) {
+        auto loaded = Routines::LoadFlash(state, image, capacity, appendStart, session_.bouquets.tables);
+        state.SymbolRateTable = rates->table;
+        state.InputFlash = path;
+        if (!appended) {
+          state.OutputFlash.clear();
+          state.ListNumber = document.NextListNumber();
+        }
+        return loaded;
+      },
+      Edit::History::Kind::List);
   if (!appended) document.MarkSaved();
+  session_.status.ShowProgress(100);
   session_.view.ShowFromStart(View::Channels);
   for (const std::string& message : report.messages) session_.dialogs.Message(Text(message), {});
-  session_.status.ShowResult(PathText(Base::FileName(path)) + ": " +
-                             LoadResult(document.Tables(), report, appended) +
+  session_.status.ShowResult(ShortName(path) + ": " + LoadResult(document.Tables(), report, appended) +
                              (ratesMoved ? RatesMovedText : ""));
 }
 
@@ -169,18 +183,21 @@ void FileCommands::TellWritten(const std::string& path, const Routines::PatchedF
   Document& document = session_.document;
   const Routines::Unwritten unwritten =
       Routines::FindUnwritten(document.Tables(), patched.image, preparation.plan);
-  document.Apply([&path](State& state) {
+  document.Adjust([&path](State& state) {
     state.OutputFlash = path;
     state.MaxChannels = 0;
-    return Base::Done{};
   });
-  if (unwritten.Nothing()) document.MarkSaved();
+  if (unwritten.Nothing()) {
+    document.MarkSaved();
+  } else {
+    document.MarkUnsaved();
+  }
 
-  QString result = "Scritta " + PathText(Base::FileName(path));
+  QString result = "Scritta " + ShortName(path);
   if (!unwritten.Nothing()) result += ": " + Text(unwritten.Text());
   if (preparation.ratesMoved) result += RatesMovedText;
   session_.status.ShowResult(result);
-  session_.dialogs.Message(Text(Routines::WriteSummary(document.Tables(), patched)), {});
+  session_.dialogs.Message(Text(Routines::WriteSummary(document.Tables(), patched)), {}, Tone::Information);
 }
 
 void FileCommands::ConvertiSR() {
@@ -191,7 +208,7 @@ void FileCommands::ConvertiSR() {
     return;
   }
   const int changed = session_.document.Apply(
-      [&chosen](State& state) { return Routines::ConvertiSR(state, chosen.Place()); });
+      "Converti SR", [&chosen](State& state) { return Routines::ConvertiSR(state, chosen.Place()); });
   session_.view.Show(View::Transponders);
   session_.status.ShowResult(QString("Converti SR: %1 transponder ricodificati").arg(changed));
 }

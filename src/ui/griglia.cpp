@@ -1,10 +1,15 @@
 #include "ui/griglia.h"
 
+#include <QDrag>
 #include <QEvent>
 #include <QHeaderView>
+#include <QMimeData>
+#include <QMouseEvent>
+#include <QPainter>
 #include <QScrollBar>
 
 #include <algorithm>
+#include <numeric>
 
 namespace Ui {
 namespace {
@@ -24,9 +29,18 @@ Griglia::Griglia(QWidget* parent) : QTableView(parent), frozen_(new QTableView(t
   SetUp(*this);
   SetUp(*frozen_);
   setHorizontalScrollMode(ScrollPerPixel);
+  horizontalHeader()->setSectionResizeMode(QHeaderView::Interactive);
+  connect(horizontalHeader(), &QHeaderView::sectionResized, this,
+          [this](int column, int, int width) { KeepWidth(column, width); });
+  setAcceptDrops(true);
+  setDropIndicatorShown(true);
+  setDragDropMode(DragDrop);
+  setDragDropOverwriteMode(false);
+  setDefaultDropAction(Qt::MoveAction);
 
   frozen_->setObjectName("ColonnaFissa");
   frozen_->setFocusPolicy(Qt::NoFocus);
+  frozen_->setAttribute(Qt::WA_TransparentForMouseEvents);  // its rows are those of the grid below it
   frozen_->setFrameShape(NoFrame);
   frozen_->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
   frozen_->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
@@ -50,31 +64,94 @@ void Griglia::SetUp(QTableView& view) {
   view.setVerticalScrollMode(ScrollPerItem);
   view.setWordWrap(false);
   view.setCornerButtonEnabled(false);
+  view.setTabKeyNavigation(false);
 }
 
 void Griglia::ShowList(ListModel* list) {
   setModel(list);
   frozen_->setModel(list);
   frozen_->setSelectionModel(selectionModel());
-  header_ = list->Header();
   for (int column = 0; column < list->columnCount(); ++column) frozen_->setColumnHidden(column, column != 0);
+  widths_.clear();
+  for (const HeaderColumn& column : list->Header()) {
+    widths_.push_back(fontMetrics().horizontalAdvance(column.widthText) + CellMargin);
+  }
   FitColumns();
   scrollToTop();
+  horizontalScrollBar()->setValue(0);
   selectionModel()->clear();
   selectionModel()->setCurrentIndex(list->index(0, 1), QItemSelectionModel::NoUpdate);
 }
 
-void Griglia::FitColumns() {
-  if (header_.empty()) return;
-  std::vector<int> widths;
-  for (const HeaderColumn& column : header_) {
-    widths.push_back(fontMetrics().horizontalAdvance(column.widthText) + CellMargin);
+std::optional<Edit::Slots> Griglia::Selected() const {
+  if (selectionModel() == nullptr) return std::nullopt;
+  std::optional<Edit::Slots> rows;
+  for (const QItemSelectionRange& range : selectionModel()->selection()) {
+    const int first = range.top() + 1;
+    const int last = range.bottom() + 1;
+    rows = rows ? Edit::Slots{std::min(rows->first, first), std::max(rows->last, last)}
+                : Edit::Slots{first, last};
   }
-  int spare = viewport()->width();
-  for (const int width : widths) spare -= width;
+  return rows;
+}
+
+void Griglia::Select(Edit::Slots rows) {
+  const QModelIndex first = model()->index(rows.first - 1, 1);
+  selectionModel()->setCurrentIndex(first, QItemSelectionModel::NoUpdate);
+  selectionModel()->select({first, model()->index(rows.last - 1, 1)},
+                           QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows);
+  scrollTo(first);
+}
+
+void Griglia::ScrollToTop(int slot) { verticalScrollBar()->setValue(slot - 1); }
+
+// A drag that begins on a selected row carries the selection, any other selects.
+void Griglia::mousePressEvent(QMouseEvent* event) {
+  setDragEnabled(selectionModel() != nullptr &&
+                 selectionModel()->isSelected(indexAt(event->position().toPoint())));
+  QTableView::mousePressEvent(event);
+}
+
+void Griglia::startDrag(Qt::DropActions) {
+  const auto rows = Selected();
+  if (!rows) return;
+  const QString text = rows->Count() == 1 ? QString("1 canale") : QString("%1 canali").arg(rows->Count());
+  QPixmap label(fontMetrics().horizontalAdvance(text) + 16, fontMetrics().height() + 8);
+  label.fill(palette().color(QPalette::Highlight));
+  QPainter painter(&label);
+  painter.setPen(palette().color(QPalette::HighlightedText));
+  painter.drawText(label.rect(), Qt::AlignCenter, text);
+  painter.end();
+
+  auto* drag = new QDrag(this);
+  drag->setMimeData(
+      model()->mimeData({model()->index(rows->first - 1, 0), model()->index(rows->last - 1, 0)}));
+  drag->setPixmap(label);
+  drag->exec(Qt::MoveAction | Qt::CopyAction, Qt::MoveAction);
+}
+
+void Griglia::selectionChanged(const QItemSelection& selected, const QItemSelection& deselected) {
+  QTableView::selectionChanged(selected, deselected);
+  Q_EMIT SelectionMoved();
+}
+
+void Griglia::FitColumns() {
+  if (widths_.empty()) return;
+  std::vector<int> widths = widths_;
+  const int spare = viewport()->width() - std::accumulate(widths.begin(), widths.end(), 0);
   *std::max_element(widths.begin(), widths.end()) += std::max(spare, 0);
+  fitting_ = true;
   for (std::size_t i = 0; i < widths.size(); ++i) setColumnWidth(static_cast<int>(i), widths[i]);
+  fitting_ = false;
   frozen_->setColumnWidth(0, widths[0]);
+  PlaceFrozen();
+}
+
+// A column that the user has made wider or narrower keeps that width when the window changes its own.
+void Griglia::KeepWidth(int column, int width) {
+  if (fitting_ || static_cast<std::size_t>(column) >= widths_.size()) return;
+  widths_[static_cast<std::size_t>(column)] = width;
+  frozen_->setColumnWidth(0, columnWidth(0));
   PlaceFrozen();
 }
 
@@ -98,12 +175,14 @@ void Griglia::changeEvent(QEvent* event) {
   FitColumns();
 }
 
-// A cell must not come to lie behind the frozen column.
+// A cell must not come to lie behind the frozen column; the first one is there to see all others from their start.
 QModelIndex Griglia::moveCursor(CursorAction action, Qt::KeyboardModifiers modifiers) {
   const QModelIndex index = QTableView::moveCursor(action, modifiers);
-  if (index.column() > 0 && visualRect(index).left() < columnWidth(0)) {
-    horizontalScrollBar()->setValue(horizontalScrollBar()->value() + visualRect(index).left() -
-                                    columnWidth(0));
+  QScrollBar& sideways = *horizontalScrollBar();
+  if (index.column() == 0) {
+    sideways.setValue(0);
+  } else if (visualRect(index).left() < columnWidth(0)) {
+    sideways.setValue(sideways.value() + visualRect(index).left() - columnWidth(0));
   }
   return index;
 }

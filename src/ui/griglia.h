@@ -2,9 +2,12 @@
 // column.
 #pragma once
 
+#include "edit/list_operations.h"
 #include "ui/list_model.h"
 
 #include <QTableView>
+
+#include <optional>
 
 namespace Ui {
 
@@ -18,19 +21,35 @@ class Griglia : public QTableView {
   // goes to the column that its header makes widest.
   void ShowList(ListModel* list);
 
+  // The rows of the selection, from slot 1 on; nothing when none is selected.
+  [[nodiscard]] std::optional<Edit::Slots> Selected() const;
+  // Selects rows and makes the first of them current, where it is or scrolled to.
+  void Select(Edit::Slots rows);
+  // Makes a row the first visible one, as far as the list's end lets it.
+  void ScrollToTop(int slot);
+
+  void scrollTo(const QModelIndex& index, ScrollHint hint = EnsureVisible) override;
+
+ Q_SIGNALS:
+  void SelectionMoved();
+
  protected:
+  void mousePressEvent(QMouseEvent* event) override;
+  void startDrag(Qt::DropActions actions) override;
+  void selectionChanged(const QItemSelection& selected, const QItemSelection& deselected) override;
   void resizeEvent(QResizeEvent* event) override;
   void changeEvent(QEvent* event) override;
   QModelIndex moveCursor(CursorAction action, Qt::KeyboardModifiers modifiers) override;
-  void scrollTo(const QModelIndex& index, ScrollHint hint) override;
 
  private:
   void SetUp(QTableView& view);
   void FitColumns();
+  void KeepWidth(int column, int width);
   void PlaceFrozen();
 
-  QTableView* frozen_;  // the first column, on the same model
-  std::vector<HeaderColumn> header_;
+  QTableView* frozen_;       // the first column, on the same model
+  std::vector<int> widths_;  // of the columns without the spare width
+  bool fitting_ = false;
 };
 
 }  // namespace Ui

@@ -22,6 +22,7 @@ class ListModel : public QAbstractTableModel {
     int (*rows)(const Routines::State&);
     std::string (*cell)(const Routines::State&, int slot, int column);
     Routines::Colour (*colour)(const Routines::State&, int slot, int column);
+    bool movable;  // rows can be dragged to other places
   };
   static const Kind Channels;
   static const Kind Transponders;
@@ -30,18 +31,35 @@ class ListModel : public QAbstractTableModel {
 
   [[nodiscard]] const std::vector<HeaderColumn>& Header() const { return header_; }
 
+  // Rows that a search has found are painted in a colour of their own until the list changes.
+  enum class Mark : unsigned char { None, Filtered, Found };
+  void SetMark(int slot, Mark mark);
+  void ClearMarks();
+
   [[nodiscard]] int rowCount(const QModelIndex& parent = {}) const override;
   [[nodiscard]] int columnCount(const QModelIndex& parent = {}) const override;
   [[nodiscard]] QVariant data(const QModelIndex& index, int role) const override;
+  [[nodiscard]] Qt::ItemFlags flags(const QModelIndex& index) const override;
+  [[nodiscard]] Qt::DropActions supportedDropActions() const override;
+  [[nodiscard]] QStringList mimeTypes() const override;
+  [[nodiscard]] QMimeData* mimeData(const QModelIndexList& indexes) const override;
+  bool dropMimeData(const QMimeData* data, Qt::DropAction action, int row, int column,
+                    const QModelIndex& parent) override;
   [[nodiscard]] QVariant headerData(int section, Qt::Orientation orientation, int role) const override;
+
+ Q_SIGNALS:
+  // The rows of slots `first`..`last` were dropped in front of slot `before`.
+  void Dropped(int first, int last, int before, bool copy);
 
  private:
   void Refresh();
+  [[nodiscard]] Routines::Colour ColourAt(int slot, int column) const;
 
   const Document& document_;
   const Kind& kind_;
   std::vector<HeaderColumn> header_;
   int rows_ = 0;
+  std::vector<Mark> marks_;  // by slot; empty when there are none
 };
 
 }  // namespace Ui

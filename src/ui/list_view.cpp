@@ -2,7 +2,7 @@
 
 #include <QAction>
 #include <QLabel>
-#include <QStackedLayout>
+#include <QStackedWidget>
 #include <QVBoxLayout>
 
 namespace Ui {
@@ -16,9 +16,11 @@ ListView::ListView(const Document& document, QAction& showChannels, QAction& sho
       channels_(document, ListModel::Channels, this),
       transponders_(document, ListModel::Transponders, this),
       marker_(new QLabel(this)),
+      filter_(new FilterBar(document, this)),
       hint_(new QLabel(this)),
       grid_(new Griglia(this)),
-      stack_(new QStackedLayout) {
+      map_(new ListMap(document, this)),
+      stack_(new QStackedWidget(this)) {
   marker_->setObjectName("Text1");
   QFont bold = marker_->font();
   bold.setBold(true);
@@ -27,16 +29,39 @@ ListView::ListView(const Document& document, QAction& showChannels, QAction& sho
   hint_->setAlignment(Qt::AlignCenter);
   hint_->setWordWrap(true);
   grid_->setObjectName("Griglia");
-  grid_->setAccessibleName("Lista");
+  LayOut();
 
+  connect(&document, &Document::Changed, filter_, &FilterBar::Refresh);
+  connect(filter_, &FilterBar::Changed, this, &ListView::MarkMatches);
+  connect(filter_, &FilterBar::Step, this, &ListView::StepMatch);
+  connect(filter_, &FilterBar::Left, grid_, qOverload<>(&QWidget::setFocus));
+  connect(&channels_, &ListModel::Dropped, this, &ListView::Dropped, Qt::QueuedConnection);
+  connect(grid_, &Griglia::SelectionMoved, this, [this] {
+    const auto rows = grid_->Selected().value_or(Edit::Slots{});
+    map_->ShowSelection(rows.first, rows.last);
+  });
+  connect(map_, &ListMap::Chosen, this, [this](int slot) {
+    grid_->scrollTo(channels_.index(slot - 1, 1), QAbstractItemView::PositionAtCenter);
+  });
+  ShowFromStart(View::None);
+}
+
+void ListView::LayOut() {
   stack_->addWidget(hint_);
   stack_->addWidget(grid_);
+  auto* head = new QHBoxLayout;
+  head->addWidget(marker_);
+  head->addStretch();
+  head->addWidget(filter_);
+  auto* body = new QHBoxLayout;
+  body->setSpacing(3);
+  body->addWidget(stack_, 1);
+  body->addWidget(map_);
   auto* column = new QVBoxLayout(this);
   column->setContentsMargins(0, 0, 0, 0);
   column->setSpacing(3);
-  column->addWidget(marker_);
-  column->addLayout(stack_, 1);
-  ShowFromStart(View::None);
+  column->addLayout(head);
+  column->addLayout(body, 1);
 }
 
 void ListView::Show(View view) {
@@ -49,6 +74,7 @@ void ListView::Show(View view) {
 
 void ListView::ShowFromStart(View view) {
   current_ = view;
+  const bool channels = view == View::Channels;
   if (view == View::None) {
     marker_->clear();
     hint_->setText(document_.Tables().Loaded
@@ -57,13 +83,18 @@ void ListView::ShowFromStart(View view) {
                          "poi aprire l'immagine della flash con File, Apri Flash Input (Ctrl+O).");
     stack_->setCurrentWidget(hint_);
   } else {
-    const bool channels = view == View::Channels;
     marker_->setText(channels ? "Canali" : "Transponders");
     printHeading_ = channels ? "Stampa Canali" : "Stampa Transponder";
+    grid_->setAccessibleName(marker_->text());
+    channels_.ClearMarks();
     grid_->ShowList(channels ? &channels_ : &transponders_);
     stack_->setCurrentWidget(grid_);
+    grid_->setFocus();
+    MarkMatches();
   }
   marker_->setVisible(view != View::None);
+  filter_->setVisible(channels);
+  map_->setVisible(channels);
   RestoreTicks();
 }
 
@@ -72,6 +103,30 @@ void ListView::Toggle(View view) { Show(view == current_ ? View::None : view); }
 void ListView::RestoreTicks() {
   showChannels_.setChecked(current_ == View::Channels);
   showTransponders_.setChecked(current_ == View::Transponders);
+}
+
+void ListView::ShowFound(int slot) {
+  channels_.SetMark(slot, ListModel::Mark::Found);
+  grid_->ScrollToTop(slot);
+  grid_->Select({slot, slot});
+}
+
+void ListView::MarkMatches() {
+  channels_.ClearMarks();
+  for (const int slot : filter_->Matches()) channels_.SetMark(slot, ListModel::Mark::Filtered);
+}
+
+// Goes to the match behind the current row, or before it, and round at the ends.
+void ListView::StepMatch(bool forward) {
+  const std::vector<int>& matches = filter_->Matches();
+  if (matches.empty() || current_ != View::Channels) return;
+  const int here = grid_->currentIndex().row() + 1;
+  const bool onMatch = grid_->Selected().has_value();
+  auto at = forward ? std::lower_bound(matches.begin(), matches.end(), onMatch ? here + 1 : here)
+                    : std::lower_bound(matches.begin(), matches.end(), here);
+  if (forward && at == matches.end()) at = matches.begin();
+  if (!forward) at = (at == matches.begin() ? matches.end() : at) - 1;
+  grid_->Select({*at, *at});
 }
 
 }  // namespace Ui

@@ -1,15 +1,17 @@
-// The place of the window that shows the channel list, the transponder list or neither, and the two menu
-// commands that switch it.
+// The place of the window that shows the channel list, the transponder list or neither, and the two menu commands
+// that switch it. Beside the channel list stand its filter field and its map.
 #pragma once
 
+#include "ui/filter_bar.h"
 #include "ui/griglia.h"
+#include "ui/list_map.h"
 #include "ui/list_model.h"
 
 #include <QWidget>
 
 class QAction;
 class QLabel;
-class QStackedLayout;
+class QStackedWidget;
 
 namespace Ui {
 
@@ -22,6 +24,8 @@ class ListView : public QWidget {
   ListView(const Document& document, QAction& showChannels, QAction& showTransponders, QWidget* parent);
 
   [[nodiscard]] View Current() const { return current_; }
+  [[nodiscard]] Griglia& Grid() const { return *grid_; }
+  [[nodiscard]] FilterBar& Filter() const { return *filter_; }
   // "Stampa Canali" or "Stampa Transponder", as the list last shown asks for.
   [[nodiscard]] QString PrintHeading() const { return printHeading_; }
 
@@ -33,16 +37,29 @@ class ListView : public QWidget {
   // Sets the ticks to what is shown, for a command that was refused.
   void RestoreTicks();
 
+  // Paints the row of a channel that a search has found and makes it the first visible one.
+  void ShowFound(int slot);
+
+ Q_SIGNALS:
+  // The rows of slots `first`..`last` were dropped in front of slot `before`.
+  void Dropped(int first, int last, int before, bool copy);
+
  private:
+  void LayOut();
+  void MarkMatches();
+  void StepMatch(bool forward);
+
   const Document& document_;
   QAction& showChannels_;
   QAction& showTransponders_;
   ListModel channels_;
   ListModel transponders_;
   QLabel* marker_;  // Text1: "Canali", "Transponders" or nothing
+  FilterBar* filter_;
   QLabel* hint_;
   Griglia* grid_;
-  QStackedLayout* stack_;
+  ListMap* map_;
+  QStackedWidget* stack_;
   View current_ = View::None;
   QString printHeading_;
 };

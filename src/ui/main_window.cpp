@@ -49,15 +49,22 @@ CopiaTCSTPT::CopiaTCSTPT(const std::string& programFolder, std::unique_ptr<Dialo
                                                   *status,
                                                   [this] { close(); }});
   files_ = std::make_unique<FileCommands>(*session_);
+  edit_ = std::make_unique<EditCommands>(*session_);
+  lists_ = std::make_unique<ListCommands>(*session_);
 
   auto* column = new QVBoxLayout(contents);
   column->setContentsMargins(8, 6, 8, 4);
   column->addWidget(settings);
   column->addWidget(view, 1);
   column->addWidget(new ErrorPane(session_->bouquets.errors, contents));
+  column->addWidget(status->ResultLine());
   setCentralWidget(contents);
 
-  ConnectCommands();
+  ConnectFileCommands();
+  ConnectListCommands();
+  ConnectEditCommands();
+  ConnectToolbar();
+  for (const char* name : {"CercaCanale", "VaiAlCanale"}) CommandAction(*this, name).setEnabled(false);
   connect(document_, &Document::Changed, this, &CopiaTCSTPT::ShowList);
   ShowList();
   resize(1024, 700);
@@ -69,38 +76,83 @@ CopiaTCSTPT::~CopiaTCSTPT() = default;
 bool CopiaTCSTPT::Start() {
   const auto rates = session_->LoadSymbolRates();
   if (!rates) return false;
-  document_->Apply([&rates](Routines::State& state) {
-    state.SymbolRateTable = rates->table;
-    return Base::Done{};
-  });
+  document_->Adjust([&rates](Routines::State& state) { state.SymbolRateTable = rates->table; });
   return true;
 }
 
-void CopiaTCSTPT::ConnectCommands() {
-  const auto connectTo = [this](QAction& action, auto slot) {
-    connect(&action, &QAction::triggered, this, slot);
-    action.setEnabled(true);
-  };
-  const auto toggle = [this](View view) {
-    return [this, view] {
-      if (session_->NeedsFlash()) session_->view.Toggle(view);
-      session_->view.RestoreTicks();
-    };
-  };
-  connectTo(CommandAction(*this, "ApriFlashInput"), [this] { files_->ApriFlashInput(); });
-  connectTo(CommandAction(*this, "Salva"), [this] { files_->Salva(); });
-  connectTo(CommandAction(*this, "ApriFlashOutput"), [this] { files_->ApriFlashOutput(); });
-  connectTo(CommandAction(*this, "ConvertiSR"), [this] { files_->ConvertiSR(); });
-  connectTo(CommandAction(*this, "VisualizzaCanali"), toggle(View::Channels));
-  connectTo(CommandAction(*this, "VisualizzaTransponder"), toggle(View::Transponders));
-  connectTo(CommandAction(*this, "Fine"), [this] { close(); });
-  connectTo(CommandAction(*this, "About"), [this] { ShowAbout(); });
+template <class Slot>
+void CopiaTCSTPT::Connect(const char* command, Slot slot) {
+  QAction& action = CommandAction(*this, command);
+  connect(&action, &QAction::triggered, this, slot);
+  action.setEnabled(true);
+}
 
-  connectTo(ButtonAction(*this, "Open"), [this] { files_->ApriFlashInput(); });
-  connectTo(ButtonAction(*this, "Save"), [this] { files_->ApriFlashOutput(); });
-  connectTo(ButtonAction(*this, "Canali"), toggle(View::Channels));
-  connectTo(ButtonAction(*this, "TRANSPONDERS"), toggle(View::Transponders));
-  connectTo(ButtonAction(*this, "Fine Programma"), [this] { close(); });
+void CopiaTCSTPT::ToggleView(View view) {
+  if (session_->NeedsFlash()) session_->view.Toggle(view);
+  session_->view.RestoreTicks();
+}
+
+void CopiaTCSTPT::ConnectFileCommands() {
+  Connect("ApriFlashInput", [this] { files_->ApriFlashInput(); });
+  Connect("Salva", [this] { files_->Salva(); });
+  Connect("ApriFlashOutput", [this] { files_->ApriFlashOutput(); });
+  Connect("ConvertiSR", [this] { files_->ConvertiSR(); });
+  Connect("VisualizzaCanali", [this] { ToggleView(View::Channels); });
+  Connect("VisualizzaTransponder", [this] { ToggleView(View::Transponders); });
+  Connect("Fine", [this] { close(); });
+  Connect("About", [this] { ShowAbout(); });
+}
+
+void CopiaTCSTPT::ConnectListCommands() {
+  Connect("OrdinaPerBouquet", [this] { lists_->OrdinaPerBouquet(); });
+  Connect("Azzera", [this] { lists_->Azzera(); });
+  Connect("InvertiSatelliti", [this] { lists_->InvertiSatelliti(); });
+  Connect("RiportaAB", [this] { lists_->RiportaAB(); });
+  Connect("CercaCanale", [this] { lists_->CercaCanale(); });
+  Connect("CercaSuccessivo", [this] { lists_->CercaSuccessivo(); });
+  Connect("Filtra", [this] { session_->view.Filter().StartTyping(); });
+  Connect("VaiAlCanale", [this] { lists_->VaiAlCanale(); });
+}
+
+void CopiaTCSTPT::ConnectEditCommands() {
+  Connect("Annulla", [this] { edit_->Undo(); });
+  Connect("Ripeti", [this] { edit_->Redo(); });
+  Connect("Copia", [this] { edit_->Copy(); });
+  Connect("Taglia", [this] { edit_->Cut(); });
+  Connect("Incolla", [this] { edit_->Paste(); });
+  Connect("Elimina", [this] { edit_->Delete(); });
+  Connect("SpostaSu", [this] { edit_->MoveBy(-1); });
+  Connect("SpostaGiu", [this] { edit_->MoveBy(1); });
+  Connect("SpostaA", [this] { edit_->SpostaA(); });
+  for (const Command& command : Commands) {
+    if (command.forRows) session_->view.Grid().addAction(&CommandAction(*this, command.name));
+  }
+  connect(&session_->view, &ListView::Dropped, this,
+          [this](int first, int last, int before, bool copy) { edit_->Drop(first, last, before, copy); });
+}
+
+// Every press comes here with its button's key; the keys are told apart in this order.
+void CopiaTCSTPT::ConnectToolbar() {
+  const std::vector<std::pair<const char*, std::function<void()>>> keys = {
+      {"CanaliXTransponder", [this] { lists_->CanaliXTransponder(); }},
+      {"Goto", [this] { CommandAction(*this, "VaiAlCanale").trigger(); }},
+      {"TRANSPONDERS", [this] { ToggleView(View::Transponders); }},
+      {"Canali", [this] { ToggleView(View::Channels); }},
+      {"Rectangle", [this] { dialogs_->Message("Add 'Rectangle' button code.", {}); }},
+      {"New", [this] { dialogs_->Message("Add 'New' button code.", {}); }},
+      {"Fine Programma", [this] { close(); }},
+      {"Open", [this] { files_->ApriFlashInput(); }},
+      {"Save", [this] { files_->ApriFlashOutput(); }},
+      {"Copy", [this] { edit_->Copy(); }},
+      {"Paste", [this] { edit_->Paste(); }},
+      {"Cut", [this] { edit_->Cut(); }},
+      {"Delete", [this] { edit_->Delete(); }},
+      {"Find", [this] { lists_->CercaCanale(); }}};
+  for (const auto& [key, run] : keys) {
+    QAction& action = ButtonAction(*this, key);
+    connect(&action, &QAction::triggered, this, run);
+    action.setEnabled(true);
+  }
 }
 
 void CopiaTCSTPT::ShowList() {
@@ -109,7 +161,23 @@ void CopiaTCSTPT::ShowList() {
   for (const char* name : {"Salva", "ApriFlashOutput", "ConvertiSR"}) {
     CommandAction(*this, name).setEnabled(state.Loaded);
   }
-  session_->status.ShowList(state, document_->Unsaved());
+  // These wait for a first load only.
+  for (const char* name : {"CercaCanale", "VaiAlCanale"}) {
+    QAction& action = CommandAction(*this, name);
+    action.setEnabled(action.isEnabled() || state.Loaded);
+  }
+  ShowSteps();
+  session_->ShowList();
+}
+
+void CopiaTCSTPT::ShowSteps() {
+  const std::pair<const char*, std::string> steps[] = {{"Annulla", document_->Steps().UndoLabel()},
+                                                       {"Ripeti", document_->Steps().RedoLabel()}};
+  for (const auto& [name, label] : steps) {
+    QAction& action = CommandAction(*this, name);
+    action.setEnabled(!label.empty());
+    action.setText(label.empty() ? QString(name) : name + (" " + Text(label)));
+  }
 }
 
 void CopiaTCSTPT::ShowAbout() {
@@ -118,7 +186,7 @@ void CopiaTCSTPT::ShowAbout() {
       "flash, "
       "mostra canali e transponder e li riscrive nell'immagine del ricevitore.\n\nRealizzato con "
       "Qt " QT_VERSION_STR ".",
-      "About");
+      "About", Tone::Information);
 }
 
 void CopiaTCSTPT::closeEvent(QCloseEvent* event) {

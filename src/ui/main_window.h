@@ -2,7 +2,9 @@
 #pragma once
 
 #include "ui/dialogs.h"
+#include "ui/edit_commands.h"
 #include "ui/file_commands.h"
+#include "ui/list_commands.h"
 #include "ui/session.h"
 
 #include <QMainWindow>
@@ -28,7 +30,15 @@ class CopiaTCSTPT : public QMainWindow {
   void closeEvent(QCloseEvent* event) override;
 
  private:
-  void ConnectCommands();
+  void ConnectFileCommands();
+  void ConnectListCommands();
+  void ConnectEditCommands();
+  void ConnectToolbar();
+  // Runs `slot` when the command is chosen, and enables it.
+  template <class Slot>
+  void Connect(const char* command, Slot slot);
+  void ToggleView(View view);
+  void ShowSteps();
   void ShowList();
   void ShowAbout();
   [[nodiscard]] QString SettingsFile() const;
@@ -37,6 +47,8 @@ class CopiaTCSTPT : public QMainWindow {
   Document* document_;
   std::unique_ptr<Session> session_;
   std::unique_ptr<FileCommands> files_;
+  std::unique_ptr<EditCommands> edit_;
+  std::unique_ptr<ListCommands> lists_;
 };
 
 }  // namespace Ui

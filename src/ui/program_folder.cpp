@@ -17,12 +17,13 @@ std::string ProgramFolder() {
   if (!installed && QFileInfo(own).isWritable()) return PathBytes(own);
 
   const QString data = QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation) + "/trovalis";
-  if (!QFileInfo::exists(data) && QDir().mkpath(data)) {
-    for (const char* name : {"Bouquets.txt", "SR.INI", "SDX.INI"}) {
-      const QString copy = data + "/" + name;
-      QFile::copy((installed ? shipped : own) + "/" + name, copy);
-      QFile::setPermissions(copy, QFile::permissions(copy) | QFile::WriteOwner);
-    }
+  QDir().mkpath(data);
+  const QStringList names = {"Bouquets.txt", "SR.INI", "SDX.INI"};
+  const bool first = QDir(data).entryList(names).isEmpty();
+  for (qsizetype i = 0; first && i < names.size(); ++i) {
+    const QString copy = data + "/" + names[i];
+    QFile::copy((installed ? shipped : own) + "/" + names[i], copy);
+    QFile::setPermissions(copy, QFile::permissions(copy) | QFile::WriteOwner);
   }
   return PathBytes(data);
 }

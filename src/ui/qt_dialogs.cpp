@@ -2,10 +2,14 @@
 
 #include "base/code_page.h"
 
+#include <QDir>
 #include <QFile>
 #include <QFileDialog>
 #include <QHeaderView>
+#include <QInputDialog>
+#include <QLabel>
 #include <QMessageBox>
+#include <QRegularExpression>
 #include <QTreeView>
 
 namespace Ui {
@@ -24,9 +28,15 @@ QString AnyCase(const QString& pattern) {
   return result;
 }
 
+// A box breaks lines between words only; a long file name gets places where it may be broken too.
+QString Breakable(QString text) {
+  static const QRegularExpression LongWord("(\\S{60})(?=\\S)");
+  return text.replace(LongWord, QString("\\1") + QChar(0x200B));
+}
+
 QMessageBox::StandardButton Show(QWidget* parent, QMessageBox::Icon icon, const QString& text,
                                  const QString& title, QMessageBox::StandardButtons buttons) {
-  QMessageBox box(icon, title.isEmpty() ? QString("Trovalis") : title, text, buttons, parent);
+  QMessageBox box(icon, title.isEmpty() ? QString("Trovalis") : title, Breakable(text), buttons, parent);
   box.setTextFormat(Qt::PlainText);
   return static_cast<QMessageBox::StandardButton>(box.exec());
 }
@@ -39,8 +49,8 @@ QString PathText(const std::string& path) { return QFile::decodeName(QByteArray:
 
 std::string PathBytes(const QString& path) { return QFile::encodeName(path).toStdString(); }
 
-void QtDialogs::Message(const QString& text, const QString& title) {
-  Show(parent_, title.isEmpty() ? QMessageBox::Information : QMessageBox::Warning, text, title,
+void QtDialogs::Message(const QString& text, const QString& title, Tone tone) {
+  Show(parent_, tone == Tone::Information ? QMessageBox::Information : QMessageBox::Warning, text, title,
        QMessageBox::Ok);
 }
 
@@ -49,11 +59,42 @@ bool QtDialogs::YesNo(const QString& question) {
          QMessageBox::Yes;
 }
 
+Answer QtDialogs::YesNoCancel(const QString& question) {
+  const auto buttons = QMessageBox::Yes | QMessageBox::No | QMessageBox::Cancel;
+  switch (Show(parent_, QMessageBox::Question, question, {}, buttons)) {
+    case QMessageBox::Yes:
+      return Answer::Yes;
+    case QMessageBox::No:
+      return Answer::No;
+    default:
+      return Answer::Cancel;
+  }
+}
+
+bool QtDialogs::OkCancel(const QString& question) {
+  return Show(parent_, QMessageBox::Warning, question, {}, QMessageBox::Ok | QMessageBox::Cancel) ==
+         QMessageBox::Ok;
+}
+
+std::optional<QString> QtDialogs::AskLine(const QString& question) {
+  QInputDialog dialog(parent_);
+  dialog.setWindowTitle("Trovalis");
+  dialog.setLabelText(question);
+  if (auto* label = dialog.findChild<QLabel*>()) {
+    label->setTextFormat(Qt::PlainText);
+    label->setWordWrap(true);
+  }
+  dialog.resize(420, dialog.sizeHint().height());
+  if (dialog.exec() != QDialog::Accepted) return std::nullopt;
+  return dialog.textValue();
+}
+
 QString QtDialogs::OpenFile(const FileQuestion& question) {
-  QFileDialog dialog(parent_, question.title, question.folder);
+  const bool exists = !question.folder.isEmpty() && QDir(question.folder).exists();
+  QFileDialog dialog(parent_, question.title, exists ? question.folder : QString());
   dialog.setOption(QFileDialog::DontUseNativeDialog);
   dialog.setOption(QFileDialog::HideNameFilterDetails);
-  dialog.setFileMode(QFileDialog::ExistingFile);
+  dialog.setFileMode(QFileDialog::AnyFile);
   dialog.setNameFilters(NameFilters(question.filters));
   dialog.resize(860, 560);
   if (auto* details = dialog.findChild<QTreeView*>("treeView")) {

@@ -13,8 +13,11 @@ class QtDialogs : public Dialogs {
  public:
   explicit QtDialogs(QWidget* parent) : parent_(parent) {}
 
-  void Message(const QString& text, const QString& title) override;
+  void Message(const QString& text, const QString& title, Tone tone) override;
   bool YesNo(const QString& question) override;
+  Answer YesNoCancel(const QString& question) override;
+  bool OkCancel(const QString& question) override;
+  std::optional<QString> AskLine(const QString& question) override;
   QString OpenFile(const FileQuestion& question) override;
 
  private:

@@ -1,6 +1,7 @@
 // What every command of the window works with, for as long as the program runs.
 #pragma once
 
+#include "edit/clipboard.h"
 #include "model/flash_file.h"
 #include "support/bouquets_txt.h"
 #include "support/sr_ini.h"
@@ -25,7 +26,11 @@ struct Session {
   ListView& view;
   StatusLine& status;
   std::function<void()> endProgram;
+  Edit::Clipboard clipboard = {};
   bool srIniMissingTold = false;
+
+  // Brings the figures of the status bar up to date.
+  void ShowList() { status.ShowList(document.Tables(), document.Unsaved(), clipboard.Count()); }
 
   void Message(const Base::Error& error) { dialogs.Message(Text(error.message), Text(error.title)); }
 

@@ -1,9 +1,10 @@
-// The status bar: the last result, the list's figures, unsaved changes and the flash chosen for writing.
+// The window's two bottom lines: what came of the last command, and below it the status bar with the list's figures,
+// unsaved changes and the flash chosen for writing.
 #pragma once
 
 #include "model/routines.h"
+#include "ui/elided_label.h"
 
-#include <QLabel>
 #include <QObject>
 
 class QProgressBar;
@@ -17,21 +18,24 @@ class StatusLine : public QObject {
  public:
   explicit StatusLine(QStatusBar& bar);
 
-  // What came of the last command.
+  // The line of the last result; it belongs above the bar.
+  [[nodiscard]] QWidget* ResultLine() const { return result_; }
+
   void ShowResult(const QString& text);
-  void ShowList(const Routines::State& state, bool unsaved);
+  void ShowList(const Routines::State& state, bool unsaved, int clipboard);
   // 0..100 while a command runs; 100 hides the bar again.
   void ShowProgress(int percent);
 
  private:
-  QLabel* AddPermanent(QStatusBar& bar, const char* name);
+  QLabel* AddFigure(QStatusBar& bar, const char* name);
 
-  QLabel* result_;
-  QProgressBar* progress_;
+  ElidedLabel* result_;
   QLabel* channels_;
   QLabel* transponders_;
+  QLabel* clipboard_;
   QLabel* unsaved_;
-  QLabel* output_;
+  ElidedLabel* output_;
+  QProgressBar* progress_;
 };
 
 }  // namespace Ui

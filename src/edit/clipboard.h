@@ -1,0 +1,48 @@
+// The channels copied or cut and not yet pasted.
+#pragma once
+
+#include "base/result.h"
+#include "edit/list_operations.h"
+#include "model/bouquets.h"
+
+#include <string>
+
+namespace Edit {
+
+using Routines::ChannelRecord;
+using Routines::TransponderRecord;
+
+struct Clipboard {
+  std::vector<ChannelRecord> channels;
+  std::vector<TransponderRecord> transponders;  // of each channel, free where it had none
+  std::vector<LostFavourite>
+      cut;             // entries that a cut took out, with the channel's place in `channels` as slot
+  int listNumber = 0;  // of the list they came from
+
+  [[nodiscard]] int Count() const { return static_cast<int>(channels.size()); }
+};
+
+Clipboard CopyChannels(const State& state, Slots slots);
+
+// Deletes the channels just copied and keeps which favourites went with them.
+std::vector<LostFavourite> CutChannels(State& state, Slots slots, Clipboard& clipboard);
+
+struct PasteReport {
+  int withoutTransponder = 0;  // channels from another list whose transponder found no slot
+  int favouritesBack = 0;
+};
+
+enum class PasteWay { Move, Overwrite };
+
+// Puts the clipboard's channels into slots `position` on, and brings the transponders' counts up to date. Channels of
+// another list take the slot of their transponder or a free one. `position` must be one (IsPosition); moving where
+// that would push a channel out is an error that changes nothing.
+Base::Result<PasteReport> Paste(State& state, const Clipboard& clipboard, int position, PasteWay way,
+                                const Routines::BouquetTables& bouquets);
+
+inline constexpr std::string_view InvalidPosition = "Posizione di inserimento invalida";
+
+// The channels as lines of tab-separated cells, as a spreadsheet takes them; bytes of the code page.
+std::string TabSeparated(const State& state, Slots slots);
+
+}  // namespace Edit

@@ -1,0 +1,201 @@
+#include "edit/list_operations.h"
+
+#include "base/text.h"
+
+#include <numeric>
+
+namespace Edit {
+namespace {
+
+using namespace Routines;
+
+std::size_t At(int slot) { return static_cast<std::size_t>(slot); }
+
+// Puts every channel where the map says and brings the favourites along.
+std::vector<LostFavourite> Rearrange(State& state, const SlotMap& map) {
+  const auto before = state.ChannelTable;
+  for (std::size_t slot = 1; slot < map.size(); ++slot) state.ChannelTable[slot] = {};
+  for (std::size_t slot = 1; slot < map.size(); ++slot) {
+    if (map[slot] != 0 && !before[slot].Empty()) state.ChannelTable[At(map[slot])] = before[slot];
+  }
+  return RenumberFavourites(state.FavouritesBlock, map);
+}
+
+// Adds to a transponder's own count of channels, which stays within 0..254.
+void AddToCount(State& state, std::uint32_t transponder, int step) {
+  if (transponder < 1 || transponder > LastTransponderSlot) return;
+  TransponderRecord& record = state.TransponderTable[transponder].record;
+  const int count = static_cast<int>(Get(record, TransponderField::ChannelCount)) + step;
+  Set(record, TransponderField::ChannelCount, static_cast<std::uint32_t>(std::clamp(count, 0, 254)));
+}
+
+// Bouquet code and transponder number as one number that orders as the two texts and the number do; nothing for a
+// transponder that takes no part.
+constexpr std::uint32_t NoKey = 0xFFFFFFFF;
+
+std::uint32_t SortKey(const State& state, const ChannelRecord& channel) {
+  const std::uint32_t transponder = Get(channel, ChannelField::Transponder);
+  if (transponder < 1 || transponder > LastTransponderSlot) return NoKey;
+  const auto& code = state.TransponderTable[transponder].bouquetCode;
+  return static_cast<std::uint32_t>(static_cast<unsigned char>(code[0])) << 16U |
+         static_cast<std::uint32_t>(static_cast<unsigned char>(code[1])) << 8U | transponder;
+}
+
+struct Sorted {
+  std::uint32_t key;
+  int slot;
+};
+
+void ExchangeSort(std::vector<Sorted>& channels) {
+  for (std::size_t i = 0; i + 1 < channels.size(); ++i) {
+    for (std::size_t j = i + 1; j < channels.size(); ++j) {
+      if (channels[j].key < channels[i].key) std::swap(channels[i], channels[j]);
+    }
+  }
+}
+
+// An empty slot, or a channel whose name begins with five blanks.
+bool IsGap(const ChannelRecord& channel) {
+  return channel.Empty() || Base::AsText(channel.bytes).starts_with("     ");
+}
+
+std::string UpperCase(std::string_view bytes) {
+  std::string upper(bytes);
+  for (char& c : upper) {
+    const auto byte = static_cast<unsigned char>(c);
+    const bool accented = byte >= 0xE0 && byte != 0xF7 && byte != 0xFF;
+    if ((byte >= 'a' && byte <= 'z') || accented) c = static_cast<char>(byte - 0x20);
+    if (byte == 0x9A || byte == 0x9C || byte == 0x9E) c = static_cast<char>(byte - 0x10);
+    if (byte == 0xFF) c = '\x9F';
+  }
+  return upper;
+}
+
+}  // namespace
+
+std::vector<LostFavourite> DeleteChannels(State& state, Slots slots) {
+  SlotMap map = SameSlots();
+  for (int slot = slots.first; slot <= state.ChannelCount; ++slot) {
+    map[At(slot)] = slot <= slots.last ? 0 : slot - slots.Count();
+  }
+  for (int slot = slots.first; slot <= slots.last; ++slot) {
+    const ChannelRecord& channel = state.ChannelTable[At(slot)];
+    if (!channel.Empty()) AddToCount(state, Get(channel, ChannelField::Transponder), -1);
+  }
+  return Rearrange(state, map);
+}
+
+bool IsPosition(const State& state, int position, int count) {
+  return position > 0 && position + count <= state.ChannelCount;
+}
+
+bool MakeRoom(State& state, int position, int count) {
+  if (LastOccupied(state) + count > state.ChannelCount && LastOccupied(state) >= position) return false;
+  SlotMap map = SameSlots();
+  for (int slot = position; slot <= state.ChannelCount; ++slot) {
+    map[At(slot)] = slot + count <= state.ChannelCount ? slot + count : 0;
+  }
+  Rearrange(state, map);
+  return true;
+}
+
+void MoveChannels(State& state, Slots slots, int to) {
+  to = std::clamp(to, 1, state.ChannelCount - slots.Count() + 1);
+  SlotMap map = SameSlots();
+  for (int slot = std::min(to, slots.first); slot <= std::max(to + slots.Count() - 1, slots.last); ++slot) {
+    if (slot < slots.first) {
+      map[At(slot)] = slot + slots.Count();
+    } else if (slot > slots.last) {
+      map[At(slot)] = slot - slots.Count();
+    } else {
+      map[At(slot)] = to + slot - slots.first;
+    }
+  }
+  Rearrange(state, map);
+}
+
+std::vector<LostFavourite> OrdinaPerBouquet(State& state, int start) {
+  const int last = LastOccupied(state);
+  std::vector<Sorted> channels;
+  std::vector<int> places;
+  SlotMap map = SameSlots();
+  for (int slot = start; slot <= last; ++slot) {
+    const std::uint32_t key = SortKey(state, state.ChannelTable[At(slot)]);
+    map[At(slot)] = 0;
+    if (state.ChannelTable[At(slot)].Empty() || key == NoKey) continue;
+    channels.push_back({key, slot});
+    places.push_back(slot);
+  }
+  ExchangeSort(channels);
+
+  // What stands in each slot after the sort; the gaps are then closed over it.
+  std::vector<int> order(At(last + 1));
+  std::iota(order.begin(), order.end(), 0);
+  for (std::size_t i = 0; i < places.size(); ++i) order[At(places[i])] = channels[i].slot;
+  int next = start;
+  for (int slot = start; slot <= last; ++slot) {
+    const int from = order[At(slot)];
+    if (!IsGap(state.ChannelTable[At(from)])) map[At(from)] = next++;
+  }
+  return Rearrange(state, map);
+}
+
+int LastOccupied(const State& state) {
+  int slot = state.ChannelCount;
+  while (slot > 0 && state.ChannelTable[At(slot)].Empty()) --slot;
+  return slot;
+}
+
+int Azzera(State& state) {
+  const int last = LastOccupied(state);
+  for (int slot = 1; slot <= last; ++slot) state.ChannelTable[At(slot)] = {};
+  for (int slot = 1; slot <= LastTransponderSlot; ++slot) state.TransponderTable[At(slot)].record = {};
+  return last;
+}
+
+void InvertiSatelliti(State& state) {
+  for (int slot = 1; slot <= state.TransponderCount; ++slot)
+    state.TransponderTable[At(slot)].record.bytes[11] ^= 8U;
+}
+
+void RiportaAB(State& state) {
+  for (int slot = 1; slot <= state.TransponderCount; ++slot)
+    state.TransponderTable[At(slot)].record.bytes[11] &= 15U;
+}
+
+void CanaliXTransponder(State& state) {
+  for (TransponderRow& row : state.TransponderTable) Set(row.record, TransponderField::ChannelCount, 0);
+  for (int slot = 1; slot <= state.ChannelCount; ++slot) {
+    const ChannelRecord& channel = state.ChannelTable[At(slot)];
+    const std::size_t transponder = Get(channel, ChannelField::Transponder);
+    if (channel.Empty() || transponder > LastTransponderSlot) continue;
+    TransponderRecord& record = state.TransponderTable[transponder].record;
+    const std::uint32_t count = Get(record, TransponderField::ChannelCount) + 1;
+    if (count <= 255) Set(record, TransponderField::ChannelCount, count);
+  }
+}
+
+int FindName(const State& state, std::string_view text, int from) {
+  const std::string wanted = UpperCase(text);
+  for (int slot = from; slot <= state.ChannelCount; ++slot) {
+    if (UpperCase(state.ChannelTable[At(slot)].Name()).find(wanted) != std::string::npos) return slot;
+  }
+  return 0;
+}
+
+std::vector<int> MatchingSlots(const State& state, std::string_view text) {
+  std::vector<int> slots;
+  const std::string wanted = UpperCase(text);
+  const bool number = !text.empty() && Base::LeadingDigits(text) == text;
+  const auto value = static_cast<std::uint32_t>(number ? Base::LeadingNumber(text) : 0);
+  for (int slot = 1; slot <= state.ChannelCount && !text.empty(); ++slot) {
+    const ChannelRecord& channel = state.ChannelTable[At(slot)];
+    if (channel.Empty()) continue;
+    const bool byNumber = number && (Get(channel, ChannelField::Sid) == value ||
+                                     Get(channel, ChannelField::Transponder) == value);
+    if (byNumber || UpperCase(channel.Name()).find(wanted) != std::string::npos) slots.push_back(slot);
+  }
+  return slots;
+}
+
+}  // namespace Edit

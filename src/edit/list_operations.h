@@ -1,0 +1,63 @@
+// Changes of the channel and transponder tables as wholes. Slots are channel numbers; the last one that a list can
+// use is its channel count.
+#pragma once
+
+#include "edit/renumber.h"
+#include "model/routines.h"
+
+#include <string_view>
+#include <vector>
+
+namespace Edit {
+
+using Routines::State;
+
+// A run of channel slots, both ends included.
+struct Slots {
+  int first = 0;
+  int last = 0;
+
+  [[nodiscard]] int Count() const { return last - first + 1; }
+};
+
+// Takes the channels of a run out; those behind it move up, and so do their favourites. Each transponder is told one
+// channel less for every channel taken.
+std::vector<LostFavourite> DeleteChannels(State& state, Slots slots);
+
+// Whether `count` channels can be put in at `position`: the rule is position + count <= channel count.
+bool IsPosition(const State& state, int position, int count);
+
+// Makes `count` empty slots from `position` on by moving all channels there down; false, with nothing changed, where
+// that would push a channel past the channel count.
+bool MakeRoom(State& state, int position, int count);
+
+// Moves a run so that it begins at slot `to`; the channels between close up. `to` is clamped so that it fits.
+void MoveChannels(State& state, Slots slots, int to);
+
+// Groups the channels from `start` on by the bouquet code of their transponder and, within it, by transponder, and
+// closes the gaps. The order of equal ones is that of the plain exchange sort.
+std::vector<LostFavourite> OrdinaPerBouquet(State& state, int start);
+
+// The last used slot within the channel count, 0 when there is none.
+int LastOccupied(const State& state);
+
+// Empties channels and transponders; their counts, favourites and bouquet names stay. Returns the last used slot.
+int Azzera(State& state);
+
+// Satellites A and B, C and D, ... change places.
+void InvertiSatelliti(State& state);
+
+// Every satellite becomes A or B.
+void RiportaAB(State& state);
+
+// Counts the channels of each transponder anew; a count stops at 255.
+void CanaliXTransponder(State& state);
+
+// The first slot from `from` on whose name has `text` in it, case ignored; 0 when there is none. Both are bytes of
+// the code page.
+int FindName(const State& state, std::string_view text, int from);
+
+// Every slot whose name has `text` in it, case ignored, or whose SID or transponder number it is.
+std::vector<int> MatchingSlots(const State& state, std::string_view text);
+
+}  // namespace Edit

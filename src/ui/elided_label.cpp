@@ -1,0 +1,33 @@
+#include "ui/elided_label.h"
+
+#include <QPainter>
+#include <QStyle>
+
+namespace Ui {
+
+ElidedLabel::ElidedLabel(Qt::TextElideMode mode, QWidget* parent) : QLabel(parent), mode_(mode) {
+  setTextFormat(Qt::PlainText);
+}
+
+void ElidedLabel::Show(const QString& text, const QString& tip) {
+  setText(text);
+  // A tip without a tag would show its escapes.
+  setToolTip("<span>" + (tip.isEmpty() ? text : tip).toHtmlEscaped() + "</span>");
+}
+
+QSize ElidedLabel::sizeHint() const {
+  return {fontMetrics().horizontalAdvance(text()) + contentsMargins().left() + contentsMargins().right() + 2,
+          fontMetrics().height() + 4};
+}
+
+QSize ElidedLabel::minimumSizeHint() const {
+  return {fontMetrics().averageCharWidth() * 12, sizeHint().height()};
+}
+
+void ElidedLabel::paintEvent(QPaintEvent*) {
+  QPainter painter(this);
+  style()->drawItemText(&painter, contentsRect(), Qt::AlignLeft | Qt::AlignVCenter, palette(), isEnabled(),
+                        fontMetrics().elidedText(text(), mode_, contentsRect().width()), foregroundRole());
+}
+
+}  // namespace Ui

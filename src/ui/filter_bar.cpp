@@ -1,0 +1,65 @@
+#include "ui/filter_bar.h"
+
+#include "base/code_page.h"
+#include "edit/list_operations.h"
+
+#include <QHBoxLayout>
+#include <QKeyEvent>
+#include <QLabel>
+#include <QLineEdit>
+
+namespace Ui {
+
+FilterBar::FilterBar(const Document& document, QWidget* parent)
+    : QWidget(parent), document_(document), field_(new QLineEdit(this)), count_(new QLabel(this)) {
+  field_->setObjectName("Filtro");
+  field_->setAccessibleName("Filtro");
+  field_->setPlaceholderText("Nome, SID o transponder (Ctrl+Shift+F)");
+  field_->setClearButtonEnabled(true);
+  field_->setMinimumWidth(field_->fontMetrics().horizontalAdvance(field_->placeholderText()) + 40);
+  field_->installEventFilter(this);
+  count_->setObjectName("FiltroTrovati");
+  auto* row = new QHBoxLayout(this);
+  row->setContentsMargins(0, 0, 0, 0);
+  row->addWidget(count_);
+  row->addWidget(field_);
+  connect(field_, &QLineEdit::textChanged, this, &FilterBar::Refresh);
+}
+
+void FilterBar::StartTyping() {
+  field_->setFocus();
+  field_->selectAll();
+}
+
+void FilterBar::Refresh() {
+  const auto text = Base::FromUtf8(field_->text().trimmed().toStdString());
+  matches_ = text ? Edit::MatchingSlots(document_.Tables(), *text) : std::vector<int>();
+  const auto found = matches_.size();
+  count_->setText(field_->text().isEmpty() ? QString()
+                  : found == 1             ? "1 trovato"
+                                           : QString("%1 trovati").arg(found));
+  Q_EMIT Changed();
+}
+
+bool FilterBar::eventFilter(QObject* watched, QEvent* event) {
+  if (event->type() != QEvent::KeyPress) return QWidget::eventFilter(watched, event);
+  const auto* key = static_cast<QKeyEvent*>(event);
+  switch (key->key()) {
+    case Qt::Key_Return:
+    case Qt::Key_Enter:
+    case Qt::Key_Down:
+      Q_EMIT Step((key->modifiers() & Qt::ShiftModifier) == 0);
+      return true;
+    case Qt::Key_Up:
+      Q_EMIT Step(false);
+      return true;
+    case Qt::Key_Escape:
+      field_->clear();
+      Q_EMIT Left();
+      return true;
+    default:
+      return QWidget::eventFilter(watched, event);
+  }
+}
+
+}  // namespace Ui

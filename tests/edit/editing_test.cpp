@@ -1,0 +1,322 @@
+// Editing the list: every command that moves channels carries the favourites along, and every step can be undone.
+#include "edit/clipboard.h"
+#include "edit/history.h"
+#include "image_builder.h"
+#include "model/favourites.h"
+
+#include <gtest/gtest.h>
+
+#include <memory>
+
+namespace Edit {
+namespace {
+
+using namespace Routines;
+using Samples::Junk;
+
+ChannelRecord& Channel(State& state, int slot) { return state.ChannelTable[static_cast<std::size_t>(slot)]; }
+
+void PutEntry(State& state, std::size_t list, std::size_t place, int slot) {
+  const std::size_t at = list * FavouriteListSize + 2 * place;
+  state.FavouritesBlock[at] = static_cast<Base::Byte>(slot >> 8);
+  state.FavouritesBlock[at + 1] = static_cast<Base::Byte>(slot & 255);
+}
+
+// `limit` slots, most of them filled with channels of SIDs of their own on transponders 0 to 255; favourites on some of
+// the channels, the last list full.
+std::unique_ptr<State> RandomList(Junk& junk, int limit) {
+  auto state = std::make_unique<State>();
+  state->ChannelCount = state->MaxChannels = limit;
+  state->TransponderCount = 200;
+  state->Loaded = true;
+  state->FavouritesBlock.assign(NormalFavouritesSize, 0);
+  for (int slot = 1; slot <= limit - 20; ++slot) {
+    if (junk.Below(8) == 0) continue;
+    const int transponder =
+        junk.Below(5) == 0 ? static_cast<int>(junk.Below(2) * 255) : static_cast<int>(junk.Below(12));
+    Channel(*state, slot) = Samples::MakeChannel("c" + std::to_string(slot), transponder, slot, 1, 1);
+    if (junk.Below(30) == 0) std::fill_n(Channel(*state, slot).bytes.begin(), 16, Base::Byte{' '});
+  }
+  for (std::size_t i = 1; i < 20; ++i) {
+    const std::string digit(1, static_cast<char>('0' + junk.Below(3)));
+    state->TransponderTable[i].record =
+        Samples::MakeTransponder(10700 + static_cast<int>(i) * 20, true, 0, 1, 2);
+    state->TransponderTable[i].SetBouquet("B", "0" + digit);
+  }
+  for (std::size_t list = 0; list < FavouriteLists; ++list) {
+    const std::size_t count = list == 7 ? FavouriteEntries : junk.Below(60);
+    for (std::size_t place = 0; place < count; ++place) {
+      int slot = 0;
+      while (slot == 0 || Channel(*state, slot).Empty())
+        slot = 1 + static_cast<int>(junk.Below(static_cast<std::size_t>(limit)));
+      PutEntry(*state, list, place, slot);
+    }
+  }
+  return state;
+}
+
+// The SIDs that the entries of a list name; 0 for an entry on an empty slot.
+std::vector<int> Named(const State& state, std::size_t list) {
+  std::vector<int> sids;
+  for (const int slot : FavouriteEntriesOf(state.FavouritesBlock, list)) {
+    sids.push_back(
+        static_cast<int>(Get(state.ChannelTable[static_cast<std::size_t>(slot)], ChannelField::Sid)));
+  }
+  return sids;
+}
+
+Slots RandomSlots(Junk& junk, const State& state) {
+  const int first = 1 + static_cast<int>(junk.Below(static_cast<std::size_t>(state.ChannelCount)));
+  return {first, std::min(first + static_cast<int>(junk.Below(9)), state.ChannelCount)};
+}
+
+// One random command; nothing where it was refused.
+void RandomCommand(Junk& junk, State& state, Clipboard& clipboard) {
+  const Slots slots = RandomSlots(junk, state);
+  switch (junk.Below(8)) {
+    case 0:
+      DeleteChannels(state, slots);
+      break;
+    case 1:
+      clipboard = CopyChannels(state, slots);
+      CutChannels(state, slots, clipboard);
+      break;
+    case 2:
+      if (IsPosition(state, slots.first, clipboard.Count())) {
+        static_cast<void>(Paste(state, clipboard, slots.first, PasteWay::Move, {}));
+        clipboard = {};
+      }
+      break;
+    case 3:
+      MoveChannels(state, slots,
+                   1 + static_cast<int>(junk.Below(static_cast<std::size_t>(state.ChannelCount))));
+      break;
+    case 4:
+      OrdinaPerBouquet(state, slots.first);
+      break;
+    case 5:
+      MakeRoom(state, slots.first, 2);
+      break;
+    case 6:
+      InvertiSatelliti(state);
+      break;
+    default:
+      CanaliXTransponder(state);
+      break;
+  }
+}
+
+// The sort as it is described: a plain exchange sort over the table's slots, then the gaps.
+void PlainSort(State& state, int start) {
+  int last = LastOccupied(state);
+  const auto takesPart = [&](int slot) { return !Channel(state, slot).Empty(); };
+  for (int i = start; i < last; ++i) {
+    for (int j = i + 1; takesPart(i) && j <= last; ++j) {
+      if (!takesPart(j)) continue;
+      const auto a = Get(Channel(state, i), ChannelField::Transponder);
+      const auto b = Get(Channel(state, j), ChannelField::Transponder);
+      if (a == 0 || a == 255 || b == 0 || b == 255) continue;
+      const auto codeA = state.TransponderTable[a].BouquetCode();
+      const auto codeB = state.TransponderTable[b].BouquetCode();
+      if (codeB < codeA || (codeA == codeB && a > b)) std::swap(Channel(state, i), Channel(state, j));
+    }
+  }
+  for (int i = start; i <= last;) {
+    const auto& bytes = Channel(state, i).bytes;
+    if (bytes[0] != 0 && !std::all_of(bytes.begin(), bytes.begin() + 5, [](int c) { return c == ' '; })) {
+      ++i;
+      continue;
+    }
+    for (int j = i; j < last; ++j) Channel(state, j) = Channel(state, j + 1);
+    Channel(state, last--) = {};
+  }
+}
+
+}  // namespace
+
+TEST(Editing, FavouritesGoOnNamingTheSameChannels) {
+  Junk junk(5);
+  Clipboard clipboard;
+  auto state = RandomList(junk, 300);
+  for (int step = 0; step < 400; ++step) {
+    if (step % 40 == 0) {
+      state = RandomList(junk, 300);
+      clipboard = {};
+    }
+    State before = *state;
+    RandomCommand(junk, *state, clipboard);
+    std::array<bool, 400> present{};
+    for (const ChannelRecord& c : state->ChannelTable) present[Get(c, ChannelField::Sid)] = true;
+    for (std::size_t list = 0; list < FavouriteLists; ++list) {
+      std::vector<int> expected = Named(before, list);
+      std::erase_if(expected, [&](int sid) { return sid != 0 && !present[static_cast<std::size_t>(sid)]; });
+      std::vector<int> named = Named(*state, list);
+      // What a cut took out comes back with the paste; a gap that was closed takes its entry along.
+      std::erase_if(
+          named, [&](int sid) { return std::find(expected.begin(), expected.end(), sid) == expected.end(); });
+      std::erase(expected, 0);
+      std::erase(named, 0);
+      ASSERT_EQ(named, expected) << "step " << step << " list " << list;
+    }
+  }
+}
+
+TEST(Editing, DeletingClosesTheListAndItsFavourites) {
+  Junk junk(1);
+  auto state = RandomList(junk, 40);
+  state->FavouritesBlock.assign(NormalFavouritesSize, 0);
+  for (int slot = 1; slot <= 20; ++slot) Channel(*state, slot) = Samples::MakeChannel("x", 3, slot, 1, 1);
+  Channel(*state, 6) = {};
+  const int entries[] = {5, 9, 4000, 6, 20, 7};
+  for (std::size_t i = 0; i < 6; ++i) PutEntry(*state, 0, i, entries[i]);
+  Set(state->TransponderTable[3].record, TransponderField::ChannelCount, 1);
+  const auto lost = DeleteChannels(*state, {5, 7});
+  EXPECT_EQ(FavouriteEntriesOf(state->FavouritesBlock, 0), std::vector<int>({6, 4000, 17}));
+  EXPECT_EQ(LostFavouritesText(state->FavouritesBlock, lost), "tolti 3 preferiti (lista 1 3)");
+  EXPECT_EQ(Get(Channel(*state, 5), ChannelField::Sid), 8U);
+  EXPECT_TRUE(Channel(*state, 40).Empty());
+  EXPECT_EQ(Get(state->TransponderTable[3].record, TransponderField::ChannelCount), 0U) << "never below 0";
+  DeleteChannels(*state, {1, 40});
+  EXPECT_EQ(LastOccupied(*state), 0);
+}
+
+TEST(Editing, CutAndPasteGivesFavouritesBack) {
+  Junk junk(2);
+  auto state = RandomList(junk, 100);
+  const State before = *state;
+  Clipboard clipboard = CopyChannels(*state, {10, 20});
+  CutChannels(*state, {10, 20}, clipboard);
+  ASSERT_TRUE(Paste(*state, clipboard, 10, PasteWay::Move, {}));
+  EXPECT_EQ(state->ChannelTable, before.ChannelTable);
+  EXPECT_EQ(state->FavouritesBlock, before.FavouritesBlock);
+}
+
+TEST(Editing, PastingKeepsToTheLimit) {
+  Junk junk(3);
+  auto state = RandomList(junk, 100);
+  EXPECT_FALSE(IsPosition(*state, 0, 5));
+  EXPECT_TRUE(IsPosition(*state, 95, 5));
+  EXPECT_FALSE(IsPosition(*state, 96, 5));
+  Channel(*state, 97) = Samples::MakeChannel("ultimo", 1, 97, 1, 1);
+  const State before = *state;
+  const Clipboard clipboard = CopyChannels(*state, {1, 4});
+  const auto refused = Paste(*state, clipboard, 50, PasteWay::Move, {});
+  ASSERT_FALSE(refused);
+  EXPECT_EQ(refused.error().message, "Posizione di inserimento invalida");
+  EXPECT_TRUE(*state == before);
+  ASSERT_TRUE(Paste(*state, clipboard, 96, PasteWay::Overwrite, {}));
+  EXPECT_EQ(Channel(*state, 97), Channel(*state, 2));
+  EXPECT_EQ(state->FavouritesBlock, before.FavouritesBlock) << "overwriting leaves entries on their slot";
+}
+
+TEST(Editing, ChannelsOfAnotherListFindTheirTransponders) {
+  Junk junk(4);
+  auto from = RandomList(junk, 50);
+  const int numbers[] = {1, 2, 3};
+  for (int i = 0; i < 3; ++i) Channel(*from, i + 1) = Samples::MakeChannel("x", numbers[i], i, 1, 1);
+  const Clipboard clipboard = CopyChannels(*from, {1, 3});
+  auto to = std::make_unique<State>();
+  to->ListNumber = 9;
+  to->ChannelCount = 50;
+  to->TransponderCount = 3;
+  to->TransponderTable[1].record = Samples::MakeTransponder(12500, true, 0, 1, 2);
+  to->TransponderTable[3].record = Samples::MakeTransponder(10742, true, 0, 9, 9);
+  const auto pasted = Paste(*to, clipboard, 5, PasteWay::Overwrite, {});
+  ASSERT_TRUE(pasted);
+  EXPECT_EQ(pasted->withoutTransponder, 1);
+  const int linked[] = {2, 3, 3};
+  for (int i = 0; i < 3; ++i)
+    EXPECT_EQ(Get(Channel(*to, 5 + i), ChannelField::Transponder), static_cast<std::uint32_t>(linked[i]));
+  EXPECT_EQ(FrequencyMHz(to->TransponderTable[2].record), 10720);
+  EXPECT_EQ(to->TransponderTable[2].BouquetName().substr(0, 7), "Nessuno");
+}
+
+TEST(Editing, TheSortIsTheExchangeSortsOwn) {
+  for (std::uint32_t seed = 1; seed <= 40; ++seed) {
+    Junk junk(seed);
+    auto state = RandomList(junk, 60 + static_cast<int>(junk.Below(200)));
+    auto plain = std::make_unique<State>(*state);
+    const int start = 1 + static_cast<int>(junk.Below(static_cast<std::size_t>(LastOccupied(*state))));
+    OrdinaPerBouquet(*state, start);
+    PlainSort(*plain, start);
+    ASSERT_EQ(state->ChannelTable, plain->ChannelTable) << seed;
+  }
+}
+
+TEST(Editing, WholeListCommands) {
+  Junk junk(6);
+  auto state = RandomList(junk, 300);
+  const State before = *state;
+  InvertiSatelliti(*state);
+  EXPECT_EQ(SatelliteLabel(state->TransponderTable[1].record), "SAT B");
+  InvertiSatelliti(*state);
+  EXPECT_TRUE(*state == before);
+  state->TransponderTable[1].record.bytes[11] = 0xF7 & 0x17;  // satellite C, everything else on
+  state->TransponderTable[2].record.bytes[11] = 0x1F;
+  RiportaAB(*state);
+  EXPECT_EQ(state->TransponderTable[1].record.bytes[11], 0x07);
+  EXPECT_EQ(state->TransponderTable[2].record.bytes[11], 0x0F);
+  for (int slot = 1; slot <= 290; ++slot) Channel(*state, slot) = Samples::MakeChannel("x", 7, slot, 1, 1);
+  CanaliXTransponder(*state);
+  EXPECT_EQ(Get(state->TransponderTable[7].record, TransponderField::ChannelCount), 255U);
+  EXPECT_EQ(Azzera(*state), 290);
+  EXPECT_EQ(LastUsedChannel(*state), 0);
+  EXPECT_EQ(UsedTransponders(*state), 0);
+  EXPECT_EQ(state->FavouritesBlock, before.FavouritesBlock);
+  EXPECT_EQ(Azzera(*state), 0);
+}
+
+TEST(Editing, NamesAreFoundWhateverTheirCase) {
+  State state;
+  state.ChannelCount = 5;
+  Channel(state, 2) = Samples::MakeChannel("Citt\xE0 \x9C", 12, 300, 1, 1);
+  Channel(state, 4) = Samples::MakeChannel("12 stelle", 3, 12, 1, 1);
+  EXPECT_EQ(FindName(state, "TT\xC0 \x8C", 1), 2);
+  EXPECT_EQ(FindName(state, "tt\xE0", 3), 0);
+  EXPECT_EQ(MatchingSlots(state, "12"), std::vector<int>({2, 4}));
+  EXPECT_EQ(MatchingSlots(state, "300"), std::vector<int>({2}));
+  EXPECT_EQ(MatchingSlots(state, "30"), std::vector<int>());
+}
+
+TEST(History, ALongSequenceGoesBackToTheStartAndForthToTheEnd) {
+  Junk junk(9);
+  History history;
+  Clipboard clipboard;
+  auto state = RandomList(junk, 300);
+  const State first = *state;
+  int steps = 0;
+  for (int i = 0; i < 150; ++i) {
+    auto before = std::make_unique<State>(*state);
+    RandomCommand(junk, *state, clipboard);
+    if (*before == *state) continue;
+    history.Push("passo", History::Kind::Edit, std::move(before));
+    ++steps;
+  }
+  const State last = *state;
+  while (history.Undo(*state)) --steps;
+  EXPECT_EQ(steps, 0);
+  EXPECT_TRUE(*state == first);
+  while (history.Redo(*state)) ++steps;
+  EXPECT_TRUE(*state == last);
+  history.Undo(*state);
+  history.Push("altro", History::Kind::Edit, std::make_unique<State>(*state));
+  EXPECT_EQ(history.RedoLabel(), "") << "a new step forgets what was undone";
+}
+
+TEST(History, UndoingAnEditKeepsTheOutputAndUndoingALoadGivesItBack) {
+  History history;
+  State state;
+  history.Push("apri", History::Kind::List, std::make_unique<State>(state));
+  state.MaxChannels = 999;
+  history.Push("elimina", History::Kind::Edit, std::make_unique<State>(state));
+  state.ChannelCount = 5;
+  state.OutputFlash = "scelta.dat";
+  state.MaxChannels = 0;
+  history.Undo(state);
+  EXPECT_EQ(state.OutputFlash, "scelta.dat");
+  EXPECT_EQ(state.MaxChannels, 0);
+  history.Undo(state);
+  EXPECT_EQ(state.OutputFlash, "");
+}
+
+}  // namespace Edit
