@@ -1,14 +1,16 @@
 #include "window_driver.h"
 
+#include "ui/griglia.h"
+
 #include <QAbstractButton>
 #include <QApplication>
 #include <QFileDialog>
+#include <QInputDialog>
 #include <QLabel>
 #include <QLineEdit>
 #include <QMenu>
 #include <QMenuBar>
 #include <QMessageBox>
-#include <QTableView>
 #include <QTest>
 #include <QToolButton>
 
@@ -26,6 +28,13 @@ void ClickStandardButton(QDialog& dialog, QMessageBox::StandardButton button) {
   } else {
     dialog.reject();
   }
+}
+
+// What a box says or asks; nothing for a file dialog.
+QString TextIn(QDialog& dialog) {
+  if (const auto* message = qobject_cast<QMessageBox*>(&dialog)) return message->text();
+  if (const auto* input = qobject_cast<QInputDialog*>(&dialog)) return input->labelText();
+  return {};
 }
 
 void EnterPath(QDialog& dialog, const QString& path) {
@@ -72,6 +81,22 @@ void WindowDriver::ExpectQuestion(const QString& text, bool yes) {
   expected_.push_back({"Trovalis", text, [button](QDialog& box) { ClickStandardButton(box, button); }});
 }
 
+void WindowDriver::ExpectCancelledQuestion(const QString& text) {
+  expected_.push_back(
+      {"Trovalis", text, [](QDialog& box) { ClickStandardButton(box, QMessageBox::Cancel); }});
+}
+
+void WindowDriver::ExpectLine(const QString& question, const QString& answer) {
+  expected_.push_back({"Trovalis", question, [answer](QDialog& box) {
+                         if (auto* input = qobject_cast<QInputDialog*>(&box)) {
+                           input->setTextValue(answer);
+                           QTest::keyClick(input->findChild<QLineEdit*>(), Qt::Key_Return);
+                         } else {
+                           box.reject();
+                         }
+                       }});
+}
+
 void WindowDriver::ExpectFile(const QString& title, const QString& path) {
   expected_.push_back({title, {}, [path](QDialog& box) { EnterPath(box, path); }});
 }
@@ -83,8 +108,7 @@ void WindowDriver::ExpectFileCancelled(const QString& title) {
 void WindowDriver::AnswerBox() {
   auto* dialog = qobject_cast<QDialog*>(QApplication::activeModalWidget());
   if (dialog == nullptr || !dialog->isVisible()) return;
-  const auto* message = qobject_cast<QMessageBox*>(dialog);
-  const QString text = message == nullptr ? QString() : message->text();
+  const QString text = TextIn(*dialog);
   if (expected_.empty()) {
     failures_ += "unexpected box: " + dialog->windowTitle() + ": " + text;
     dialog->reject();
@@ -130,8 +154,26 @@ QString WindowDriver::TextOf(const char* label) const {
 }
 
 QString WindowDriver::Cell(int row, int column) const {
-  const auto* grid = window_.findChild<QTableView*>("Griglia");
-  return grid->model()->index(row - 1, column).data().toString();
+  return Grid().model()->index(row - 1, column).data().toString();
+}
+
+Ui::Griglia& WindowDriver::Grid() const { return *window_.findChild<Ui::Griglia*>("Griglia"); }
+
+void WindowDriver::Key(Qt::Key key, Qt::KeyboardModifiers modifiers) {
+  window_.activateWindow();
+  if (!QTest::qWaitForWindowActive(&window_)) failures_ += "the window does not get active";
+  QWidget* focus = QApplication::focusWidget();
+  QTest::keyClick(focus == nullptr ? &window_ : focus, key, modifiers);
+}
+
+void WindowDriver::SelectRows(int from, int to) {
+  Ui::Griglia& grid = Grid();
+  grid.clearSelection();
+  const auto place = [&grid](int row) { return grid.visualRect(grid.model()->index(row - 1, 1)).center(); };
+  grid.scrollTo(grid.model()->index(std::min(from, to) - 1, 1), QAbstractItemView::PositionAtTop);
+  QTest::mousePress(grid.viewport(), Qt::LeftButton, Qt::NoModifier, place(from));
+  QTest::mouseMove(grid.viewport(), place(to));
+  QTest::mouseRelease(grid.viewport(), Qt::LeftButton, Qt::NoModifier, place(to));
 }
 
 QStringList WindowDriver::Failures() const {

@@ -10,6 +10,10 @@
 #include <deque>
 #include <functional>
 
+namespace Ui {
+class Griglia;
+}
+
 class QDialog;
 class QFileDialog;
 class QMessageBox;
@@ -27,6 +31,8 @@ class WindowDriver : public QObject {
   // told in Failures().
   void ExpectMessage(const QString& text, const QString& title = "Trovalis");
   void ExpectQuestion(const QString& text, bool yes);
+  void ExpectCancelledQuestion(const QString& text);
+  void ExpectLine(const QString& question, const QString& answer);
   void ExpectFile(const QString& title, const QString& path);
   void ExpectFileCancelled(const QString& title);
 
@@ -39,6 +45,12 @@ class WindowDriver : public QObject {
   [[nodiscard]] QString TextOf(const char* label) const;
   // A cell of the grid, counted as the user does: row 1 is slot 1, column 0 its number.
   [[nodiscard]] QString Cell(int row, int column) const;
+
+  // Types a key where the focus of the active window is.
+  void Key(Qt::Key key, Qt::KeyboardModifiers modifiers = {});
+  // Selects rows as a user does, with the mouse from one to the other.
+  void SelectRows(int from, int to);
+  [[nodiscard]] Ui::Griglia& Grid() const;
 
   // Everything that was not as expected, and boxes that never came.
   [[nodiscard]] QStringList Failures() const;

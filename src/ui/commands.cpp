@@ -53,7 +53,7 @@ void BuildToolbar(QMainWindow& window) {
   toolbar->setIconSize(QSize(24, 24));
   for (const ToolbarButton& button : ToolbarButtons) {
     if (button.startsGroup) toolbar->addSeparator();
-    auto* action = toolbar->addAction(IconNamed(button.icon), button.tip);
+    auto* action = toolbar->addAction(button.hidden ? QIcon() : IconNamed(button.icon), button.tip);
     action->setObjectName(ButtonName(button.key));
     action->setToolTip(button.tip);
     action->setEnabled(false);
