@@ -7,6 +7,7 @@
 #include <QApplication>
 #include <QDir>
 #include <QFile>
+#include <QLineEdit>
 #include <QScreen>
 #include <QTest>
 
@@ -37,6 +38,7 @@ class Session {
     ChooseSettings();
     OpenFlash();
     LookAtTransponders();
+    MoveRows();
     Convert();
     SaveCopy();
     OpenCopyAgain();
@@ -93,8 +95,20 @@ class Session {
          chosen && driver_->TextOf("Text1") == "Transponders" && frequency >= 10700 && frequency <= 12750,
          QString("first: %1 MHz %2 %3 %4")
              .arg(driver_->Cell(1, 1), driver_->Cell(1, 7), driver_->Cell(1, 5), driver_->Cell(1, 10)));
-    Step("channels", driver_->Press("Toolbar1_Canali") && driver_->TextOf("Text1") == "Canali",
-         driver_->TextOf("CanaliUsati"));
+    const bool back = driver_->Press("Toolbar1_Canali") && driver_->TextOf("Text1") == "Canali";
+    Step("channels", back, driver_->TextOf("CanaliUsati"));
+  }
+
+  void MoveRows() {
+    driver_->SelectRows(9, 12);
+    driver_->Key(Qt::Key_Down, Qt::AltModifier);
+    window_->findChild<QLineEdit*>("Filtro")->setText("HD");
+    Step("move rows and filter",
+         driver_->Cell(9, 1) == "Italia Domani" && driver_->Cell(10, 1) == "Città Più +1",
+         driver_->TextOf("UltimoRisultato") + "; filter HD: " + driver_->TextOf("FiltroTrovati"));
+    window_->findChild<QLineEdit*>("Filtro")->clear();
+    const bool undone = driver_->Choose("Annulla") && driver_->Cell(9, 1) == "Città Più +1";
+    Step("undo", undone, driver_->TextOf("UltimoRisultato"));
   }
 
   void Convert() {

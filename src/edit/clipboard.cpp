@@ -41,13 +41,15 @@ Clipboard CopyChannels(const State& state, Slots slots) {
 std::vector<LostFavourite> CutChannels(State& state, Slots slots, Clipboard& clipboard) {
   std::vector<LostFavourite> lost = DeleteChannels(state, slots);
   clipboard.cut = lost;
+  clipboard.cutNumber = ++state.CutNumber;
   for (LostFavourite& entry : clipboard.cut) entry.slot -= slots.first;
   return lost;
 }
 
 Base::Result<PasteReport> Paste(State& state, const Clipboard& clipboard, int position, PasteWay way,
                                 const BouquetTables& bouquets) {
-  if (way == PasteWay::Move && !MakeRoom(state, position, clipboard.Count())) {
+  const bool fits = position >= 1 && position + clipboard.Count() - 1 <= state.ChannelCount;
+  if (!fits || (way == PasteWay::Move && !MakeRoom(state, position, clipboard.Count()))) {
     return Base::Error{std::string(InvalidPosition)};
   }
   PasteReport report;
@@ -58,7 +60,7 @@ Base::Result<PasteReport> Paste(State& state, const Clipboard& clipboard, int po
       ++report.withoutTransponder;
     state.ChannelTable[static_cast<std::size_t>(position) + i] = channel;
   }
-  if (!otherList) {
+  if (!otherList && clipboard.cutNumber == state.CutNumber) {
     for (const LostFavourite& entry : clipboard.cut) {
       if (InsertFavourite(state.FavouritesBlock, entry.list, entry.place, position + entry.slot))
         ++report.favouritesBack;

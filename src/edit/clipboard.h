@@ -17,6 +17,7 @@ struct Clipboard {
   std::vector<TransponderRecord> transponders;  // of each channel, free where it had none
   std::vector<LostFavourite>
       cut;             // entries that a cut took out, with the channel's place in `channels` as slot
+  int cutNumber = 0;   // of that cut, in the state of its list
   int listNumber = 0;  // of the list they came from
 
   [[nodiscard]] int Count() const { return static_cast<int>(channels.size()); }
@@ -24,7 +25,8 @@ struct Clipboard {
 
 Clipboard CopyChannels(const State& state, Slots slots);
 
-// Deletes the channels just copied and keeps which favourites went with them.
+// Deletes the channels just copied and keeps which favourites went with them. They come back with the next paste,
+// unless the cut itself has been undone before.
 std::vector<LostFavourite> CutChannels(State& state, Slots slots, Clipboard& clipboard);
 
 struct PasteReport {
@@ -34,9 +36,9 @@ struct PasteReport {
 
 enum class PasteWay { Move, Overwrite };
 
-// Puts the clipboard's channels into slots `position` on, and brings the transponders' counts up to date. Channels of
-// another list take the slot of their transponder or a free one. `position` must be one (IsPosition); moving where
-// that would push a channel out is an error that changes nothing.
+// Puts the clipboard's channels into slots `position` on, and brings the transponders' counts up to date. Channels
+// of another list take the slot of their transponder or a free one. Where they have no room, or moving would push
+// a channel out, it is an error that changes nothing.
 Base::Result<PasteReport> Paste(State& state, const Clipboard& clipboard, int position, PasteWay way,
                                 const Routines::BouquetTables& bouquets);
 

@@ -24,6 +24,7 @@ struct State {
   int TransponderCount = 0;  // at most 254
 
   bool Loaded = false;
+  int CutNumber = 0;        // of the last cut; another one for every cut
   int ListNumber = 0;       // another one for every list loaded in the place of the last
   std::string InputFlash;   // path of the flash image last opened
   std::string OutputFlash;  // path of the flash image chosen for writing, empty when none is

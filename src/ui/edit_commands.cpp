@@ -119,6 +119,7 @@ void EditCommands::TellPasted(int count, int position, const Edit::PasteReport& 
 void EditCommands::Move(Slots slots, int to) {
   const State& state = session_.document.Tables();
   to = std::clamp(to, 1, state.ChannelCount - slots.Count() + 1);
+  if (to == slots.first) return;
   const std::string label = "Sposta " + CountText(slots.Count());
   session_.document.Apply(label, [&](State& tables) {
     Edit::MoveChannels(tables, slots, to);
@@ -148,6 +149,7 @@ void EditCommands::SpostaA() {
 
 void EditCommands::Drop(int first, int last, int before, bool copy) {
   const Slots slots{first, last};
+  if (first < 1 || last < first || last > session_.document.Tables().ChannelCount) return;
   if (copy) {
     InsertCopy(slots, before);
   } else {
@@ -164,7 +166,7 @@ void EditCommands::InsertCopy(Slots slots, int before) {
   });
   if (made) session_.view.Grid().Select({before, before + slots.Count() - 1});
   session_.status.ShowResult(made ? Text(label) + QString(" al %1").arg(before)
-                                  : QString("Non c'è posto per altri %1 canali").arg(slots.Count()));
+                                  : "Non c'è posto per inserire " + Text(CountText(slots.Count())));
 }
 
 void EditCommands::Undo() {

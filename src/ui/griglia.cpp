@@ -130,6 +130,11 @@ void Griglia::startDrag(Qt::DropActions) {
   drag->exec(Qt::MoveAction | Qt::CopyAction, Qt::MoveAction);
 }
 
+// Rows of another window would be numbers of another list.
+void Griglia::dragEnterEvent(QDragEnterEvent* event) {
+  if (event->source() == this) QTableView::dragEnterEvent(event);
+}
+
 void Griglia::selectionChanged(const QItemSelection& selected, const QItemSelection& deselected) {
   QTableView::selectionChanged(selected, deselected);
   Q_EMIT SelectionMoved();

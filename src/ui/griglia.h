@@ -36,6 +36,7 @@ class Griglia : public QTableView {
  protected:
   void mousePressEvent(QMouseEvent* event) override;
   void startDrag(Qt::DropActions actions) override;
+  void dragEnterEvent(QDragEnterEvent* event) override;
   void selectionChanged(const QItemSelection& selected, const QItemSelection& deselected) override;
   void resizeEvent(QResizeEvent* event) override;
   void changeEvent(QEvent* event) override;

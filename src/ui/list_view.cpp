@@ -107,8 +107,8 @@ void ListView::RestoreTicks() {
 
 void ListView::ShowFound(int slot) {
   channels_.SetMark(slot, ListModel::Mark::Found);
+  grid_->selectionModel()->setCurrentIndex(channels_.index(slot - 1, 1), QItemSelectionModel::NoUpdate);
   grid_->ScrollToTop(slot);
-  grid_->Select({slot, slot});
 }
 
 void ListView::MarkMatches() {

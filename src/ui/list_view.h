@@ -37,7 +37,8 @@ class ListView : public QWidget {
   // Sets the ticks to what is shown, for a command that was refused.
   void RestoreTicks();
 
-  // Paints the row of a channel that a search has found and makes it the first visible one.
+  // Paints the row of a channel that a search has found, makes it current and the first visible one. It is not
+  // selected, as that would hide the colour.
   void ShowFound(int slot);
 
  Q_SIGNALS:

@@ -189,6 +189,9 @@ TEST(Editing, CutAndPasteGivesFavouritesBack) {
   ASSERT_TRUE(Paste(*state, clipboard, 10, PasteWay::Move, {}));
   EXPECT_EQ(state->ChannelTable, before.ChannelTable);
   EXPECT_EQ(state->FavouritesBlock, before.FavouritesBlock);
+  *state = before;
+  ASSERT_TRUE(Paste(*state, clipboard, 85, PasteWay::Overwrite, {}));
+  EXPECT_EQ(state->FavouritesBlock, before.FavouritesBlock) << "not twice, where the cut was undone";
 }
 
 TEST(Editing, PastingKeepsToTheLimit) {
@@ -203,6 +206,7 @@ TEST(Editing, PastingKeepsToTheLimit) {
   const auto refused = Paste(*state, clipboard, 50, PasteWay::Move, {});
   ASSERT_FALSE(refused);
   EXPECT_EQ(refused.error().message, "Posizione di inserimento invalida");
+  EXPECT_FALSE(Paste(*state, clipboard, 101, PasteWay::Move, {})) << "behind the last slot";
   EXPECT_TRUE(*state == before);
   ASSERT_TRUE(Paste(*state, clipboard, 96, PasteWay::Overwrite, {}));
   EXPECT_EQ(Channel(*state, 97), Channel(*state, 2));

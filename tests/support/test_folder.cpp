@@ -31,7 +31,7 @@ std::string TestFolder::Path(std::string_view name) const {
 }
 
 std::string TestFolder::Write(std::string_view name, Base::ByteView bytes) const {
-  const std::string path = Path(name);
+  std::string path = Path(name);
   std::ofstream file(path, std::ios::binary);
   file.write(reinterpret_cast<const char*>(bytes.data()), static_cast<std::streamsize>(bytes.size()));
   file.close();
