@@ -73,4 +73,16 @@ std::optional<std::string> FromUtf8(std::string_view text) {
   return bytes;
 }
 
+std::string FromUtf8Lossy(std::string_view text) {
+  std::string bytes;
+  bytes.reserve(text.size());
+  while (!text.empty()) {
+    const std::size_t before = text.size();
+    const auto character = TakeCharacter(text);
+    bytes += (character ? ByteOf(*character) : std::nullopt).value_or('?');
+    if (text.size() == before) text.remove_prefix(1);
+  }
+  return bytes;
+}
+
 }  // namespace Base

@@ -1,6 +1,8 @@
 #include "edit/clipboard.h"
 
+#include "base/text.h"
 #include "model/cells.h"
+#include "model/symbol_rates.h"
 
 namespace Edit {
 namespace {
@@ -13,17 +15,21 @@ TransponderRecord TransponderOf(const State& state, const ChannelRecord& channel
   return known ? state.TransponderTable[number].record : TransponderRecord{};
 }
 
-// Links a channel of another list to its transponder here; false when there is no slot for it.
-bool LinkTransponder(State& state, ChannelRecord& channel, const TransponderRecord& transponder,
-                     const BouquetTables& bouquets) {
+// Links a channel to its transponder where that is another slot than the channel says: in another list, or where the
+// slot has been cleared since. False when there is no slot for it.
+bool LinkTransponder(State& state, ChannelRecord& channel, const Clipboard& clipboard,
+                     TransponderRecord transponder, const BouquetTables& bouquets) {
   if (IsFree(transponder)) return true;
-  const int slot = FindOrAddTransponder(state, transponder);
-  // A slot that was free has no bouquet yet; for one that was found the look-up gives what it has.
-  TransponderRow& row = state.TransponderTable[static_cast<std::size_t>(slot)];
-  if (slot != 0 && row.record == transponder) NameBouquet(row, bouquets);
-  const int linked = slot != 0 ? slot : state.TransponderCount;
+  const std::uint32_t number = Get(channel, ChannelField::Transponder);
+  if (clipboard.listNumber == state.ListNumber && !IsFree(state.TransponderTable[number].record)) return true;
+  const auto code = RecodedRate(clipboard.symbolRates, state.SymbolRateTable,
+                                Get(transponder, TransponderField::SymbolRate));
+  Set(transponder, TransponderField::SymbolRate, static_cast<std::uint32_t>(code));
+  const TransponderSlot found = FindOrAddTransponder(state, transponder);
+  if (found.added) NameBouquet(state.TransponderTable[static_cast<std::size_t>(found.slot)], bouquets);
+  const int linked = found.slot != 0 ? found.slot : state.TransponderCount;
   Set(channel, ChannelField::Transponder, static_cast<std::uint32_t>(linked));
-  return slot != 0;
+  return found.slot != 0;
 }
 
 }  // namespace
@@ -31,6 +37,7 @@ bool LinkTransponder(State& state, ChannelRecord& channel, const TransponderReco
 Clipboard CopyChannels(const State& state, Slots slots) {
   Clipboard clipboard;
   clipboard.listNumber = state.ListNumber;
+  clipboard.symbolRates = state.SymbolRateTable;
   for (int slot = slots.first; slot <= slots.last; ++slot) {
     clipboard.channels.push_back(state.ChannelTable[static_cast<std::size_t>(slot)]);
     clipboard.transponders.push_back(TransponderOf(state, clipboard.channels.back()));
@@ -41,29 +48,29 @@ Clipboard CopyChannels(const State& state, Slots slots) {
 std::vector<LostFavourite> CutChannels(State& state, Slots slots, Clipboard& clipboard) {
   std::vector<LostFavourite> lost = DeleteChannels(state, slots);
   clipboard.cut = lost;
-  clipboard.cutNumber = ++state.CutNumber;
+  if (!lost.empty()) clipboard.cutNumber = ++state.CutNumber;
   for (LostFavourite& entry : clipboard.cut) entry.slot -= slots.first;
   return lost;
 }
 
 Base::Result<PasteReport> Paste(State& state, const Clipboard& clipboard, int position, PasteWay way,
                                 const BouquetTables& bouquets) {
+  PasteReport report;
   const bool fits = position >= 1 && position + clipboard.Count() - 1 <= state.ChannelCount;
-  if (!fits || (way == PasteWay::Move && !MakeRoom(state, position, clipboard.Count()))) {
+  if (!fits || (way == PasteWay::Move && !MakeRoom(state, position, clipboard.Count(), report.lost))) {
     return Base::Error{std::string(InvalidPosition)};
   }
-  PasteReport report;
-  const bool otherList = clipboard.listNumber != state.ListNumber;
   for (std::size_t i = 0; i < clipboard.channels.size(); ++i) {
     ChannelRecord channel = clipboard.channels[i];
-    if (otherList && !LinkTransponder(state, channel, clipboard.transponders[i], bouquets))
+    if (!LinkTransponder(state, channel, clipboard, clipboard.transponders[i], bouquets))
       ++report.withoutTransponder;
     state.ChannelTable[static_cast<std::size_t>(position) + i] = channel;
   }
-  if (!otherList && clipboard.cutNumber == state.CutNumber) {
+  if (clipboard.listNumber == state.ListNumber && clipboard.cutNumber == state.CutNumber) {
     for (const LostFavourite& entry : clipboard.cut) {
-      if (InsertFavourite(state.FavouritesBlock, entry.list, entry.place, position + entry.slot))
-        ++report.favouritesBack;
+      const bool back =
+          InsertFavourite(state.FavouritesBlock, entry.list, entry.place, position + entry.slot);
+      ++(back ? report.favouritesBack : report.favouritesFull);
     }
   }
   CanaliXTransponder(state);
@@ -75,7 +82,7 @@ std::string TabSeparated(const State& state, Slots slots) {
   std::string text;
   for (int slot = slots.first; slot <= slots.last; ++slot) {
     for (int column = 0; column < Columns; ++column) {
-      std::string cell = ChannelCell(state, slot, column);
+      std::string cell(Base::TrimmedRight(ChannelCell(state, slot, column)));
       // A control byte of a name would begin another cell or line.
       std::replace_if(
           cell.begin(), cell.end(), [](char c) { return c >= 0 && c < ' '; }, ' ');

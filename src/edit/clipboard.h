@@ -16,9 +16,10 @@ struct Clipboard {
   std::vector<ChannelRecord> channels;
   std::vector<TransponderRecord> transponders;  // of each channel, free where it had none
   std::vector<LostFavourite>
-      cut;             // entries that a cut took out, with the channel's place in `channels` as slot
-  int cutNumber = 0;   // of that cut, in the state of its list
-  int listNumber = 0;  // of the list they came from
+      cut;                  // entries that a cut took out, with the channel's place in `channels` as slot
+  std::string symbolRates;  // the table that gives the transponders' codes their rates
+  int cutNumber = 0;        // of that cut, in the state of its list
+  int listNumber = 0;       // of the list they came from
 
   [[nodiscard]] int Count() const { return static_cast<int>(channels.size()); }
 };
@@ -30,8 +31,10 @@ Clipboard CopyChannels(const State& state, Slots slots);
 std::vector<LostFavourite> CutChannels(State& state, Slots slots, Clipboard& clipboard);
 
 struct PasteReport {
-  int withoutTransponder = 0;  // channels from another list whose transponder found no slot
-  int favouritesBack = 0;
+  int withoutTransponder = 0;       // channels from another list whose transponder found no slot
+  int favouritesBack = 0;           // entries of a cut that are in their lists again
+  int favouritesFull = 0;           // and those whose list has no room for them
+  std::vector<LostFavourite> lost;  // entries on empty slots at the list's end that were pushed out
 };
 
 enum class PasteWay { Move, Overwrite };

@@ -6,6 +6,7 @@ using Routines::State;
 
 void History::Push(std::string label, Kind kind, std::unique_ptr<State> before) {
   steps_.resize(done_);
+  if (kind == Kind::Continued && done_ > 0) return;
   steps_.push_back({std::move(label), kind, std::move(before)});
   if (steps_.size() > MostSteps) steps_.pop_front();
   done_ = steps_.size();

@@ -12,8 +12,8 @@ namespace Edit {
 class History {
  public:
   // What a step changed. A replaced list brings its own output and limits back; an edit leaves those alone, as a save
-  // may have set them since.
-  enum class Kind { Edit, List };
+  // may have set them since. A continued edit makes one step with the one before it.
+  enum class Kind { Edit, Continued, List };
 
   // The steps kept; at some 135 KB each they stay below 30 MB.
   static constexpr std::size_t MostSteps = 200;

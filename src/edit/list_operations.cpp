@@ -89,13 +89,13 @@ bool IsPosition(const State& state, int position, int count) {
   return position > 0 && position + count <= state.ChannelCount;
 }
 
-bool MakeRoom(State& state, int position, int count) {
+bool MakeRoom(State& state, int position, int count, std::vector<LostFavourite>& lost) {
   if (LastOccupied(state) + count > state.ChannelCount && LastOccupied(state) >= position) return false;
   SlotMap map = SameSlots();
   for (int slot = position; slot <= state.ChannelCount; ++slot) {
     map[At(slot)] = slot + count <= state.ChannelCount ? slot + count : 0;
   }
-  Rearrange(state, map);
+  lost = Rearrange(state, map);
   return true;
 }
 
@@ -164,11 +164,16 @@ void RiportaAB(State& state) {
 }
 
 void CanaliXTransponder(State& state) {
-  for (TransponderRow& row : state.TransponderTable) Set(row.record, TransponderField::ChannelCount, 0);
+  const auto counted = [&state](std::size_t slot) {
+    return static_cast<int>(slot) <= state.TransponderCount;
+  };
+  for (std::size_t slot = 0; counted(slot); ++slot) {
+    Set(state.TransponderTable[slot].record, TransponderField::ChannelCount, 0);
+  }
   for (int slot = 1; slot <= state.ChannelCount; ++slot) {
     const ChannelRecord& channel = state.ChannelTable[At(slot)];
     const std::size_t transponder = Get(channel, ChannelField::Transponder);
-    if (channel.Empty() || transponder > LastTransponderSlot) continue;
+    if (channel.Empty() || !counted(transponder)) continue;
     TransponderRecord& record = state.TransponderTable[transponder].record;
     const std::uint32_t count = Get(record, TransponderField::ChannelCount) + 1;
     if (count <= 255) Set(record, TransponderField::ChannelCount, count);
@@ -186,8 +191,9 @@ int FindName(const State& state, std::string_view text, int from) {
 std::vector<int> MatchingSlots(const State& state, std::string_view text) {
   std::vector<int> slots;
   const std::string wanted = UpperCase(text);
-  const bool number = !text.empty() && Base::LeadingDigits(text) == text;
-  const auto value = static_cast<std::uint32_t>(number ? Base::LeadingNumber(text) : 0);
+  const auto value = static_cast<std::uint32_t>(Base::LeadingNumber(text));
+  const bool zero = text.find_first_not_of('0') == std::string_view::npos;
+  const bool number = Base::LeadingDigits(text) == text && (value != 0 || zero);  // one too large reads as 0
   for (int slot = 1; slot <= state.ChannelCount && !text.empty(); ++slot) {
     const ChannelRecord& channel = state.ChannelTable[At(slot)];
     if (channel.Empty()) continue;

@@ -28,8 +28,8 @@ std::vector<LostFavourite> DeleteChannels(State& state, Slots slots);
 bool IsPosition(const State& state, int position, int count);
 
 // Makes `count` empty slots from `position` on by moving all channels there down; false, with nothing changed, where
-// that would push a channel past the channel count.
-bool MakeRoom(State& state, int position, int count);
+// that would push a channel past the channel count. Entries on empty slots that are pushed out are `lost`.
+bool MakeRoom(State& state, int position, int count, std::vector<LostFavourite>& lost);
 
 // Moves a run so that it begins at slot `to`; the channels between close up. `to` is clamped so that it fits.
 void MoveChannels(State& state, Slots slots, int to);

@@ -91,7 +91,7 @@ class Loader {
   // Finds or makes the slot of the second flash's transponder `number`.
   void Merge(int number, const TransponderRecord& record) {
     if (IsFree(record)) return;
-    int slot = FindOrAddTransponder(state_, record);
+    int slot = FindOrAddTransponder(state_, record).slot;
     if (slot == 0) {
       slot = state_.TransponderCount;
       report_.messages.push_back(TooManyTransponders(slot));
@@ -145,6 +145,7 @@ LoadReport LoadFlash(State& state, Base::ByteView image, int capacity, int appen
     state.TransponderTable = {};
     state.TransponderCount = 0;
     state.FavouritesBlock.assign(NormalFavouritesSize, 0);
+    state.FromFls = false;
     state.MaxChannels = capacity;
   } else {
     state.MaxChannels = std::min(state.ChannelCount + capacity, LastChannelSlot);

@@ -24,6 +24,7 @@ struct State {
   int TransponderCount = 0;  // at most 254
 
   bool Loaded = false;
+  bool FromFls = false;     // the list came from an exchange file of raw records, not from a flash
   int CutNumber = 0;        // of the last cut; another one for every cut
   int ListNumber = 0;       // another one for every list loaded in the place of the last
   std::string InputFlash;   // path of the flash image last opened
@@ -53,20 +54,25 @@ inline int UsedTransponders(const State& state) {
                                         [](const TransponderRow& row) { return !IsFree(row.record); }));
 }
 
+struct TransponderSlot {
+  int slot = 0;        // 0 for none
+  bool added = false;  // it was free before
+};
+
 // The slot 1..TransponderCount whose transponder is the same as `record`, else the first free one, which then takes
-// it; 0 when there is neither.
-inline int FindOrAddTransponder(State& state, const TransponderRecord& record) {
+// it.
+inline TransponderSlot FindOrAddTransponder(State& state, const TransponderRecord& record) {
   int free = 0;
   for (int slot = 1; slot <= state.TransponderCount; ++slot) {
     const TransponderRecord& known = state.TransponderTable[static_cast<std::size_t>(slot)].record;
     if (IsFree(known)) {
       if (free == 0) free = slot;
     } else if (SameTransponder(known, record)) {
-      return slot;
+      return {slot, false};
     }
   }
   if (free != 0) state.TransponderTable[static_cast<std::size_t>(free)].record = record;
-  return free;
+  return {free, free != 0};
 }
 
 }  // namespace Routines

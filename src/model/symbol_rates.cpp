@@ -7,8 +7,9 @@ std::string_view Cell(std::string_view table, std::size_t code) {
   return table.substr(std::min(code * SymbolRateCell, table.size()), SymbolRateCell);
 }
 
-// The code whose cell equals that of `code` in the other table, or `code` itself.
-std::size_t Recoded(std::string_view input, std::string_view output, std::size_t code) {
+}  // namespace
+
+std::size_t RecodedRate(std::string_view input, std::string_view output, std::size_t code) {
   const std::string_view cell = Cell(input, code);
   if (cell.empty() || cell.front() == '\\') return code;
   for (std::size_t i = 0; i < SymbolRateCodes; ++i) {
@@ -16,8 +17,6 @@ std::size_t Recoded(std::string_view input, std::string_view output, std::size_t
   }
   return code;
 }
-
-}  // namespace
 
 std::string EmptySymbolRateTable() { return std::string(SymbolRateCodes * SymbolRateCell, '\\'); }
 
@@ -47,7 +46,7 @@ int ConvertiSR(State& state, Sr22000 place) {
   for (int slot = 1; slot <= state.TransponderCount; ++slot) {
     TransponderRecord& record = state.TransponderTable[static_cast<std::size_t>(slot)].record;
     const std::size_t code = Get(record, TransponderField::SymbolRate);
-    const std::size_t recoded = Recoded(state.SymbolRateTable, output, code);
+    const std::size_t recoded = RecodedRate(state.SymbolRateTable, output, code);
     if (recoded == code) continue;
     Set(record, TransponderField::SymbolRate, static_cast<std::uint32_t>(recoded));
     ++changed;

@@ -26,6 +26,9 @@ void PlaceUsualRates(std::string& table, Sr22000 place);
 // The five characters shown for a code; empty for a code above 15.
 std::string_view SymbolRateText(std::string_view table, std::size_t code);
 
+// The code that a rate of the input table has in the output table; the same one where that has no such rate.
+std::size_t RecodedRate(std::string_view input, std::string_view output, std::size_t code);
+
 // Whether two tables have 22000 and 27500 in the same cells.
 bool SamePlaces(std::string_view one, std::string_view other);
 

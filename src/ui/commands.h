@@ -76,6 +76,7 @@ inline constexpr std::array Commands = {
             .caption = "Stampa",
             .menu = Menu::Utilities,
             .icon = "print",
+            .key = "Ctrl+P",
             .startsGroup = true},
 
     Command{"ScaricaInternet", "Scarica da Internet", Menu::Sdx, "internet"},

@@ -39,8 +39,9 @@ class Dialogs {
   virtual bool OkCancel(const QString& question) = 0;
   // The line typed, nothing when the user cancels.
   virtual std::optional<QString> AskLine(const QString& question) = 0;
-  // The chosen path, empty when the user cancels.
+  // The chosen path, empty when the user cancels. A file to save may exist already.
   virtual QString OpenFile(const FileQuestion& question) = 0;
+  virtual QString SaveFile(const FileQuestion& question) = 0;
 };
 
 }  // namespace Ui

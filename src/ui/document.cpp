@@ -4,17 +4,24 @@ namespace Ui {
 
 using Routines::State;
 
-Document::Document(QObject* parent)
-    : QObject(parent), state_(std::make_unique<State>()), saved_(std::make_unique<State>()) {}
+namespace {
+
+constexpr std::size_t MostSavedLists = 20;
+
+}  // namespace
+
+Document::Document(QObject* parent) : QObject(parent), state_(std::make_unique<State>()) {}
 
 bool Document::Unsaved() const {
-  if (saved_ == nullptr) return true;
+  if (!state_->Loaded) return false;
+  const auto found = saved_.find(state_->ListNumber);
+  if (found == saved_.end()) return true;
+  const State& saved = *found->second;
   const auto sameRecord = [](const auto& one, const auto& other) { return one.record == other.record; };
-  return state_->ChannelTable != saved_->ChannelTable ||
-         state_->TransponderCount != saved_->TransponderCount ||
-         state_->FavouritesBlock != saved_->FavouritesBlock ||
-         !std::equal(state_->TransponderTable.begin(), state_->TransponderTable.end(),
-                     saved_->TransponderTable.begin(), sameRecord);
+  return state_->ChannelTable != saved.ChannelTable || state_->TransponderCount != saved.TransponderCount ||
+         state_->FavouritesBlock != saved.FavouritesBlock ||
+         !std::equal(state_->TransponderTable.begin() + 1, state_->TransponderTable.end(),
+                     saved.TransponderTable.begin() + 1, sameRecord);
 }
 
 void Document::Undo() {
@@ -26,12 +33,13 @@ void Document::Redo() {
 }
 
 void Document::MarkSaved() {
-  saved_ = std::make_unique<State>(*state_);
+  saved_[state_->ListNumber] = std::make_unique<State>(*state_);
+  if (saved_.size() > MostSavedLists) saved_.erase(saved_.begin());
   Q_EMIT Changed();
 }
 
 void Document::MarkUnsaved() {
-  saved_.reset();
+  saved_.erase(state_->ListNumber);
   Q_EMIT Changed();
 }
 

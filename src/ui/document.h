@@ -7,6 +7,7 @@
 
 #include <QObject>
 
+#include <map>
 #include <memory>
 
 namespace Ui {
@@ -59,7 +60,7 @@ class Document : public QObject {
 
  private:
   std::unique_ptr<Routines::State> state_;
-  std::unique_ptr<Routines::State> saved_;  // null where nothing on the disk has the list
+  std::map<int, std::unique_ptr<Routines::State>> saved_;  // of each list, by number, what the disk has
   Edit::History history_;
   int lastListNumber_ = 0;
 };

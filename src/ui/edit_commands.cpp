@@ -101,7 +101,8 @@ void EditCommands::Paste() {
     session_.Message(pasted.error());
     return;
   }
-  session_.clipboard = {};
+  pastedLabel_ = session_.document.Steps().UndoLabel();
+  pasted_ = std::exchange(session_.clipboard, {});
   session_.ShowList();
   TellPasted(count, position, *pasted);
 }
@@ -111,20 +112,28 @@ void EditCommands::TellPasted(int count, int position, const Edit::PasteReport& 
   session_.view.Grid().ScrollToTop(position);
   QString text = "Incolla " + Text(CountText(count)) + QString(" dal %1").arg(position);
   if (report.favouritesBack > 0) text += QString(", preferiti rimessi: %1").arg(report.favouritesBack);
+  if (report.favouritesFull > 0) text += QString(", senza posto nelle liste: %1").arg(report.favouritesFull);
+  text = WithLosses(text, session_.document.Tables(), report.lost);
   if (report.withoutTransponder > 0)
     text += QString(", senza transponder: %1").arg(report.withoutTransponder);
   session_.status.ShowResult(text);
 }
 
 void EditCommands::Move(Slots slots, int to) {
-  const State& state = session_.document.Tables();
-  to = std::clamp(to, 1, state.ChannelCount - slots.Count() + 1);
+  Document& document = session_.document;
+  to = std::clamp(to, 1, document.Tables().ChannelCount - slots.Count() + 1);
   if (to == slots.first) return;
   const std::string label = "Sposta " + CountText(slots.Count());
-  session_.document.Apply(label, [&](State& tables) {
-    Edit::MoveChannels(tables, slots, to);
-    return Base::Done{};
-  });
+  // Rows that go on from where a move has just put them make one step with it.
+  const bool continues = movedTo_ == slots.first && document.Steps().UndoLabel() == label;
+  document.Apply(
+      label,
+      [&](State& tables) {
+        Edit::MoveChannels(tables, slots, to);
+        return Base::Done{};
+      },
+      continues ? Edit::History::Kind::Continued : Edit::History::Kind::Edit);
+  movedTo_ = to;
   session_.view.Grid().Select({to, to + slots.Count() - 1});
   session_.status.ShowResult(Text(label) + QString(" al %1").arg(to));
 }
@@ -138,7 +147,7 @@ void EditCommands::SpostaA() {
   const auto slots = SelectedChannels();
   if (!slots) return;
   const auto answer = session_.dialogs.AskLine("Inserire il numero di canale a cui spostare");
-  if (!answer) return;
+  if (!answer || answer->isEmpty()) return;
   const int to = Base::LeadingNumber(answer->toStdString());
   if (to < 1 || to + slots->Count() - 1 > session_.document.Tables().ChannelCount) {
     session_.dialogs.Message("Nr. Canale non valido", {});
@@ -171,23 +180,31 @@ void EditCommands::InsertCopy(Slots slots, int before) {
 
 void EditCommands::Undo() {
   const std::string label = session_.document.Steps().UndoLabel();
+  const int list = session_.document.Tables().ListNumber;
   session_.document.Undo();
-  FollowList();
+  // What a paste had used up can be pasted again.
+  if (label == pastedLabel_ && session_.clipboard.Count() == 0) session_.clipboard = pasted_;
+  movedTo_ = 0;
+  FollowList(list);
   session_.status.ShowResult("Annullato: " + Text(label));
 }
 
 void EditCommands::Redo() {
   const std::string label = session_.document.Steps().RedoLabel();
+  const int list = session_.document.Tables().ListNumber;
   session_.document.Redo();
-  FollowList();
+  if (label == pastedLabel_) session_.clipboard = {};
+  movedTo_ = 0;
+  FollowList(list);
   session_.status.ShowResult("Ripetuto: " + Text(label));
 }
 
-// A list that came back is shown; one that went away no longer is.
-void EditCommands::FollowList() {
-  const bool loaded = session_.document.Tables().Loaded;
-  if (!loaded) session_.view.Show(View::None);
-  if (loaded && session_.view.Current() == View::None) session_.view.Show(View::Channels);
+// A list that came back is shown from its start; one that went away no longer is.
+void EditCommands::FollowList(int listBefore) {
+  session_.ShowList();
+  const State& state = session_.document.Tables();
+  if (state.ListNumber == listBefore) return;
+  session_.view.ShowFromStart(state.Loaded ? View::Channels : View::None);
 }
 
 }  // namespace Ui

@@ -32,9 +32,12 @@ class EditCommands {
   void Move(Edit::Slots slots, int to);
   void InsertCopy(Edit::Slots slots, int before);
   void TellPasted(int count, int position, const Edit::PasteReport& report);
-  void FollowList();
+  void FollowList(int listBefore);
 
   Session& session_;
+  Edit::Clipboard pasted_;   // what the last paste used up
+  std::string pastedLabel_;  // of its step
+  int movedTo_ = 0;          // first slot of the rows moved last
 };
 
 }  // namespace Ui

@@ -112,16 +112,13 @@ bool FileCommands::RatesMoved(const Support::SymbolRates& rates) const {
 
 std::optional<FileCommands::Preparation> FileCommands::Prepare() {
   if (!session_.NeedsFlash()) return std::nullopt;
-  const Routines::Settings chosen = session_.settings.Chosen();
-  if (const auto complete = Routines::CheckSettings(chosen); !complete) {
-    session_.Message(complete.error());
-    return std::nullopt;
-  }
+  const auto chosen = session_.NeedsSettings();
+  if (!chosen) return std::nullopt;
   const auto rates = session_.LoadSymbolRates();
   if (!rates || !rates->missing.empty()) return std::nullopt;
 
   const State& state = session_.document.Tables();
-  Preparation preparation{Routines::PlanWrite(state, chosen), RatesMoved(*rates)};
+  Preparation preparation{Routines::PlanWrite(state, *chosen), RatesMoved(*rates)};
   if (!preparation.plan.warning.empty()) session_.dialogs.Message(Text(preparation.plan.warning), {});
   return preparation;
 }
@@ -202,13 +199,10 @@ void FileCommands::TellWritten(const std::string& path, const Routines::PatchedF
 
 void FileCommands::ConvertiSR() {
   if (!session_.NeedsFlash()) return;
-  const Routines::Settings chosen = session_.settings.Chosen();
-  if (const auto complete = Routines::CheckSettings(chosen); !complete) {
-    session_.Message(complete.error());
-    return;
-  }
+  const auto chosen = session_.NeedsSettings();
+  if (!chosen) return;
   const int changed = session_.document.Apply(
-      "Converti SR", [&chosen](State& state) { return Routines::ConvertiSR(state, chosen.Place()); });
+      "Converti SR", [&chosen](State& state) { return Routines::ConvertiSR(state, chosen->Place()); });
   session_.view.Show(View::Transponders);
   session_.status.ShowResult(QString("Converti SR: %1 transponder ricodificati").arg(changed));
 }

@@ -35,9 +35,9 @@ void FilterBar::Refresh() {
   const auto text = Base::FromUtf8(field_->text().trimmed().toStdString());
   matches_ = text ? Edit::MatchingSlots(document_.Tables(), *text) : std::vector<int>();
   const auto found = matches_.size();
-  count_->setText(field_->text().isEmpty() ? QString()
-                  : found == 1             ? "1 trovato"
-                                           : QString("%1 trovati").arg(found));
+  count_->setText(field_->text().trimmed().isEmpty() ? QString()
+                  : found == 1                       ? "1 trovato"
+                                                     : QString("%1 trovati").arg(found));
   Q_EMIT Changed();
 }
 

@@ -9,6 +9,7 @@
 #include <QScrollBar>
 
 #include <algorithm>
+#include <memory>
 #include <numeric>
 
 namespace Ui {
@@ -25,7 +26,8 @@ QString HeaderStyle() {
 
 }  // namespace
 
-Griglia::Griglia(QWidget* parent) : QTableView(parent), frozen_(new QTableView(this)) {
+Griglia::Griglia(QWidget* parent)
+    : QTableView(parent), frozen_(new QTableView(this)), dropLine_(new QWidget(this)) {
   SetUp(*this);
   SetUp(*frozen_);
   setHorizontalScrollMode(ScrollPerPixel);
@@ -33,7 +35,11 @@ Griglia::Griglia(QWidget* parent) : QTableView(parent), frozen_(new QTableView(t
   connect(horizontalHeader(), &QHeaderView::sectionResized, this,
           [this](int column, int, int width) { KeepWidth(column, width); });
   setAcceptDrops(true);
-  setDropIndicatorShown(true);
+  setDropIndicatorShown(false);
+  dropLine_->setObjectName("LineaRilascio");
+  dropLine_->setAttribute(Qt::WA_TransparentForMouseEvents);
+  dropLine_->setAutoFillBackground(true);
+  dropLine_->hide();
   setDragDropMode(DragDrop);
   setDragDropOverwriteMode(false);
   setDefaultDropAction(Qt::MoveAction);
@@ -68,9 +74,13 @@ void Griglia::SetUp(QTableView& view) {
 }
 
 void Griglia::ShowList(ListModel* list) {
-  setModel(list);
-  frozen_->setModel(list);
-  frozen_->setSelectionModel(selectionModel());
+  if (list != model()) {
+    const std::unique_ptr<QItemSelectionModel> oldSelection(selectionModel());
+    setModel(list);
+    frozen_->setModel(list);
+    const std::unique_ptr<QItemSelectionModel> unused(frozen_->selectionModel());
+    frozen_->setSelectionModel(selectionModel());
+  }
   for (int column = 0; column < list->columnCount(); ++column) frozen_->setColumnHidden(column, column != 0);
   widths_.clear();
   for (const HeaderColumn& column : list->Header()) {
@@ -97,10 +107,14 @@ std::optional<Edit::Slots> Griglia::Selected() const {
 
 void Griglia::Select(Edit::Slots rows) {
   const QModelIndex first = model()->index(rows.first - 1, 1);
+  const QModelIndex last = model()->index(rows.last - 1, 1);
+  const int sideways = horizontalScrollBar()->value();
   selectionModel()->setCurrentIndex(first, QItemSelectionModel::NoUpdate);
-  selectionModel()->select({first, model()->index(rows.last - 1, 1)},
-                           QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows);
+  selectionModel()->select({first, last}, QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows);
+  // All of them where they fit, else the first ones.
+  scrollTo(last);
   scrollTo(first);
+  horizontalScrollBar()->setValue(sideways);
 }
 
 void Griglia::ScrollToTop(int slot) { verticalScrollBar()->setValue(slot - 1); }
@@ -133,6 +147,41 @@ void Griglia::startDrag(Qt::DropActions) {
 // Rows of another window would be numbers of another list.
 void Griglia::dragEnterEvent(QDragEnterEvent* event) {
   if (event->source() == this) QTableView::dragEnterEvent(event);
+}
+
+void Griglia::dragMoveEvent(QDragMoveEvent* event) {
+  QTableView::dragMoveEvent(event);
+  ShowDropLine(event->position().toPoint());
+}
+
+void Griglia::dragLeaveEvent(QDragLeaveEvent* event) {
+  QTableView::dragLeaveEvent(event);
+  dropLine_->hide();
+}
+
+void Griglia::dropEvent(QDropEvent* event) {
+  QTableView::dropEvent(event);
+  dropLine_->hide();
+}
+
+// Between the two rows that are nearest, or behind the last one.
+void Griglia::ShowDropLine(QPoint place) {
+  const QModelIndex index = indexAt(place);
+  const QRect row = visualRect(index.isValid() ? index : model()->index(model()->rowCount() - 1, 0));
+  const bool above = index.isValid() && place.y() < row.center().y();
+  const int y = viewport()->geometry().top() + (above ? row.top() : row.bottom() + 1);
+  QPalette colours = palette();
+  colours.setColor(QPalette::Window, palette().color(QPalette::Highlight));
+  dropLine_->setPalette(colours);
+  dropLine_->setGeometry(frameWidth(), y - 2, viewport()->width(), 4);
+  dropLine_->show();
+  dropLine_->raise();
+}
+
+// Another list has no selection, and the view says nothing of the one that is gone.
+void Griglia::reset() {
+  QTableView::reset();
+  Q_EMIT SelectionMoved();
 }
 
 void Griglia::selectionChanged(const QItemSelection& selected, const QItemSelection& deselected) {

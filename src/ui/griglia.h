@@ -37,6 +37,10 @@ class Griglia : public QTableView {
   void mousePressEvent(QMouseEvent* event) override;
   void startDrag(Qt::DropActions actions) override;
   void dragEnterEvent(QDragEnterEvent* event) override;
+  void dragMoveEvent(QDragMoveEvent* event) override;
+  void dragLeaveEvent(QDragLeaveEvent* event) override;
+  void dropEvent(QDropEvent* event) override;
+  void reset() override;
   void selectionChanged(const QItemSelection& selected, const QItemSelection& deselected) override;
   void resizeEvent(QResizeEvent* event) override;
   void changeEvent(QEvent* event) override;
@@ -44,11 +48,13 @@ class Griglia : public QTableView {
 
  private:
   void SetUp(QTableView& view);
+  void ShowDropLine(QPoint place);
   void FitColumns();
   void KeepWidth(int column, int width);
   void PlaceFrozen();
 
-  QTableView* frozen_;       // the first column, on the same model
+  QTableView* frozen_;  // the first column, on the same model
+  QWidget* dropLine_;   // where dragged rows would land, across all columns
   std::vector<int> widths_;  // of the columns without the spare width
   bool fitting_ = false;
 };

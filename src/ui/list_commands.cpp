@@ -52,34 +52,26 @@ void ListCommands::Azzera() {
   const int cleared = session_.document.Apply("Azzera Canali e Transponder",
                                               [](State& state) { return Edit::Azzera(state); });
   session_.view.ShowFromStart(View::Channels);
+  session_.status.ShowResult(QString("Azzera Canali e Transponder: %1 canali").arg(cleared));
   session_.dialogs.Message(QString("Sono stati azzerati %1 Canali").arg(cleared), {}, Tone::Information);
 }
 
-void ListCommands::InvertiSatelliti() {
-  if (!session_.NeedsFlash()) return;
-  session_.document.Apply("Inverti Satelliti", [](State& state) {
-    Edit::InvertiSatelliti(state);
-    return Base::Done{};
-  });
-  session_.view.Show(View::Transponders);
-}
+void ListCommands::InvertiSatelliti() { ChangeTransponders("Inverti Satelliti", Edit::InvertiSatelliti); }
 
-void ListCommands::RiportaAB() {
-  if (!session_.NeedsFlash()) return;
-  session_.document.Apply("Riporta tutto a SAT A-B", [](State& state) {
-    Edit::RiportaAB(state);
-    return Base::Done{};
-  });
-  session_.view.Show(View::Transponders);
-}
+void ListCommands::RiportaAB() { ChangeTransponders("Riporta tutto a SAT A-B", Edit::RiportaAB); }
 
 void ListCommands::CanaliXTransponder() {
+  ChangeTransponders("Ricalcola il numero di Canali per transponder", Edit::CanaliXTransponder);
+}
+
+void ListCommands::ChangeTransponders(const char* label, void (*operation)(State&)) {
   if (!session_.NeedsFlash()) return;
-  session_.document.Apply("Ricalcola il numero di Canali per transponder", [](State& state) {
-    Edit::CanaliXTransponder(state);
+  session_.document.Apply(label, [operation](State& state) {
+    operation(state);
     return Base::Done{};
   });
   session_.view.Show(View::Transponders);
+  session_.status.ShowResult(label);
 }
 
 void ListCommands::VaiAlCanale() {
@@ -91,7 +83,8 @@ void ListCommands::VaiAlCanale() {
     session_.dialogs.Message("Nr. Canale non valido", {});
     return;
   }
-  session_.view.Grid().ScrollToTop(slot);
+  session_.view.GoTo(slot);
+  session_.status.ShowResult(QString("Canale %1").arg(slot));
 }
 
 void ListCommands::CercaCanale() {
@@ -106,10 +99,15 @@ void ListCommands::CercaCanale() {
   }
   while (slot != 0) {
     session_.view.ShowFound(slot);
+    session_.status.ShowResult(QString("Trovato al canale %1").arg(slot));
     if (!session_.dialogs.YesNo("Ricerco il successivo?")) return;
     slot = Edit::FindName(session_.document.Tables(), wanted_, slot + 1);
   }
   session_.dialogs.Message("Canale non trovato", {}, Tone::Information);
+}
+
+void ListCommands::Filtra() {
+  if (NeedsChannelView()) session_.view.Filter().StartTyping();
 }
 
 void ListCommands::CercaSuccessivo() {

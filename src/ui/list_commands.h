@@ -19,8 +19,10 @@ class ListCommands {
   void CercaCanale();
   // The next match of the filter, or of the name last searched for, without a box.
   void CercaSuccessivo();
+  void Filtra();
 
  private:
+  void ChangeTransponders(const char* label, void (*operation)(Routines::State&));
   bool NeedsChannelView();
   std::optional<int> AskStart(int last);
 

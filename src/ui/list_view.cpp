@@ -66,6 +66,7 @@ void ListView::LayOut() {
 
 void ListView::Show(View view) {
   if (view == current_) {
+    MarkMatches();
     RestoreTicks();
     return;
   }
@@ -107,6 +108,12 @@ void ListView::RestoreTicks() {
 
 void ListView::ShowFound(int slot) {
   channels_.SetMark(slot, ListModel::Mark::Found);
+  GoTo(slot);
+}
+
+// Rows selected elsewhere would be out of sight, and the next command would act on them.
+void ListView::GoTo(int slot) {
+  grid_->clearSelection();
   grid_->selectionModel()->setCurrentIndex(channels_.index(slot - 1, 1), QItemSelectionModel::NoUpdate);
   grid_->ScrollToTop(slot);
 }
@@ -127,6 +134,7 @@ void ListView::StepMatch(bool forward) {
   if (forward && at == matches.end()) at = matches.begin();
   if (!forward) at = (at == matches.begin() ? matches.end() : at) - 1;
   grid_->Select({*at, *at});
+  grid_->scrollTo(channels_.index(*at - 1, 1), QAbstractItemView::PositionAtCenter);
 }
 
 }  // namespace Ui

@@ -37,8 +37,9 @@ class ListView : public QWidget {
   // Sets the ticks to what is shown, for a command that was refused.
   void RestoreTicks();
 
-  // Paints the row of a channel that a search has found, makes it current and the first visible one. It is not
-  // selected, as that would hide the colour.
+  // Makes a channel current and the first visible one, with nothing selected.
+  void GoTo(int slot);
+  // Does so with a channel that a search has found, and paints its row.
   void ShowFound(int slot);
 
  Q_SIGNALS:

@@ -49,6 +49,7 @@ CopiaTCSTPT::CopiaTCSTPT(const std::string& programFolder, std::unique_ptr<Dialo
                                                   *status,
                                                   [this] { close(); }});
   files_ = std::make_unique<FileCommands>(*session_);
+  exchange_ = std::make_unique<ExchangeCommands>(*session_);
   edit_ = std::make_unique<EditCommands>(*session_);
   lists_ = std::make_unique<ListCommands>(*session_);
 
@@ -61,10 +62,10 @@ CopiaTCSTPT::CopiaTCSTPT(const std::string& programFolder, std::unique_ptr<Dialo
   setCentralWidget(contents);
 
   ConnectFileCommands();
+  ConnectExchangeCommands();
   ConnectListCommands();
   ConnectEditCommands();
   ConnectToolbar();
-  for (const char* name : {"CercaCanale", "VaiAlCanale"}) CommandAction(*this, name).setEnabled(false);
   connect(document_, &Document::Changed, this, &CopiaTCSTPT::ShowList);
   ShowList();
   resize(1024, 700);
@@ -103,6 +104,14 @@ void CopiaTCSTPT::ConnectFileCommands() {
   Connect("About", [this] { ShowAbout(); });
 }
 
+void CopiaTCSTPT::ConnectExchangeCommands() {
+  Connect("FormatoTesto", [this] { exchange_->FormatoTesto(); });
+  Connect("FormatoFLASH", [this] { exchange_->FormatoFLASH(); });
+  Connect("DaEsportatoTesto", [this] { exchange_->DaEsportatoTesto(); });
+  Connect("CaricaImportato", [this] { exchange_->DaEsportatoTesto(); });
+  Connect("DaEsportato", [this] { exchange_->DaEsportato(); });
+}
+
 void CopiaTCSTPT::ConnectListCommands() {
   Connect("OrdinaPerBouquet", [this] { lists_->OrdinaPerBouquet(); });
   Connect("Azzera", [this] { lists_->Azzera(); });
@@ -110,7 +119,7 @@ void CopiaTCSTPT::ConnectListCommands() {
   Connect("RiportaAB", [this] { lists_->RiportaAB(); });
   Connect("CercaCanale", [this] { lists_->CercaCanale(); });
   Connect("CercaSuccessivo", [this] { lists_->CercaSuccessivo(); });
-  Connect("Filtra", [this] { session_->view.Filter().StartTyping(); });
+  Connect("Filtra", [this] { lists_->Filtra(); });
   Connect("VaiAlCanale", [this] { lists_->VaiAlCanale(); });
 }
 
@@ -158,14 +167,13 @@ void CopiaTCSTPT::ConnectToolbar() {
 void CopiaTCSTPT::ShowList() {
   const Routines::State& state = document_->Tables();
   setWindowTitle(Caption(state.InputFlash));
-  for (const char* name : {"Salva", "ApriFlashOutput", "ConvertiSR"}) {
+  for (const char* name : {"Salva", "ApriFlashOutput", "ConvertiSR", "CercaCanale", "VaiAlCanale"}) {
     CommandAction(*this, name).setEnabled(state.Loaded);
   }
-  // These wait for a first load only.
-  for (const char* name : {"CercaCanale", "VaiAlCanale"}) {
-    QAction& action = CommandAction(*this, name);
-    action.setEnabled(action.isEnabled() || state.Loaded);
-  }
+  QAction& open = CommandAction(*this, "ApriFlashInput");
+  open.setEnabled(!state.FromFls);
+  open.setStatusTip(state.FromFls ? "Non disponibile dopo l'importazione da formato FLASH: Annulla la toglie"
+                                  : "");
   ShowSteps();
   session_->ShowList();
 }

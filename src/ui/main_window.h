@@ -3,6 +3,7 @@
 
 #include "ui/dialogs.h"
 #include "ui/edit_commands.h"
+#include "ui/exchange_commands.h"
 #include "ui/file_commands.h"
 #include "ui/list_commands.h"
 #include "ui/session.h"
@@ -31,6 +32,7 @@ class CopiaTCSTPT : public QMainWindow {
 
  private:
   void ConnectFileCommands();
+  void ConnectExchangeCommands();
   void ConnectListCommands();
   void ConnectEditCommands();
   void ConnectToolbar();
@@ -47,6 +49,7 @@ class CopiaTCSTPT : public QMainWindow {
   Document* document_;
   std::unique_ptr<Session> session_;
   std::unique_ptr<FileCommands> files_;
+  std::unique_ptr<ExchangeCommands> exchange_;
   std::unique_ptr<EditCommands> edit_;
   std::unique_ptr<ListCommands> lists_;
 };

@@ -89,13 +89,21 @@ std::optional<QString> QtDialogs::AskLine(const QString& question) {
   return dialog.textValue();
 }
 
-QString QtDialogs::OpenFile(const FileQuestion& question) {
+QString QtDialogs::OpenFile(const FileQuestion& question) { return AskFile(question, false); }
+
+QString QtDialogs::SaveFile(const FileQuestion& question) { return AskFile(question, true); }
+
+QString QtDialogs::AskFile(const FileQuestion& question, bool save) {
   const bool exists = !question.folder.isEmpty() && QDir(question.folder).exists();
   QFileDialog dialog(parent_, question.title, exists ? question.folder : QString());
   dialog.setOption(QFileDialog::DontUseNativeDialog);
   dialog.setOption(QFileDialog::HideNameFilterDetails);
   dialog.setFileMode(QFileDialog::AnyFile);
   dialog.setNameFilters(NameFilters(question.filters));
+  if (save) {
+    dialog.setAcceptMode(QFileDialog::AcceptSave);
+    dialog.setDefaultSuffix(question.filters.section("*.", 1).section(QRegularExpression("[)|]"), 0, 0));
+  }
   dialog.resize(860, 560);
   if (auto* details = dialog.findChild<QTreeView*>("treeView")) {
     details->header()->setSectionResizeMode(QHeaderView::ResizeToContents);

@@ -19,8 +19,11 @@ class QtDialogs : public Dialogs {
   bool OkCancel(const QString& question) override;
   std::optional<QString> AskLine(const QString& question) override;
   QString OpenFile(const FileQuestion& question) override;
+  QString SaveFile(const FileQuestion& question) override;
 
  private:
+  QString AskFile(const FileQuestion& question, bool save);
+
   QWidget* parent_;
 };
 

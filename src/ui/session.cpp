@@ -8,6 +8,15 @@ bool Session::NeedsFlash() {
   return false;
 }
 
+std::optional<Routines::Settings> Session::NeedsSettings() {
+  const Routines::Settings chosen = settings.Chosen();
+  if (const auto complete = Routines::CheckSettings(chosen); !complete) {
+    Message(complete.error());
+    return std::nullopt;
+  }
+  return chosen;
+}
+
 std::optional<Support::SymbolRates> Session::LoadSymbolRates() {
   const Routines::Settings chosen = settings.Chosen();
   const auto place = chosen.srDef ? chosen.Place() : Routines::Sr22000::Come2;

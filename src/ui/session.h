@@ -37,6 +37,9 @@ struct Session {
   // Whether a list is loaded; says so where none is.
   bool NeedsFlash();
 
+  // The settings, when each group has a choice; says which one is missing where one is.
+  std::optional<Routines::Settings> NeedsSettings();
+
   // The symbol rates of SR.INI as `SRDef` now places them. Where the file is missing it says so, in a box
   // once and in the status bar after that. A malformed file ends the program: nothing comes back then.
   std::optional<Support::SymbolRates> LoadSymbolRates();

@@ -3,6 +3,7 @@
 #include "base/file.h"
 #include "ui/dialogs.h"
 
+#include <QHBoxLayout>
 #include <QProgressBar>
 #include <QStatusBar>
 
@@ -10,26 +11,32 @@ namespace Ui {
 
 StatusLine::StatusLine(QStatusBar& bar)
     : QObject(&bar),
-      result_(new ElidedLabel(Qt::ElideRight, &bar)),
+      line_(new QWidget(&bar)),
+      result_(new ElidedLabel(Qt::ElideRight, line_)),
       channels_(AddFigure(bar, "CanaliUsati")),
       transponders_(AddFigure(bar, "TransponderUsati")),
       clipboard_(AddFigure(bar, "CanaliCopiati")),
       unsaved_(AddFigure(bar, "ModificheNonSalvate")),
       output_(new ElidedLabel(Qt::ElideMiddle, &bar)),
-      progress_(new QProgressBar(&bar)) {
+      progress_(new QProgressBar(line_)) {
   result_->setObjectName("UltimoRisultato");
   output_->setObjectName("FlashOutput");
+  output_->setMinimumWidth(output_->fontMetrics().horizontalAdvance("Flash di output : nessuna...."));
   bar.addPermanentWidget(output_, 1);
 
   progress_->setObjectName("ProgressBar1");
   progress_->setAccessibleName("Avanzamento");
-  progress_->setFixedWidth(70);
+  progress_->setFixedSize(110, result_->sizeHint().height());
   progress_->setTextVisible(false);
   QSizePolicy policy = progress_->sizePolicy();
   policy.setRetainSizeWhenHidden(true);
   progress_->setSizePolicy(policy);
   progress_->hide();
-  bar.addPermanentWidget(progress_);
+
+  auto* row = new QHBoxLayout(line_);
+  row->setContentsMargins(0, 0, 0, 0);
+  row->addWidget(result_, 1);
+  row->addWidget(progress_);
 }
 
 QLabel* StatusLine::AddFigure(QStatusBar& bar, const char* name) {

@@ -18,8 +18,8 @@ class StatusLine : public QObject {
  public:
   explicit StatusLine(QStatusBar& bar);
 
-  // The line of the last result; it belongs above the bar.
-  [[nodiscard]] QWidget* ResultLine() const { return result_; }
+  // The line of the last result and the progress bar; it belongs above the status bar.
+  [[nodiscard]] QWidget* ResultLine() const { return line_; }
 
   void ShowResult(const QString& text);
   void ShowList(const Routines::State& state, bool unsaved, int clipboard);
@@ -29,6 +29,7 @@ class StatusLine : public QObject {
  private:
   QLabel* AddFigure(QStatusBar& bar, const char* name);
 
+  QWidget* line_;
   ElidedLabel* result_;
   QLabel* channels_;
   QLabel* transponders_;

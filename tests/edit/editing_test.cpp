@@ -73,6 +73,7 @@ Slots RandomSlots(Junk& junk, const State& state) {
 // One random command; nothing where it was refused.
 void RandomCommand(Junk& junk, State& state, Clipboard& clipboard) {
   const Slots slots = RandomSlots(junk, state);
+  std::vector<LostFavourite> lost;
   switch (junk.Below(8)) {
     case 0:
       DeleteChannels(state, slots);
@@ -95,7 +96,7 @@ void RandomCommand(Junk& junk, State& state, Clipboard& clipboard) {
       OrdinaPerBouquet(state, slots.first);
       break;
     case 5:
-      MakeRoom(state, slots.first, 2);
+      MakeRoom(state, slots.first, 2, lost);
       break;
     case 6:
       InvertiSatelliti(state);
@@ -280,6 +281,7 @@ TEST(Editing, NamesAreFoundWhateverTheirCase) {
   EXPECT_EQ(MatchingSlots(state, "12"), std::vector<int>({2, 4}));
   EXPECT_EQ(MatchingSlots(state, "300"), std::vector<int>({2}));
   EXPECT_EQ(MatchingSlots(state, "30"), std::vector<int>());
+  EXPECT_EQ(MatchingSlots(state, "70000"), std::vector<int>());
 }
 
 TEST(History, ALongSequenceGoesBackToTheStartAndForthToTheEnd) {

@@ -419,6 +419,60 @@ TEST_F(Window, WholeListCommandsTellWhatTheyDid) {
   EXPECT_EQ(driver_->TextOf("CanaliUsati"), "Canali 0 di 3996");
 }
 
+TEST_F(Window, AListLeavesAsTextIsEditedAndComesBack) {
+  OpenDemo();
+  const Routines::State before = List();
+  const std::string path = folder_.Path("lista.txt");
+  driver_->ExpectFile("Selezionare il file di output", PathText(path));
+  ASSERT_TRUE(driver_->Choose("FormatoTesto"));
+  EXPECT_EQ(Said(), "Esportato lista.txt");
+  std::string text(Base::AsText(Contents(path)));
+  text.replace(text.find("Rete Due "), 9, "Rinomina ");
+  folder_.Write("lista.txt", text);
+
+  const QString import = "Selezionare il file di testo contenente i CANALI e i TRANSPONDERS";
+  driver_->ExpectFile(import, PathText(path));
+  ASSERT_TRUE(driver_->Choose("CaricaImportato"));
+  EXPECT_EQ(driver_->Cell(5, 1), "Rinomina");
+  EXPECT_EQ(driver_->TextOf("CanaliUsati"), "Canali 620 di 3996");
+  EXPECT_EQ(driver_->TextOf("ModificheNonSalvate"), "Modifiche non salvate");
+  EXPECT_EQ(driver_->TextOf("FlashOutput"), "Flash di output : nessuna");
+
+  folder_.Write("lista.txt", "\xEF\xBB\xBF" + text.substr(0, text.find("[TRANSPONDERS]")));
+  driver_->ExpectFile(import, PathText(path));
+  driver_->ExpectMessage("Formato file invalido (Transponders) per " + PathText(path));
+  ASSERT_TRUE(driver_->Choose("DaEsportatoTesto"));
+  ASSERT_TRUE(driver_->Choose("Annulla"));
+  ASSERT_TRUE(driver_->Choose("Annulla"));
+  EXPECT_TRUE(List() == before) << "each import is one step, a broken one too";
+}
+
+TEST_F(Window, RawRecordsComeFromTheFlashOnTheDisk) {
+  OpenDemo();
+  const std::string path = folder_.Path("lista.fls");
+  driver_->SelectRows(1, 1);
+  ASSERT_TRUE(driver_->Press("Toolbar1_Delete"));
+  driver_->ExpectFile("Selezionare il file di output", PathText(path));
+  ASSERT_TRUE(driver_->Choose("FormatoFLASH"));
+  EXPECT_EQ(driver_->Cell(1, 1), "Rete Italia") << "edits give way to the image as it is stored";
+  EXPECT_EQ(Action("Annulla").text(), "Annulla Ricarica Flash per l'esportazione");
+
+  driver_->ExpectFile("Selezionare il file di da importare", PathText(path));
+  ASSERT_TRUE(driver_->Choose("DaEsportato"));
+  EXPECT_FALSE(Action("ApriFlashInput").isEnabled());
+  EXPECT_EQ(driver_->TextOf("CanaliUsati"), "Canali 620 di 3996");
+  ASSERT_TRUE(driver_->Choose("Annulla"));
+  EXPECT_TRUE(Action("ApriFlashInput").isEnabled());
+
+  std::filesystem::remove(flash_);
+  std::filesystem::remove(path);
+  driver_->ExpectFile("Selezionare il file di output", PathText(path));
+  driver_->ExpectMessage("Impossibile leggere demo.dat: il file o la cartella non esiste",
+                         "Errore FLASH di Input");
+  ASSERT_TRUE(driver_->Choose("FormatoFLASH"));
+  EXPECT_FALSE(std::filesystem::exists(path));
+}
+
 TEST(FileFilters, KeepCaptionsAndMatchAnyCase) {
   EXPECT_EQ(NameFilters("Binary files(*.dat)|*.dat|Tutti i file (*.*)|*.*|"),
             QStringList({"Binary files(*.dat) (*.[dD][aA][tT])", "Tutti i file (*.*) (*)"}));

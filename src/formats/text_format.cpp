@@ -1,0 +1,351 @@
+#include "formats/text_format.h"
+
+#include "base/code_page.h"
+#include "base/columns.h"
+#include "base/text.h"
+#include "model/favourites.h"
+#include "model/symbol_rates.h"
+
+#include <optional>
+#include <span>
+#include <vector>
+
+namespace Formats {
+namespace {
+
+using namespace Routines;
+using Base::Column;
+using Base::Cut;
+
+// The columns of each kind of line, for the writer and the reader alike.
+namespace ChannelLine {
+constexpr Column Slot{1, 4}, Name{6, 16}, Transponder{23, 3}, Coding{63, 2}, Active{66, 1};
+constexpr struct {
+  Column column;
+  Field<ChannelRecord> field;
+} Numbers[] = {{{27, 5}, ChannelField::Sid},  {{33, 5}, ChannelField::Vpid}, {{39, 5}, ChannelField::Apid},
+               {{45, 5}, ChannelField::Aecm}, {{51, 5}, ChannelField::Vecm}, {{57, 5}, ChannelField::Pcr}};
+}  // namespace ChannelLine
+
+namespace TransponderLine {
+constexpr Column Number{1, 3}, Frequency{5, 5}, Rate{29, 5}, Fec{35, 3}, Polarisation{39, 1}, Tone{41, 3},
+    ToneOn{41, 2}, SatelliteWord{44, 5}, Satellite{49, 1}, Bouquet{51, Base::ToLineEnd};
+constexpr struct {
+  Column column;
+  Field<TransponderRecord> field;
+} Numbers[] = {{{11, 5}, TransponderField::Tid},
+               {{17, 5}, TransponderField::Nid},
+               {{23, 5}, TransponderField::ChannelCount}};
+}  // namespace TransponderLine
+
+namespace FavouriteLine {
+constexpr Column List{1, 2}, Name{5, Base::ToLineEnd}, Slot{1, 4};
+}  // namespace FavouriteLine
+
+constexpr Column ChannelCountColumn{10, Base::ToLineEnd};
+constexpr Column TransponderCountColumn{16, Base::ToLineEnd};
+constexpr const char* LineEnd = "\r\n";
+
+// What a favourites block measures after an import: the receivers' first kind had no more.
+constexpr std::size_t ImportedFavouritesSize = 2291;
+
+// Bytes that would end a line, or in favourites make one look like a list's header, become blanks.
+std::string Harmless(std::string_view bytes, std::string_view alsoBlank) {
+  std::string text(bytes);
+  for (char& c : text) {
+    if (c == '\r' || c == '\n' || alsoBlank.find(c) != std::string_view::npos) c = ' ';
+  }
+  return text;
+}
+
+std::string ControlBytes() {
+  std::string bytes = "|";
+  for (char c = 0; c < ' '; ++c) bytes += c;
+  return bytes;
+}
+
+std::string ChannelText(const ChannelRecord& channel, int slot) {
+  std::string line;
+  Base::Put(line, ChannelLine::Slot, Base::ZeroPadded(slot, 4));
+  Base::Put(line, ChannelLine::Name, Harmless(channel.Name(), ""));
+  Base::Put(line, ChannelLine::Transponder,
+            Base::ZeroPadded(static_cast<int>(Get(channel, ChannelField::Transponder)), 3));
+  for (const auto& number : ChannelLine::Numbers) {
+    Base::Put(line, number.column, Base::ZeroPadded(static_cast<int>(Get(channel, number.field)), 5));
+  }
+  Base::Put(line, ChannelLine::Coding, Base::HexByte(static_cast<int>(Get(channel, ChannelField::Flags))));
+  Base::Put(line, ChannelLine::Active, Get(channel, ChannelField::Active) != 0 ? "S" : "N");
+  return line + LineEnd;
+}
+
+// A rate with fewer than five digits gets zeros in front; what is no number stands as it is.
+std::string RateText(std::string_view cell) {
+  const bool number = !cell.empty() && cell.find_first_not_of("0123456789") == std::string_view::npos;
+  return number ? Base::ZeroPadded(Base::LeadingNumber(cell), 5) : std::string(cell);
+}
+
+std::string TransponderText(const State& state, const TransponderRow& row, int number) {
+  const TransponderRecord& record = row.record;
+  std::string line;
+  Base::Put(line, TransponderLine::Number, Base::ZeroPadded(number, 3));
+  Base::Put(line, TransponderLine::Frequency, Base::ZeroPadded(FrequencyMHz(record), 5));
+  for (const auto& field : TransponderLine::Numbers) {
+    Base::Put(line, field.column, Base::ZeroPadded(static_cast<int>(Get(record, field.field)), 5));
+  }
+  Base::Put(line, TransponderLine::Rate,
+            RateText(SymbolRateText(state.SymbolRateTable, Get(record, TransponderField::SymbolRate))));
+  Base::Put(line, TransponderLine::Polarisation, Get(record, TransponderField::Horizontal) != 0 ? "H" : "V");
+  Base::Put(line, TransponderLine::Tone, Get(record, TransponderField::HighBand) != 0 ? "On" : "Off");
+  Base::Put(line, TransponderLine::SatelliteWord, " SAT ");
+  Base::Put(line, TransponderLine::Satellite, SatelliteLabel(record).substr(4));
+  Base::Put(line, TransponderLine::Bouquet, Harmless(row.BouquetName(), ""));
+  // "Auto" is one letter longer than its column and pushes everything behind it one place to the right. Lists have
+  // been exchanged that way for years, and the readers of others expect it.
+  line.replace(TransponderLine::Fec.first - 1, TransponderLine::Fec.width, FecText(record));
+  return line + LineEnd;
+}
+
+std::string FavouritesText(const State& state) {
+  const std::string blanked = ControlBytes();
+  std::string text = std::string("[PREFERITI]") + LineEnd;
+  for (std::size_t list = 0; list < FavouriteLists; ++list) {
+    text += Base::ZeroPadded(static_cast<int>(list), 2) + "| " +
+            Harmless(FavouriteNameOf(state.FavouritesBlock, list), "") + LineEnd;
+    for (const int slot : FavouriteEntriesOf(state.FavouritesBlock, list)) {
+      const std::string_view name = slot <= LastChannelSlot
+                                        ? state.ChannelTable[static_cast<std::size_t>(slot)].Name()
+                                        : std::string_view{};
+      text += Base::ZeroPadded(slot, 4) + " " + Harmless(name, blanked) + LineEnd;
+    }
+  }
+  return text + "[END PREFERITI]" + LineEnd;
+}
+
+bool Blank(const Base::Bytes& block) {
+  return std::all_of(block.begin(), block.end(), [](Base::Byte byte) { return byte == 0 || byte == ' '; });
+}
+
+// The leading digits of a column; nothing when the number is larger than `most`.
+std::optional<std::uint32_t> NumberIn(std::string_view text, std::uint32_t most) {
+  std::uint64_t value = 0;
+  for (const char digit : Base::LeadingDigits(text)) {
+    value = value * 10 + static_cast<std::uint64_t>(digit - '0');
+    if (value > most) return std::nullopt;
+  }
+  return static_cast<std::uint32_t>(value);
+}
+
+// A field whose number is too large keeps what it has.
+template <class Record>
+void SetNumber(Record& record, const Field<Record>& field, std::string_view text) {
+  if (const auto value = NumberIn(text, field.Mask() >> field.shift)) Set(record, field, *value);
+}
+
+int CountIn(std::string_view line, const Column& column, int most) {
+  return std::min(Base::LeadingNumber(Cut(line, column)), most);
+}
+
+class Reader {
+ public:
+  Reader(State& state, std::string_view text, const BouquetTables& bouquets)
+      : state_(state), lines_(Base::Lines(text)), bouquets_(bouquets) {}
+
+  // Reads section by section; the name of the one that is broken, or nothing.
+  const char* Run(ImportReport& report) {
+    if (!ReadChannels()) return "Canali";
+    if (!ReadTransponders(report)) return "Transponders";
+    report.listRead = true;
+    return ReadFavourites() ? nullptr : "PREFERITI";
+  }
+
+  [[nodiscard]] bool Changed() const { return changed_; }
+
+ private:
+  // The next line, when it has the marker in it.
+  std::optional<std::string_view> Header(std::string_view marker) {
+    if (next_ >= lines_.size() || lines_[next_].find(marker) == std::string_view::npos) return std::nullopt;
+    return lines_[next_++];
+  }
+
+  // Hands every line up to the one with the marker in it to `take`; false when the file ends before it.
+  template <class Take>
+  bool Lines(std::string_view marker, Take take) {
+    while (next_ < lines_.size()) {
+      const std::string_view line = lines_[next_++];
+      if (line.find(marker) != std::string_view::npos) return true;
+      take(line);
+    }
+    return false;
+  }
+
+  bool ReadChannels() {
+    const auto header = Header("[CANALI]");
+    if (!header) return false;
+    changed_ = true;
+    state_.MaxChannels = state_.ChannelCount = CountIn(*header, ChannelCountColumn, LastChannelSlot);
+    std::fill_n(state_.ChannelTable.begin() + 1, state_.ChannelCount, ChannelRecord{});
+    return Lines("[END CANALI]", [this](std::string_view line) { TakeChannel(line); });
+  }
+
+  void TakeChannel(std::string_view line) {
+    const auto slot = NumberIn(Cut(line, ChannelLine::Slot), LastChannelSlot);
+    if (!slot) return;
+    ChannelRecord& channel = state_.ChannelTable[*slot];
+    const std::string_view name = Cut(line, ChannelLine::Name);
+    std::copy(name.begin(), name.end(), channel.bytes.begin());
+    SetNumber(channel, ChannelField::Transponder, Cut(line, ChannelLine::Transponder));
+    for (const auto& number : ChannelLine::Numbers)
+      SetNumber(channel, number.field, Cut(line, number.column));
+    Set(channel, ChannelField::Flags, Coding(line));
+  }
+
+  // The coding column is written in hexadecimal and read digit by digit as decimal, letters as 0: that is how lists
+  // have always been taken in, and "A4" alone was ever added to it. A channel marked "N" loses its coding.
+  static std::uint32_t Coding(std::string_view line) {
+    if (Cut(line, ChannelLine::Active) == "N") return 0;
+    const std::string_view coding = Cut(line, ChannelLine::Coding);
+    if (coding == "A4") return 0xA4;
+    const auto digit = [&coding](std::size_t place) {
+      return place < coding.size() && coding[place] >= '0' && coding[place] <= '9'
+                 ? static_cast<std::uint32_t>(coding[place] - '0')
+                 : 0U;
+    };
+    return 16 * digit(0) + digit(1);
+  }
+
+  bool ReadTransponders(ImportReport& report) {
+    const auto header = Header("[TRANSPONDERS]");
+    if (!header) return false;
+    state_.TransponderCount = CountIn(*header, TransponderCountColumn, LastTransponderSlot);
+    for (std::size_t slot = 1; slot < state_.TransponderTable.size(); ++slot) {
+      state_.TransponderTable[slot].record = {};
+    }
+    const bool ended =
+        Lines("[END TRANSPONDERS]", [&](std::string_view line) { TakeTransponder(line, report); });
+    for (TransponderRow& row : state_.TransponderTable) FindCode(row);
+    return ended;
+  }
+
+  // The file's bouquet names stay; their codes are the ones in use here.
+  void FindCode(TransponderRow& row) const {
+    const Bouquet* bouquet = FindBouquet(bouquets_, FrequencyMHz(row.record), SatelliteLabel(row.record));
+    row.SetBouquet(std::string(row.BouquetName()), bouquet == nullptr ? "" : bouquet->code);
+  }
+
+  void TakeTransponder(std::string_view line, ImportReport& report) {
+    const auto slot = NumberIn(Cut(line, TransponderLine::Number), LastTransponderSlot);
+    if (!slot) return;
+    TransponderRow& row = state_.TransponderTable[*slot];
+    TransponderRecord& record = row.record;
+    const std::int64_t oscillator = Cut(line, TransponderLine::ToneOn) == "On" ? 10600 : 9750;
+    const std::int64_t hertz =
+        (Base::LeadingNumber(Cut(line, TransponderLine::Frequency)) - oscillator) * 1000000;
+    if (hertz > 0 && hertz <= 0xFFFFFFFF)
+      Set(record, TransponderField::Frequency, static_cast<std::uint32_t>(hertz));
+    for (const auto& number : TransponderLine::Numbers)
+      SetNumber(record, number.field, Cut(line, number.column));
+    const std::string_view rate = Cut(line, TransponderLine::Rate);
+    const std::size_t found = state_.SymbolRateTable.find(rate);
+    if (found == std::string::npos) ++report.unknownRates;
+    Set(record, TransponderField::SymbolRate,
+        found == std::string::npos ? 0 : static_cast<std::uint32_t>((found + 1) / SymbolRateCell));
+    Set(record, TransponderField::Fec, FecCode(Cut(line, TransponderLine::Fec)));
+    TakeTuning(line, record);
+    row.SetBouquet(Base::Trimmed(Cut(line, TransponderLine::Bouquet)), row.BouquetCode());
+  }
+
+  static std::uint32_t FecCode(std::string_view text) {
+    TransponderRecord record;
+    for (std::uint32_t code = 0; code < 5; ++code) {
+      Set(record, TransponderField::Fec, code);
+      if (FecText(record) == text) return code;
+    }
+    return 5;
+  }
+
+  // The flags byte as a sum; a satellite letter that makes it overflow leaves it cleared.
+  static void TakeTuning(std::string_view line, TransponderRecord& record) {
+    const std::string_view satellite = Cut(line, TransponderLine::Satellite);
+    const int letter = satellite.empty() ? 0 : static_cast<unsigned char>(satellite[0]);
+    const int flags = (Base::Trimmed(Cut(line, TransponderLine::Tone)) == "On" ? 1 : 0) +
+                      (Cut(line, TransponderLine::Polarisation) == "H" ? 2 : 0) + 8 * (letter - 'A');
+    if (flags >= 0 && flags <= 255) record.bytes[11] = static_cast<Base::Byte>(flags);
+  }
+
+  bool ReadFavourites() {
+    if (!Header("[PREFERITI]")) return false;
+    state_.FavouritesBlock.assign(ImportedFavouritesSize, 0);
+    std::vector<std::uint32_t> pending;
+    std::size_t list = 0;
+    const bool ended = Lines("[END PREFERITI]", [&](std::string_view line) {
+      if (line.find('|') == std::string_view::npos) {
+        pending.push_back(NumberIn(Cut(line, FavouriteLine::Slot), 9999).value_or(0));
+        return;
+      }
+      StoreList(list, pending);
+      list = static_cast<std::size_t>(Base::LeadingNumber(Cut(line, FavouriteLine::List)));
+      StoreName(list, Cut(line, FavouriteLine::Name));
+      pending.clear();
+    });
+    StoreList(list, pending);
+    return ended;
+  }
+
+  void StoreList(std::size_t list, std::span<const std::uint32_t> entries) {
+    if (entries.empty() || list >= FavouriteLists) return;
+    const auto block = state_.FavouritesBlock.begin() + static_cast<std::ptrdiff_t>(list * FavouriteListSize);
+    std::fill_n(block, FavouriteListSize, Base::Byte{0});
+    auto at = block;
+    for (const std::uint32_t slot : entries.first(std::min(entries.size(), FavouriteEntries))) {
+      *at++ = static_cast<Base::Byte>(slot / 256);
+      *at++ = static_cast<Base::Byte>(slot % 256);
+    }
+  }
+
+  void StoreName(std::size_t list, std::string_view name) {
+    if (list >= FavouriteLists) return;
+    name = name.substr(0, FavouriteNameSize);
+    const std::size_t at = FavouriteNameOffset(state_.FavouritesBlock.size(), list);
+    std::copy(name.begin(), name.end(), state_.FavouritesBlock.begin() + static_cast<std::ptrdiff_t>(at));
+  }
+
+  State& state_;
+  std::vector<std::string_view> lines_;
+  const BouquetTables& bouquets_;
+  std::size_t next_ = 0;
+  bool changed_ = false;
+};
+
+}  // namespace
+
+std::string WriteText(const State& state) {
+  const std::string channels = Base::ZeroPadded(state.ChannelCount, 4) + LineEnd;
+  const std::string transponders = Base::ZeroPadded(state.TransponderCount, 4) + LineEnd;
+  std::string text = "[CANALI] " + channels;
+  for (int slot = 1; slot <= state.ChannelCount; ++slot) {
+    const ChannelRecord& channel = state.ChannelTable[static_cast<std::size_t>(slot)];
+    const auto nameEnd = channel.bytes.begin() + ChannelRecord::NameSize;
+    if (std::any_of(channel.bytes.begin(), nameEnd, [](Base::Byte byte) { return byte != 0; })) {
+      text += ChannelText(channel, slot);
+    }
+  }
+  text += "[END CANALI] " + channels + "[TRANSPONDERS] " + transponders;
+  for (int number = 1; number <= state.TransponderCount; ++number) {
+    const TransponderRow& row = state.TransponderTable[static_cast<std::size_t>(number)];
+    if (!IsFree(row.record)) text += TransponderText(state, row, number);
+  }
+  text += "[END TRANSPONDERS] " + transponders;
+  return Blank(state.FavouritesBlock) ? text : text + FavouritesText(state);
+}
+
+ImportReport ReadText(State& state, std::string_view text, const std::string& fileName,
+                      const BouquetTables& bouquets) {
+  Reader reader(state, text, bouquets);
+  ImportReport report;
+  const char* broken = reader.Run(report);
+  report.changed = reader.Changed();
+  if (broken != nullptr) report.error = std::string("Formato file invalido (") + broken + ") per " + fileName;
+  return report;
+}
+
+}  // namespace Formats
