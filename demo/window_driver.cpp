@@ -59,8 +59,11 @@ bool ClickThroughMenus(QMenuBar& bar, QAction& action) {
   if (way.empty()) return false;
   Click(bar, bar.actionGeometry(way.front()->menuAction()).center());
   for (std::size_t i = 1; i < way.size(); ++i) {
+    QTest::mouseMove(way[i - 1], way[i - 1]->actionGeometry(way[i]->menuAction()).center());
     Click(*way[i - 1], way[i - 1]->actionGeometry(way[i]->menuAction()).center());
+    if (!QTest::qWaitFor([&way, i] { return way[i]->isVisible(); }, 2000)) return false;
   }
+  QTest::mouseMove(way.back(), way.back()->actionGeometry(&action).center());
   Click(*way.back(), way.back()->actionGeometry(&action).center());
   return true;
 }
