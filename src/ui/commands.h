@@ -24,71 +24,61 @@ struct Command {
   bool forRows = false;      // its key counts only while the grid has the focus
 };
 
+constexpr Command Group(Command command) {
+  command.startsGroup = true;
+  return command;
+}
+
+constexpr Command Checkable(Command command) {
+  command.checkable = true;
+  return command;
+}
+
+constexpr Command ForRows(Command command) {
+  command.forRows = true;
+  return command;
+}
+
 inline constexpr std::array Commands = {
     Command{"ApriFlashInput", "Apri Flash Input", Menu::File, "open", "Ctrl+O"},
     Command{"CaricaAggiuntiva", "Carica Flash aggiuntiva", Menu::File},
-    Command{.name = "Salva",
-            .caption = "Salva",
-            .menu = Menu::File,
-            .icon = "save",
-            .key = "Ctrl+S",
-            .startsGroup = true},
+    Group({"Salva", "Salva", Menu::File, "save", "Ctrl+S"}),
     Command{"ApriFlashOutput", "Salva Flash come", Menu::File, "save-as", "Ctrl+Shift+S"},
-    Command{.name = "Fine", .caption = "Fine", .menu = Menu::File, .icon = "exit", .startsGroup = true},
+    Group({"Fine", "Fine", Menu::File, "exit"}),
 
     Command{"Annulla", "Annulla", Menu::Utilities, "undo", "Ctrl+Z"},
     Command{"Ripeti", "Ripeti", Menu::Utilities, "redo", "Ctrl+Y"},
-    Command{"Copia", "Copia", Menu::Utilities, "copy", "Ctrl+C", false, true, true},
-    Command{"Taglia", "Taglia", Menu::Utilities, "cut", "Ctrl+X", false, false, true},
-    Command{"Incolla", "Incolla", Menu::Utilities, "paste", "Ctrl+V", false, false, true},
-    Command{"Elimina", "Elimina", Menu::Utilities, "delete", "Del", false, false, true},
-    Command{"SpostaSu", "Sposta su", Menu::Utilities, "", "Alt+Up", false, true, true},
-    Command{"SpostaGiu", "Sposta giù", Menu::Utilities, "", "Alt+Down", false, false, true},
+    Group(ForRows({"Copia", "Copia", Menu::Utilities, "copy", "Ctrl+C"})),
+    ForRows({"Taglia", "Taglia", Menu::Utilities, "cut", "Ctrl+X"}),
+    ForRows({"Incolla", "Incolla", Menu::Utilities, "paste", "Ctrl+V"}),
+    ForRows({"Elimina", "Elimina", Menu::Utilities, "delete", "Del"}),
+    Group(ForRows({"SpostaSu", "Sposta su", Menu::Utilities, "", "Alt+Up"})),
+    ForRows({"SpostaGiu", "Sposta giù", Menu::Utilities, "", "Alt+Down"}),
     Command{"SpostaA", "Sposta a…", Menu::Utilities},
-    Command{"CaricaImportato", "Carica Canali da file esportato", Menu::Utilities, "import", "", false, true},
-    Command{.name = "Azzera",
-            .caption = "Azzera Canali e Transponder",
-            .menu = Menu::Utilities,
-            .startsGroup = true},
+    Group({"CaricaImportato", "Carica Canali da file esportato", Menu::Utilities, "import"}),
+    Group({"Azzera", "Azzera Canali e Transponder", Menu::Utilities}),
     Command{"OrdinaPerBouquet", "Ordina Canali per Bouquet", Menu::Utilities},
     Command{"SpostaRadio", "Raggruppa RADIO e SERVIZI", Menu::Utilities},
     Command{"CanaliDoppi", "Controlla Canali Doppi", Menu::Utilities},
-    Command{.name = "InvertiSatelliti",
-            .caption = "Inverti Satelliti",
-            .menu = Menu::Utilities,
-            .startsGroup = true},
+    Group({"InvertiSatelliti", "Inverti Satelliti", Menu::Utilities}),
     Command{"RiportaAB", "Riporta tutto a SAT A-B", Menu::Utilities},
     Command{"ConvertiSR", "Converti SR", Menu::Utilities, "convert-sr"},
-    Command{"VisualizzaCanali", "Visualizza Canali", Menu::Utilities, "channels", "", true, true},
-    Command{"VisualizzaTransponder", "Visualizza Transponders", Menu::Utilities, "transponders", "", true},
+    Group(Checkable({"VisualizzaCanali", "Visualizza Canali", Menu::Utilities, "channels"})),
+    Checkable({"VisualizzaTransponder", "Visualizza Transponders", Menu::Utilities, "transponders"}),
     Command{"VisualizzaPreferiti", "Visualizza Preferiti", Menu::Utilities, "favourites"},
-    Command{"VisualizzaBouquet", "Visualizza Struttura per Bouquet", Menu::Utilities, "bouquet", "", true},
-    Command{.name = "CercaCanale",
-            .caption = "Ricerca canale per Nome",
-            .menu = Menu::Utilities,
-            .icon = "find",
-            .key = "Ctrl+F",
-            .startsGroup = true},
+    Checkable({"VisualizzaBouquet", "Visualizza Struttura per Bouquet", Menu::Utilities, "bouquet"}),
+    Group({"CercaCanale", "Ricerca canale per Nome", Menu::Utilities, "find", "Ctrl+F"}),
     Command{"CercaSuccessivo", "Ricerca successivo", Menu::Utilities, "", "F3"},
     Command{"Filtra", "Filtro", Menu::Utilities, "", "Ctrl+Shift+F"},
     Command{"VaiAlCanale", "Vai al Canale Nr.", Menu::Utilities, "goto", "Ctrl+G"},
-    Command{.name = "StampaGriglia",
-            .caption = "Stampa",
-            .menu = Menu::Utilities,
-            .icon = "print",
-            .key = "Ctrl+P",
-            .startsGroup = true},
+    Group({"StampaGriglia", "Stampa", Menu::Utilities, "print", "Ctrl+P"}),
 
     Command{"ScaricaInternet", "Scarica da Internet", Menu::Sdx, "internet"},
     Command{"SDX", "Carica File (.sdx)", Menu::Sdx, "open-sdx"},
-    Command{"VediSDX", "Visualizza", Menu::Sdx, "", "", true, true},
+    Group(Checkable({"VediSDX", "Visualizza", Menu::Sdx})),
     Command{"RicercaSDX", "Ricerca", Menu::Sdx, "find-sdx"},
     Command{"StampaSDX", "Stampa", Menu::Sdx, "print"},
-    Command{.name = "ImportaTuttoSDX",
-            .caption = "Importa tutto SDX",
-            .menu = Menu::Sdx,
-            .icon = "import",
-            .startsGroup = true},
+    Group({"ImportaTuttoSDX", "Importa tutto SDX", Menu::Sdx, "import"}),
 
     Command{"DaEsportato", "Da formato FLASH", Menu::Import},
     Command{"DaEsportatoTesto", "Da formato TESTO", Menu::Import},
