@@ -21,14 +21,6 @@ std::vector<LostFavourite> Rearrange(State& state, const SlotMap& map) {
   return RenumberFavourites(state.FavouritesBlock, map);
 }
 
-// Adds to a transponder's own count of channels, which stays within 0..254.
-void AddToCount(State& state, std::uint32_t transponder, int step) {
-  if (transponder < 1 || transponder > LastTransponderSlot) return;
-  TransponderRecord& record = state.TransponderTable[transponder].record;
-  const int count = static_cast<int>(Get(record, TransponderField::ChannelCount)) + step;
-  Set(record, TransponderField::ChannelCount, static_cast<std::uint32_t>(std::clamp(count, 0, 254)));
-}
-
 // Bouquet code and transponder number as one number that orders as the two texts and the number do; nothing for a
 // transponder that takes no part.
 constexpr std::uint32_t NoKey = 0xFFFFFFFF;
@@ -80,7 +72,7 @@ std::vector<LostFavourite> DeleteChannels(State& state, Slots slots) {
   }
   for (int slot = slots.first; slot <= slots.last; ++slot) {
     const ChannelRecord& channel = state.ChannelTable[At(slot)];
-    if (!channel.Empty()) AddToCount(state, Get(channel, ChannelField::Transponder), -1);
+    if (!channel.Empty()) AddToChannelCount(state, Get(channel, ChannelField::Transponder), -1);
   }
   return Rearrange(state, map);
 }

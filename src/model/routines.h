@@ -54,6 +54,14 @@ inline int UsedTransponders(const State& state) {
                                         [](const TransponderRow& row) { return !IsFree(row.record); }));
 }
 
+// Adds to a transponder's own count of channels, which stays within 0..254. Numbers that are no slot do nothing.
+inline void AddToChannelCount(State& state, std::uint32_t transponder, int step) {
+  if (transponder < 1 || transponder > LastTransponderSlot) return;
+  TransponderRecord& record = state.TransponderTable[transponder].record;
+  const int count = static_cast<int>(Get(record, TransponderField::ChannelCount)) + step;
+  Set(record, TransponderField::ChannelCount, static_cast<std::uint32_t>(std::clamp(count, 0, 254)));
+}
+
 struct TransponderSlot {
   int slot = 0;        // 0 for none
   bool added = false;  // it was free before

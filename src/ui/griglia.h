@@ -53,8 +53,8 @@ class Griglia : public QTableView {
   void KeepWidth(int column, int width);
   void PlaceFrozen();
 
-  QTableView* frozen_;  // the first column, on the same model
-  QWidget* dropLine_;   // where dragged rows would land, across all columns
+  QTableView* frozen_;       // the first column, on the same model
+  QWidget* dropLine_;        // where dragged rows would land, across all columns
   std::vector<int> widths_;  // of the columns without the spare width
   bool fitting_ = false;
 };

@@ -1,0 +1,169 @@
+#include "formats/satcodx.h"
+
+#include "base/text.h"
+
+namespace Formats {
+namespace {
+
+using Base::Column;
+using Base::Cut;
+
+namespace SdxLine {
+constexpr Column SatelliteName{11, 17}, Type{29, 1}, Format{30, 4}, Frequency{34, 6}, Polarisation{43, 1},
+    NameStart{44, 8}, SymbolRate{70, 5}, Fec{75, 1}, Vpid{76, 4}, Apid{80, 4}, Pcr{84, 4}, Sid{88, 5},
+    Nid{93, 5}, Tid{98, 5}, Code{112, 4}, NameEnd{116, 12};
+}  // namespace SdxLine
+
+constexpr std::string_view NoCode = "____";
+constexpr const char* Absent = "65535";
+// Lines of this service id are looked up in the filter list without their audio PID.
+constexpr int SidWithoutPid = 4435;
+
+// The leading decimal digits of a column of at most six, else 0.
+int Value(std::string_view text) {
+  int value = 0;
+  for (const char digit : Base::LeadingDigits(text)) value = value * 10 + (digit - '0');
+  return value;
+}
+
+struct CodeGroup {
+  std::string_view code;
+  int codifica;
+};
+
+// The groups are the receiver's own: "MGIV" belongs to the first. The first match counts.
+constexpr CodeGroup Codes[] = {{"IRDT", 0x84}, {"IRMG", 0x84}, {"IRNV", 0x84}, {"IRVG", 0x84}, {"MGIV", 0x84},
+                               {"MGRD", 0x24}, {"MGVA", 0x24}, {"MGCW", 0x24}, {"MGVG", 0x24}, {"NAGV", 0x44},
+                               {"BCRT", 0x64}, {"VICS", 0xA4}, {"VCON", 0xA4}, {"VIMG", 0xA4}};
+
+int CodificaOf(std::string_view code) {
+  for (const CodeGroup& group : Codes) {
+    if (group.code == code) return group.codifica;
+  }
+  return 0x04;
+}
+
+std::string PidText(std::string_view text) { return Value(text) == 0 ? Absent : std::string(text); }
+
+class Loader {
+ public:
+  explicit Loader(const SdxOptions& options) : options_(options) {}
+
+  SdxTable Run(std::string_view text) {
+    for (const std::string_view line : Base::Lines(text)) {
+      if (table_.lines++ == 0) table_.satelliteName = Cut(line, SdxLine::SatelliteName);
+      if (!Passes(line)) continue;
+      if (table_.rows.size() == MostSdxRows) {
+        table_.full = true;
+        break;
+      }
+      table_.rows.push_back(RowOf(line));
+    }
+    return std::move(table_);
+  }
+
+ private:
+  bool Passes(std::string_view line) {
+    // As texts, character by character: "5632 " passes and "05632" does not.
+    if (Cut(line, SdxLine::SymbolRate) <= "17999") return Dropped(table_.droppedByRate);
+    const std::string_view type = Cut(line, SdxLine::Type);
+    const bool wanted = (type == "T" && options_.television) || (type == "R" && options_.radio) ||
+                        (type == "D" && options_.data);
+    if (!wanted) return Dropped(table_.droppedByType);
+    if (type != "D") {
+      if (Cut(line, SdxLine::Format) != "MPG2") return Dropped(table_.droppedByFormat);
+      if (Value(Cut(line, type == "T" ? SdxLine::Vpid : SdxLine::Apid)) == 0)
+        return Dropped(table_.droppedByPid);
+    }
+    return PassesFilters(line);
+  }
+
+  bool PassesFilters(std::string_view line) {
+    const std::string_view code = Cut(line, SdxLine::Code);
+    if (!options_.allCodes &&
+        std::find(options_.codes.begin(), options_.codes.end(), code) == options_.codes.end()) {
+      return Dropped(table_.droppedByCode);
+    }
+    const int sid = Value(Cut(line, SdxLine::Sid));
+    const int pid = Value(Cut(line, SdxLine::Apid));
+    const int key = sid == SidWithoutPid ? 0 : pid == 0 ? 65535 : pid;
+    const bool left = options_.filtered.contains({key, sid}) ||
+                      options_.known.contains({Value(Cut(line, SdxLine::Tid)), sid});
+    return left ? Dropped(table_.droppedByFilter) : true;
+  }
+
+  static bool Dropped(int& count) {
+    ++count;
+    return false;
+  }
+
+  [[nodiscard]] SdxRow RowOf(std::string_view line) const {
+    const auto number = [line](const Column& column) { return std::to_string(Value(Cut(line, column))); };
+    SdxRow row;
+    const char type = Cut(line, SdxLine::Type)[0];
+    row.name = std::string(Cut(line, SdxLine::NameStart)).append(Cut(line, SdxLine::NameEnd));
+    row.type = type == 'D' ? 'S' : type;
+    row.satellite = options_.satellite;
+    row.frequency = Cut(line, SdxLine::Frequency);
+    row.highBand = Value(row.frequency) >= 11700;
+    const std::string_view polarisation = Cut(line, SdxLine::Polarisation);
+    row.horizontal = polarisation == "H" || polarisation == "1";
+    row.symbolRate = Cut(line, SdxLine::SymbolRate);
+    row.fec = Cut(line, SdxLine::Fec);
+    // Whatever a radio line says of video, the channel has none.
+    row.vpid = type == 'R' ? Absent : PidText(Cut(line, SdxLine::Vpid));
+    row.apid = PidText(Cut(line, SdxLine::Apid));
+    row.pcr = number(SdxLine::Pcr);
+    row.sid = number(SdxLine::Sid);
+    row.nid = number(SdxLine::Nid);
+    row.tid = Base::ZeroPadded(Value(Cut(line, SdxLine::Tid)), 5);
+    row.codifica = CodificaOf(Cut(line, SdxLine::Code));
+    return row;
+  }
+
+  const SdxOptions& options_;
+  SdxTable table_;
+};
+
+}  // namespace
+
+SdxTable ReadSatcodx(std::string_view text, const SdxOptions& options) { return Loader(options).Run(text); }
+
+std::vector<std::string> EncryptionCodesOf(std::string_view text) {
+  std::vector<std::string> codes;
+  std::set<std::string_view> seen;
+  for (const std::string_view line : Base::Lines(text)) {
+    const std::string_view code = Cut(line, SdxLine::Code);
+    if (code.size() == SdxLine::Code.width && code != NoCode && seen.insert(code).second)
+      codes.emplace_back(code);
+  }
+  return codes;
+}
+
+std::set<std::pair<int, int>> FilteredServices(std::string_view text) {
+  std::set<std::pair<int, int>> services;
+  for (const std::string_view line : Base::Lines(text)) {
+    const std::string_view pid = Base::LeadingDigits(line);
+    std::string_view rest = Base::TrimmedLeft(line).substr(pid.size());
+    rest.remove_prefix(std::min(rest.find_first_not_of(" \t"), rest.size()));
+    if (!pid.empty() && !Base::LeadingDigits(rest).empty()) {
+      services.insert({Base::LeadingNumber(pid), Base::LeadingNumber(rest)});
+    }
+  }
+  return services;
+}
+
+std::string DownloadedLines(std::string_view reply) {
+  const char end = reply.find('\r') != std::string_view::npos ? '\r' : '\n';
+  std::string lines;
+  lines.reserve(reply.size() + reply.size() / 64);
+  for (std::size_t at = reply.find(end); at != std::string_view::npos; at = reply.find(end)) {
+    lines.append(reply.substr(0, at)).append("\r\n");
+    reply.remove_prefix(at + 1);
+  }
+  return lines;
+}
+
+bool LooksLikeSatcodx(std::string_view reply) { return Base::Trimmed(reply.substr(0, 7)) == "SATCODX"; }
+
+}  // namespace Formats

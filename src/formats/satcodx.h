@@ -1,0 +1,82 @@
+// SatcoDX lists (*.sdx): a service a line in fixed columns, bytes of the code page. Lines that pass the options become
+// rows of the SDX table, which keeps their fields as texts.
+#pragma once
+
+#include "base/columns.h"
+
+#include <array>
+#include <cstdint>
+#include <set>
+#include <string>
+#include <string_view>
+#include <utility>
+#include <vector>
+
+namespace Formats {
+
+inline constexpr std::size_t MostSdxRows = 4000;
+
+struct SdxRow {
+  std::string name;       // 20 characters of the two places it stands in
+  char type = 'T';        // 'T' television, 'R' radio, 'S' data
+  int satellite = 0;      // 0 is satellite A
+  std::string frequency;  // 6 characters, MHz
+  bool highBand = false;  // 11700 MHz and above
+  bool horizontal = false;
+  std::string symbolRate;  // 5 characters
+  std::string fec;         // one digit
+  std::string vpid, apid;  // as they stand, "65535" where absent
+  std::string pcr, sid, nid;
+  std::string tid;  // five digits
+  std::string aecm = "65535";
+  std::string vecm = "65535";
+  int codifica = 0;  // the receiver's coding byte
+  std::string bouquet = "Nessuno";
+
+  friend bool operator==(const SdxRow&, const SdxRow&) = default;
+};
+
+// What the user wants of a list.
+struct SdxOptions {
+  int satellite = 0;  // of all rows
+  bool television = true;
+  bool radio = true;
+  bool data = false;
+  bool allCodes = false;
+  std::vector<std::string> codes;  // encryption codes, four characters each
+  // Services to leave out: by audio PID and service id, and those of the loaded list by transport stream and service id.
+  std::set<std::pair<int, int>> filtered;
+  std::set<std::pair<int, int>> known;
+};
+
+struct SdxTable {
+  std::string satelliteName;  // of the file, 17 characters
+  std::vector<SdxRow> rows;
+  bool full = false;  // more lines were accepted than the table has rows for
+
+  // Lines read, and those dropped by reason.
+  int lines = 0;
+  int droppedByRate = 0;
+  int droppedByType = 0;
+  int droppedByFormat = 0;
+  int droppedByPid = 0;
+  int droppedByCode = 0;
+  int droppedByFilter = 0;
+};
+
+SdxTable ReadSatcodx(std::string_view text, const SdxOptions& options);
+
+// Each encryption code of a list once, in the order of their first lines; "____" and short lines give none.
+std::vector<std::string> EncryptionCodesOf(std::string_view text);
+
+// The services of the pairs "APID SID" in a filter list, blanks or tabs between the two.
+std::set<std::pair<int, int>> FilteredServices(std::string_view text);
+
+// A downloaded reply as lines that end with CR LF: cut at its carriage returns, what follows the last one left out. A
+// reply without any is cut at its line feeds.
+std::string DownloadedLines(std::string_view reply);
+
+// Whether a reply is a list: its first 7 characters, trimmed, are "SATCODX".
+bool LooksLikeSatcodx(std::string_view reply);
+
+}  // namespace Formats

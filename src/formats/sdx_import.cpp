@@ -1,0 +1,86 @@
+#include "formats/sdx_import.h"
+
+#include "base/text.h"
+#include "model/flash_loader.h"
+#include "model/symbol_rates.h"
+
+namespace Formats {
+namespace {
+
+using namespace Routines;
+
+// The leading digits of a row's text; numbers above 65535 keep their low 16 bits.
+std::uint32_t Low16(std::string_view text) {
+  std::uint32_t value = 0;
+  for (const char digit : Base::LeadingDigits(text))
+    value = value * 10 + static_cast<std::uint32_t>(digit - '0');
+  return value & 0xFFFFU;
+}
+
+int Megahertz(const SdxRow& row) { return Base::LeadingNumber(row.frequency); }
+
+std::uint32_t FecCode(std::string_view digit) {
+  constexpr std::string_view Digits = "12357";
+  const std::size_t code = digit.empty() ? std::string_view::npos : Digits.find(digit);
+  return code == std::string_view::npos ? 5 : static_cast<std::uint32_t>(code);
+}
+
+}  // namespace
+
+TransponderRecord SdxImport::RecordOf(const SdxRow& row) {
+  TransponderRecord record;
+  Set(record, TransponderField::HighBand, row.highBand ? 1U : 0U);
+  Set(record, TransponderField::Horizontal, row.horizontal ? 1U : 0U);
+  Set(record, TransponderField::Satellite, static_cast<std::uint32_t>(row.satellite));
+  const std::int64_t hertz = std::int64_t{Megahertz(row) - LocalOscillator(record)} * 1000000;
+  Set(record, TransponderField::Frequency, static_cast<std::uint32_t>(hertz & 0xFFFFFFFF));
+  Set(record, TransponderField::Tid, Low16(row.tid));
+  Set(record, TransponderField::Nid, Low16(row.nid));
+  Set(record, TransponderField::ChannelCount, 1);
+  const std::size_t rate = state_.SymbolRateTable.find(row.symbolRate);
+  if (rate == std::string::npos) ++unknownRates_;
+  Set(record, TransponderField::SymbolRate,
+      rate == std::string::npos ? 0 : static_cast<std::uint32_t>((rate + 1) / SymbolRateCell));
+  Set(record, TransponderField::Fec, FecCode(row.fec));
+  return record;
+}
+
+int SdxImport::TransponderOf(const SdxRow& row, int position) {
+  const TransponderRecord record = RecordOf(row);
+  const TransponderSlot found = FindOrAddTransponder(state_, record);
+  if (found.added) {
+    NameBouquet(state_.TransponderTable[static_cast<std::size_t>(found.slot)], bouquets_);
+    return found.slot;
+  }
+  if (found.slot != 0) {
+    AddToChannelCount(state_, static_cast<std::uint32_t>(found.slot), 1);
+    return found.slot;
+  }
+  if (message_.empty()) {
+    message_ =
+        TooManyTransponders(state_.TransponderCount) + "\n Posizione canale SDX " + std::to_string(position);
+  }
+  AddToChannelCount(state_, static_cast<std::uint32_t>(state_.TransponderCount), 1);
+  return state_.TransponderCount;
+}
+
+void SdxImport::Put(const SdxRow& row, int slot, int position) {
+  ChannelRecord& channel = state_.ChannelTable[static_cast<std::size_t>(slot)];
+  if (!channel.Empty()) AddToChannelCount(state_, Get(channel, ChannelField::Transponder), -1);
+  channel = {};
+  if (Megahertz(row) == 0) return;
+
+  std::string name = row.name.substr(0, ChannelRecord::NameSize);
+  const std::size_t used = Base::TrimmedRight(name).size();
+  std::copy_n(name.begin(), used == 0 ? name.size() : used, channel.bytes.begin());
+  Set(channel, ChannelField::Flags, static_cast<std::uint32_t>(row.codifica));
+  Set(channel, ChannelField::Transponder, static_cast<std::uint32_t>(TransponderOf(row, position)));
+  Set(channel, ChannelField::Sid, Low16(row.sid));
+  Set(channel, ChannelField::Vpid, Low16(row.vpid));
+  Set(channel, ChannelField::Apid, Low16(row.apid));
+  Set(channel, ChannelField::Aecm, Low16(row.aecm));
+  Set(channel, ChannelField::Vecm, Low16(row.vecm));
+  Set(channel, ChannelField::Pcr, Low16(row.pcr));
+}
+
+}  // namespace Formats

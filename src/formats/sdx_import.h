@@ -1,0 +1,34 @@
+// Carrying rows of the SDX table into the channel list, with the transponders they need.
+#pragma once
+
+#include "formats/satcodx.h"
+#include "model/bouquets.h"
+
+namespace Formats {
+
+class SdxImport {
+ public:
+  // Works on `state`, whose symbol-rate table gives the rates their codes.
+  SdxImport(Routines::State& state, const Routines::BouquetTables& bouquets)
+      : state_(state), bouquets_(bouquets) {}
+
+  // Puts a row into a slot of the channel table in the place of what is there. `position` is the row's number in the
+  // SDX table, from 1, for messages. A row of frequency 0 empties the slot.
+  void Put(const SdxRow& row, int slot, int position);
+
+  // The sentence to show once when rows found no transponder and went to the last one; else empty.
+  [[nodiscard]] const std::string& Message() const { return message_; }
+  // Rows whose symbol rate has no code.
+  [[nodiscard]] int UnknownRates() const { return unknownRates_; }
+
+ private:
+  int TransponderOf(const SdxRow& row, int position);
+  Routines::TransponderRecord RecordOf(const SdxRow& row);
+
+  Routines::State& state_;
+  const Routines::BouquetTables& bouquets_;
+  std::string message_;
+  int unknownRates_ = 0;
+};
+
+}  // namespace Formats

@@ -1,0 +1,164 @@
+#include "formats/satcodx.h"
+
+#include "formats/sdx_import.h"
+#include "image_builder.h"
+#include "model/symbol_rates.h"
+
+#include <gtest/gtest.h>
+
+#include <memory>
+
+namespace Formats {
+namespace {
+
+using namespace Routines;
+
+struct Service {
+  const char* type = "T";
+  const char* format = "MPG2";
+  const char* frequency = "010719";
+  const char* rate = "27500";
+  const char* vpid = "0512";
+  const char* apid = "0650";
+  const char* sid = "04903";
+  const char* tid = "11000";
+  const char* code = "MGIV";
+};
+
+std::string Line(const Service& service) {
+  std::string line;
+  const auto put = [&line](std::size_t first, std::size_t width, std::string_view text) {
+    Base::Put(line, {first, width}, text);
+  };
+  put(1, 10, "SATCODX103");
+  put(11, 17, "HOTBIRD 13E");
+  put(29, 1, service.type);
+  put(30, 4, service.format);
+  put(34, 6, service.frequency);
+  put(40, 4, "000H");
+  put(44, 8, "Canale 5");
+  put(70, 5, service.rate);
+  put(75, 1, "3");
+  put(76, 4, service.vpid);
+  put(80, 4, service.apid);
+  put(84, 4, "0044");
+  put(88, 5, service.sid);
+  put(93, 5, "00318");
+  put(98, 5, service.tid);
+  put(112, 4, service.code);
+  put(116, 12, " Europa Plus");
+  return line + "\r\n";
+}
+
+SdxOptions Everything() {
+  SdxOptions options;
+  options.data = options.allCodes = true;
+  return options;
+}
+
+SdxRow RowAt(int megahertz) {
+  return ReadSatcodx(Line({.frequency = ("0" + std::to_string(megahertz)).c_str()}), Everything()).rows.at(0);
+}
+
+}  // namespace
+
+TEST(Satcodx, ALineBecomesARow) {
+  SdxOptions options = Everything();
+  options.satellite = 1;
+  const SdxTable table = ReadSatcodx(
+      Line({}) + Line({.type = "R", .code = "VICS"}) +
+          Line({.type = "D", .format = "    ", .vpid = "0000", .apid = "    ", .tid = "   ", .code = "????"}),
+      options);
+  EXPECT_EQ(table.satelliteName, "HOTBIRD 13E      ");
+  ASSERT_EQ(table.rows.size(), 3U);
+  const SdxRow& tv = table.rows[0];
+  EXPECT_EQ(tv.name, "Canale 5 Europa Plus");
+  EXPECT_EQ(tv.vpid + " " + tv.apid + " " + tv.pcr + " " + tv.sid + " " + tv.nid + " " + tv.tid,
+            "0512 0650 44 4903 318 11000");
+  EXPECT_EQ(tv.codifica, 0x84) << "MGIV belongs to the first group";
+  EXPECT_TRUE(tv.horizontal);
+  EXPECT_FALSE(tv.highBand);
+  EXPECT_EQ(table.rows[1].vpid, "65535") << "whatever a radio line says of video";
+  EXPECT_EQ(table.rows[1].codifica, 0xA4);
+  EXPECT_EQ(table.rows[2].type, 'S');
+  EXPECT_EQ(table.rows[2].apid, "65535");
+  EXPECT_EQ(table.rows[2].tid, "00000");
+  EXPECT_EQ(table.rows[2].codifica, 0x04);
+}
+
+TEST(Satcodx, EachDroppedLineHasItsReason) {
+  SdxOptions options;
+  options.codes = {"MGIV"};
+  options.filtered = {{650, 77}, {0, 4435}};
+  options.known = {{11000, 88}};
+  const SdxTable table =
+      ReadSatcodx(Line({}) + Line({.rate = "5632 "}) + Line({.rate = "05632"}) + Line({.type = "D"}) +
+                      Line({.format = "MPG4"}) + Line({.vpid = "0000"}) + Line({.code = "NAGV"}) +
+                      Line({.sid = "00077"}) + Line({.sid = "00088"}) + Line({.sid = "04435"}) + "corta\n",
+                  options);
+  EXPECT_EQ(table.rows.size(), 2U);
+  EXPECT_EQ(table.lines, 11);
+  EXPECT_EQ(table.droppedByRate, 2);
+  EXPECT_EQ(table.droppedByType, 1);
+  EXPECT_EQ(table.droppedByFormat, 1);
+  EXPECT_EQ(table.droppedByPid, 1);
+  EXPECT_EQ(table.droppedByCode, 1);
+  EXPECT_EQ(table.droppedByFilter, 3);
+  std::string many;
+  for (int i = 0; i < 4001; ++i) many += Line({});
+  EXPECT_TRUE(ReadSatcodx(many, Everything()).full);
+  EXPECT_EQ(ReadSatcodx(many, Everything()).rows.size(), 4000U);
+}
+
+TEST(Satcodx, CodesAndFiltersAndDownloads) {
+  EXPECT_EQ(EncryptionCodesOf(Line({.code = "____"}) + Line({.code = "NAGV"}) + "x\n" +
+                              Line({.code = "    "}) + Line({.code = "NAGV"})),
+            std::vector<std::string>({"NAGV", "    "}));
+  EXPECT_EQ(FilteredServices("650 77\r\n 0\t4435\nx 1\n12\n"),
+            (std::set<std::pair<int, int>>{{650, 77}, {0, 4435}}));
+  EXPECT_EQ(DownloadedLines("a\r\nb\r\nc"), "a\r\n\nb\r\n") << "a line feed stays in front of the next line";
+  EXPECT_EQ(DownloadedLines("a\nb\nc"), "a\r\nb\r\n");
+  EXPECT_TRUE(LooksLikeSatcodx("SATCODX103"));
+  EXPECT_FALSE(LooksLikeSatcodx("  SATCODX"));
+  EXPECT_FALSE(LooksLikeSatcodx("SAT"));
+}
+
+TEST(SdxImport, RowsFindOrMakeTheirTransponder) {
+  auto state = std::make_unique<State>();
+  state->SymbolRateTable = EmptySymbolRateTable();
+  PlaceUsualRates(state->SymbolRateTable, Sr22000::Come2);
+  state->ChannelCount = 10;
+  state->TransponderCount = 2;
+  state->TransponderTable[2].record = Samples::MakeTransponder(10721, true, 0, 9, 0);
+  state->ChannelTable[3] = Samples::MakeChannel("vecchio", 2, 1, 1, 1);
+  const BouquetTables bouquets{{}, {{"Nuovo", "12092", "SAT A", "05", 0, 12092}}};
+  SdxImport import(*state, bouquets);
+  import.Put(RowAt(10719), 3, 1);
+  const ChannelRecord& channel = state->ChannelTable[3];
+  EXPECT_EQ(channel.Name(), "Canale 5 Europa");
+  EXPECT_EQ(Get(channel, ChannelField::Transponder), 2U);
+  EXPECT_EQ(Get(channel, ChannelField::Sid), 4903U);
+  EXPECT_EQ(Get(channel, ChannelField::Flags), 0x84U);
+  EXPECT_EQ(Get(state->TransponderTable[2].record, TransponderField::SymbolRate), 9U) << "linked to as it is";
+  EXPECT_EQ(Get(state->TransponderTable[2].record, TransponderField::ChannelCount), 1U) << "one off, one on";
+  import.Put(RowAt(12092), 4, 2);
+  const TransponderRow& made = state->TransponderTable[1];
+  EXPECT_EQ(FrequencyMHz(made.record), 12092);
+  EXPECT_EQ(made.BouquetCode(), "05");
+  EXPECT_EQ(Get(made.record, TransponderField::SymbolRate), 3U);
+  EXPECT_EQ(Get(made.record, TransponderField::Fec), 2U);
+  EXPECT_EQ(Get(made.record, TransponderField::ChannelCount), 1U);
+  EXPECT_EQ(import.Message(), "");
+  import.Put(RowAt(11500), 5, 3);
+  import.Put(RowAt(11600), 6, 4);
+  import.Put(RowAt(12093), 7, 5);
+  EXPECT_EQ(import.Message(),
+            "Superato il numero di transponders gestibili 2\ncollego i canali restanti sul transponder 2\n "
+            "Posizione canale SDX 3");
+  EXPECT_EQ(Get(state->ChannelTable[6], ChannelField::Transponder), 2U);
+  EXPECT_EQ(Get(state->ChannelTable[7], ChannelField::Transponder), 1U) << "one that exists is still found";
+  import.Put(RowAt(0), 3, 6);
+  EXPECT_TRUE(state->ChannelTable[3].Empty()) << "frequency 0 clears the slot";
+}
+
+}  // namespace Formats
