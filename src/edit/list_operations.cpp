@@ -81,13 +81,18 @@ bool IsPosition(const State& state, int position, int count) {
   return position > 0 && position + count <= state.ChannelCount;
 }
 
-bool MakeRoom(State& state, int position, int count, std::vector<LostFavourite>& lost) {
-  if (LastOccupied(state) + count > state.ChannelCount && LastOccupied(state) >= position) return false;
+std::vector<LostFavourite> ShiftDown(State& state, int position, int count) {
   SlotMap map = SameSlots();
   for (int slot = position; slot <= state.ChannelCount; ++slot) {
     map[At(slot)] = slot + count <= state.ChannelCount ? slot + count : 0;
   }
-  lost = Rearrange(state, map);
+  return Rearrange(state, map);
+}
+
+bool MakeRoom(State& state, int position, int count, std::vector<LostFavourite>& lost) {
+  const int last = LastOccupied(state);
+  if (last >= position && last + count > state.ChannelCount) return false;
+  lost = ShiftDown(state, position, count);
   return true;
 }
 

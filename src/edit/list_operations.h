@@ -27,6 +27,9 @@ std::vector<LostFavourite> DeleteChannels(State& state, Slots slots);
 // Whether `count` channels can be put in at `position`: the rule is position + count <= channel count.
 bool IsPosition(const State& state, int position, int count);
 
+// Moves all channels from `position` on down by `count` slots; those at the list's end drop off.
+std::vector<LostFavourite> ShiftDown(State& state, int position, int count);
+
 // Makes `count` empty slots from `position` on by moving all channels there down; false, with nothing changed, where
 // that would push a channel past the channel count. Entries on empty slots that are pushed out are `lost`.
 bool MakeRoom(State& state, int position, int count, std::vector<LostFavourite>& lost);

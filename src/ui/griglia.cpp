@@ -73,7 +73,7 @@ void Griglia::SetUp(QTableView& view) {
   view.setTabKeyNavigation(false);
 }
 
-void Griglia::ShowList(ListModel* list) {
+void Griglia::ShowList(TableModel* list) {
   if (list != model()) {
     const std::unique_ptr<QItemSelectionModel> oldSelection(selectionModel());
     setModel(list);
@@ -144,9 +144,10 @@ void Griglia::startDrag(Qt::DropActions) {
   drag->exec(Qt::MoveAction | Qt::CopyAction, Qt::MoveAction);
 }
 
-// Rows of another window would be numbers of another list.
+// Rows of another program would be numbers of another list.
 void Griglia::dragEnterEvent(QDragEnterEvent* event) {
-  if (event->source() == this) QTableView::dragEnterEvent(event);
+  const bool ownSdx = event->source() != nullptr && event->mimeData()->hasFormat(SdxRowsType);
+  if (event->source() == this || ownSdx) QTableView::dragEnterEvent(event);
 }
 
 void Griglia::dragMoveEvent(QDragMoveEvent* event) {

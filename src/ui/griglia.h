@@ -3,7 +3,7 @@
 #pragma once
 
 #include "edit/list_operations.h"
-#include "ui/list_model.h"
+#include "ui/table_model.h"
 
 #include <QTableView>
 
@@ -19,7 +19,7 @@ class Griglia : public QTableView {
 
   // Shows a list from its first row on: row 1 is current, nothing is selected. The spare width of the window
   // goes to the column that its header makes widest.
-  void ShowList(ListModel* list);
+  void ShowList(TableModel* list);
 
   // The rows of the selection, from slot 1 on; nothing when none is selected.
   [[nodiscard]] std::optional<Edit::Slots> Selected() const;

@@ -3,16 +3,11 @@
 
 #include "model/cells.h"
 #include "ui/document.h"
-#include "ui/header_format.h"
-
-#include <QAbstractTableModel>
-#include <QColor>
+#include "ui/table_model.h"
 
 namespace Ui {
 
-QColor ToColor(Routines::Colour colour);
-
-class ListModel : public QAbstractTableModel {
+class ListModel : public TableModel {
   Q_OBJECT
 
  public:
@@ -29,35 +24,35 @@ class ListModel : public QAbstractTableModel {
 
   ListModel(const Document& document, const Kind& kind, QObject* parent);
 
-  [[nodiscard]] const std::vector<HeaderColumn>& Header() const { return header_; }
-
   // Rows that a search has found are painted in a colour of their own until the list changes.
   enum class Mark : unsigned char { None, Filtered, Found };
   void SetMark(int slot, Mark mark);
   void ClearMarks();
 
   [[nodiscard]] int rowCount(const QModelIndex& parent = {}) const override;
-  [[nodiscard]] int columnCount(const QModelIndex& parent = {}) const override;
-  [[nodiscard]] QVariant data(const QModelIndex& index, int role) const override;
   [[nodiscard]] Qt::ItemFlags flags(const QModelIndex& index) const override;
   [[nodiscard]] Qt::DropActions supportedDropActions() const override;
   [[nodiscard]] QStringList mimeTypes() const override;
   [[nodiscard]] QMimeData* mimeData(const QModelIndexList& indexes) const override;
   bool dropMimeData(const QMimeData* data, Qt::DropAction action, int row, int column,
                     const QModelIndex& parent) override;
-  [[nodiscard]] QVariant headerData(int section, Qt::Orientation orientation, int role) const override;
 
  Q_SIGNALS:
   // The rows of slots `first`..`last` were dropped in front of slot `before`.
   void Dropped(int first, int last, int before, bool copy);
 
+  // The rows of the SDX table from `first` to `last` were.
+  void SdxDropped(int first, int last, int before);
+
+ protected:
+  [[nodiscard]] QString CellText(int slot, int column) const override;
+  [[nodiscard]] Routines::Colour CellColour(int slot, int column) const override;
+
  private:
   void Refresh();
-  [[nodiscard]] Routines::Colour ColourAt(int slot, int column) const;
 
   const Document& document_;
   const Kind& kind_;
-  std::vector<HeaderColumn> header_;
   int rows_ = 0;
   std::vector<Mark> marks_;  // by slot; empty when there are none
 };

@@ -36,6 +36,7 @@ ListView::ListView(const Document& document, QAction& showChannels, QAction& sho
   connect(filter_, &FilterBar::Step, this, &ListView::StepMatch);
   connect(filter_, &FilterBar::Left, grid_, qOverload<>(&QWidget::setFocus));
   connect(&channels_, &ListModel::Dropped, this, &ListView::Dropped, Qt::QueuedConnection);
+  connect(&channels_, &ListModel::SdxDropped, this, &ListView::SdxDropped, Qt::QueuedConnection);
   connect(grid_, &Griglia::SelectionMoved, this, [this] {
     const auto rows = grid_->Selected().value_or(Edit::Slots{});
     map_->ShowSelection(rows.first, rows.last);

@@ -45,6 +45,8 @@ class ListView : public QWidget {
  Q_SIGNALS:
   // The rows of slots `first`..`last` were dropped in front of slot `before`.
   void Dropped(int first, int last, int before, bool copy);
+  // The rows of the SDX table from `first` to `last` were.
+  void SdxDropped(int first, int last, int before);
 
  private:
   void LayOut();
