@@ -104,6 +104,10 @@ void WindowDriver::ExpectFile(const QString& title, const QString& path) {
   expected_.push_back({title, {}, [path](QDialog& box) { EnterPath(box, path); }});
 }
 
+void WindowDriver::ExpectDialog(const QString& title, const std::function<void(QDialog&)>& answer) {
+  expected_.push_back({title, {}, answer});
+}
+
 void WindowDriver::ExpectFileCancelled(const QString& title) {
   expected_.push_back({title, {}, [](QDialog& box) { box.reject(); }});
 }

@@ -34,6 +34,8 @@ class WindowDriver : public QObject {
   void ExpectCancelledQuestion(const QString& text);
   void ExpectLine(const QString& question, const QString& answer);
   void ExpectFile(const QString& title, const QString& path);
+  // A box of the program's own, answered as the caller likes.
+  void ExpectDialog(const QString& title, const std::function<void(QDialog&)>& answer);
   void ExpectFileCancelled(const QString& title);
 
   // Chooses a menu command with the mouse. False where it is disabled or missing.

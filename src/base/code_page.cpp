@@ -80,7 +80,10 @@ std::string FromUtf8Lossy(std::string_view text) {
     const std::size_t before = text.size();
     const auto character = TakeCharacter(text);
     bytes += (character ? ByteOf(*character) : std::nullopt).value_or('?');
-    if (text.size() == before) text.remove_prefix(1);
+    if (text.size() != before) continue;
+    do {
+      text.remove_prefix(1);
+    } while (!text.empty() && static_cast<unsigned char>(text.front()) >> 6U == 0x02);
   }
   return bytes;
 }

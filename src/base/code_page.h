@@ -16,7 +16,7 @@ std::string ToUtf8(std::string_view bytes);
 // The bytes of a UTF-8 text; nothing when a character is not in the code page or the text is not UTF-8.
 std::optional<std::string> FromUtf8(std::string_view text);
 
-// The same with a question mark for each character, or stray byte, that has no byte.
+// The same with one question mark for each character that has no byte, so that columns stay columns.
 std::string FromUtf8Lossy(std::string_view text);
 
 }  // namespace Base

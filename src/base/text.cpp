@@ -41,6 +41,15 @@ int LeadingNumber(std::string_view text) {
   return value;
 }
 
+int LeadingCount(std::string_view text, int most) {
+  int value = 0;
+  for (const char c : LeadingDigits(text)) {
+    value = value * 10 + (c - '0');
+    if (value > most) return most;
+  }
+  return value;
+}
+
 std::string ZeroPadded(int value, int width) {
   std::string digits = std::to_string(value);
   const auto size = static_cast<std::size_t>(width);

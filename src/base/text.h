@@ -23,6 +23,9 @@ std::string_view LeadingDigits(std::string_view text);
 // Their value, 0 where there are none; a value above 65535 is 0, as it fits no field.
 int LeadingNumber(std::string_view text);
 
+// Their value, or `most` where it is larger: counts are cut to what they count.
+int LeadingCount(std::string_view text, int most);
+
 // `value` (0 or more) in decimal, with zeros in front up to `width` digits.
 std::string ZeroPadded(int value, int width);
 

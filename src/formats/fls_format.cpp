@@ -1,14 +1,11 @@
 #include "formats/fls_format.h"
 
-#include "base/columns.h"
 #include "base/text.h"
 
 namespace Formats {
 namespace {
 
 using namespace Routines;
-using Base::Column;
-using Base::Cut;
 
 constexpr std::size_t RecordSize = 30;
 constexpr std::string_view Channels = "[CANALI] ";
@@ -41,9 +38,10 @@ class Records {
   std::string_view rest_;
 };
 
-// The number behind a header's text; nothing where the text is another.
-int CountBehind(std::string_view record, std::string_view header) {
-  return record.starts_with(header) ? Base::LeadingNumber(record.substr(header.size())) : 0;
+// The number behind a header's text, at most `most`; 0 where the text is another.
+int CountBehind(std::string_view record, std::string_view header, std::size_t most) {
+  return record.starts_with(header) ? Base::LeadingCount(record.substr(header.size()), static_cast<int>(most))
+                                    : 0;
 }
 
 template <class Record>
@@ -76,10 +74,10 @@ ImportReport ReadFls(State& state, Base::ByteView file, const BouquetTables& bou
   ImportReport report;
   report.error = "Formato input sconosciuto";
   Records records(file);
-  const int channels = CountBehind(records.Next(), Channels);
+  const int channels = CountBehind(records.Next(), Channels, file.size());
   if (channels <= 0) return report;
 
-  report.changed = true;
+  report.changed = report.transpondersRead = true;
   for (std::size_t slot = 1; slot < state.ChannelTable.size(); ++slot) state.ChannelTable[slot] = {};
   for (std::size_t slot = 1; slot < state.TransponderTable.size(); ++slot)
     state.TransponderTable[slot].record = {};
@@ -87,7 +85,7 @@ ImportReport ReadFls(State& state, Base::ByteView file, const BouquetTables& bou
     const std::string record = records.Next();
     if (slot <= LastChannelSlot) Store(state.ChannelTable[static_cast<std::size_t>(slot)], record);
   }
-  const int transponders = CountBehind(records.Next(), Transponders);
+  const int transponders = CountBehind(records.Next(), Transponders, file.size());
   state.TransponderCount = std::min(transponders, LastTransponderSlot);
   if (transponders < 1) return report;
   for (int slot = 1; slot <= transponders && !records.AtEnd(); ++slot) {
@@ -103,7 +101,8 @@ ImportReport ReadFls(State& state, Base::ByteView file, const BouquetTables& bou
   const std::string header = records.Next();
   if (!header.starts_with(Favourites)) return report;
   std::string block = records.Rest();
-  block.resize(static_cast<std::size_t>(CountBehind(header, Favourites)), '\0');
+  const std::size_t whole = (block.size() + RecordSize - 1) / RecordSize * RecordSize;
+  block.resize(static_cast<std::size_t>(CountBehind(header, Favourites, whole)), '\0');
   state.FavouritesBlock.assign(block.begin(), block.end());
   report.error.clear();
   return report;

@@ -140,6 +140,14 @@ std::vector<std::string> EncryptionCodesOf(std::string_view text) {
   return codes;
 }
 
+std::set<std::pair<int, int>> ServicesOf(std::string_view text) {
+  std::set<std::pair<int, int>> services;
+  for (const std::string_view line : Base::Lines(text)) {
+    services.insert({Value(Cut(line, SdxLine::Tid)), Value(Cut(line, SdxLine::Sid))});
+  }
+  return services;
+}
+
 std::set<std::pair<int, int>> FilteredServices(std::string_view text) {
   std::set<std::pair<int, int>> services;
   for (const std::string_view line : Base::Lines(text)) {

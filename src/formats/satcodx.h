@@ -69,6 +69,9 @@ SdxTable ReadSatcodx(std::string_view text, const SdxOptions& options);
 // Each encryption code of a list once, in the order of their first lines; "____" and short lines give none.
 std::vector<std::string> EncryptionCodesOf(std::string_view text);
 
+// Transport stream and service id of every line.
+std::set<std::pair<int, int>> ServicesOf(std::string_view text);
+
 // The services of the pairs "APID SID" in a filter list, blanks or tabs between the two.
 std::set<std::pair<int, int>> FilteredServices(std::string_view text);
 

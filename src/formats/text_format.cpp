@@ -55,6 +55,8 @@ std::string Harmless(std::string_view bytes, std::string_view alsoBlank) {
   for (char& c : text) {
     if (c == '\r' || c == '\n' || alsoBlank.find(c) != std::string_view::npos) c = ' ';
   }
+  // A name must not end its section either.
+  for (std::size_t at = text.find("[END "); at != std::string::npos; at = text.find("[END ")) text[at] = ' ';
   return text;
 }
 
@@ -78,12 +80,6 @@ std::string ChannelText(const ChannelRecord& channel, int slot) {
   return line + LineEnd;
 }
 
-// A rate with fewer than five digits gets zeros in front; what is no number stands as it is.
-std::string RateText(std::string_view cell) {
-  const bool number = !cell.empty() && cell.find_first_not_of("0123456789") == std::string_view::npos;
-  return number ? Base::ZeroPadded(Base::LeadingNumber(cell), 5) : std::string(cell);
-}
-
 std::string TransponderText(const State& state, const TransponderRow& row, int number) {
   const TransponderRecord& record = row.record;
   std::string line;
@@ -93,7 +89,7 @@ std::string TransponderText(const State& state, const TransponderRow& row, int n
     Base::Put(line, field.column, Base::ZeroPadded(static_cast<int>(Get(record, field.field)), 5));
   }
   Base::Put(line, TransponderLine::Rate,
-            RateText(SymbolRateText(state.SymbolRateTable, Get(record, TransponderField::SymbolRate))));
+            SymbolRateText(state.SymbolRateTable, Get(record, TransponderField::SymbolRate)));
   Base::Put(line, TransponderLine::Polarisation, Get(record, TransponderField::Horizontal) != 0 ? "H" : "V");
   Base::Put(line, TransponderLine::Tone, Get(record, TransponderField::HighBand) != 0 ? "On" : "Off");
   Base::Put(line, TransponderLine::SatelliteWord, " SAT ");
@@ -112,9 +108,8 @@ std::string FavouritesText(const State& state) {
     text += Base::ZeroPadded(static_cast<int>(list), 2) + "| " +
             Harmless(FavouriteNameOf(state.FavouritesBlock, list), "") + LineEnd;
     for (const int slot : FavouriteEntriesOf(state.FavouritesBlock, list)) {
-      const std::string_view name = slot <= LastChannelSlot
-                                        ? state.ChannelTable[static_cast<std::size_t>(slot)].Name()
-                                        : std::string_view{};
+      if (slot > LastChannelSlot) continue;  // junk, and too long for its column
+      const std::string_view name = state.ChannelTable[static_cast<std::size_t>(slot)].Name();
       text += Base::ZeroPadded(slot, 4) + " " + Harmless(name, blanked) + LineEnd;
     }
   }
@@ -142,7 +137,7 @@ void SetNumber(Record& record, const Field<Record>& field, std::string_view text
 }
 
 int CountIn(std::string_view line, const Column& column, int most) {
-  return std::min(Base::LeadingNumber(Cut(line, column)), most);
+  return Base::LeadingCount(Cut(line, column), most);
 }
 
 class Reader {
@@ -216,6 +211,7 @@ class Reader {
   bool ReadTransponders(ImportReport& report) {
     const auto header = Header("[TRANSPONDERS]");
     if (!header) return false;
+    report.transpondersRead = true;
     state_.TransponderCount = CountIn(*header, TransponderCountColumn, LastTransponderSlot);
     for (std::size_t slot = 1; slot < state_.TransponderTable.size(); ++slot) {
       state_.TransponderTable[slot].record = {};

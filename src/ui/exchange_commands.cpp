@@ -67,21 +67,27 @@ void ExchangeCommands::FormatoFLASH() {
   const auto rates = session_.LoadSymbolRates();
   if (!rates) return;
   Document& document = session_.document;
+  auto reloaded = std::make_unique<State>(document.Tables());
+  Routines::LoadFlash(*reloaded, *image, chosen.Capacity(), 0, session_.bouquets.tables);
+  reloaded->SymbolRateTable = rates->table;
+  reloaded->FromFls = document.Tables().FromFls;
+  const auto written = Base::ReplaceFile(path, Formats::WriteFls(*reloaded));
+  if (!written) {
+    session_.status.ShowResult(Text(written.error().message));
+    return;
+  }
+  // The list gives way to the image only where it is another one.
+  if (*reloaded != document.Tables()) reloaded->ListNumber = document.NextListNumber();
   document.Apply(
       "Ricarica Flash per l'esportazione",
-      [&](State& state) {
-        Routines::LoadFlash(state, *image, chosen.Capacity(), 0, session_.bouquets.tables);
-        state.SymbolRateTable = rates->table;
-        state.ListNumber = document.NextListNumber();
+      [&reloaded](State& state) {
+        state = *reloaded;
         return Base::Done{};
       },
       Edit::History::Kind::List);
   document.MarkSaved();
-  session_.view.Show(View::Channels);
-  const auto written = Base::ReplaceFile(path, Formats::WriteFls(document.Tables()));
-  session_.status.ShowResult(written ? "Esportato " + PathText(Base::FileName(path)) +
-                                           "; ricaricata la flash " + PathText(Base::FileName(flash))
-                                     : Text(written.error().message));
+  session_.status.ShowResult("Esportato " + PathText(Base::FileName(path)) + "; ricaricata la flash " +
+                             PathText(Base::FileName(flash)));
 }
 
 // An import replaces the list, so what is loaded now does not count.
@@ -100,7 +106,7 @@ std::optional<Base::Bytes> ExchangeCommands::ReadImport(const QString& title, co
        PathText(Support::RememberedFolder(session_.programFolder, Support::FolderKind::Input))}));
   if (path.empty()) return std::nullopt;
   auto bytes = Base::ReadFile(path, LargestImport);
-  if (bytes) return *bytes;
+  if (bytes) return std::move(*bytes);
   session_.Message(bytes.error());
   return std::nullopt;
 }
@@ -115,12 +121,12 @@ void ExchangeCommands::Import(const char* label, const std::string& path, const 
         const std::string rates = state.SymbolRateTable;
         state.SymbolRateTable = preparation.symbolRates;
         Formats::ImportReport told = read(state);
-        if (!told.changed) state.SymbolRateTable = rates;
-        if (told.listRead) {
-          state.Loaded = true;
+        if (!told.transpondersRead) state.SymbolRateTable = rates;
+        if (told.changed) {
           state.OutputFlash.clear();
           state.ListNumber = document.NextListNumber();
         }
+        if (told.listRead) state.Loaded = true;
         return told;
       },
       Edit::History::Kind::List);
@@ -136,7 +142,8 @@ void ExchangeCommands::TellImported(const std::string& path, const Formats::Impo
     const int beyond = static_cast<int>(std::count_if(state.ChannelTable.begin() + 1 + state.ChannelCount,
                                                       state.ChannelTable.end(),
                                                       [](const auto& channel) { return !channel.Empty(); }));
-    if (beyond > 0) text += QString(", %1 oltre i %2 posti della lista").arg(beyond).arg(state.ChannelCount);
+    if (beyond > 0)
+      text += QString(", altri %1 restano oltre i %2 posti della lista").arg(beyond).arg(state.ChannelCount);
     if (report.unknownRates > 0)
       text += QString(", %1 transponder con SR che SR.INI non ha").arg(report.unknownRates);
     session_.status.ShowResult(text);

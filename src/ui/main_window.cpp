@@ -8,6 +8,7 @@
 #include <QCloseEvent>
 #include <QIcon>
 #include <QSettings>
+#include <QSplitter>
 #include <QStatusBar>
 #include <QVBoxLayout>
 
@@ -56,7 +57,14 @@ CopiaTCSTPT::CopiaTCSTPT(const std::string& programFolder, std::unique_ptr<Dialo
   auto* column = new QVBoxLayout(contents);
   column->setContentsMargins(8, 6, 8, 4);
   column->addWidget(settings);
-  column->addWidget(view, 1);
+  auto* pane = new SdxPane(session_->sdx, contents);
+  pane->hide();
+  sdx_ = std::make_unique<SdxCommands>(*session_, *pane, *this);
+  auto* lists = new QSplitter(contents);
+  lists->setChildrenCollapsible(false);
+  lists->addWidget(view);
+  lists->addWidget(pane);
+  column->addWidget(lists, 1);
   column->addWidget(new ErrorPane(session_->bouquets.errors, contents));
   column->addWidget(status->ResultLine());
   setCentralWidget(contents);
@@ -65,6 +73,7 @@ CopiaTCSTPT::CopiaTCSTPT(const std::string& programFolder, std::unique_ptr<Dialo
   ConnectExchangeCommands();
   ConnectListCommands();
   ConnectEditCommands();
+  ConnectSdxCommands();
   ConnectToolbar();
   connect(document_, &Document::Changed, this, &CopiaTCSTPT::ShowList);
   ShowList();
@@ -140,6 +149,31 @@ void CopiaTCSTPT::ConnectEditCommands() {
           [this](int first, int last, int before, bool copy) { edit_->Drop(first, last, before, copy); });
 }
 
+void CopiaTCSTPT::ConnectSdxCommands() {
+  Connect("SDX", [this] { sdx_->Carica(); });
+  Connect("VediSDX", [this] { sdx_->Vedi(); });
+  Connect("RicercaSDX", [this] { sdx_->Ricerca(); });
+  Connect("ImportaTuttoSDX", [this] { sdx_->ImportaTutto(); });
+  sdx_->onShown = [this](bool shown) {
+    CommandAction(*this, "VediSDX").setChecked(shown);
+    for (const char* name : {"RicercaSDX", "ImportaTuttoSDX"}) CommandAction(*this, name).setEnabled(shown);
+  };
+  sdx_->ShowPane(false);
+  connect(findChild<SdxPane*>(), &SdxPane::Chosen, this, [this](int row) { sdx_->Insert(row); });
+  connect(&session_->view, &ListView::SdxDropped, this,
+          [this](int first, int last, int before) { sdx_->Drop(first, last, before); });
+}
+
+// The button stays enabled while the command is not, and says why nothing is opened.
+void CopiaTCSTPT::OpenFlash() {
+  const QAction& open = CommandAction(*this, "ApriFlashInput");
+  if (open.isEnabled()) {
+    files_->ApriFlashInput();
+  } else {
+    session_->status.ShowResult(open.statusTip());
+  }
+}
+
 // Every press comes here with its button's key; the keys are told apart in this order.
 void CopiaTCSTPT::ConnectToolbar() {
   const std::vector<std::pair<const char*, std::function<void()>>> keys = {
@@ -150,13 +184,16 @@ void CopiaTCSTPT::ConnectToolbar() {
       {"Rectangle", [this] { dialogs_->Message("Add 'Rectangle' button code.", {}); }},
       {"New", [this] { dialogs_->Message("Add 'New' button code.", {}); }},
       {"Fine Programma", [this] { close(); }},
-      {"Open", [this] { files_->ApriFlashInput(); }},
+      {"Open", [this] { OpenFlash(); }},
       {"Save", [this] { files_->ApriFlashOutput(); }},
       {"Copy", [this] { edit_->Copy(); }},
       {"Paste", [this] { edit_->Paste(); }},
       {"Cut", [this] { edit_->Cut(); }},
       {"Delete", [this] { edit_->Delete(); }},
-      {"Find", [this] { lists_->CercaCanale(); }}};
+      {"Find", [this] { lists_->CercaCanale(); }},
+      {"Find SDX", [this] { CommandAction(*this, "RicercaSDX").trigger(); }},
+      {"Copy SDX", [this] { sdx_->CopySDX(); }},
+      {"Apri SDX", [this] { sdx_->ApriSDX(); }}};
   for (const auto& [key, run] : keys) {
     QAction& action = ButtonAction(*this, key);
     connect(&action, &QAction::triggered, this, run);

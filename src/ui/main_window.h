@@ -6,6 +6,7 @@
 #include "ui/exchange_commands.h"
 #include "ui/file_commands.h"
 #include "ui/list_commands.h"
+#include "ui/sdx_commands.h"
 #include "ui/session.h"
 
 #include <QMainWindow>
@@ -35,7 +36,9 @@ class CopiaTCSTPT : public QMainWindow {
   void ConnectExchangeCommands();
   void ConnectListCommands();
   void ConnectEditCommands();
+  void ConnectSdxCommands();
   void ConnectToolbar();
+  void OpenFlash();
   // Runs `slot` when the command is chosen, and enables it.
   template <class Slot>
   void Connect(const char* command, Slot slot);
@@ -52,6 +55,7 @@ class CopiaTCSTPT : public QMainWindow {
   std::unique_ptr<ExchangeCommands> exchange_;
   std::unique_ptr<EditCommands> edit_;
   std::unique_ptr<ListCommands> lists_;
+  std::unique_ptr<SdxCommands> sdx_;
 };
 
 }  // namespace Ui

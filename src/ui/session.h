@@ -2,6 +2,7 @@
 #pragma once
 
 #include "edit/clipboard.h"
+#include "formats/satcodx.h"
 #include "model/flash_file.h"
 #include "support/bouquets_txt.h"
 #include "support/sr_ini.h"
@@ -27,6 +28,7 @@ struct Session {
   StatusLine& status;
   std::function<void()> endProgram;
   Edit::Clipboard clipboard = {};
+  Formats::SdxTable sdx = {};
   bool srIniMissingTold = false;
 
   // Brings the figures of the status bar up to date.

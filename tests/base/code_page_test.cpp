@@ -18,4 +18,6 @@ TEST(CodePage, ShowsAccentsAndRefusesWhatItDoesNotHave) {
   }
 }
 
+TEST(CodePage, LossyTextKeepsItsColumns) { EXPECT_EQ(FromUtf8Lossy("a😀b漢à\xFF."), "a?b?\xE0?."); }
+
 }  // namespace Base

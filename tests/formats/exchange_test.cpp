@@ -118,10 +118,14 @@ TEST(TextFormat, AHandEditedListIsTakenAsItStands) {
   EXPECT_EQ(state->ChannelCount, 0);
   EXPECT_EQ(Read(*state, Replaced(text, "[TRANSPONDERS] 0003", "[TRANSPONDERS] 9999")).error, "");
   EXPECT_EQ(state->TransponderCount, 254);
-  std::string full = "00| Nomelunghissimo\n";
+  EXPECT_EQ(Read(*state, Replaced(text, "[CANALI] 0005", "[CANALI] 99999")).error, "");
+  EXPECT_EQ(state->ChannelCount, 3996);
+  std::string full = "05| Nomelunghissimo\n";
   for (int i = 1; i <= 130; ++i) full += Base::ZeroPadded(i, 4) + "\n";
-  EXPECT_EQ(Read(*state, Replaced(text, "00| C\r\n", full + "08| fuori\n0009\n00| C\r\n")).error, "");
-  EXPECT_EQ(FavouriteEntriesOf(state->FavouritesBlock, 0).size(), 1U) << "the later list of a number counts";
+  EXPECT_EQ(Read(*state, Replaced(text, "05| \r\n", full + "08| fuori\n0009\n")).error, "");
+  EXPECT_EQ(FavouriteEntriesOf(state->FavouritesBlock, 5).size(), 128U);
+  EXPECT_EQ(FavouriteNameOf(state->FavouritesBlock, 5), "Nomelung");
+  EXPECT_TRUE(FavouriteEntriesOf(state->FavouritesBlock, 7).empty());
 }
 
 TEST(TextFormat, ABrokenSectionIsNamedAndWhatWasReadStays) {
@@ -178,7 +182,7 @@ TEST(FlsFormat, EveryCutAndEveryWrongCountEndsCleanly) {
     EXPECT_EQ(report.listRead, size >= 6 * 30 + 16) << size;
   }
   for (const char* header :
-       {"[CANALI] 0000", "[CANALI]  ", "[CANALI]00005", "[canali] 0005", "[CANALI] -1", "[CANALI] 99999"}) {
+       {"[CANALI] 0000", "[CANALI]  ", "[CANALI]00005", "[canali] 0005", "[CANALI] -1"}) {
     State state;
     std::string text(header);
     text.resize(30, ' ');
@@ -192,7 +196,7 @@ TEST(FlsFormat, EveryCutAndEveryWrongCountEndsCleanly) {
   State state;
   EXPECT_EQ(ReadFls(state, Base::AsBytes(greedy), {}).error, "");
   EXPECT_EQ(state.TransponderCount, 254);
-  EXPECT_EQ(state.FavouritesBlock.size(), 65535U);
+  EXPECT_EQ(state.FavouritesBlock.size(), 30U) << "no more than there is";
 }
 
 // The whole demo list through both formats.

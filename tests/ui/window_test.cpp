@@ -10,10 +10,13 @@
 #include <QAbstractItemModelTester>
 #include <QApplication>
 #include <QClipboard>
+#include <QComboBox>
+#include <QDialog>
 #include <QHeaderView>
 #include <QLineEdit>
 #include <QListWidget>
 #include <QMimeData>
+#include <QPushButton>
 #include <QRadioButton>
 #include <QScrollBar>
 #include <QTest>
@@ -176,7 +179,7 @@ TEST_F(Window, ViewsToggleAndCloseTheList) {
 TEST_F(Window, TheFirstColumnStaysAndTheSpareWidthIsUsed) {
   OpenDemo();
   auto* grid = window_->findChild<Griglia*>("Griglia");
-  auto* fixed = window_->findChild<QTableView*>("ColonnaFissa");
+  auto* fixed = grid->findChild<QTableView*>("ColonnaFissa");
   for (const int width : {700, 1600}) {
     window_->resize(width, 700);
     QTest::qWait(20);
@@ -452,6 +455,13 @@ TEST_F(Window, RawRecordsComeFromTheFlashOnTheDisk) {
   const std::string path = folder_.Path("lista.fls");
   driver_->SelectRows(1, 1);
   ASSERT_TRUE(driver_->Press("Toolbar1_Delete"));
+  {
+    const Tests::FileSizeLimit limit(1000);
+    driver_->ExpectFile("Selezionare il file di output", PathText(path));
+    ASSERT_TRUE(driver_->Choose("FormatoFLASH"));
+    EXPECT_EQ(Said(), "Impossibile scrivere lista.fls: il file supera la dimensione consentita");
+    EXPECT_EQ(driver_->Cell(1, 1), "Rete Italia HD") << "a failed export leaves the edits";
+  }
   driver_->ExpectFile("Selezionare il file di output", PathText(path));
   ASSERT_TRUE(driver_->Choose("FormatoFLASH"));
   EXPECT_EQ(driver_->Cell(1, 1), "Rete Italia") << "edits give way to the image as it is stored";
@@ -471,6 +481,61 @@ TEST_F(Window, RawRecordsComeFromTheFlashOnTheDisk) {
                          "Errore FLASH di Input");
   ASSERT_TRUE(driver_->Choose("FormatoFLASH"));
   EXPECT_FALSE(std::filesystem::exists(path));
+}
+
+TEST_F(Window, ASatcodxListGoesIntoTheChannelList) {
+  OpenDemo();
+  std::string sdx;
+  for (int i = 1; i <= 3; ++i) {
+    sdx += "SATCODX103HOTBIRD 13E       TMPG2010971000HNuovo " + std::to_string(i) +
+           " 0130___     ______29700200" + std::to_string(50 + i) + "0060005000" + std::to_string(70 + i) +
+           "0031812300_________NAGV            \r\n";
+  }
+  const std::string path = folder_.Write("prova.sdx", sdx + "SATCODX corta\r\n");
+  const auto take = [this](auto answer) { driver_->ExpectDialog("Opzioni importazione SDX", answer); };
+  driver_->ExpectFile("Selezionare il file SDX di input", PathText(path));
+  take([this](QDialog& box) {
+    driver_->ExpectMessage("Si deve specificare il codice da assegnare al satellite");
+    box.findChild<QPushButton*>("Command1")->click();
+    box.findChild<QComboBox*>("Combo1")->setCurrentIndex(0);
+    driver_->ExpectMessage("Non sono state selezionate codifiche da importare");
+    box.findChild<QPushButton*>("Command1")->click();
+    EXPECT_EQ(box.findChild<QListWidget*>("List1")->count(), 2) << "NAGV and Tutte";
+    box.findChild<QListWidget*>("List1")->selectAll();
+    box.findChild<QPushButton*>("Command1")->click();
+  });
+  ASSERT_TRUE(driver_->Choose("SDX"));
+  EXPECT_EQ(Said(), "prova.sdx: lette 4 righe, prese 3; scartate: symbol rate 1");
+  auto* missing = window_->findChild<QDialog*>("ElencoNonInSDX");
+  ASSERT_NE(missing, nullptr) << "the demo's own channels are not in that list";
+  missing->close();
+  auto* pane = window_->findChild<Griglia*>("GrigliaSDX");
+  EXPECT_TRUE(pane->isVisible());
+  EXPECT_EQ(pane->model()->rowCount(), 3);
+
+  driver_->ExpectMessage("Nessun canale SDX selezionato");
+  ASSERT_TRUE(driver_->Press("Toolbar1_Copy_SDX"));
+  pane->Select({2, 3});
+  driver_->ExpectLine("Inserire la posizione in cui inserire Nuovo 2", "3997");
+  driver_->ExpectMessage("Posizione non valida");
+  ASSERT_TRUE(driver_->Press("Toolbar1_Copy_SDX"));
+  driver_->ExpectLine("Inserire la posizione in cui inserire Nuovo 2", "1");
+  driver_->ExpectQuestion("Si desidera spostare i canali verso il basso?", true);
+  ASSERT_TRUE(driver_->Press("Toolbar1_Copy_SDX"));
+  EXPECT_EQ(driver_->Cell(2, 1), "Nuovo 3");
+  EXPECT_EQ(driver_->Cell(2, 2), "001") << "the transponder at 10971 MHz";
+  EXPECT_EQ(driver_->Cell(3, 1), "Rete Italia");
+  driver_->ExpectDialog("Importazione canali SDX", [](QDialog& box) {
+    box.findChild<QRadioButton*>("DalCanale")->click();
+    box.findChild<QLineEdit*>("Partenza")->setText("3995");
+    box.accept();
+  });
+  driver_->ExpectMessage("1 canali SDX non hanno trovato posto");
+  ASSERT_TRUE(driver_->Choose("ImportaTuttoSDX"));
+  EXPECT_EQ(driver_->Cell(3996, 1), "Nuovo 2");
+  ASSERT_TRUE(driver_->Choose("VediSDX"));
+  EXPECT_FALSE(pane->isVisible());
+  EXPECT_FALSE(Action("RicercaSDX").isEnabled());
 }
 
 TEST(FileFilters, KeepCaptionsAndMatchAnyCase) {

@@ -1,0 +1,219 @@
+#include "ui/sdx_commands.h"
+
+#include "base/file.h"
+#include "base/text.h"
+#include "formats/sdx_import.h"
+#include "support/pos_ini.h"
+#include "ui/sdx_dialogs.h"
+
+namespace Ui {
+
+using Routines::State;
+
+namespace {
+
+// A list of a million lines is some 130 MB.
+constexpr std::size_t LargestList = 256U << 20U;
+
+// Transport stream and service id of each loaded channel of a satellite, with its slot.
+std::vector<std::pair<std::pair<int, int>, int>> ServicesOn(const State& state, int satellite) {
+  std::vector<std::pair<std::pair<int, int>, int>> services;
+  for (int slot = 1; slot <= state.ChannelCount; ++slot) {
+    const auto& channel = state.ChannelTable[static_cast<std::size_t>(slot)];
+    const std::size_t number = Get(channel, Routines::ChannelField::Transponder);
+    if (channel.Empty() || number < 1 || static_cast<int>(number) > state.TransponderCount) continue;
+    const auto& transponder = state.TransponderTable[number].record;
+    if (static_cast<int>(Get(transponder, Routines::TransponderField::Satellite)) != satellite) continue;
+    services.push_back({{static_cast<int>(Get(transponder, Routines::TransponderField::Tid)),
+                         static_cast<int>(Get(channel, Routines::ChannelField::Sid))},
+                        slot});
+  }
+  return services;
+}
+
+QString RowName(const Formats::SdxRow& row) { return CodePageText(Base::TrimmedRight(row.name)); }
+
+}  // namespace
+
+void SdxCommands::Carica() {
+  if (session_.view.Current() != View::Channels) {
+    session_.dialogs.Message("Per Caricare un file SDX si deve visualizzare la griglia Canali", {});
+    return;
+  }
+  const std::string path = PathBytes(session_.dialogs.OpenFile(
+      {"Selezionare il file SDX di input", "SatcoDX files(*.sdx)|*.sdx|Tutti i file (*.*)|*.*|",
+       PathText(Support::RememberedFolder(session_.programFolder, Support::FolderKind::Foreign))}));
+  if (path.empty()) return;
+  Support::RememberFolderOf(session_.programFolder, Support::FolderKind::Foreign, path);
+  Load(path);
+}
+
+void SdxCommands::ApriSDX() {
+  if (session_.NeedsFlash()) Carica();
+}
+
+void SdxCommands::Load(const std::string& path) {
+  const auto bytes = Base::ReadFile(path, LargestList);
+  if (!bytes) {
+    session_.Message(bytes.error());
+    return;
+  }
+  const std::string_view text = Base::AsText(*bytes);
+  OpzioniImportSDX dialog(session_.bouquets.tables.satellites, Formats::EncryptionCodesOf(text),
+                          session_.dialogs, &window_);
+  if (dialog.exec() != QDialog::Accepted) return;
+  Formats::SdxOptions options = dialog.Chosen();
+  if (dialog.UseFilterList()) {
+    const auto filter = Base::ReadFile(session_.programFolder + "/Filtri.txt", 1U << 20U);
+    if (filter) options.filtered = Formats::FilteredServices(Base::AsText(*filter));
+  }
+  if (dialog.SkipKnown()) {
+    for (const auto& [service, slot] : ServicesOn(session_.document.Tables(), options.satellite))
+      options.known.insert(service);
+  }
+  session_.sdx = Formats::ReadSatcodx(text, options);
+  pane_.Refresh(CodePageText(Base::TrimmedRight(session_.sdx.satelliteName)));
+  ShowPane(true);
+  TellLoaded(path, options.satellite, text);
+}
+
+void SdxCommands::TellLoaded(const std::string& path, int satellite, std::string_view text) {
+  const Formats::SdxTable& table = session_.sdx;
+  QString result = QString("%1: lette %2 righe, prese %3")
+                       .arg(PathText(Base::FileName(path)))
+                       .arg(table.lines)
+                       .arg(table.rows.size());
+  const std::pair<const char*, int> reasons[] = {
+      {"senza PID", table.droppedByPid},   {"tipo", table.droppedByType},
+      {"non MPG2", table.droppedByFormat}, {"symbol rate", table.droppedByRate},
+      {"codifica", table.droppedByCode},   {"filtri", table.droppedByFilter}};
+  QStringList dropped;
+  for (const auto& [reason, count] : reasons) {
+    if (count > 0) dropped += QString("%1 %2").arg(reason).arg(count);
+  }
+  if (!dropped.isEmpty()) result += "; scartate: " + dropped.join(", ");
+  session_.status.ShowResult(result);
+  if (table.full) session_.dialogs.Message("Superato il numero di canali SDX gestibili 4000", {});
+  ListMissing(satellite, text);
+}
+
+void SdxCommands::ListMissing(int satellite, std::string_view text) {
+  const State& state = session_.document.Tables();
+  const auto listed = Formats::ServicesOf(text);
+  QString lines;
+  for (const auto& [service, slot] : ServicesOn(state, satellite)) {
+    if (listed.contains(service)) continue;
+    lines +=
+        QString("%1 %2\n")
+            .arg(slot, 4, 10, QChar('0'))
+            .arg(CodePageText(Base::TrimmedRight(state.ChannelTable[static_cast<std::size_t>(slot)].Name())));
+  }
+  if (!lines.isEmpty()) (new ElencoNonInSDX(lines, session_.dialogs, &window_))->show();
+}
+
+void SdxCommands::ShowPane(bool shown) {
+  pane_.setVisible(shown);
+  if (onShown) onShown(shown);
+}
+
+void SdxCommands::Vedi() { ShowPane(!pane_.isVisible()); }
+
+void SdxCommands::Ricerca() {
+  const auto answer = session_.dialogs.AskLine("Inserire il canale da ricercare");
+  if (!answer || answer->isEmpty()) return;
+  bool found = false;
+  for (std::size_t i = 0; i < session_.sdx.rows.size(); ++i) {
+    if (!CodePageText(session_.sdx.rows[i].name).contains(*answer, Qt::CaseInsensitive)) continue;
+    found = true;
+    const int row = static_cast<int>(i) + 1;
+    pane_.Grid().Select({row, row});
+    if (!session_.dialogs.YesNo("Ricerco il successivo?")) return;
+  }
+  if (!found) session_.dialogs.Message("Canale non trovato", {}, Tone::Information);
+}
+
+void SdxCommands::Insert(int row) { AskAndInsert(row, row); }
+
+void SdxCommands::CopySDX() {
+  if (session_.sdx.rows.empty()) {
+    session_.dialogs.Message("Canali SDX non caricati", {});
+    return;
+  }
+  const auto rows = pane_.Grid().Selected();
+  if (!rows) {
+    session_.dialogs.Message("Nessun canale SDX selezionato", {});
+    return;
+  }
+  AskAndInsert(rows->first, rows->last);
+}
+
+void SdxCommands::AskAndInsert(int first, int last) {
+  if (!session_.NeedsFlash()) return;
+  const Formats::SdxRow& row = session_.sdx.rows[static_cast<std::size_t>(first - 1)];
+  const auto answer = session_.dialogs.AskLine("Inserire la posizione in cui inserire " + RowName(row));
+  if (!answer || answer->isEmpty()) return;
+  const int position = Base::LeadingNumber(answer->toStdString());
+  if (position < 1 || position > session_.document.Tables().ChannelCount) {
+    session_.dialogs.Message("Posizione non valida", {});
+    return;
+  }
+  Put(first, last, position, session_.dialogs.YesNo("Si desidera spostare i canali verso il basso?"));
+}
+
+void SdxCommands::Drop(int first, int last, int before) {
+  const bool rows = first >= 1 && first <= last && last <= static_cast<int>(session_.sdx.rows.size());
+  if (!rows || before > session_.document.Tables().ChannelCount) {
+    session_.status.ShowResult("Dopo l'ultimo posto della lista non si può inserire");
+    return;
+  }
+  Put(first, last, before, true);
+}
+
+void SdxCommands::Put(int first, int last, int position, bool shift) {
+  const int room = session_.document.Tables().ChannelCount - position + 1;
+  const int count = std::min(last - first + 1, room);
+  const std::string label =
+      count == 1 ? "Inserisci 1 canale SDX" : "Inserisci " + std::to_string(count) + " canali SDX";
+  QString result = Text(label) + QString(" dal %1").arg(position);
+  std::string message;
+  session_.document.Apply(label, [&](State& state) {
+    std::vector<Edit::LostFavourite> lost;
+    if (shift) lost = Edit::ShiftDown(state, position, count);
+    Formats::SdxImport rows(state, session_.bouquets.tables);
+    for (int i = 0; i < count; ++i) {
+      rows.Put(session_.sdx.rows[static_cast<std::size_t>(first + i - 1)], position + i, first + i);
+    }
+    message = rows.Message();
+    if (rows.UnknownRates() > 0) result += QString(", %1 con SR che SR.INI non ha").arg(rows.UnknownRates());
+    if (!lost.empty()) result += ", " + Text(Edit::LostFavouritesText(state.FavouritesBlock, lost));
+    return Base::Done{};
+  });
+  if (session_.view.Current() == View::Channels)
+    session_.view.Grid().Select({position, position + count - 1});
+  session_.status.ShowResult(result);
+  if (!message.empty()) session_.dialogs.Message(Text(message), {});
+  if (const int left = last - first + 1 - count; left > 0) {
+    session_.dialogs.Message(QString("%1 canali SDX non hanno trovato posto").arg(left), {});
+  }
+}
+
+void SdxCommands::ImportaTutto() {
+  if (session_.view.Current() != View::Channels) {
+    session_.dialogs.Message("Per importare i canali da SDX deve essere visibile la lista dei canali", {});
+    return;
+  }
+  if (session_.sdx.rows.empty()) {
+    session_.dialogs.Message("Canali SDX non caricati", {});
+    return;
+  }
+  ImportazioneSDX dialog(&window_);
+  if (dialog.exec() != QDialog::Accepted) return;
+  const int start = Base::LeadingNumber(dialog.Start().toStdString());
+  if (start < 1 || start > session_.document.Tables().ChannelCount) {
+    session_.dialogs.Message("Il canale da cui iniziare il caricamento non è valido", {});
+    return;
+  }
+  Put(1, static_cast<int>(session_.sdx.rows.size()), start, false);
+}
+
+}  // namespace Ui

@@ -1,0 +1,45 @@
+// The commands of the SDX table: loading a list, showing and searching it, and carrying rows into the channel list.
+#pragma once
+
+#include "ui/sdx_pane.h"
+#include "ui/session.h"
+
+class QWidget;
+
+namespace Ui {
+
+class SdxCommands {
+ public:
+  SdxCommands(Session& session, SdxPane& pane, QWidget& window)
+      : session_(session), pane_(pane), window_(window) {}
+
+  // Tells the window that the pane has been shown or hidden.
+  std::function<void(bool)> onShown;
+
+  void Carica();   // menu command SDX
+  void ApriSDX();  // toolbar button
+  void Vedi();     // menu command VediSDX
+  void Ricerca();
+  void CopySDX();
+  void ImportaTutto();
+  // Row `row` of the table was double-clicked.
+  void Insert(int row);
+  // Rows were dropped in front of slot `before`.
+  void Drop(int first, int last, int before);
+
+  // The loader: the options, the table, the pane. `path` is a list on the disk.
+  void Load(const std::string& path);
+  void ShowPane(bool shown);
+
+ private:
+  void TellLoaded(const std::string& path, int satellite, std::string_view text);
+  void ListMissing(int satellite, std::string_view text);
+  void AskAndInsert(int first, int last);
+  void Put(int first, int last, int position, bool shift);
+
+  Session& session_;
+  SdxPane& pane_;
+  QWidget& window_;
+};
+
+}  // namespace Ui

@@ -1,0 +1,66 @@
+// The boxes of the SatcoDX import: its options, where a whole table goes, and what a list does not have.
+#pragma once
+
+#include "formats/satcodx.h"
+#include "model/bouquets.h"
+#include "ui/dialogs.h"
+
+#include <QDialog>
+
+class QCheckBox;
+class QComboBox;
+class QLineEdit;
+class QListWidget;
+class QRadioButton;
+
+namespace Ui {
+
+// `OpzioniImportSDX`: which lines of a list become rows.
+class OpzioniImportSDX : public QDialog {
+  Q_OBJECT
+
+ public:
+  OpzioniImportSDX(const std::vector<Routines::Satellite>& satellites, const std::vector<std::string>& codes,
+                   Dialogs& dialogs, QWidget* parent);
+
+  // The options but for the two filter lists, which the two switches ask for.
+  [[nodiscard]] Formats::SdxOptions Chosen() const;
+  [[nodiscard]] bool UseFilterList() const;
+  [[nodiscard]] bool SkipKnown() const;
+
+ private:
+  void Confirm();
+
+  Dialogs& dialogs_;
+  std::vector<std::string> codes_;  // of the list's entries, without "Tutte"
+  QComboBox* satellite_;
+  QCheckBox* types_[3];
+  QCheckBox* filterList_;
+  QCheckBox* skipKnown_;
+  QListWidget* list_;
+};
+
+// `ImportazioneSDX`: from which channel on a whole table is written.
+class ImportazioneSDX : public QDialog {
+  Q_OBJECT
+
+ public:
+  explicit ImportazioneSDX(QWidget* parent);
+
+  // The line typed, or "1" for the start.
+  [[nodiscard]] QString Start() const;
+
+ private:
+  QRadioButton* fromStart_;
+  QLineEdit* start_;
+};
+
+// `ElencoNonInSDX`: lines that can be copied and saved.
+class ElencoNonInSDX : public QDialog {
+  Q_OBJECT
+
+ public:
+  ElencoNonInSDX(const QString& text, Dialogs& dialogs, QWidget* parent);
+};
+
+}  // namespace Ui

@@ -1,0 +1,48 @@
+#include "ui/sdx_pane.h"
+
+#include <QKeyEvent>
+#include <QLabel>
+#include <QVBoxLayout>
+
+namespace Ui {
+
+SdxPane::SdxPane(const Formats::SdxTable& table, QWidget* parent)
+    : QWidget(parent), model_(table, this), caption_(new QLabel("SDX", this)), grid_(new Griglia(this)) {
+  caption_->setObjectName("EtichettaSDX");
+  caption_->setTextFormat(Qt::PlainText);
+  QFont bold = caption_->font();
+  bold.setBold(true);
+  caption_->setFont(bold);
+  grid_->setObjectName("GrigliaSDX");
+  grid_->setAccessibleName("Canali SDX");
+  grid_->setAcceptDrops(false);
+  grid_->ShowList(&model_);
+  grid_->installEventFilter(this);
+  connect(grid_, &QTableView::doubleClicked, this,
+          [this](const QModelIndex& index) { Q_EMIT Chosen(index.row() + 1); });
+
+  auto* column = new QVBoxLayout(this);
+  column->setContentsMargins(0, 0, 0, 0);
+  column->setSpacing(3);
+  column->addWidget(caption_);
+  column->addWidget(grid_, 1);
+}
+
+void SdxPane::Refresh(const QString& name) {
+  model_.Refresh();
+  grid_->ShowList(&model_);
+  caption_->setText(name.isEmpty() ? QString("SDX") : "SDX: " + name);
+}
+
+bool SdxPane::eventFilter(QObject* watched, QEvent* event) {
+  if (event->type() == QEvent::KeyPress) {
+    const int key = static_cast<QKeyEvent*>(event)->key();
+    if ((key == Qt::Key_Return || key == Qt::Key_Enter) && grid_->currentIndex().isValid()) {
+      Q_EMIT Chosen(grid_->currentIndex().row() + 1);
+      return true;
+    }
+  }
+  return QWidget::eventFilter(watched, event);
+}
+
+}  // namespace Ui

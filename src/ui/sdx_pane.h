@@ -1,0 +1,36 @@
+// The pane of the SDX table, beside the channel list.
+#pragma once
+
+#include "ui/griglia.h"
+#include "ui/sdx_model.h"
+
+#include <QWidget>
+
+class QLabel;
+
+namespace Ui {
+
+class SdxPane : public QWidget {
+  Q_OBJECT
+
+ public:
+  SdxPane(const Formats::SdxTable& table, QWidget* parent);
+
+  [[nodiscard]] Griglia& Grid() const { return *grid_; }
+  // The table holds other rows now; `name` is the file's satellite.
+  void Refresh(const QString& name);
+
+ Q_SIGNALS:
+  // The user wants a row, from 1, in the channel list.
+  void Chosen(int row);
+
+ protected:
+  bool eventFilter(QObject* watched, QEvent* event) override;
+
+ private:
+  SdxModel model_;
+  QLabel* caption_;
+  Griglia* grid_;
+};
+
+}  // namespace Ui
