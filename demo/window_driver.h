@@ -54,6 +54,8 @@ class WindowDriver : public QObject {
   void SelectRows(int from, int to);
   [[nodiscard]] Ui::Griglia& Grid() const;
 
+  // Whether every box expected so far has come.
+  [[nodiscard]] bool Idle() const { return expected_.empty(); }
   // Everything that was not as expected, and boxes that never came.
   [[nodiscard]] QStringList Failures() const;
 

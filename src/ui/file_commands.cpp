@@ -58,14 +58,14 @@ std::optional<int> FileCommands::AskAppendStart() {
   return Routines::AppendStart(session_.document.Tables());
 }
 
-void FileCommands::ApriFlashInput() {
+void FileCommands::ApriFlashInput(std::string path) {
   if (!session_.settings.Chosen().quantiCanali) {
     session_.dialogs.Message(Text(Routines::NoCapacityChosen), {});
     return;
   }
   const auto appendStart = AskAppendStart();
   if (!appendStart) return;
-  const std::string path = AskFlash("Selezionare la flash di input", FolderKind::Input);
+  if (path.empty()) path = AskFlash("Selezionare la flash di input", FolderKind::Input);
   if (path.empty()) return;
   const auto image = Routines::ReadFlash(path, InputTitle);
   if (!image) {

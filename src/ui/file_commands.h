@@ -11,7 +11,8 @@ class FileCommands {
  public:
   explicit FileCommands(Session& session) : session_(session) {}
 
-  void ApriFlashInput();
+  // Asks for the image unless its path is given, as by a file dropped on the window.
+  void ApriFlashInput(std::string path = {});
   void Salva();
   void ApriFlashOutput();
   void ConvertiSR();

@@ -87,10 +87,10 @@ void Griglia::ShowList(TableModel* list) {
     widths_.push_back(fontMetrics().horizontalAdvance(column.widthText) + CellMargin);
   }
   FitColumns();
-  scrollToTop();
-  horizontalScrollBar()->setValue(0);
   selectionModel()->clear();
   selectionModel()->setCurrentIndex(list->index(0, 1), QItemSelectionModel::NoUpdate);
+  scrollToTop();
+  horizontalScrollBar()->setValue(0);
 }
 
 std::optional<Edit::Slots> Griglia::Selected() const {

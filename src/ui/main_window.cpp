@@ -6,10 +6,14 @@
 
 #include <QAction>
 #include <QCloseEvent>
+#include <QDropEvent>
+#include <QFileInfo>
 #include <QIcon>
+#include <QMimeData>
 #include <QSettings>
 #include <QSplitter>
 #include <QStatusBar>
+#include <QTimer>
 #include <QVBoxLayout>
 
 namespace Ui {
@@ -60,6 +64,9 @@ CopiaTCSTPT::CopiaTCSTPT(const std::string& programFolder, std::unique_ptr<Dialo
   auto* pane = new SdxPane(session_->sdx, contents);
   pane->hide();
   sdx_ = std::make_unique<SdxCommands>(*session_, *pane, *this);
+  auto* frame = new DownloadFrame(contents);
+  download_ = std::make_unique<DownloadCommands>(*session_, *sdx_, *frame, *this);
+  column->addWidget(frame);
   auto* lists = new QSplitter(contents);
   lists->setChildrenCollapsible(false);
   lists->addWidget(view);
@@ -77,6 +84,7 @@ CopiaTCSTPT::CopiaTCSTPT(const std::string& programFolder, std::unique_ptr<Dialo
   ConnectToolbar();
   connect(document_, &Document::Changed, this, &CopiaTCSTPT::ShowList);
   ShowList();
+  setAcceptDrops(true);
   resize(1024, 700);
   restoreGeometry(QSettings(SettingsFile(), QSettings::IniFormat).value("Finestra/Geometria").toByteArray());
 }
@@ -151,6 +159,7 @@ void CopiaTCSTPT::ConnectEditCommands() {
 
 void CopiaTCSTPT::ConnectSdxCommands() {
   Connect("SDX", [this] { sdx_->Carica(); });
+  Connect("ScaricaInternet", [this] { download_->ScaricaInternet(); });
   Connect("VediSDX", [this] { sdx_->Vedi(); });
   Connect("RicercaSDX", [this] { sdx_->Ricerca(); });
   Connect("ImportaTuttoSDX", [this] { sdx_->ImportaTutto(); });
@@ -191,6 +200,7 @@ void CopiaTCSTPT::ConnectToolbar() {
       {"Cut", [this] { edit_->Cut(); }},
       {"Delete", [this] { edit_->Delete(); }},
       {"Find", [this] { lists_->CercaCanale(); }},
+      {"Internet", [this] { download_->ScaricaInternet(); }},
       {"Find SDX", [this] { CommandAction(*this, "RicercaSDX").trigger(); }},
       {"Copy SDX", [this] { sdx_->CopySDX(); }},
       {"Apri SDX", [this] { sdx_->ApriSDX(); }}};
@@ -232,6 +242,30 @@ void CopiaTCSTPT::ShowAbout() {
       "mostra canali e transponder e li riscrive nell'immagine del ricevitore.\n\nRealizzato con "
       "Qt " QT_VERSION_STR ".",
       "About", Tone::Information);
+}
+
+// The one file dropped, when the program opens files of its kind.
+static QString DroppedFile(const QMimeData& data) {
+  const QString path = data.urls().size() == 1 ? data.urls().front().toLocalFile() : QString();
+  const QString ending = QFileInfo(path).suffix().toLower();
+  return ending == "dat" || ending == "sdx" ? path : QString();
+}
+
+void CopiaTCSTPT::dragEnterEvent(QDragEnterEvent* event) {
+  if (!DroppedFile(*event->mimeData()).isEmpty()) event->acceptProposedAction();
+}
+
+void CopiaTCSTPT::dropEvent(QDropEvent* event) {
+  const QString path = DroppedFile(*event->mimeData());
+  event->acceptProposedAction();
+  // The drag's source waits for the drop; the questions come after it.
+  QTimer::singleShot(0, this, [this, path] {
+    if (path.endsWith(".dat", Qt::CaseInsensitive)) {
+      files_->ApriFlashInput(PathBytes(path));
+    } else {
+      sdx_->Carica(PathBytes(path));
+    }
+  });
 }
 
 void CopiaTCSTPT::closeEvent(QCloseEvent* event) {

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "ui/dialogs.h"
+#include "ui/download_commands.h"
 #include "ui/edit_commands.h"
 #include "ui/exchange_commands.h"
 #include "ui/file_commands.h"
@@ -30,6 +31,8 @@ class CopiaTCSTPT : public QMainWindow {
 
  protected:
   void closeEvent(QCloseEvent* event) override;
+  void dragEnterEvent(QDragEnterEvent* event) override;
+  void dropEvent(QDropEvent* event) override;
 
  private:
   void ConnectFileCommands();
@@ -56,6 +59,7 @@ class CopiaTCSTPT : public QMainWindow {
   std::unique_ptr<EditCommands> edit_;
   std::unique_ptr<ListCommands> lists_;
   std::unique_ptr<SdxCommands> sdx_;
+  std::unique_ptr<DownloadCommands> download_;
 };
 
 }  // namespace Ui

@@ -35,14 +35,16 @@ QString RowName(const Formats::SdxRow& row) { return CodePageText(Base::TrimmedR
 
 }  // namespace
 
-void SdxCommands::Carica() {
+void SdxCommands::Carica(std::string path) {
   if (session_.view.Current() != View::Channels) {
     session_.dialogs.Message("Per Caricare un file SDX si deve visualizzare la griglia Canali", {});
     return;
   }
-  const std::string path = PathBytes(session_.dialogs.OpenFile(
-      {"Selezionare il file SDX di input", "SatcoDX files(*.sdx)|*.sdx|Tutti i file (*.*)|*.*|",
-       PathText(Support::RememberedFolder(session_.programFolder, Support::FolderKind::Foreign))}));
+  if (path.empty()) {
+    path = PathBytes(session_.dialogs.OpenFile(
+        {"Selezionare il file SDX di input", "SatcoDX files(*.sdx)|*.sdx|Tutti i file (*.*)|*.*|",
+         PathText(Support::RememberedFolder(session_.programFolder, Support::FolderKind::Foreign))}));
+  }
   if (path.empty()) return;
   Support::RememberFolderOf(session_.programFolder, Support::FolderKind::Foreign, path);
   Load(path);
@@ -72,8 +74,8 @@ void SdxCommands::Load(const std::string& path) {
       options.known.insert(service);
   }
   session_.sdx = Formats::ReadSatcodx(text, options);
-  pane_.Refresh(CodePageText(Base::TrimmedRight(session_.sdx.satelliteName)));
   ShowPane(true);
+  pane_.Refresh(CodePageText(Base::TrimmedRight(session_.sdx.satelliteName)));
   TellLoaded(path, options.satellite, text);
 }
 

@@ -16,7 +16,8 @@ class SdxCommands {
   // Tells the window that the pane has been shown or hidden.
   std::function<void(bool)> onShown;
 
-  void Carica();   // menu command SDX
+  // Menu command SDX; asks for the list unless its path is given.
+  void Carica(std::string path = {});
   void ApriSDX();  // toolbar button
   void Vedi();     // menu command VediSDX
   void Ricerca();

@@ -19,6 +19,8 @@
 #include <QPushButton>
 #include <QRadioButton>
 #include <QScrollBar>
+#include <QTcpServer>
+#include <QTcpSocket>
 #include <QTest>
 
 #include <gtest/gtest.h>
@@ -536,6 +538,68 @@ TEST_F(Window, ASatcodxListGoesIntoTheChannelList) {
   ASSERT_TRUE(driver_->Choose("VediSDX"));
   EXPECT_FALSE(pane->isVisible());
   EXPECT_FALSE(Action("RicercaSDX").isEnabled());
+}
+
+// A web server for one request: answers with what it is given, whatever is asked for.
+class Server {
+ public:
+  explicit Server(const QByteArray& answer) {
+    server_.listen(QHostAddress::LocalHost);
+    QObject::connect(&server_, &QTcpServer::newConnection, [this, answer] {
+      QTcpSocket* socket = server_.nextPendingConnection();
+      QObject::connect(socket, &QTcpSocket::readyRead, [socket, answer] {
+        socket->write(answer);
+        socket->disconnectFromHost();
+      });
+    });
+  }
+  [[nodiscard]] QString Address() const {
+    return QString("http://127.0.0.1:%1/lista.sdx").arg(server_.serverPort());
+  }
+
+ private:
+  QTcpServer server_;
+};
+
+TEST_F(Window, ADownloadIsSavedAndLoadedOrToldAndLeftEmpty) {
+  OpenDemo();
+  folder_.Write("SDX.INI", "http://127.0.0.1:9/uno.sdx\r\nhttp://127.0.0.1:9/due.sdx\r\n");
+  const std::string path = folder_.Path("scaricato.sdx");
+  const QByteArray head = "HTTP/1.0 200 OK\r\n\r\n";
+  const QString error = "Errore di connessione a : ";
+  const auto fetch = [&](const QString& address, const auto& expectEnd) {
+    std::filesystem::remove(path);
+    ASSERT_TRUE(driver_->Choose("ScaricaInternet"));
+    auto* addresses = window_->findChild<QComboBox*>("Combo3");
+    EXPECT_EQ(addresses->count(), 2);
+    EXPECT_EQ(addresses->currentText(), "");
+    addresses->setEditText(address);
+    driver_->ExpectFile("Selezionare il file SDX di OUTPUT", PathText(path));
+    expectEnd();
+    window_->findChild<QAbstractButton*>("Scarica")->click();
+    EXPECT_TRUE(QTest::qWaitFor([this] { return driver_->Idle(); }, 5000));
+  };
+  ASSERT_TRUE(driver_->Choose("ScaricaInternet"));
+  driver_->ExpectMessage("Si deve specificare il file da scaricare");
+  window_->findChild<QAbstractButton*>("Scarica")->click();
+  const struct {
+    QByteArray answer;
+    QString told;
+  } bad[] = {{head + "  SATCODX", "  SATCODX"},
+             {head + "<html>", "<html>"},
+             {"HTTP/1.0 404 Not Found\r\n\r\nSATCODX103", "SATCODX103"},
+             {"HTTP/1.0 200 OK\r\nContent-Length: 900\r\n\r\nSATCODX103 cut", "SATCODX103 cut"}};
+  for (const auto& c : bad) {
+    const Server server(c.answer);
+    fetch(server.Address(), [&] { driver_->ExpectMessage(error + server.Address() + " " + c.told); });
+    EXPECT_EQ(Contents(path).size(), 0U) << c.answer.toStdString();
+  }
+  fetch("ftp://127.0.0.1/x", [&] { driver_->ExpectMessage(error + "ftp://127.0.0.1/x "); });
+
+  const Server good(head + "SATCODX1 uno\r\nSATCODX1 due\r\nsenza fine");
+  fetch(good.Address(),
+        [&] { driver_->ExpectDialog("Opzioni importazione SDX", [](QDialog& box) { box.reject(); }); });
+  EXPECT_EQ(Base::AsText(Contents(path)), "SATCODX1 uno\r\n\nSATCODX1 due\r\n");
 }
 
 TEST(FileFilters, KeepCaptionsAndMatchAnyCase) {

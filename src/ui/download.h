@@ -1,0 +1,42 @@
+// One transfer of a file from a web server, kept as bytes.
+#pragma once
+
+#include <QByteArray>
+#include <QNetworkAccessManager>
+#include <QObject>
+
+class QNetworkReply;
+
+namespace Ui {
+
+class Download : public QObject {
+  Q_OBJECT
+
+ public:
+  static constexpr qint64 Largest = 64LL << 20;     // bytes
+  static constexpr int LongestSilence = 30 * 1000;  // milliseconds without data
+
+  explicit Download(QObject* parent) : QObject(parent) {}
+
+  [[nodiscard]] bool Running() const { return reply_ != nullptr; }
+  // Begins a GET of an http or https address, following redirects that are no less safe. Not while one is running.
+  void Start(const QString& address);
+  void Cancel();
+
+ Q_SIGNALS:
+  // Bytes so far, and in all where the server says so, else -1.
+  void Progress(qint64 received, qint64 total);
+  // The end of every transfer but a cancelled one. `good` means that the whole reply came without an error.
+  void Finished(bool good, const QByteArray& reply);
+
+ private:
+  void Take();
+  void End();
+
+  QNetworkAccessManager network_;
+  QNetworkReply* reply_ = nullptr;
+  QByteArray bytes_;
+  bool tooLarge_ = false;
+};
+
+}  // namespace Ui
