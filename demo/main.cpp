@@ -1,13 +1,17 @@
 // Plays one session of the real window, from the first choice to a saved list, and leaves pictures of it:
 //   trovalis_demo DEMO.dat SUPPORT_FOLDER OUTPUT_FOLDER
 // Every step is printed with what came of it; the first that fails ends the session with an error.
+#include "ui/griglia.h"
 #include "ui/toolkit.h"
 #include "window_driver.h"
 
 #include <QApplication>
+#include <QComboBox>
 #include <QDir>
 #include <QFile>
 #include <QLineEdit>
+#include <QListWidget>
+#include <QPushButton>
 #include <QScreen>
 #include <QTest>
 
@@ -39,6 +43,7 @@ class Session {
     OpenFlash();
     LookAtTransponders();
     MoveRows();
+    TakeFromSdx();
     Convert();
     SaveCopy();
     OpenCopyAgain();
@@ -109,6 +114,29 @@ class Session {
     window_->findChild<QLineEdit*>("Filtro")->clear();
     const bool undone = driver_->Choose("Annulla") && driver_->Cell(9, 1) == "Città Più +1";
     Step("undo", undone, driver_->TextOf("UltimoRisultato"));
+  }
+
+  void TakeFromSdx() {
+    PictureBoxes("dialog-sdx");
+    driver_->ExpectFile("Selezionare il file SDX di input", QFileInfo(flash_).path() + "/demo.sdx");
+    driver_->ExpectDialog("Opzioni importazione SDX", [](QDialog& box) {
+      box.findChild<QComboBox*>("Combo1")->setCurrentIndex(0);
+      auto* codes = box.findChild<QListWidget*>("List1");
+      codes->item(codes->count() - 1)->setSelected(true);
+      box.findChild<QPushButton*>("Command1")->click();
+    });
+    const bool chosen = driver_->Choose("SDX");
+    if (auto* missing = window_->findChild<QDialog*>("ElencoNonInSDX")) missing->close();
+    Step("satcodx list", chosen && window_->findChild<QWidget*>("GrigliaSDX")->isVisible(),
+         driver_->TextOf("UltimoRisultato"));
+    window_->findChild<Ui::Griglia*>("GrigliaSDX")->Select({7, 7});
+    driver_->ExpectLine("Inserire la posizione in cui inserire Nuova Rete 1", "3");
+    driver_->ExpectQuestion("Si desidera spostare i canali verso il basso?", true);
+    const bool pressed = driver_->Press("Toolbar1_Copy_SDX");
+    Step("copy a new channel", pressed && driver_->Cell(3, 1) == "Nuova Rete 1",
+         driver_->TextOf("UltimoRisultato") + ": " + driver_->Cell(3, 1));
+    driver_->onBox = nullptr;
+    driver_->Choose("VediSDX");
   }
 
   void Convert() {
