@@ -38,13 +38,6 @@ TEST(File, ReplacingFollowsLinksAndKeepsPermissions) {
   EXPECT_EQ(folder.Files(), 2) << "no temporary file is left";
 }
 
-TEST(File, ALinkToNothingMakesItsTarget) {
-  const TestFolder folder;
-  ASSERT_EQ(::symlink("target", folder.Path("link").c_str()), 0);
-  ASSERT_TRUE(ReplaceFile(folder.Path("link"), New));
-  EXPECT_EQ(Contents(folder.Path("target")), New);
-}
-
 TEST(File, AFullDiskLeavesTheOldFile) {
   const TestFolder folder;
   const std::string path = folder.Write("flash.dat", Old);

@@ -146,18 +146,6 @@ TEST(FlashWriter, TheListsEndIsFilledWithZeros) {
             Base::Bytes(120, 0));
 }
 
-TEST(FlashWriter, TheLastSectionRunsToTheSectorsEndAndNoFurther) {
-  ImageBuilder image(22);
-  const std::size_t offset = SectorSize - EntryHeaderSize - 100;
-  image.PutRecords(3, 0, offset, "TCS", Channels(3)).SetLength(3, offset, 65535);
-  const auto state = ListOf(10, 10);
-  const Base::Bytes patched = PatchFlash(*state, image.Image(), {FlashType::Two, 10, ""}).image;
-  EXPECT_EQ(NumberAt(patched, In(3, SectorSize - 40)), 3);
-  EXPECT_EQ(Base::Bytes(patched.begin() + In(3, SectorSize - 10), patched.begin() + In(4, 0)),
-            Base::Bytes(10, 0));
-  EXPECT_TRUE(std::equal(patched.begin() + In(4, 0), patched.end(), image.Image().begin() + In(4, 0)));
-}
-
 TEST(FlashWriter, AShortFavouritesBlockIsFilledUpAndALongOneCut) {
   const Base::Bytes original = Template().Image();
   const auto state = ListOf(3, 3);

@@ -82,14 +82,6 @@ TEST(Record, FrequenciesAreThoseOfSinglePrecision) {
   }
 }
 
-TEST(Record, AFreeTransponderHasNoFrequency) {
-  TransponderRecord record;
-  Set(record, TransponderField::HighBand, 1);
-  EXPECT_EQ(FrequencyMHz(record), 0);
-  record.bytes[3] = 1;
-  EXPECT_EQ(FrequencyMHz(record), 10600);
-}
-
 TEST(Record, TranspondersThreeMegahertzApartAreTwo) {
   const auto base = Samples::MakeTransponder(10750, true, 1, 0, 0);
   EXPECT_TRUE(SameTransponder(base, Samples::MakeTransponder(10752, true, 1, 5, 5)));

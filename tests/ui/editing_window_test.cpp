@@ -1,0 +1,144 @@
+// Editing the list by keys, toolbar, menus and dropping.
+#include "ui/window_fixture.h"
+
+#include <QApplication>
+#include <QBrush>
+#include <QClipboard>
+#include <QLineEdit>
+#include <QMimeData>
+#include <QTest>
+
+namespace Ui {
+
+TEST_F(Window, CutMovePasteAndUndoByKeysAndToolbar) {
+  OpenDemo();
+  const Routines::State before = List();
+  driver_->SelectRows(12, 10);
+  driver_->Key(Qt::Key_X, Qt::ControlModifier);
+  EXPECT_EQ(driver_->Cell(10, 1), "Italia Domani");
+  EXPECT_EQ(driver_->TextOf("CanaliCopiati"), "Appunti 3");
+  EXPECT_TRUE(QApplication::clipboard()->text().startsWith("0010\tLa Nazionale\t018\t2802\t"));
+
+  const QString where = "Inserire il numero di canale da cui inserire";
+  const QString how =
+      "Sposto o sovrascrivo i canali a partire dal %1 per 3 Canali?\nRispondere SI per spostare NO per "
+      "sovrascrivere";
+  for (const char* wrong : {"0", "-5", "abc", "3994", "99999"}) {
+    driver_->ExpectLine(where, wrong);
+    driver_->ExpectMessage("Posizione di inserimento invalida");
+    ASSERT_TRUE(driver_->Press("Toolbar1_Paste"));
+  }
+  driver_->ExpectLine(where, "5");
+  driver_->ExpectCancelledQuestion(how.arg(5));
+  ASSERT_TRUE(driver_->Press("Toolbar1_Paste"));
+  EXPECT_EQ(driver_->TextOf("CanaliCopiati"), "Appunti 3");
+  driver_->ExpectLine(where, "10");
+  driver_->ExpectQuestion(how.arg(10), true);
+  driver_->Key(Qt::Key_V, Qt::ControlModifier);
+  EXPECT_EQ(List().ChannelTable, before.ChannelTable);
+  EXPECT_EQ(List().FavouritesBlock, before.FavouritesBlock) << "the cut entries are back";
+  driver_->ExpectMessage("Messun canale copiato");
+  ASSERT_TRUE(driver_->Press("Toolbar1_Paste"));
+
+  EXPECT_EQ(Action("Annulla").text(), "Annulla Incolla 3 canali");
+  ASSERT_TRUE(driver_->Choose("Annulla"));
+  EXPECT_EQ(Action("Annulla").text(), "Annulla Taglia 3 canali");
+  EXPECT_EQ(Action("Ripeti").text(), "Ripeti Incolla 3 canali");
+  driver_->Key(Qt::Key_Z, Qt::ControlModifier);
+  EXPECT_EQ(List().ChannelTable, before.ChannelTable);
+  driver_->Key(Qt::Key_Z, Qt::ControlModifier);
+  EXPECT_FALSE(List().Loaded) << "opening is a step too";
+  EXPECT_EQ(driver_->TextOf("Text1"), "");
+}
+
+TEST_F(Window, RowsMoveByKeysAndByDropping) {
+  OpenDemo();
+  driver_->SelectRows(2, 3);
+  driver_->Key(Qt::Key_Down, Qt::AltModifier);
+  EXPECT_EQ(driver_->Cell(2, 1), "Canale Aperto HD");
+  EXPECT_EQ(driver_->Cell(3, 1), "Rete Italia HD");
+  EXPECT_EQ(driver_->Grid().Selected()->first, 3) << "the selection goes along";
+  auto* model = driver_->Grid().model();
+  const auto drop = [&](int before, Qt::DropAction action) {
+    const std::unique_ptr<QMimeData> rows(model->mimeData({model->index(2, 0), model->index(3, 0)}));
+    EXPECT_TRUE(model->dropMimeData(rows.get(), action, before - 1, 0, {}));
+    QTest::qWait(1);
+  };
+  drop(10, Qt::MoveAction);
+  EXPECT_EQ(driver_->Cell(8, 1), "Rete Italia HD");
+  EXPECT_EQ(driver_->Cell(10, 1), "La Nazionale");
+  drop(1, Qt::CopyAction);
+  EXPECT_EQ(driver_->Cell(1, 1), driver_->Cell(5, 1)) << "a copy is inserted";
+  EXPECT_EQ(driver_->TextOf("CanaliUsati"), "Canali 622 di 3996");
+  driver_->ExpectLine("Inserire il numero di canale a cui spostare", "3996");
+  driver_->ExpectMessage("Nr. Canale non valido");
+  ASSERT_TRUE(driver_->Choose("SpostaA"));
+}
+
+TEST_F(Window, RowKeysLeaveTheFilterFieldAlone) {
+  OpenDemo();
+  const Routines::State before = List();
+  driver_->SelectRows(2, 3);
+  driver_->Key(Qt::Key_F, Qt::ControlModifier | Qt::ShiftModifier);
+  auto* field = window_->findChild<QLineEdit*>("Filtro");
+  ASSERT_TRUE(field->hasFocus());
+  QTest::keyClicks(field, "stella tv!");
+  driver_->Key(Qt::Key_Backspace);
+  driver_->Key(Qt::Key_A, Qt::ControlModifier);
+  driver_->Key(Qt::Key_X, Qt::ControlModifier);
+  driver_->Key(Qt::Key_V, Qt::ControlModifier);
+  driver_->Key(Qt::Key_Delete);
+  EXPECT_TRUE(List() == before);
+  EXPECT_EQ(driver_->TextOf("FiltroTrovati"), "1 trovato");
+  driver_->Key(Qt::Key_Return);
+  EXPECT_EQ(driver_->Grid().Selected()->first, 12);
+}
+
+TEST_F(Window, SearchingAsksForTheNext) {
+  OpenDemo();
+  const QString next = "Ricerco il successivo?";
+  driver_->ExpectLine("Inserire il canale da ricercare", "CITTÀ PIÙ");
+  driver_->ExpectQuestion(next, true);
+  driver_->ExpectQuestion(next, false);
+  ASSERT_TRUE(driver_->Choose("CercaCanale"));
+  const auto* model = driver_->Grid().model();
+  EXPECT_EQ(model->index(7, 3).data(Qt::BackgroundRole).value<QBrush>().color(), QColor(255, 128, 0));
+  EXPECT_EQ(driver_->Grid().indexAt(QPoint(5, 5)).row(), 7);
+  driver_->Key(Qt::Key_F3);
+  EXPECT_EQ(driver_->Grid().currentIndex().row(), 8);
+  driver_->ExpectLine("Inserire il canale da ricercare", "漢");
+  driver_->ExpectMessage("Canale non trovato");
+  ASSERT_TRUE(driver_->Press("Toolbar1_Find"));
+  driver_->ExpectLine("Inserire il Nr. del canale su cui posizionarsi", "3997");
+  driver_->ExpectMessage("Nr. Canale non valido");
+  ASSERT_TRUE(driver_->Press("Toolbar1_Goto"));
+  ASSERT_TRUE(driver_->Choose("VisualizzaTransponder"));
+  for (const char* command : {"CercaCanale", "VaiAlCanale"}) {
+    driver_->ExpectMessage("Funzione valida solo in visualizzazione canali");
+    ASSERT_TRUE(driver_->Choose(command));
+  }
+  driver_->ExpectMessage("Deve essere visibile la lista canali");
+  ASSERT_TRUE(driver_->Press("Toolbar1_Cut"));
+}
+
+TEST_F(Window, WholeListCommandsTellWhatTheyDid) {
+  OpenDemo();
+  driver_->ExpectMessage("Nessun canale selezionato");
+  ASSERT_TRUE(driver_->Press("Toolbar1_Delete"));
+  const QString from =
+      "Inserire il canale dal quale iniziare il raggruppamento; I canali precedenti manterranno la "
+      "numerazione";
+  driver_->ExpectLine(from, "648");
+  driver_->ExpectMessage("Il numero indicato è maggiore dell' ultimo canale");
+  driver_->ExpectLine(from, "15");
+  ASSERT_TRUE(driver_->Choose("OrdinaPerBouquet"));
+  EXPECT_EQ(Routines::LastUsedChannel(List()), 620) << "every gap behind slot 15 is closed";
+  ASSERT_TRUE(driver_->Choose("InvertiSatelliti"));
+  EXPECT_EQ(driver_->TextOf("Text1"), "Transponders");
+  EXPECT_EQ(driver_->Cell(1, 9), "SAT B");
+  driver_->ExpectMessage("Sono stati azzerati 620 Canali");
+  ASSERT_TRUE(driver_->Choose("Azzera"));
+  EXPECT_EQ(driver_->TextOf("CanaliUsati"), "Canali 0 di 3996");
+}
+
+}  // namespace Ui

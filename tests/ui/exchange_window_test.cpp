@@ -1,0 +1,199 @@
+// Lists that leave the program and come in: texts, raw records, SatcoDX, downloads.
+#include "ui/window_fixture.h"
+
+#include <QComboBox>
+#include <QDialog>
+#include <QLineEdit>
+#include <QListWidget>
+#include <QPushButton>
+#include <QRadioButton>
+#include <QTcpServer>
+#include <QTcpSocket>
+#include <QTest>
+
+namespace Ui {
+
+TEST_F(Window, AListLeavesAsTextIsEditedAndComesBack) {
+  OpenDemo();
+  const Routines::State before = List();
+  const std::string path = folder_.Path("lista.txt");
+  driver_->ExpectFile("Selezionare il file di output", PathText(path));
+  ASSERT_TRUE(driver_->Choose("FormatoTesto"));
+  EXPECT_EQ(Said(), "Esportato lista.txt");
+  std::string text(Base::AsText(Contents(path)));
+  text.replace(text.find("Rete Due "), 9, "Rinomina ");
+  folder_.Write("lista.txt", text);
+
+  const QString import = "Selezionare il file di testo contenente i CANALI e i TRANSPONDERS";
+  driver_->ExpectFile(import, PathText(path));
+  ASSERT_TRUE(driver_->Choose("CaricaImportato"));
+  EXPECT_EQ(driver_->Cell(5, 1), "Rinomina");
+  EXPECT_EQ(driver_->TextOf("CanaliUsati"), "Canali 620 di 3996");
+  EXPECT_EQ(driver_->TextOf("ModificheNonSalvate"), "Modifiche non salvate");
+  EXPECT_EQ(driver_->TextOf("FlashOutput"), "Flash di output : nessuna");
+
+  folder_.Write("lista.txt", "\xEF\xBB\xBF" + text.substr(0, text.find("[TRANSPONDERS]")));
+  driver_->ExpectFile(import, PathText(path));
+  driver_->ExpectMessage("Formato file invalido (Transponders) per " + PathText(path));
+  ASSERT_TRUE(driver_->Choose("DaEsportatoTesto"));
+  ASSERT_TRUE(driver_->Choose("Annulla"));
+  ASSERT_TRUE(driver_->Choose("Annulla"));
+  EXPECT_TRUE(List() == before) << "each import is one step, a broken one too";
+}
+
+TEST_F(Window, RawRecordsComeFromTheFlashOnTheDisk) {
+  OpenDemo();
+  const std::string path = folder_.Path("lista.fls");
+  driver_->SelectRows(1, 1);
+  ASSERT_TRUE(driver_->Press("Toolbar1_Delete"));
+  {
+    const Tests::FileSizeLimit limit(1000);
+    driver_->ExpectFile("Selezionare il file di output", PathText(path));
+    ASSERT_TRUE(driver_->Choose("FormatoFLASH"));
+    EXPECT_EQ(Said(), "Impossibile scrivere lista.fls: il file supera la dimensione consentita");
+    EXPECT_EQ(driver_->Cell(1, 1), "Rete Italia HD") << "a failed export leaves the edits";
+  }
+  driver_->ExpectFile("Selezionare il file di output", PathText(path));
+  ASSERT_TRUE(driver_->Choose("FormatoFLASH"));
+  EXPECT_EQ(driver_->Cell(1, 1), "Rete Italia") << "edits give way to the image as it is stored";
+  EXPECT_EQ(Action("Annulla").text(), "Annulla Ricarica Flash per l'esportazione");
+
+  driver_->ExpectFile("Selezionare il file di da importare", PathText(path));
+  ASSERT_TRUE(driver_->Choose("DaEsportato"));
+  EXPECT_FALSE(Action("ApriFlashInput").isEnabled());
+  EXPECT_EQ(driver_->TextOf("CanaliUsati"), "Canali 620 di 3996");
+  ASSERT_TRUE(driver_->Choose("Annulla"));
+  EXPECT_TRUE(Action("ApriFlashInput").isEnabled());
+
+  std::filesystem::remove(flash_);
+  std::filesystem::remove(path);
+  driver_->ExpectFile("Selezionare il file di output", PathText(path));
+  driver_->ExpectMessage("Impossibile leggere demo.dat: il file o la cartella non esiste",
+                         "Errore FLASH di Input");
+  ASSERT_TRUE(driver_->Choose("FormatoFLASH"));
+  EXPECT_FALSE(std::filesystem::exists(path));
+}
+
+TEST_F(Window, ASatcodxListGoesIntoTheChannelList) {
+  OpenDemo();
+  std::string sdx;
+  for (int i = 1; i <= 3; ++i) {
+    sdx += "SATCODX103HOTBIRD 13E       TMPG2010971000HNuovo " + std::to_string(i) +
+           " 0130___     ______29700200" + std::to_string(50 + i) + "0060005000" + std::to_string(70 + i) +
+           "0031812300_________NAGV            \r\n";
+  }
+  const std::string path = folder_.Write("prova.sdx", sdx + "SATCODX corta\r\n");
+  const auto take = [this](auto answer) { driver_->ExpectDialog("Opzioni importazione SDX", answer); };
+  driver_->ExpectFile("Selezionare il file SDX di input", PathText(path));
+  take([this](QDialog& box) {
+    driver_->ExpectMessage("Si deve specificare il codice da assegnare al satellite");
+    box.findChild<QPushButton*>("Command1")->click();
+    box.findChild<QComboBox*>("Combo1")->setCurrentIndex(0);
+    driver_->ExpectMessage("Non sono state selezionate codifiche da importare");
+    box.findChild<QPushButton*>("Command1")->click();
+    EXPECT_EQ(box.findChild<QListWidget*>("List1")->count(), 2) << "NAGV and Tutte";
+    box.findChild<QListWidget*>("List1")->selectAll();
+    box.findChild<QPushButton*>("Command1")->click();
+  });
+  ASSERT_TRUE(driver_->Choose("SDX"));
+  EXPECT_EQ(Said(), "prova.sdx: lette 4 righe, prese 3; scartate: symbol rate 1");
+  auto* missing = window_->findChild<QDialog*>("ElencoNonInSDX");
+  ASSERT_NE(missing, nullptr) << "the demo's own channels are not in that list";
+  missing->close();
+  auto* pane = window_->findChild<Griglia*>("GrigliaSDX");
+  EXPECT_TRUE(pane->isVisible());
+  EXPECT_EQ(pane->model()->rowCount(), 3);
+
+  driver_->ExpectMessage("Nessun canale SDX selezionato");
+  ASSERT_TRUE(driver_->Press("Toolbar1_Copy_SDX"));
+  pane->Select({2, 3});
+  driver_->ExpectLine("Inserire la posizione in cui inserire Nuovo 2", "3997");
+  driver_->ExpectMessage("Posizione non valida");
+  ASSERT_TRUE(driver_->Press("Toolbar1_Copy_SDX"));
+  driver_->ExpectLine("Inserire la posizione in cui inserire Nuovo 2", "1");
+  driver_->ExpectQuestion("Si desidera spostare i canali verso il basso?", true);
+  ASSERT_TRUE(driver_->Press("Toolbar1_Copy_SDX"));
+  EXPECT_EQ(driver_->Cell(2, 1), "Nuovo 3");
+  EXPECT_EQ(driver_->Cell(2, 2), "001") << "the transponder at 10971 MHz";
+  EXPECT_EQ(driver_->Cell(3, 1), "Rete Italia");
+  driver_->ExpectDialog("Importazione canali SDX", [](QDialog& box) {
+    box.findChild<QRadioButton*>("DalCanale")->click();
+    box.findChild<QLineEdit*>("Partenza")->setText("3995");
+    box.accept();
+  });
+  driver_->ExpectMessage("1 canali SDX non hanno trovato posto");
+  ASSERT_TRUE(driver_->Choose("ImportaTuttoSDX"));
+  EXPECT_EQ(driver_->Cell(3996, 1), "Nuovo 2");
+  ASSERT_TRUE(driver_->Choose("VediSDX"));
+  EXPECT_FALSE(pane->isVisible());
+  EXPECT_FALSE(Action("RicercaSDX").isEnabled());
+}
+
+// A web server for one request: answers with what it is given, whatever is asked for.
+class Server {
+ public:
+  explicit Server(const QByteArray& answer) {
+    server_.listen(QHostAddress::LocalHost);
+    QObject::connect(&server_, &QTcpServer::newConnection, [this, answer] {
+      QTcpSocket* socket = server_.nextPendingConnection();
+      QObject::connect(socket, &QTcpSocket::readyRead, [socket, answer] {
+        socket->write(answer);
+        socket->disconnectFromHost();
+      });
+    });
+  }
+  [[nodiscard]] QString Address() const {
+    return QString("http://127.0.0.1:%1/lista.sdx").arg(server_.serverPort());
+  }
+
+ private:
+  QTcpServer server_;
+};
+
+TEST_F(Window, ADownloadIsSavedAndLoadedOrToldAndLeftEmpty) {
+  OpenDemo();
+  folder_.Write("SDX.INI", "http://127.0.0.1:9/uno.sdx\r\nhttp://127.0.0.1:9/due.sdx\r\n");
+  const std::string path = folder_.Path("scaricato.sdx");
+  const QByteArray head = "HTTP/1.0 200 OK\r\n\r\n";
+  const QString error = "Errore di connessione a : ";
+  const auto fetch = [&](const QString& address, const auto& expectEnd) {
+    std::filesystem::remove(path);
+    ASSERT_TRUE(driver_->Choose("ScaricaInternet"));
+    auto* addresses = window_->findChild<QComboBox*>("Combo3");
+    EXPECT_EQ(addresses->count(), 2);
+    EXPECT_EQ(addresses->currentText(), "");
+    addresses->setEditText(address);
+    driver_->ExpectFile("Selezionare il file SDX di OUTPUT", PathText(path));
+    expectEnd();
+    window_->findChild<QAbstractButton*>("Scarica")->click();
+    EXPECT_TRUE(QTest::qWaitFor([this] { return driver_->Idle(); }, 5000));
+  };
+  ASSERT_TRUE(driver_->Choose("ScaricaInternet"));
+  driver_->ExpectMessage("Si deve specificare il file da scaricare");
+  window_->findChild<QAbstractButton*>("Scarica")->click();
+  const struct {
+    QByteArray answer;
+    QString told;
+  } bad[] = {{head + "  SATCODX", "  SATCODX"},
+             {head + "<html>", "<html>"},
+             {"HTTP/1.0 404 Not Found\r\n\r\nSATCODX103", "SATCODX103"},
+             {"HTTP/1.0 200 OK\r\nContent-Length: 900\r\n\r\nSATCODX103 cut", "SATCODX103 cut"}};
+  for (const auto& c : bad) {
+    const Server server(c.answer);
+    fetch(server.Address(), [&] { driver_->ExpectMessage(error + server.Address() + " " + c.told); });
+    EXPECT_EQ(Contents(path).size(), 0U) << c.answer.toStdString();
+  }
+  fetch("ftp://127.0.0.1/x", [&] { driver_->ExpectMessage(error + "ftp://127.0.0.1/x "); });
+
+  const Server good(head + "SATCODX1 uno\r\nSATCODX1 due\r\nsenza fine");
+  fetch(good.Address(),
+        [&] { driver_->ExpectDialog("Opzioni importazione SDX", [](QDialog& box) { box.reject(); }); });
+  EXPECT_EQ(Base::AsText(Contents(path)), "SATCODX1 uno\r\n\nSATCODX1 due\r\n");
+}
+
+TEST(FileFilters, KeepCaptionsAndMatchAnyCase) {
+  EXPECT_EQ(NameFilters("Binary files(*.dat)|*.dat|Tutti i file (*.*)|*.*|"),
+            QStringList({"Binary files(*.dat) (*.[dD][aA][tT])", "Tutti i file (*.*) (*)"}));
+}
+
+}  // namespace Ui
