@@ -20,7 +20,7 @@ constexpr std::string_view ByteOrderMark = "\xEF\xBB\xBF";
 }  // namespace
 
 std::string ExchangeCommands::AskExport(const QString& filters) {
-  const std::string path = PathBytes(session_.dialogs.SaveFile(
+  std::string path = PathBytes(session_.dialogs.SaveFile(
       {"Selezionare il file di output", filters,
        PathText(Support::RememberedFolder(session_.programFolder, Support::FolderKind::Input))}));
   const State& state = session_.document.Tables();
