@@ -15,15 +15,17 @@ std::string_view TrimmedRight(std::string_view text) {
 
 std::string_view Trimmed(std::string_view text) { return TrimmedRight(TrimmedLeft(text)); }
 
+std::string_view TakeLine(std::string_view& text) {
+  const std::size_t end = std::min(text.find('\n'), text.size());
+  std::string_view line = text.substr(0, end);
+  if (line.ends_with('\r')) line.remove_suffix(1);
+  text.remove_prefix(std::min(end + 1, text.size()));
+  return line;
+}
+
 std::vector<std::string_view> Lines(std::string_view text) {
   std::vector<std::string_view> lines;
-  while (!text.empty()) {
-    const std::size_t end = std::min(text.find('\n'), text.size());
-    std::string_view line = text.substr(0, end);
-    if (line.ends_with('\r')) line.remove_suffix(1);
-    lines.push_back(line);
-    text.remove_prefix(std::min(end + 1, text.size()));
-  }
+  while (!text.empty()) lines.push_back(TakeLine(text));
   return lines;
 }
 

@@ -13,6 +13,9 @@ std::string_view TrimmedLeft(std::string_view text);
 std::string_view TrimmedRight(std::string_view text);
 std::string_view Trimmed(std::string_view text);
 
+// Takes the line at the front off `text`, with its end: CR LF or LF alone. `text` must not be empty.
+std::string_view TakeLine(std::string_view& text);
+
 // Lines without their ends, CR LF or LF alone; what follows the last line end is a line only if it is not
 // empty.
 std::vector<std::string_view> Lines(std::string_view text);

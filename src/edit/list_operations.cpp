@@ -85,6 +85,9 @@ std::vector<LostFavourite> ShiftDown(State& state, int position, int count) {
   SlotMap map = SameSlots();
   for (int slot = position; slot <= state.ChannelCount; ++slot) {
     map[At(slot)] = slot + count <= state.ChannelCount ? slot + count : 0;
+    const ChannelRecord& channel = state.ChannelTable[At(slot)];
+    if (map[At(slot)] == 0 && !channel.Empty())
+      AddToChannelCount(state, Get(channel, ChannelField::Transponder), -1);
   }
   return Rearrange(state, map);
 }

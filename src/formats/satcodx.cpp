@@ -50,7 +50,10 @@ class Loader {
   explicit Loader(const SdxOptions& options) : options_(options) {}
 
   SdxTable Run(std::string_view text) {
-    for (const std::string_view line : Base::Lines(text)) {
+    while (!text.empty()) {
+      const std::string_view line = Base::TakeLine(text);
+      // A download leaves every second line blank: those are no services that were dropped.
+      if (table_.lines > 0 && Base::Trimmed(line).empty()) continue;
       if (table_.lines++ == 0) table_.satelliteName = Cut(line, SdxLine::SatelliteName);
       if (!Passes(line)) continue;
       if (table_.rows.size() == MostSdxRows) {
@@ -132,7 +135,8 @@ SdxTable ReadSatcodx(std::string_view text, const SdxOptions& options) { return 
 std::vector<std::string> EncryptionCodesOf(std::string_view text) {
   std::vector<std::string> codes;
   std::set<std::string_view> seen;
-  for (const std::string_view line : Base::Lines(text)) {
+  while (!text.empty()) {
+    const std::string_view line = Base::TakeLine(text);
     const std::string_view code = Cut(line, SdxLine::Code);
     if (code.size() == SdxLine::Code.width && code != NoCode && seen.insert(code).second)
       codes.emplace_back(code);
@@ -142,7 +146,8 @@ std::vector<std::string> EncryptionCodesOf(std::string_view text) {
 
 std::set<std::pair<int, int>> ServicesOf(std::string_view text) {
   std::set<std::pair<int, int>> services;
-  for (const std::string_view line : Base::Lines(text)) {
+  while (!text.empty()) {
+    const std::string_view line = Base::TakeLine(text);
     services.insert({Value(Cut(line, SdxLine::Tid)), Value(Cut(line, SdxLine::Sid))});
   }
   return services;

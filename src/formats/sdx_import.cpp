@@ -17,7 +17,7 @@ std::uint32_t Low16(std::string_view text) {
   return value & 0xFFFFU;
 }
 
-int Megahertz(const SdxRow& row) { return Base::LeadingNumber(row.frequency); }
+int Megahertz(const SdxRow& row) { return Base::LeadingCount(row.frequency, 999999); }
 
 std::uint32_t FecCode(std::string_view digit) {
   constexpr std::string_view Digits = "12357";
@@ -27,7 +27,13 @@ std::uint32_t FecCode(std::string_view digit) {
 
 }  // namespace
 
-TransponderRecord SdxImport::RecordOf(const SdxRow& row) {
+// Where the symbol-rate table has the row's rate.
+std::size_t SdxImport::RateAt(const SdxRow& row) const {
+  return row.symbolRate.size() == SymbolRateCell - 1 ? state_.SymbolRateTable.find(row.symbolRate)
+                                                     : std::string::npos;
+}
+
+TransponderRecord SdxImport::RecordOf(const SdxRow& row) const {
   TransponderRecord record;
   Set(record, TransponderField::HighBand, row.highBand ? 1U : 0U);
   Set(record, TransponderField::Horizontal, row.horizontal ? 1U : 0U);
@@ -37,8 +43,7 @@ TransponderRecord SdxImport::RecordOf(const SdxRow& row) {
   Set(record, TransponderField::Tid, Low16(row.tid));
   Set(record, TransponderField::Nid, Low16(row.nid));
   Set(record, TransponderField::ChannelCount, 1);
-  const std::size_t rate = state_.SymbolRateTable.find(row.symbolRate);
-  if (rate == std::string::npos) ++unknownRates_;
+  const std::size_t rate = RateAt(row);
   Set(record, TransponderField::SymbolRate,
       rate == std::string::npos ? 0 : static_cast<std::uint32_t>((rate + 1) / SymbolRateCell));
   Set(record, TransponderField::Fec, FecCode(row.fec));
@@ -47,8 +52,10 @@ TransponderRecord SdxImport::RecordOf(const SdxRow& row) {
 
 int SdxImport::TransponderOf(const SdxRow& row, int position) {
   const TransponderRecord record = RecordOf(row);
-  const TransponderSlot found = FindOrAddTransponder(state_, record);
+  // One at the oscillator's own frequency would look like a free slot.
+  const TransponderSlot found = IsFree(record) ? TransponderSlot{} : FindOrAddTransponder(state_, record);
   if (found.added) {
+    if (RateAt(row) == std::string::npos) ++unknownRates_;
     NameBouquet(state_.TransponderTable[static_cast<std::size_t>(found.slot)], bouquets_);
     return found.slot;
   }

@@ -4,6 +4,9 @@
 #include "support/pos_ini.h"
 #include "support/sdx_ini.h"
 
+#include <QApplication>
+#include <QTimer>
+
 namespace Ui {
 
 DownloadCommands::DownloadCommands(Session& session, SdxCommands& sdx, DownloadFrame& frame, QWidget& window)
@@ -58,8 +61,9 @@ void DownloadCommands::ShowProgress() {
   progress_->setObjectName("Scaricamento");
   progress_->setWindowTitle("Trovalis");
   progress_->setAttribute(Qt::WA_DeleteOnClose);
-  progress_->setMinimumDuration(300);
+  progress_->setMinimumDuration(0);
   progress_->setAutoReset(false);
+  progress_->setValue(0);
   connect(&download_, &Download::Progress, progress_, [this](qint64 received, qint64 total) {
     progress_->setMaximum(total > 0 ? 1000 : 0);
     progress_->setValue(total > 0 ? static_cast<int>(received * 1000 / total) : 0);
@@ -76,10 +80,14 @@ void DownloadCommands::Take(bool good, const QByteArray& reply) {
     progress_->disconnect(this);
     progress_->close();
   }
+  // Whoever answers a box is not to find another table behind it.
+  if (QApplication::activeModalWidget() != nullptr) {
+    QTimer::singleShot(200, this, [this, good, reply] { Take(good, reply); });
+    return;
+  }
   const std::string_view text(reply.constData(), static_cast<std::size_t>(reply.size()));
   if (!good || !Formats::LooksLikeSatcodx(text)) {
-    session_.dialogs.Message("Errore di connessione a : " + address_ + " " + CodePageText(text.substr(0, 80)),
-                             {});
+    session_.dialogs.Message("Errore di connessione a : " + address_ + CodePageText(text.substr(0, 80)), {});
     return;
   }
   const auto written = Base::ReplaceFile(path_, Base::AsBytes(Formats::DownloadedLines(text)));

@@ -164,11 +164,15 @@ void CopiaTCSTPT::ConnectSdxCommands() {
   Connect("RicercaSDX", [this] { sdx_->Ricerca(); });
   Connect("ImportaTuttoSDX", [this] { sdx_->ImportaTutto(); });
   sdx_->onShown = [this](bool shown) {
+    sdxShownSinceFls_ = sdxShownSinceFls_ || shown;
+    ShowList();
     CommandAction(*this, "VediSDX").setChecked(shown);
     for (const char* name : {"RicercaSDX", "ImportaTuttoSDX"}) CommandAction(*this, name).setEnabled(shown);
   };
   sdx_->ShowPane(false);
-  connect(findChild<SdxPane*>(), &SdxPane::Chosen, this, [this](int row) { sdx_->Insert(row); });
+  auto* pane = findChild<SdxPane*>();
+  connect(pane, &SdxPane::Chosen, this, [this](int row) { sdx_->Insert(row); });
+  connect(pane, &SdxPane::CopyWanted, this, [this] { sdx_->CopySDX(); });
   connect(&session_->view, &ListView::SdxDropped, this,
           [this](int first, int last, int before) { sdx_->Drop(first, last, before); });
 }
@@ -217,10 +221,15 @@ void CopiaTCSTPT::ShowList() {
   for (const char* name : {"Salva", "ApriFlashOutput", "ConvertiSR", "CercaCanale", "VaiAlCanale"}) {
     CommandAction(*this, name).setEnabled(state.Loaded);
   }
-  QAction& open = CommandAction(*this, "ApriFlashInput");
-  open.setEnabled(!state.FromFls);
-  open.setStatusTip(state.FromFls ? "Non disponibile dopo l'importazione da formato FLASH: Annulla la toglie"
-                                  : "");
+  // What an exchange file of raw records makes unavailable; the pane comes back with a list to show in it.
+  if (!state.FromFls) sdxShownSinceFls_ = false;
+  const std::pair<const char*, bool> blocked[] = {{"ApriFlashInput", state.FromFls},
+                                                  {"VediSDX", state.FromFls && !sdxShownSinceFls_}};
+  for (const auto& [name, off] : blocked) {
+    QAction& action = CommandAction(*this, name);
+    action.setEnabled(!off);
+    action.setStatusTip(off ? "Non disponibile dopo l'importazione da formato FLASH: Annulla la toglie" : "");
+  }
   ShowSteps();
   session_->ShowList();
 }

@@ -60,6 +60,7 @@ class CopiaTCSTPT : public QMainWindow {
   std::unique_ptr<ListCommands> lists_;
   std::unique_ptr<SdxCommands> sdx_;
   std::unique_ptr<DownloadCommands> download_;
+  bool sdxShownSinceFls_ = false;
 };
 
 }  // namespace Ui

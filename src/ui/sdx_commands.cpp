@@ -82,9 +82,8 @@ void SdxCommands::Load(const std::string& path) {
 void SdxCommands::TellLoaded(const std::string& path, int satellite, std::string_view text) {
   const Formats::SdxTable& table = session_.sdx;
   QString result = QString("%1: lette %2 righe, prese %3")
-                       .arg(PathText(Base::FileName(path)))
-                       .arg(table.lines)
-                       .arg(table.rows.size());
+                       .arg(PathText(Base::FileName(path)), QString::number(table.lines),
+                            QString::number(table.rows.size()));
   const std::pair<const char*, int> reasons[] = {
       {"senza PID", table.droppedByPid},   {"tipo", table.droppedByType},
       {"non MPG2", table.droppedByFormat}, {"symbol rate", table.droppedByRate},
@@ -110,6 +109,7 @@ void SdxCommands::ListMissing(int satellite, std::string_view text) {
             .arg(slot, 4, 10, QChar('0'))
             .arg(CodePageText(Base::TrimmedRight(state.ChannelTable[static_cast<std::size_t>(slot)].Name())));
   }
+  if (auto* earlier = window_.findChild<QDialog*>("ElencoNonInSDX")) earlier->close();
   if (!lines.isEmpty()) (new ElencoNonInSDX(lines, session_.dialogs, &window_))->show();
 }
 
@@ -151,15 +151,16 @@ void SdxCommands::CopySDX() {
 
 void SdxCommands::AskAndInsert(int first, int last) {
   if (!session_.NeedsFlash()) return;
-  const Formats::SdxRow& row = session_.sdx.rows[static_cast<std::size_t>(first - 1)];
-  const auto answer = session_.dialogs.AskLine("Inserire la posizione in cui inserire " + RowName(row));
+  const Rows rows = RowsFrom(first, last);
+  const auto answer =
+      session_.dialogs.AskLine("Inserire la posizione in cui inserire " + RowName(rows.content.front()));
   if (!answer || answer->isEmpty()) return;
   const int position = Base::LeadingNumber(answer->toStdString());
   if (position < 1 || position > session_.document.Tables().ChannelCount) {
     session_.dialogs.Message("Posizione non valida", {});
     return;
   }
-  Put(first, last, position, session_.dialogs.YesNo("Si desidera spostare i canali verso il basso?"));
+  Put(rows, position, session_.dialogs.YesNo("Si desidera spostare i canali verso il basso?"));
 }
 
 void SdxCommands::Drop(int first, int last, int before) {
@@ -168,12 +169,19 @@ void SdxCommands::Drop(int first, int last, int before) {
     session_.status.ShowResult("Dopo l'ultimo posto della lista non si può inserire");
     return;
   }
-  Put(first, last, before, true);
+  Put(RowsFrom(first, last), before, true);
 }
 
-void SdxCommands::Put(int first, int last, int position, bool shift) {
+// Rows are taken before anything is asked: a download may put others in their place meanwhile.
+SdxCommands::Rows SdxCommands::RowsFrom(int first, int last) const {
+  const auto begin = session_.sdx.rows.begin();
+  return {first, {begin + first - 1, begin + last}};
+}
+
+void SdxCommands::Put(const Rows& rows, int position, bool shift) {
   const int room = session_.document.Tables().ChannelCount - position + 1;
-  const int count = std::min(last - first + 1, room);
+  const int all = static_cast<int>(rows.content.size());
+  const int count = std::min(all, room);
   const std::string label =
       count == 1 ? "Inserisci 1 canale SDX" : "Inserisci " + std::to_string(count) + " canali SDX";
   QString result = Text(label) + QString(" dal %1").arg(position);
@@ -181,12 +189,13 @@ void SdxCommands::Put(int first, int last, int position, bool shift) {
   session_.document.Apply(label, [&](State& state) {
     std::vector<Edit::LostFavourite> lost;
     if (shift) lost = Edit::ShiftDown(state, position, count);
-    Formats::SdxImport rows(state, session_.bouquets.tables);
+    Formats::SdxImport import(state, session_.bouquets.tables);
     for (int i = 0; i < count; ++i) {
-      rows.Put(session_.sdx.rows[static_cast<std::size_t>(first + i - 1)], position + i, first + i);
+      import.Put(rows.content[static_cast<std::size_t>(i)], position + i, rows.first + i);
     }
-    message = rows.Message();
-    if (rows.UnknownRates() > 0) result += QString(", %1 con SR che SR.INI non ha").arg(rows.UnknownRates());
+    message = import.Message();
+    if (import.UnknownRates() > 0)
+      result += QString(", %1 con SR che SR.INI non ha").arg(import.UnknownRates());
     if (!lost.empty()) result += ", " + Text(Edit::LostFavouritesText(state.FavouritesBlock, lost));
     return Base::Done{};
   });
@@ -194,8 +203,10 @@ void SdxCommands::Put(int first, int last, int position, bool shift) {
     session_.view.Grid().Select({position, position + count - 1});
   session_.status.ShowResult(result);
   if (!message.empty()) session_.dialogs.Message(Text(message), {});
-  if (const int left = last - first + 1 - count; left > 0) {
-    session_.dialogs.Message(QString("%1 canali SDX non hanno trovato posto").arg(left), {});
+  if (const int left = all - count; left > 0) {
+    session_.dialogs.Message(left == 1 ? QString("1 canale SDX non ha trovato posto")
+                                       : QString("%1 canali SDX non hanno trovato posto").arg(left),
+                             {});
   }
 }
 
@@ -208,6 +219,7 @@ void SdxCommands::ImportaTutto() {
     session_.dialogs.Message("Canali SDX non caricati", {});
     return;
   }
+  const Rows rows = RowsFrom(1, static_cast<int>(session_.sdx.rows.size()));
   ImportazioneSDX dialog(&window_);
   if (dialog.exec() != QDialog::Accepted) return;
   const int start = Base::LeadingNumber(dialog.Start().toStdString());
@@ -215,7 +227,7 @@ void SdxCommands::ImportaTutto() {
     session_.dialogs.Message("Il canale da cui iniziare il caricamento non è valido", {});
     return;
   }
-  Put(1, static_cast<int>(session_.sdx.rows.size()), start, false);
+  Put(rows, start, false);
 }
 
 }  // namespace Ui

@@ -36,7 +36,14 @@ class SdxCommands {
   void TellLoaded(const std::string& path, int satellite, std::string_view text);
   void ListMissing(int satellite, std::string_view text);
   void AskAndInsert(int first, int last);
-  void Put(int first, int last, int position, bool shift);
+  // Rows of the table, the first of which has the number `first`.
+  struct Rows {
+    int first;
+    std::vector<Formats::SdxRow> content;
+  };
+
+  [[nodiscard]] Rows RowsFrom(int first, int last) const;
+  void Put(const Rows& rows, int position, bool shift);
 
   Session& session_;
   SdxPane& pane_;

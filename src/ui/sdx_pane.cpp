@@ -36,7 +36,12 @@ void SdxPane::Refresh(const QString& name) {
 
 bool SdxPane::eventFilter(QObject* watched, QEvent* event) {
   if (event->type() == QEvent::KeyPress) {
-    const int key = static_cast<QKeyEvent*>(event)->key();
+    const auto* pressed = static_cast<QKeyEvent*>(event);
+    if (pressed->matches(QKeySequence::Copy)) {
+      Q_EMIT CopyWanted();
+      return true;
+    }
+    const int key = pressed->key();
     if ((key == Qt::Key_Return || key == Qt::Key_Enter) && grid_->currentIndex().isValid()) {
       Q_EMIT Chosen(grid_->currentIndex().row() + 1);
       return true;

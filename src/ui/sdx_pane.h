@@ -23,6 +23,8 @@ class SdxPane : public QWidget {
  Q_SIGNALS:
   // The user wants a row, from 1, in the channel list.
   void Chosen(int row);
+  // The user wants the selected rows there.
+  void CopyWanted();
 
  protected:
   bool eventFilter(QObject* watched, QEvent* event) override;

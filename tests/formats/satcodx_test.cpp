@@ -157,6 +157,9 @@ TEST(SdxImport, RowsFindOrMakeTheirTransponder) {
             "Posizione canale SDX 3");
   EXPECT_EQ(Get(state->ChannelTable[6], ChannelField::Transponder), 2U);
   EXPECT_EQ(Get(state->ChannelTable[7], ChannelField::Transponder), 1U) << "one that exists is still found";
+  import.Put(RowAt(9750), 8, 5);
+  EXPECT_EQ(Get(state->ChannelTable[8], ChannelField::Transponder), 2U)
+      << "at the oscillator: no slot to find again";
   import.Put(RowAt(0), 3, 6);
   EXPECT_TRUE(state->ChannelTable[3].Empty()) << "frequency 0 clears the slot";
 }

@@ -121,7 +121,7 @@ TEST_F(Window, ASatcodxListGoesIntoTheChannelList) {
     box.findChild<QLineEdit*>("Partenza")->setText("3995");
     box.accept();
   });
-  driver_->ExpectMessage("1 canali SDX non hanno trovato posto");
+  driver_->ExpectMessage("1 canale SDX non ha trovato posto");
   ASSERT_TRUE(driver_->Choose("ImportaTuttoSDX"));
   EXPECT_EQ(driver_->Cell(3996, 1), "Nuovo 2");
   ASSERT_TRUE(driver_->Choose("VediSDX"));
@@ -180,10 +180,10 @@ TEST_F(Window, ADownloadIsSavedAndLoadedOrToldAndLeftEmpty) {
              {"HTTP/1.0 200 OK\r\nContent-Length: 900\r\n\r\nSATCODX103 cut", "SATCODX103 cut"}};
   for (const auto& c : bad) {
     const Server server(c.answer);
-    fetch(server.Address(), [&] { driver_->ExpectMessage(error + server.Address() + " " + c.told); });
+    fetch(server.Address(), [&] { driver_->ExpectMessage(error + server.Address() + c.told); });
     EXPECT_EQ(Contents(path).size(), 0U) << c.answer.toStdString();
   }
-  fetch("ftp://127.0.0.1/x", [&] { driver_->ExpectMessage(error + "ftp://127.0.0.1/x "); });
+  fetch("ftp://127.0.0.1/x", [&] { driver_->ExpectMessage(error + "ftp://127.0.0.1/x"); });
 
   const Server good(head + "SATCODX1 uno\r\nSATCODX1 due\r\nsenza fine");
   fetch(good.Address(),
