@@ -53,7 +53,8 @@ TransponderRecord SdxImport::RecordOf(const SdxRow& row) const {
 int SdxImport::TransponderOf(const SdxRow& row, int position) {
   const TransponderRecord record = RecordOf(row);
   // One at the oscillator's own frequency would look like a free slot.
-  const TransponderSlot found = IsFree(record) ? TransponderSlot{} : FindOrAddTransponder(state_, record);
+  const TransponderSlot found =
+      IsFree(record) ? TransponderSlot{} : FindOrAddTransponder(state_, record, Megahertz(row));
   if (found.added) {
     if (RateAt(row) == std::string::npos) ++unknownRates_;
     NameBouquet(state_.TransponderTable[static_cast<std::size_t>(found.slot)], bouquets_);

@@ -69,18 +69,22 @@ struct TransponderSlot {
 
 // The slot 1..TransponderCount whose transponder is the same as `record`, else the first free one, which then takes
 // it.
-inline TransponderSlot FindOrAddTransponder(State& state, const TransponderRecord& record) {
+inline TransponderSlot FindOrAddTransponder(State& state, const TransponderRecord& record, int megahertz) {
   int free = 0;
   for (int slot = 1; slot <= state.TransponderCount; ++slot) {
     const TransponderRecord& known = state.TransponderTable[static_cast<std::size_t>(slot)].record;
     if (IsFree(known)) {
       if (free == 0) free = slot;
-    } else if (SameTransponder(known, record)) {
+    } else if (SameTransponder(known, record, megahertz)) {
       return {slot, false};
     }
   }
   if (free != 0) state.TransponderTable[static_cast<std::size_t>(free)].record = record;
   return {free, free != 0};
+}
+
+inline TransponderSlot FindOrAddTransponder(State& state, const TransponderRecord& record) {
+  return FindOrAddTransponder(state, record, FrequencyMHz(record));
 }
 
 }  // namespace Routines

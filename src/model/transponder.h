@@ -56,10 +56,15 @@ constexpr int FrequencyMHz(const TransponderRecord& transponder) {
 // Both bounds are strict: a transponder 3 MHz away is another one.
 constexpr bool WithinThreeMHz(double one, double other) { return one - 3 < other && other < one + 3; }
 
-constexpr bool SameTransponder(const TransponderRecord& one, const TransponderRecord& other) {
-  return WithinThreeMHz(FrequencyMHz(one), FrequencyMHz(other)) &&
+// `megahertz` is the other one's frequency, which a list may give more exactly than its record does.
+constexpr bool SameTransponder(const TransponderRecord& one, const TransponderRecord& other, int megahertz) {
+  return WithinThreeMHz(FrequencyMHz(one), megahertz) &&
          Get(one, TransponderField::Horizontal) == Get(other, TransponderField::Horizontal) &&
          Get(one, TransponderField::Satellite) == Get(other, TransponderField::Satellite);
+}
+
+constexpr bool SameTransponder(const TransponderRecord& one, const TransponderRecord& other) {
+  return SameTransponder(one, other, FrequencyMHz(other));
 }
 
 // "SAT A" for satellite 0; the character behind "Z" and up for those above 25.
