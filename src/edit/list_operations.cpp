@@ -1,6 +1,7 @@
 #include "edit/list_operations.h"
 
 #include "base/text.h"
+#include "edit/names.h"
 
 #include <numeric>
 
@@ -49,18 +50,6 @@ void ExchangeSort(std::vector<Sorted>& channels) {
 // An empty slot, or a channel whose name begins with five blanks.
 bool IsGap(const ChannelRecord& channel) {
   return channel.Empty() || Base::AsText(channel.bytes).starts_with("     ");
-}
-
-std::string UpperCase(std::string_view bytes) {
-  std::string upper(bytes);
-  for (char& c : upper) {
-    const auto byte = static_cast<unsigned char>(c);
-    const bool accented = byte >= 0xE0 && byte != 0xF7 && byte != 0xFF;
-    if ((byte >= 'a' && byte <= 'z') || accented) c = static_cast<char>(byte - 0x20);
-    if (byte == 0x9A || byte == 0x9C || byte == 0x9E) c = static_cast<char>(byte - 0x10);
-    if (byte == 0xFF) c = '\x9F';
-  }
-  return upper;
 }
 
 }  // namespace

@@ -1,6 +1,5 @@
 #include "edit/renumber.h"
 
-#include "base/code_page.h"
 #include "model/favourites.h"
 
 #include <numeric>
@@ -10,16 +9,7 @@ namespace {
 
 using Routines::FavouriteEntriesOf;
 using Routines::FavouriteLists;
-
-// Writes a list's entries over the old ones, with zeros where there were more of them.
-void WriteEntries(Base::Bytes& block, std::size_t list, const std::vector<int>& entries, std::size_t before) {
-  std::size_t at = list * Routines::FavouriteListSize;
-  for (std::size_t i = 0; i < std::max(entries.size(), before); ++i, at += 2) {
-    const int slot = i < entries.size() ? entries[i] : 0;
-    block[at] = static_cast<Base::Byte>(slot >> 8);
-    block[at + 1] = static_cast<Base::Byte>(slot & 255);
-  }
-}
+using Routines::SetFavouriteEntries;
 
 }  // namespace
 
@@ -43,22 +33,16 @@ std::vector<LostFavourite> RenumberFavourites(Base::Bytes& block, const SlotMap&
         after.push_back(moved);
       }
     }
-    if (after != before) WriteEntries(block, list, after, before.size());
+    if (after != before) SetFavouriteEntries(block, list, std::move(after));
   }
   return lost;
 }
 
 bool InsertFavourite(Base::Bytes& block, std::size_t list, std::size_t place, int slot) {
   std::vector<int> entries = FavouriteEntriesOf(block, list);
-  const std::size_t room = std::min(block.size() - std::min(block.size(), list * Routines::FavouriteListSize),
-                                    Routines::FavouriteListSize) /
-                           2;
-  if (entries.size() >= room) return false;
-  const std::size_t before = entries.size();
-  entries.insert(entries.begin() + static_cast<std::ptrdiff_t>(std::min(place, before)), slot);
-  // The entry behind the new end was the 0 that ended the list; what follows must begin with another one.
-  if (entries.size() < room) entries.push_back(0);
-  WriteEntries(block, list, entries, before);
+  if (entries.size() >= Routines::FavouriteRoom(block, list)) return false;
+  entries.insert(entries.begin() + static_cast<std::ptrdiff_t>(std::min(place, entries.size())), slot);
+  SetFavouriteEntries(block, list, std::move(entries));
   return true;
 }
 
@@ -70,8 +54,7 @@ std::string LostFavouritesText(const Base::Bytes& block, const std::vector<LostF
   for (std::size_t list = 0; list < FavouriteLists; ++list) {
     if (counts[list] == 0) continue;
     if (!lists.empty()) lists += ", ";
-    const std::string name = Base::ToUtf8(Routines::FavouriteNameOf(block, list));
-    lists += (name.empty() ? "lista " + std::to_string(list + 1) : name) + " " + std::to_string(counts[list]);
+    lists += Routines::FavouritesTitle(block, list) + " " + std::to_string(counts[list]);
   }
   return (lost.size() == 1 ? "tolto 1 preferito ("
                            : "tolti " + std::to_string(lost.size()) + " preferiti (") +

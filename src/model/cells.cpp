@@ -19,35 +19,33 @@ bool Doubtful(const State& state, const TransponderRecord& record) {
   return frequency < 10700 || frequency > 12750 || rate.find_first_of("0123456789") == std::string_view::npos;
 }
 
-constexpr int FrequencyColumn = 1;
-
 }  // namespace
 
 std::string ChannelCell(const State& state, int slot, int column) {
   using namespace ChannelField;
   const ChannelRecord& channel = state.ChannelTable[static_cast<std::size_t>(slot)];
-  if (column == 0) return Base::ZeroPadded(slot, 4);
+  if (column == ChannelColumn::Number) return Base::ZeroPadded(slot, 4);
   if (channel.Empty()) return {};
   switch (column) {
-    case 1:
+    case ChannelColumn::Name:
       return std::string(channel.Name());
-    case 2:
+    case ChannelColumn::Transponder:
       return Base::ZeroPadded(static_cast<int>(Get(channel, Transponder)), 3);
-    case 3:
+    case ChannelColumn::Sid:
       return Decimal(channel, Sid);
-    case 4:
+    case ChannelColumn::Vpid:
       return Decimal(channel, Vpid);
-    case 5:
+    case ChannelColumn::Apid:
       return Decimal(channel, Apid);
-    case 6:
+    case ChannelColumn::Aecm:
       return Decimal(channel, Aecm);
-    case 7:
+    case ChannelColumn::Vecm:
       return Decimal(channel, Vecm);
-    case 8:
+    case ChannelColumn::Pcr:
       return Decimal(channel, Pcr);
-    case 9:
+    case ChannelColumn::Flags:
       return Base::HexByte(static_cast<int>(Get(channel, Flags)));
-    case 10:
+    case ChannelColumn::Active:
       return Get(channel, Active) != 0 ? "S" : "N";
     default:
       return {};
@@ -68,27 +66,27 @@ std::string TransponderCell(const State& state, int slot, int column) {
   const TransponderRow& row = state.TransponderTable[static_cast<std::size_t>(slot)];
   const TransponderRecord& record = row.record;
   switch (column) {
-    case 0:
+    case TransponderColumn::Number:
       return Base::ZeroPadded(slot, 3);
-    case FrequencyColumn:
+    case TransponderColumn::Frequency:
       return record.bytes[0] == 0 ? "0" : std::to_string(FrequencyMHz(record));
-    case 2:
+    case TransponderColumn::Tid:
       return Decimal(record, Tid);
-    case 3:
+    case TransponderColumn::Nid:
       return Decimal(record, Nid);
-    case 4:
+    case TransponderColumn::Channels:
       return Decimal(record, ChannelCount);
-    case 5:
+    case TransponderColumn::SymbolRate:
       return std::string(SymbolRateText(state.SymbolRateTable, Get(record, SymbolRate)));
-    case 6:
+    case TransponderColumn::Fec:
       return std::string(FecText(record));
-    case 7:
+    case TransponderColumn::Polarisation:
       return Get(record, Horizontal) != 0 ? "H" : "V";
-    case 8:
+    case TransponderColumn::Tone:
       return Get(record, HighBand) != 0 ? "On" : "Off";
-    case 9:
+    case TransponderColumn::Satellite:
       return SatelliteLabel(record);
-    case 10:
+    case TransponderColumn::Bouquet:
       return std::string(row.BouquetName());
     default:
       return {};
@@ -97,7 +95,7 @@ std::string TransponderCell(const State& state, int slot, int column) {
 
 Colour TransponderColour(const State& state, int slot, int column) {
   const TransponderRecord& record = state.TransponderTable[static_cast<std::size_t>(slot)].record;
-  if (column == FrequencyColumn && record.bytes[0] == 0) return Colours::NoFrequency;
+  if (column == TransponderColumn::Frequency && record.bytes[0] == 0) return Colours::NoFrequency;
   if (!IsFree(record) && Doubtful(state, record)) return Colours::DoubtfulTransponder;
   return Colours::Transponder;
 }

@@ -33,6 +33,14 @@ inline constexpr std::string_view TransponderHeader =
     "^Num.  |^Frequenza     |^TID      |^NID      |^Canali  |^SR        |^FEC     |^Polarizzazione|^22KHz   "
     "|^Satellite  |  Bouquet                 ";
 
+// Columns of the two headers.
+namespace ChannelColumn {
+enum : int { Number, Name, Transponder, Sid, Vpid, Apid, Aecm, Vecm, Pcr, Flags, Active };
+}
+namespace TransponderColumn {
+enum : int { Number, Frequency, Tid, Nid, Channels, SymbolRate, Fec, Polarisation, Tone, Satellite, Bouquet };
+}
+
 // Texts are bytes of the code page. `slot` is a slot of the table, `column` one of its header's.
 std::string ChannelCell(const State& state, int slot, int column);
 Colour ChannelColour(const State& state, int slot);

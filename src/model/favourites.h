@@ -7,6 +7,7 @@
 #include "base/bytes.h"
 
 #include <string>
+#include <string_view>
 #include <vector>
 
 namespace Routines {
@@ -17,13 +18,26 @@ inline constexpr std::size_t FavouriteListSize = 2 * FavouriteEntries;
 inline constexpr std::size_t FavouriteListsSize = FavouriteLists * FavouriteListSize;
 inline constexpr std::size_t FavouriteNameSize = 8;
 
+// How many entries the block has room for in list 0..7: 128, or fewer where it is too short.
+std::size_t FavouriteRoom(Base::ByteView block, std::size_t list);
+
 // Channel numbers of list 0..7. A block too short for a list has none there.
 std::vector<int> FavouriteEntriesOf(Base::ByteView block, std::size_t list);
+
+// Writes a list's entries over the old ones, with zeros where there were more of them; what lies behind both stays as
+// it is. Entries past the room are left out.
+void SetFavouriteEntries(Base::Bytes& block, std::size_t list, std::vector<int> entries);
 
 // Offset of a list's name from the block's start, or the block's size where the block is too short for it.
 std::size_t FavouriteNameOffset(std::size_t blockSize, std::size_t list);
 
 // Bytes of the code page up to the first zero byte; empty where the block is too short for it.
 std::string FavouriteNameOf(Base::ByteView block, std::size_t list);
+
+// The name to show, or "lista 3" where there is none; UTF-8.
+std::string FavouritesTitle(Base::ByteView block, std::size_t list);
+
+// `name` is at most eight bytes of the code page. False where the block is too short for it.
+bool SetFavouriteName(Base::Bytes& block, std::size_t list, std::string_view name);
 
 }  // namespace Routines

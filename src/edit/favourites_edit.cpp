@@ -1,0 +1,131 @@
+#include "edit/favourites_edit.h"
+
+#include "edit/names.h"
+
+#include <algorithm>
+
+namespace Edit {
+namespace {
+
+using namespace Routines;
+
+bool IsChannel(const State& state, int slot) {
+  return slot >= 1 && slot <= state.ChannelCount &&
+         !state.ChannelTable[static_cast<std::size_t>(slot)].Empty();
+}
+
+// A list that came without favourites gets an empty block of the usual size.
+Base::Bytes& BlockOf(State& state) {
+  if (state.FavouritesBlock.empty()) state.FavouritesBlock.assign(NormalFavouritesSize, 0);
+  return state.FavouritesBlock;
+}
+
+std::ptrdiff_t Signed(std::size_t place) { return static_cast<std::ptrdiff_t>(place); }
+
+// Takes the entries at `places` out of `entries` and returns them in their order.
+std::vector<int> TakeOut(std::vector<int>& entries, const std::vector<std::size_t>& places) {
+  std::vector<int> taken;
+  std::vector<int> left;
+  for (std::size_t place = 0; place < entries.size(); ++place) {
+    const bool wanted = std::find(places.begin(), places.end(), place) != places.end();
+    (wanted ? taken : left).push_back(entries[place]);
+  }
+  entries = std::move(left);
+  return taken;
+}
+
+}  // namespace
+
+AddReport AddFavourites(State& state, std::size_t list, std::size_t place, const std::vector<int>& slots) {
+  AddReport report;
+  Base::Bytes block = BlockOf(state);
+  std::vector<int> entries = FavouriteEntriesOf(block, list);
+  place = std::min(place, entries.size());
+  for (const int slot : slots) {
+    if (!IsChannel(state, slot)) {
+      ++report.empty;
+    } else if (std::find(entries.begin(), entries.end(), slot) != entries.end()) {
+      ++report.known;
+    } else if (entries.size() >= FavouriteRoom(block, list)) {
+      ++report.full;
+    } else {
+      entries.insert(entries.begin() + Signed(place++), slot);
+      ++report.added;
+    }
+  }
+  if (report.added > 0) {
+    SetFavouriteEntries(block, list, std::move(entries));
+    state.FavouritesBlock = std::move(block);
+  }
+  return report;
+}
+
+void RemoveFavourites(State& state, std::size_t list, const std::vector<std::size_t>& places) {
+  std::vector<int> entries = FavouriteEntriesOf(state.FavouritesBlock, list);
+  if (!TakeOut(entries, places).empty()) SetFavouriteEntries(state.FavouritesBlock, list, std::move(entries));
+}
+
+MoveReport MoveFavourites(State& state, std::size_t list, const std::vector<std::size_t>& places,
+                          std::size_t target, std::size_t before) {
+  MoveReport report;
+  std::vector<int> source = FavouriteEntriesOf(state.FavouritesBlock, list);
+  if (list == target) {
+    const auto ahead = std::count_if(places.begin(), places.end(), [before](auto p) { return p < before; });
+    const std::vector<int> moved = TakeOut(source, places);
+    report.first = std::min(before - std::min(before, static_cast<std::size_t>(ahead)), source.size());
+    source.insert(source.begin() + Signed(report.first), moved.begin(), moved.end());
+    report.entries.added = static_cast<int>(moved.size());
+    SetFavouriteEntries(state.FavouritesBlock, list, std::move(source));
+    return report;
+  }
+
+  std::vector<int> entries = FavouriteEntriesOf(state.FavouritesBlock, target);
+  std::vector<std::size_t> gone;
+  report.first = before = std::min(before, entries.size());
+  for (const std::size_t place : places) {
+    if (place >= source.size()) continue;
+    if (std::find(entries.begin(), entries.end(), source[place]) != entries.end()) {
+      ++report.entries.known;
+    } else if (entries.size() >= FavouriteRoom(state.FavouritesBlock, target)) {
+      ++report.entries.full;
+      continue;
+    } else {
+      entries.insert(entries.begin() + Signed(before++), source[place]);
+      ++report.entries.added;
+    }
+    gone.push_back(place);
+  }
+  SetFavouriteEntries(state.FavouritesBlock, target, std::move(entries));
+  RemoveFavourites(state, list, gone);
+  return report;
+}
+
+void SortFavourites(State& state, std::size_t list, FavouriteOrder order) {
+  std::vector<int> entries = FavouriteEntriesOf(state.FavouritesBlock, list);
+  const auto name = [&state](int slot) {
+    return UpperCase(state.ChannelTable[static_cast<std::size_t>(slot)].Name());
+  };
+  const auto channels = std::stable_partition(entries.begin(), entries.end(),
+                                              [&state](int slot) { return IsChannel(state, slot); });
+  if (order == FavouriteOrder::ByNumber) {
+    std::stable_sort(entries.begin(), channels);
+  } else {
+    std::stable_sort(entries.begin(), channels,
+                     [&name](int one, int other) { return name(one) < name(other); });
+  }
+  std::stable_sort(channels, entries.end());
+  SetFavouriteEntries(state.FavouritesBlock, list, std::move(entries));
+}
+
+Base::Outcome RenameFavourites(State& state, std::size_t list, std::string_view name) {
+  const auto bytes = NameBytes(name, FavouriteNameSize);
+  if (!bytes) return bytes.error();
+  Base::Bytes block = BlockOf(state);
+  if (FavouriteNameOf(block, list) == *bytes) return Base::Done{};
+  if (!SetFavouriteName(block, list, *bytes))
+    return Base::Error{"L'area dei preferiti di questa lista non ha posto per i nomi"};
+  state.FavouritesBlock = std::move(block);
+  return Base::Done{};
+}
+
+}  // namespace Edit
