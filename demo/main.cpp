@@ -11,6 +11,7 @@
 #include <QFile>
 #include <QLineEdit>
 #include <QListWidget>
+#include <QMenu>
 #include <QPushButton>
 #include <QScreen>
 #include <QTest>
@@ -43,6 +44,8 @@ class Session {
     OpenFlash();
     LookAtTransponders();
     MoveRows();
+    EditCells();
+    ArrangeFavourites();
     TakeFromSdx();
     Convert();
     SaveCopy();
@@ -114,6 +117,42 @@ class Session {
     window_->findChild<QLineEdit*>("Filtro")->clear();
     const bool undone = driver_->Choose("Annulla") && driver_->Cell(9, 1) == "Città Più +1";
     Step("undo", undone, driver_->TextOf("UltimoRisultato"));
+  }
+
+  // The editor that is open in the grid.
+  QWidget* CellEditor() { return driver_->Grid().findChild<QWidget*>("ModificaCella"); }
+
+  void EditCells() {
+    Ui::Griglia& grid = driver_->Grid();
+    driver_->SelectRows(2, 2);
+    driver_->Key(Qt::Key_F2);
+    QTest::keyClicks(CellEditor(), "Canale Mio");
+    Picture("editing-a-name");
+    QTest::keyClick(CellEditor(), Qt::Key_Return);
+    const bool renamed = driver_->Cell(2, 1) == "Canale Mio";
+    grid.setCurrentIndex(grid.model()->index(1, 2));
+    driver_->Key(Qt::Key_F2);
+    Picture("choosing-a-transponder");
+    QTest::keyClick(CellEditor(), Qt::Key_Escape);
+    Step("edit cells", renamed, driver_->TextOf("UltimoRisultato"));
+
+    driver_->SelectRows(2, 5);
+    driver_->OpenMenu();
+    auto* menu = window_->findChild<QMenu*>("MenuCanali");
+    Step("channel menu", menu->isVisible(), QString("%1 items").arg(menu->actions().size()));
+    menu->close();
+  }
+
+  void ArrangeFavourites() {
+    driver_->SelectRows(2, 5);
+    driver_->Key(Qt::Key_3, Qt::ControlModifier);
+    const QString added = driver_->TextOf("UltimoRisultato");
+    driver_->Choose("VisualizzaPreferiti");
+    auto* lists = window_->findChild<QDialog*>("ListePreferiti");
+    Step("favourites", lists != nullptr && lists->isVisible(), added);
+    if (lists != nullptr) lists->close();
+    driver_->Choose("Annulla");
+    driver_->Choose("Annulla");
   }
 
   void TakeFromSdx() {

@@ -4,6 +4,7 @@
 
 #include <QAbstractButton>
 #include <QApplication>
+#include <QContextMenuEvent>
 #include <QFileDialog>
 #include <QInputDialog>
 #include <QLabel>
@@ -171,6 +172,12 @@ void WindowDriver::Key(Qt::Key key, Qt::KeyboardModifiers modifiers) {
   if (!QTest::qWaitForWindowActive(&window_)) failures_ += "the window does not get active";
   QWidget* focus = QApplication::focusWidget();
   QTest::keyClick(focus == nullptr ? &window_ : focus, key, modifiers);
+}
+
+void WindowDriver::OpenMenu() {
+  const QPoint place = Grid().rect().center();
+  QContextMenuEvent event(QContextMenuEvent::Keyboard, place, Grid().mapToGlobal(place));
+  QApplication::sendEvent(&Grid(), &event);
 }
 
 void WindowDriver::SelectRows(int from, int to) {

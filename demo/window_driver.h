@@ -50,6 +50,8 @@ class WindowDriver : public QObject {
 
   // Types a key where the focus of the active window is.
   void Key(Qt::Key key, Qt::KeyboardModifiers modifiers = {});
+  // Opens the popup menu of the grid's current row, as the menu key does.
+  void OpenMenu();
   // Selects rows as a user does, with the mouse from one to the other.
   void SelectRows(int from, int to);
   [[nodiscard]] Ui::Griglia& Grid() const;

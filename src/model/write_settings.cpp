@@ -19,7 +19,7 @@ WritePlan PlanWrite(const State& state, const Settings& settings) {
       state.MaxChannels > 0 ? inForce + settings.Capacity() : std::max(inForce, settings.Capacity());
 
   WritePlan plan;
-  plan.type = static_cast<FlashType>(index + 1);
+  plan.type = settings.Type();
   plan.maxChannels = std::min(wanted, target.channels);
   if (plan.type != FlashType::Two && inForce > target.channels) {
     const std::string limit = std::to_string(target.channels);

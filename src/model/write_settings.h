@@ -29,6 +29,8 @@ inline constexpr std::array<CapacityOption, 3> FlashScrittura = {
 // Group `SRDef`, in the order of Sr22000.
 inline constexpr std::array<std::string_view, 2> SRDef = {"SR 22000 come 2 (Standard T+)", "SR 22000 come 0"};
 
+enum class FlashType { One = 1, Two = 2, Three = 3 };
+
 // The index chosen in each group.
 struct Settings {
   std::optional<std::size_t> quantiCanali;
@@ -36,10 +38,9 @@ struct Settings {
   std::optional<std::size_t> srDef;
 
   [[nodiscard]] int Capacity() const { return QuantiCanali[*quantiCanali].channels; }
+  [[nodiscard]] FlashType Type() const { return static_cast<FlashType>(*flashScrittura + 1); }
   [[nodiscard]] Sr22000 Place() const { return *srDef == 0 ? Sr22000::Come2 : Sr22000::Come0; }
 };
-
-enum class FlashType { One = 1, Two = 2, Three = 3 };
 
 inline constexpr std::string_view NoCapacityChosen =
     "Si deve selezionare il numero di canali da visualizzare";

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <QString>
+#include <QStringList>
 
 #include <optional>
 #include <string>
@@ -39,6 +40,8 @@ class Dialogs {
   virtual bool OkCancel(const QString& question) = 0;
   // The line typed, nothing when the user cancels.
   virtual std::optional<QString> AskLine(const QString& question) = 0;
+  // The place of the text chosen among `choices`, which must not be empty; `current` is offered first.
+  virtual std::optional<int> Choose(const QString& question, const QStringList& choices, int current) = 0;
   // The chosen path, empty when the user cancels. A file to save may exist already.
   virtual QString OpenFile(const FileQuestion& question) = 0;
   virtual QString SaveFile(const FileQuestion& question) = 0;

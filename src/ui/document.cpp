@@ -12,6 +12,11 @@ constexpr std::size_t MostSavedLists = 20;
 
 Document::Document(QObject* parent) : QObject(parent), state_(std::make_unique<State>()) {}
 
+void Document::Tell() {
+  ++revision_;
+  Q_EMIT Changed();
+}
+
 bool Document::Unsaved() const {
   if (!state_->Loaded) return false;
   const auto found = saved_.find(state_->ListNumber);
@@ -25,22 +30,22 @@ bool Document::Unsaved() const {
 }
 
 void Document::Undo() {
-  if (history_.Undo(*state_)) Q_EMIT Changed();
+  if (history_.Undo(*state_)) Tell();
 }
 
 void Document::Redo() {
-  if (history_.Redo(*state_)) Q_EMIT Changed();
+  if (history_.Redo(*state_)) Tell();
 }
 
 void Document::MarkSaved() {
   saved_[state_->ListNumber] = std::make_unique<State>(*state_);
   if (saved_.size() > MostSavedLists) saved_.erase(saved_.begin());
-  Q_EMIT Changed();
+  Tell();
 }
 
 void Document::MarkUnsaved() {
   saved_.erase(state_->ListNumber);
-  Q_EMIT Changed();
+  Tell();
 }
 
 }  // namespace Ui

@@ -29,7 +29,7 @@ class Document : public QObject {
     auto result = operation(*state_);
     if (*before != *state_) {
       history_.Push(label, kind, std::move(before));
-      Q_EMIT Changed();
+      Tell();
     }
     return result;
   }
@@ -38,12 +38,15 @@ class Document : public QObject {
   template <class Operation>
   void Adjust(Operation operation) {
     operation(*state_);
-    Q_EMIT Changed();
+    Tell();
   }
 
   [[nodiscard]] const Edit::History& Steps() const { return history_; }
   void Undo();
   void Redo();
+
+  // Another one after every change.
+  [[nodiscard]] int Revision() const { return revision_; }
 
   // A number for a list that takes the place of the loaded one; never the same twice.
   int NextListNumber() { return ++lastListNumber_; }
@@ -59,10 +62,13 @@ class Document : public QObject {
   void Changed();
 
  private:
+  void Tell();
+
   std::unique_ptr<Routines::State> state_;
   std::map<int, std::unique_ptr<Routines::State>> saved_;  // of each list, by number, what the disk has
   Edit::History history_;
   int lastListNumber_ = 0;
+  int revision_ = 0;
 };
 
 }  // namespace Ui

@@ -14,10 +14,6 @@ namespace {
 
 std::string CountText(int count) { return count == 1 ? "1 canale" : std::to_string(count) + " canali"; }
 
-QString WithLosses(const QString& text, const State& state, const std::vector<Edit::LostFavourite>& lost) {
-  return lost.empty() ? text : text + ", " + Text(Edit::LostFavouritesText(state.FavouritesBlock, lost));
-}
-
 }  // namespace
 
 bool EditCommands::NeedsChannelList() {
@@ -60,7 +56,7 @@ void EditCommands::Cut() {
   const auto lost = session_.document.Apply(
       label, [&](State& state) { return Edit::CutChannels(state, *slots, session_.clipboard); });
   session_.ShowList();
-  session_.status.ShowResult(WithLosses(Text(label), session_.document.Tables(), lost));
+  session_.status.ShowResult(Text(label) + session_.Losses(lost));
 }
 
 void EditCommands::Delete() {
@@ -69,7 +65,7 @@ void EditCommands::Delete() {
   const std::string label = "Elimina " + CountText(slots->Count());
   const auto lost =
       session_.document.Apply(label, [&](State& state) { return Edit::DeleteChannels(state, *slots); });
-  session_.status.ShowResult(WithLosses(Text(label), session_.document.Tables(), lost));
+  session_.status.ShowResult(Text(label) + session_.Losses(lost));
 }
 
 void EditCommands::Paste() {
@@ -113,7 +109,7 @@ void EditCommands::TellPasted(int count, int position, const Edit::PasteReport& 
   QString text = "Incolla " + Text(CountText(count)) + QString(" dal %1").arg(position);
   if (report.favouritesBack > 0) text += QString(", preferiti rimessi: %1").arg(report.favouritesBack);
   if (report.favouritesFull > 0) text += QString(", senza posto nelle liste: %1").arg(report.favouritesFull);
-  text = WithLosses(text, session_.document.Tables(), report.lost);
+  text += session_.Losses(report.lost);
   if (report.withoutTransponder > 0)
     text += QString(", senza transponder: %1").arg(report.withoutTransponder);
   session_.status.ShowResult(text);

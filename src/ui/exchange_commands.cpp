@@ -131,6 +131,7 @@ void ExchangeCommands::Import(const char* label, const std::string& path, const 
       },
       Edit::History::Kind::List);
   if (report.listRead) session_.view.ShowFromStart(View::Channels);
+  if (report.listRead && report.error.empty() && onImported) onImported();
   TellImported(path, report);
 }
 

@@ -10,6 +10,9 @@ class ExchangeCommands {
  public:
   explicit ExchangeCommands(Session& session) : session_(session) {}
 
+  // Tells the window that a whole list has been imported.
+  std::function<void()> onImported;
+
   void FormatoTesto();
   void FormatoFLASH();
   void DaEsportatoTesto();

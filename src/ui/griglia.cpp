@@ -1,5 +1,6 @@
 #include "ui/griglia.h"
 
+#include <QContextMenuEvent>
 #include <QDrag>
 #include <QEvent>
 #include <QHeaderView>
@@ -118,6 +119,15 @@ void Griglia::Select(Edit::Slots rows) {
 }
 
 void Griglia::ScrollToTop(int slot) { verticalScrollBar()->setValue(slot - 1); }
+
+// By the mouse on the row that it has just selected, by the keyboard beside the current one.
+void Griglia::contextMenuEvent(QContextMenuEvent* event) {
+  const bool keyboard = event->reason() == QContextMenuEvent::Keyboard;
+  const QModelIndex index = keyboard ? currentIndex() : indexAt(event->pos());
+  if (!index.isValid()) return;
+  if (!selectionModel()->isRowSelected(index.row())) Select({index.row() + 1, index.row() + 1});
+  Q_EMIT MenuWanted(keyboard ? viewport()->mapToGlobal(visualRect(index).center()) : event->globalPos());
+}
 
 // A drag that begins on a selected row carries the selection, any other selects.
 void Griglia::mousePressEvent(QMouseEvent* event) {

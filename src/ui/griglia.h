@@ -32,8 +32,11 @@ class Griglia : public QTableView {
 
  Q_SIGNALS:
   void SelectionMoved();
+  // The user wants the menu of the selected rows, at a place of the screen.
+  void MenuWanted(QPoint place);
 
  protected:
+  void contextMenuEvent(QContextMenuEvent* event) override;
   void mousePressEvent(QMouseEvent* event) override;
   void startDrag(Qt::DropActions actions) override;
   void dragEnterEvent(QDragEnterEvent* event) override;

@@ -39,9 +39,8 @@ void ListCommands::OrdinaPerBouquet() {
       "Ordina Canali per Bouquet", [&](State& state) { return Edit::OrdinaPerBouquet(state, *start); });
   QApplication::restoreOverrideCursor();
   session_.view.Show(View::Channels);
-  const std::string losses = Edit::LostFavouritesText(session_.document.Tables().FavouritesBlock, lost);
   session_.status.ShowResult(QString("Canali ordinati per bouquet dal %1").arg(*start) +
-                             Text(losses.empty() ? "" : ", " + losses));
+                             session_.Losses(lost));
 }
 
 void ListCommands::Azzera() {

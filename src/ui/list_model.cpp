@@ -50,9 +50,9 @@ void ListModel::ClearMarks() {
 }
 
 Qt::ItemFlags ListModel::flags(const QModelIndex& index) const {
-  if (!kind_.movable) return QAbstractTableModel::flags(index);
-  if (!index.isValid()) return Qt::ItemIsDropEnabled;
-  return QAbstractTableModel::flags(index) | Qt::ItemIsDragEnabled;
+  if (!index.isValid()) return kind_.movable ? Qt::ItemIsDropEnabled : Qt::NoItemFlags;
+  const Qt::ItemFlags usual = QAbstractTableModel::flags(index) | Qt::ItemIsEditable;
+  return kind_.movable ? usual | Qt::ItemIsDragEnabled : usual;
 }
 
 Qt::DropActions ListModel::supportedDropActions() const { return Qt::MoveAction | Qt::CopyAction; }

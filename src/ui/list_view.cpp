@@ -107,6 +107,12 @@ void ListView::RestoreTicks() {
   showTransponders_.setChecked(current_ == View::Transponders);
 }
 
+void ListView::EditWith(CellEdits& edits) {
+  grid_->setItemDelegate(new CellDelegate(edits, grid_));
+  grid_->setEditTriggers(QAbstractItemView::DoubleClicked | QAbstractItemView::EditKeyPressed |
+                         QAbstractItemView::AnyKeyPressed);
+}
+
 void ListView::ShowFound(int slot) {
   channels_.SetMark(slot, ListModel::Mark::Found);
   GoTo(slot);

@@ -2,6 +2,7 @@
 // that switch it. Beside the channel list stand its filter field and its map.
 #pragma once
 
+#include "ui/cell_delegate.h"
 #include "ui/filter_bar.h"
 #include "ui/griglia.h"
 #include "ui/list_map.h"
@@ -36,6 +37,9 @@ class ListView : public QWidget {
   void Toggle(View view);
   // Sets the ticks to what is shown, for a command that was refused.
   void RestoreTicks();
+
+  // Lets the user edit the cells of both lists.
+  void EditWith(CellEdits& edits);
 
   // Makes a channel current and the first visible one, with nothing selected.
   void GoTo(int slot);

@@ -1,5 +1,6 @@
 #include "ui/main_window.h"
 
+#include "ui/channel_menu.h"
 #include "ui/commands.h"
 #include "ui/error_pane.h"
 #include "ui/qt_dialogs.h"
@@ -56,6 +57,8 @@ CopiaTCSTPT::CopiaTCSTPT(const std::string& programFolder, std::unique_ptr<Dialo
   files_ = std::make_unique<FileCommands>(*session_);
   exchange_ = std::make_unique<ExchangeCommands>(*session_);
   edit_ = std::make_unique<EditCommands>(*session_);
+  cells_ = std::make_unique<CellCommands>(*session_);
+  favourites_ = std::make_unique<FavouritesCommands>(*session_, *this);
   lists_ = std::make_unique<ListCommands>(*session_);
 
   auto* column = new QVBoxLayout(contents);
@@ -80,6 +83,7 @@ CopiaTCSTPT::CopiaTCSTPT(const std::string& programFolder, std::unique_ptr<Dialo
   ConnectExchangeCommands();
   ConnectListCommands();
   ConnectEditCommands();
+  ConnectCellCommands();
   ConnectSdxCommands();
   ConnectToolbar();
   connect(document_, &Document::Changed, this, &CopiaTCSTPT::ShowList);
@@ -155,6 +159,20 @@ void CopiaTCSTPT::ConnectEditCommands() {
   }
   connect(&session_->view, &ListView::Dropped, this,
           [this](int first, int last, int before, bool copy) { edit_->Drop(first, last, before, copy); });
+}
+
+void CopiaTCSTPT::ConnectCellCommands() {
+  session_->view.EditWith(*cells_);
+  auto* menu = new ChannelMenu(*session_, *cells_, *favourites_, *this);
+  connect(&session_->view.Grid(), &Griglia::MenuWanted, menu, &ChannelMenu::Show);
+  connect(&CommandAction(*this, "VisualizzaPreferiti"), &QAction::triggered, this,
+          [this] { favourites_->Show(); });
+  // The receivers of the first type keep no favourites that could be written.
+  connect(&session_->settings, &SettingsPanel::Clicked, this, [this] {
+    const Routines::Settings chosen = session_->settings.Chosen();
+    if (Routines::CheckSettings(chosen)) favourites_->Enable(chosen.Type() != Routines::FlashType::One);
+  });
+  exchange_->onImported = [this] { favourites_->Enable(true); };
 }
 
 void CopiaTCSTPT::ConnectSdxCommands() {
@@ -279,6 +297,7 @@ void CopiaTCSTPT::dropEvent(QDropEvent* event) {
 
 void CopiaTCSTPT::closeEvent(QCloseEvent* event) {
   QSettings(SettingsFile(), QSettings::IniFormat).setValue("Finestra/Geometria", saveGeometry());
+  favourites_->CloseWindow();
   event->accept();
 }
 

@@ -1,10 +1,12 @@
 // The main window. It builds and wires what it is made of; each command lives with its kind.
 #pragma once
 
+#include "ui/cell_commands.h"
 #include "ui/dialogs.h"
 #include "ui/download_commands.h"
 #include "ui/edit_commands.h"
 #include "ui/exchange_commands.h"
+#include "ui/favourites_commands.h"
 #include "ui/file_commands.h"
 #include "ui/list_commands.h"
 #include "ui/sdx_commands.h"
@@ -39,6 +41,7 @@ class CopiaTCSTPT : public QMainWindow {
   void ConnectExchangeCommands();
   void ConnectListCommands();
   void ConnectEditCommands();
+  void ConnectCellCommands();
   void ConnectSdxCommands();
   void ConnectToolbar();
   void OpenFlash();
@@ -57,6 +60,8 @@ class CopiaTCSTPT : public QMainWindow {
   std::unique_ptr<FileCommands> files_;
   std::unique_ptr<ExchangeCommands> exchange_;
   std::unique_ptr<EditCommands> edit_;
+  std::unique_ptr<CellCommands> cells_;
+  std::unique_ptr<FavouritesCommands> favourites_;
   std::unique_ptr<ListCommands> lists_;
   std::unique_ptr<SdxCommands> sdx_;
   std::unique_ptr<DownloadCommands> download_;

@@ -41,6 +41,16 @@ QMessageBox::StandardButton Show(QWidget* parent, QMessageBox::Icon icon, const 
   return static_cast<QMessageBox::StandardButton>(box.exec());
 }
 
+void SetUp(QInputDialog& dialog, const QString& question) {
+  dialog.setWindowTitle("Trovalis");
+  dialog.setLabelText(question);
+  if (auto* label = dialog.findChild<QLabel*>()) {
+    label->setTextFormat(Qt::PlainText);
+    label->setWordWrap(true);
+  }
+  dialog.resize(420, dialog.sizeHint().height());
+}
+
 }  // namespace
 
 QString CodePageText(std::string_view bytes) { return Text(Base::ToUtf8(bytes)); }
@@ -78,15 +88,18 @@ bool QtDialogs::OkCancel(const QString& question) {
 
 std::optional<QString> QtDialogs::AskLine(const QString& question) {
   QInputDialog dialog(parent_);
-  dialog.setWindowTitle("Trovalis");
-  dialog.setLabelText(question);
-  if (auto* label = dialog.findChild<QLabel*>()) {
-    label->setTextFormat(Qt::PlainText);
-    label->setWordWrap(true);
-  }
-  dialog.resize(420, dialog.sizeHint().height());
+  SetUp(dialog, question);
   if (dialog.exec() != QDialog::Accepted) return std::nullopt;
   return dialog.textValue();
+}
+
+std::optional<int> QtDialogs::Choose(const QString& question, const QStringList& choices, int current) {
+  QInputDialog dialog(parent_);
+  dialog.setComboBoxItems(choices);
+  dialog.setTextValue(choices[current]);
+  SetUp(dialog, question);
+  if (dialog.exec() != QDialog::Accepted) return std::nullopt;
+  return static_cast<int>(choices.indexOf(dialog.textValue()));
 }
 
 QString QtDialogs::OpenFile(const FileQuestion& question) { return AskFile(question, false); }

@@ -18,6 +18,7 @@ class QtDialogs : public Dialogs {
   Answer YesNoCancel(const QString& question) override;
   bool OkCancel(const QString& question) override;
   std::optional<QString> AskLine(const QString& question) override;
+  std::optional<int> Choose(const QString& question, const QStringList& choices, int current) override;
   QString OpenFile(const FileQuestion& question) override;
   QString SaveFile(const FileQuestion& question) override;
 

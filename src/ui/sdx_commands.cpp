@@ -186,8 +186,8 @@ void SdxCommands::Put(const Rows& rows, int position, bool shift) {
       count == 1 ? "Inserisci 1 canale SDX" : "Inserisci " + std::to_string(count) + " canali SDX";
   QString result = Text(label) + QString(" dal %1").arg(position);
   std::string message;
+  std::vector<Edit::LostFavourite> lost;
   session_.document.Apply(label, [&](State& state) {
-    std::vector<Edit::LostFavourite> lost;
     if (shift) lost = Edit::ShiftDown(state, position, count);
     Formats::SdxImport import(state, session_.bouquets.tables);
     for (int i = 0; i < count; ++i) {
@@ -196,9 +196,9 @@ void SdxCommands::Put(const Rows& rows, int position, bool shift) {
     message = import.Message();
     if (import.UnknownRates() > 0)
       result += QString(", %1 con SR che SR.INI non ha").arg(import.UnknownRates());
-    if (!lost.empty()) result += ", " + Text(Edit::LostFavouritesText(state.FavouritesBlock, lost));
     return Base::Done{};
   });
+  result += session_.Losses(lost);
   if (session_.view.Current() == View::Channels)
     session_.view.Grid().Select({position, position + count - 1});
   session_.status.ShowResult(result);

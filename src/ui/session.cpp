@@ -2,6 +2,11 @@
 
 namespace Ui {
 
+QString Session::Losses(const std::vector<Edit::LostFavourite>& lost) const {
+  const std::string text = Edit::LostFavouritesText(document.Tables().FavouritesBlock, lost);
+  return text.empty() ? QString() : ", " + Text(text);
+}
+
 bool Session::NeedsFlash() {
   if (document.Tables().Loaded) return true;
   dialogs.Message("Si deve caricare prima una FLASH di input", {});

@@ -36,6 +36,9 @@ struct Session {
 
   void Message(const Base::Error& error) { dialogs.Message(Text(error.message), Text(error.title)); }
 
+  // ", tolti 3 preferiti (Cinema 2, Sport 1)" to stand behind a result; empty where nothing was lost.
+  [[nodiscard]] QString Losses(const std::vector<Edit::LostFavourite>& lost) const;
+
   // Whether a list is loaded; says so where none is.
   bool NeedsFlash();
 

@@ -53,6 +53,7 @@ QButtonGroup* SettingsPanel::AddGroup(const char* name, const QString& title,
     column->addWidget(button);
     group->addButton(button, static_cast<int>(i));
   }
+  connect(group, &QButtonGroup::idClicked, this, &SettingsPanel::Clicked);
   column->addStretch();
   static_cast<QHBoxLayout*>(layout())->addWidget(box, 1);
   return group;

@@ -18,6 +18,10 @@ class SettingsPanel : public QWidget {
 
   [[nodiscard]] Routines::Settings Chosen() const;
 
+ Q_SIGNALS:
+  // The user has chosen an option of any group.
+  void Clicked();
+
  private:
   QButtonGroup* AddGroup(const char* name, const QString& title,
                          const std::vector<std::string_view>& captions);

@@ -1,0 +1,152 @@
+#include "ui/favourites_list.h"
+
+#include "model/favourites.h"
+#include "ui/name_edit.h"
+
+#include <QKeyEvent>
+#include <QLabel>
+#include <QListView>
+#include <QVBoxLayout>
+
+namespace Ui {
+
+FavouritesList::FavouritesList(const Document& document, FavouritesCommands& commands, std::size_t list,
+                               QWidget* parent)
+    : QWidget(parent),
+      document_(document),
+      commands_(commands),
+      list_(list),
+      model_(document, list, this),
+      name_(new NameEdit(static_cast<int>(Routines::FavouriteNameSize), this)),
+      count_(new QLabel(this)),
+      entries_(new QListView(this)) {
+  const QString number = QString::number(list + 1);
+  auto* label = new QLabel(number, this);
+  label->setBuddy(name_);
+  name_->setObjectName("NomePreferiti_" + number);
+  name_->setAccessibleName("Nome della lista " + number);
+  name_->setPlaceholderText("lista " + number);
+  name_->installEventFilter(this);
+  connect(name_, &QLineEdit::editingFinished, this, &FavouritesList::Rename);
+  count_->setObjectName("ContaPreferiti_" + number);
+  BuildEntries();
+
+  auto* head = new QHBoxLayout;
+  head->addWidget(label);
+  head->addWidget(name_, 1);
+  auto* column = new QVBoxLayout(this);
+  column->setContentsMargins(0, 0, 0, 0);
+  column->setSpacing(3);
+  column->addLayout(head);
+  column->addWidget(entries_, 1);
+  column->addWidget(count_, 0, Qt::AlignRight);
+  connect(&document, &Document::Changed, this, &FavouritesList::Refresh);
+  Refresh();
+}
+
+void FavouritesList::BuildEntries() {
+  const QString number = QString::number(list_ + 1);
+  entries_->setObjectName("Preferiti_" + number);
+  entries_->setAccessibleName("Preferiti, lista " + number);
+  entries_->setModel(&model_);
+  entries_->setUniformItemSizes(true);
+  entries_->setSelectionMode(QAbstractItemView::ExtendedSelection);
+  entries_->setEditTriggers(QAbstractItemView::NoEditTriggers);
+  entries_->setDragDropMode(QAbstractItemView::DragDrop);
+  entries_->setDefaultDropAction(Qt::MoveAction);
+  entries_->setTextElideMode(Qt::ElideRight);
+  entries_->installEventFilter(this);
+  connect(entries_, &QListView::doubleClicked, this, &FavouritesList::GoToCurrent);
+  // The source of a drag waits for the drop: the list changes after it.
+  connect(&model_, &FavouritesModel::Dropped, this, &FavouritesList::TakeDrop, Qt::QueuedConnection);
+  connect(
+      &model_, &FavouritesModel::ChannelsDropped, this,
+      [this](int first, int last, std::size_t before) { commands_.AddSlots(list_, first, last, before); },
+      Qt::QueuedConnection);
+}
+
+void FavouritesList::Refresh() {
+  const Base::Bytes& block = document_.Tables().FavouritesBlock;
+  const QString name = CodePageText(Routines::FavouriteNameOf(block, list_)).trimmed();
+  if (!name_->hasFocus() && name_->text() != name) name_->setText(name);
+  count_->setText(QString("%1 di %2").arg(model_.rowCount()).arg(Routines::FavouriteEntries));
+}
+
+void FavouritesList::Rename() {
+  const QString stored =
+      CodePageText(Routines::FavouriteNameOf(document_.Tables().FavouritesBlock, list_)).trimmed();
+  if (name_->text() == stored) return;
+  if (!commands_.Rename(list_, name_->text())) name_->setText(stored);
+}
+
+FavouritesCommands::Places FavouritesList::Selected() const {
+  FavouritesCommands::Places places;
+  for (const QModelIndex& index : entries_->selectionModel()->selectedIndexes())
+    places.push_back(static_cast<std::size_t>(index.row()));
+  std::sort(places.begin(), places.end());
+  return places;
+}
+
+void FavouritesList::Select(std::size_t first, std::size_t count) {
+  if (count == 0 || static_cast<int>(first + count) > model_.rowCount()) return;
+  const QModelIndex top = model_.index(static_cast<int>(first));
+  const QModelIndex bottom = model_.index(static_cast<int>(first + count) - 1);
+  entries_->selectionModel()->setCurrentIndex(top, QItemSelectionModel::NoUpdate);
+  entries_->selectionModel()->select({top, bottom}, QItemSelectionModel::ClearAndSelect);
+  entries_->scrollTo(bottom);
+  entries_->scrollTo(top);
+}
+
+void FavouritesList::RemoveSelected() {
+  const auto places = Selected();
+  if (places.empty()) return;
+  commands_.Remove(list_, places);
+  const int left = model_.rowCount();
+  if (left > 0) Select(std::min(places.front(), static_cast<std::size_t>(left) - 1), 1);
+}
+
+void FavouritesList::MoveSelected(int rows) {
+  const auto places = Selected();
+  if (places.empty()) return;
+  const bool up = rows < 0;
+  if (up ? places.front() == 0 : static_cast<int>(places.back()) + 1 == model_.rowCount()) return;
+  TakeDrop(list_, places, up ? places.front() - 1 : places.back() + 2);
+}
+
+void FavouritesList::TakeDrop(std::size_t list, const FavouritesCommands::Places& places,
+                              std::size_t before) {
+  const int rows = model_.rowCount();
+  const std::size_t first = commands_.Move(list, places, list_, before);
+  Select(first,
+         list == list_ ? places.size() : static_cast<std::size_t>(std::max(model_.rowCount() - rows, 0)));
+}
+
+void FavouritesList::GoToCurrent() {
+  if (entries_->currentIndex().isValid()) commands_.GoTo(model_.Slot(entries_->currentIndex().row()));
+}
+
+bool FavouritesList::eventFilter(QObject* watched, QEvent* event) {
+  if (event->type() == QEvent::FocusIn) Q_EMIT Entered();
+  if (event->type() != QEvent::KeyPress) return QWidget::eventFilter(watched, event);
+  const auto* pressed = static_cast<QKeyEvent*>(event);
+  const bool enter = pressed->key() == Qt::Key_Return || pressed->key() == Qt::Key_Enter;
+  if (watched == name_) {
+    // A dialog would take it for its own button.
+    if (enter) Rename();
+    return enter;
+  }
+  if (enter) {
+    GoToCurrent();
+  } else if (pressed->key() == Qt::Key_Delete) {
+    RemoveSelected();
+  } else if (pressed->modifiers() == Qt::AltModifier && pressed->key() == Qt::Key_Up) {
+    MoveSelected(-1);
+  } else if (pressed->modifiers() == Qt::AltModifier && pressed->key() == Qt::Key_Down) {
+    MoveSelected(1);
+  } else {
+    return QWidget::eventFilter(watched, event);
+  }
+  return true;
+}
+
+}  // namespace Ui

@@ -1,0 +1,114 @@
+#include "ui/favourites_window.h"
+
+#include "model/favourites.h"
+#include "ui/commands.h"
+#include "ui/elided_label.h"
+
+#include <QGridLayout>
+#include <QListView>
+#include <QMainWindow>
+#include <QMenu>
+#include <QPushButton>
+#include <QToolButton>
+
+namespace Ui {
+
+ListePreferiti::ListePreferiti(const Document& document, FavouritesCommands& commands, QMainWindow& window)
+    : QDialog(&window),
+      commands_(commands),
+      target_(new ElidedLabel(Qt::ElideRight, this)),
+      result_(new ElidedLabel(Qt::ElideRight, this)) {
+  setObjectName("ListePreferiti");
+  setWindowTitle("Liste Preferiti");
+  setAttribute(Qt::WA_DeleteOnClose);
+  result_->setObjectName("RisultatoPreferiti");
+  // Undo and redo work here as they do in the main window.
+  for (const char* name : {"Annulla", "Ripeti"}) addAction(&CommandAction(window, name));
+  auto* lists = new QWidget(this);
+  AddLists(document, *lists);
+  auto* column = new QVBoxLayout(this);
+  column->addWidget(lists, 1);
+  column->addLayout(Buttons());
+  column->addWidget(result_);
+  connect(&document, &Document::Changed, this, &ListePreferiti::ShowCurrent);
+  ShowCurrent();
+  ShowResult(
+      "Trascinare qui i canali dalla griglia; Canc toglie, Alt+Su e Alt+Giù spostano, Invio va al canale.");
+  resize(900, 620);
+}
+
+void ListePreferiti::AddLists(const Document& document, QWidget& place) {
+  constexpr int PerRow = 4;
+  auto* grid = new QGridLayout(&place);
+  grid->setContentsMargins(0, 0, 0, 0);
+  grid->setHorizontalSpacing(10);
+  grid->setVerticalSpacing(8);
+  for (std::size_t list = 0; list < Routines::FavouriteLists; ++list) {
+    auto* widget = new FavouritesList(document, commands_, list, &place);
+    connect(widget, &FavouritesList::Entered, this, [this, list] {
+      current_ = list;
+      ShowCurrent();
+    });
+    lists_.push_back(widget);
+    grid->addWidget(widget, static_cast<int>(list) / PerRow, static_cast<int>(list) % PerRow);
+  }
+}
+
+QLayout* ListePreferiti::Buttons() {
+  auto* row = new QHBoxLayout;
+  const auto add = [this, row](const char* name, const QString& caption, const std::function<void()>& run) {
+    auto* button = new QPushButton(caption, this);
+    button->setObjectName(name);
+    button->setAutoDefault(false);
+    connect(button, &QPushButton::clicked, this, run);
+    row->addWidget(button);
+  };
+  row->addWidget(target_, 1);
+  add("AggiungiSelezionati", "Aggiungi i canali selezionati", [this] { commands_.AddSelected(current_); });
+  add("TogliPreferiti", "Togli", [this] { Current().RemoveSelected(); });
+  move_ = MenuButton("Sposta in", "SpostaPreferiti");
+  row->addWidget(move_);
+  QToolButton* sort = MenuButton("Ordina", "OrdinaPreferiti");
+  sort->menu()->addAction("Per numero", this,
+                          [this] { commands_.Sort(current_, Edit::FavouriteOrder::ByNumber); });
+  sort->menu()->addAction("Per nome", this,
+                          [this] { commands_.Sort(current_, Edit::FavouriteOrder::ByName); });
+  row->addWidget(sort);
+  add("ChiudiPreferiti", "Chiudi", [this] { close(); });
+  connect(move_->menu(), &QMenu::aboutToShow, this, &ListePreferiti::FillMoveMenu);
+  return row;
+}
+
+QToolButton* ListePreferiti::MenuButton(const QString& caption, const char* name) {
+  auto* button = new QToolButton(this);
+  button->setObjectName(name);
+  button->setText(caption);
+  button->setPopupMode(QToolButton::InstantPopup);
+  button->setFocusPolicy(Qt::TabFocus);
+  button->setMenu(new QMenu(button));
+  return button;
+}
+
+void ListePreferiti::FillMoveMenu() {
+  move_->menu()->clear();
+  for (std::size_t list = 0; list < lists_.size(); ++list) {
+    if (list == current_) continue;
+    const QString title = commands_.Title(list).replace('&', "&&");
+    move_->menu()->addAction(QString("&%1 %2").arg(list + 1).arg(title), this, [this, list] {
+      commands_.Move(current_, Current().Selected(), list, Routines::FavouriteEntries);
+    });
+  }
+}
+
+// The buttons work on the list that was entered last: it is named beside them and stands out.
+void ListePreferiti::ShowCurrent() {
+  target_->Show(QString("Lista %1: %2").arg(current_ + 1).arg(commands_.Title(current_)));
+  for (std::size_t list = 0; list < lists_.size(); ++list) {
+    lists_[list]->Entries().setFrameStyle(list == current_ ? QFrame::Box | QFrame::Plain
+                                                           : QFrame::StyledPanel | QFrame::Sunken);
+  }
+}
+
+void ListePreferiti::ShowResult(const QString& text) { result_->Show(text); }
+
+}  // namespace Ui
