@@ -34,7 +34,7 @@ class WindowDriver : public QObject {
   void ExpectCancelledQuestion(const QString& text);
   void ExpectLine(const QString& question, const QString& answer);
   void ExpectFile(const QString& title, const QString& path);
-  // A box of the program's own, answered as the caller likes.
+  // A box answered as the caller likes, whatever it says.
   void ExpectDialog(const QString& title, const std::function<void(QDialog&)>& answer);
   void ExpectFileCancelled(const QString& title);
 

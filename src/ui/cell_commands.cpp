@@ -92,7 +92,9 @@ QStringList CellCommands::Choices(int column) const {
   }
 }
 
+// The header calls the column of the names after the channel.
 std::string CellCommands::ColumnTitle(int column) const {
+  if (Channels() && column == Name) return "Nome";
   return session_.view.Grid()
       .model()
       ->headerData(column, Qt::Horizontal, Qt::DisplayRole)
@@ -114,7 +116,7 @@ QString CellCommands::Take(int slot, int column, const QString& typed) {
     return Text(done.error().message);
   }
   if (session_.document.Revision() != revision) {
-    session_.status.ShowResult(QString("%1 %2: %3 %4")
+    session_.status.ShowResult(QString("%1 %2, %3: %4")
                                    .arg(channels ? "Canale" : "Transponder")
                                    .arg(slot)
                                    .arg(Text(ColumnTitle(column)), typed.trimmed()));

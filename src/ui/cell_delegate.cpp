@@ -35,7 +35,12 @@ QComboBox* CellDelegate::MakeList(QWidget* parent, const QModelIndex& index, boo
   auto* list = new QComboBox(parent);
   list->addItems(edits_.Choices(index.column()));
   list->setMaxVisibleItems(15);
-  list->setSizeAdjustPolicy(QComboBox::AdjustToContents);
+  // As wide as what it offers: what pops up below it is no wider.
+  constexpr int ArrowAndMargins = 50;
+  int widest = 0;
+  for (const QString& choice : edits_.Choices(index.column()))
+    widest = std::max(widest, list->fontMetrics().horizontalAdvance(choice));
+  list->setMinimumWidth(std::min(widest + ArrowAndMargins, parent->width()));
   if (open) {
     list->setEditable(true);
     list->setInsertPolicy(QComboBox::NoInsert);
@@ -96,10 +101,7 @@ void CellDelegate::setModelData(QWidget* editor, QAbstractItemModel*, const QMod
 void CellDelegate::updateEditorGeometry(QWidget* editor, const QStyleOptionViewItem& option,
                                         const QModelIndex&) const {
   QRect place = option.rect;
-  // A list is as wide as what it offers, where the window has the room.
-  const int wanted = std::max(place.width(), editor->sizeHint().width());
-  const bool list = qobject_cast<QComboBox*>(editor) != nullptr;
-  if (list) place.setWidth(wanted);
+  place.setWidth(std::max(place.width(), editor->minimumWidth()));
   const int outside = place.right() - editor->parentWidget()->width() + 1;
   if (outside > 0) place.translate(-std::min(outside, place.left()), 0);
   editor->setGeometry(place);

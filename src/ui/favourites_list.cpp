@@ -68,15 +68,16 @@ void FavouritesList::BuildEntries() {
 void FavouritesList::Refresh() {
   const Base::Bytes& block = document_.Tables().FavouritesBlock;
   const QString name = CodePageText(Routines::FavouriteNameOf(block, list_)).trimmed();
-  if (!name_->hasFocus() && name_->text() != name) name_->setText(name);
+  if (!name_->isModified() && name_->text() != name) name_->setText(name);
   count_->setText(QString("%1 di %2").arg(model_.rowCount()).arg(Routines::FavouriteEntries));
 }
 
 void FavouritesList::Rename() {
   const QString stored =
       CodePageText(Routines::FavouriteNameOf(document_.Tables().FavouritesBlock, list_)).trimmed();
-  if (name_->text() == stored) return;
-  if (!commands_.Rename(list_, name_->text())) name_->setText(stored);
+  const bool typed = name_->isModified() && name_->text() != stored;
+  name_->setModified(false);
+  if (typed && !commands_.Rename(list_, name_->text())) name_->setText(stored);
 }
 
 FavouritesCommands::Places FavouritesList::Selected() const {

@@ -9,7 +9,6 @@
 #include <QMainWindow>
 #include <QMenu>
 #include <QPushButton>
-#include <QToolButton>
 
 namespace Ui {
 
@@ -34,6 +33,7 @@ ListePreferiti::ListePreferiti(const Document& document, FavouritesCommands& com
   ShowCurrent();
   ShowResult(
       "Trascinare qui i canali dalla griglia; Canc toglie, Alt+Su e Alt+Giù spostano, Invio va al canale.");
+  lists_.front()->Entries().setFocus();
   resize(900, 620);
 }
 
@@ -45,10 +45,7 @@ void ListePreferiti::AddLists(const Document& document, QWidget& place) {
   grid->setVerticalSpacing(8);
   for (std::size_t list = 0; list < Routines::FavouriteLists; ++list) {
     auto* widget = new FavouritesList(document, commands_, list, &place);
-    connect(widget, &FavouritesList::Entered, this, [this, list] {
-      current_ = list;
-      ShowCurrent();
-    });
+    connect(widget, &FavouritesList::Entered, this, [this, list] { Enter(list); });
     lists_.push_back(widget);
     grid->addWidget(widget, static_cast<int>(list) / PerRow, static_cast<int>(list) % PerRow);
   }
@@ -56,36 +53,27 @@ void ListePreferiti::AddLists(const Document& document, QWidget& place) {
 
 QLayout* ListePreferiti::Buttons() {
   auto* row = new QHBoxLayout;
-  const auto add = [this, row](const char* name, const QString& caption, const std::function<void()>& run) {
-    auto* button = new QPushButton(caption, this);
-    button->setObjectName(name);
-    button->setAutoDefault(false);
-    connect(button, &QPushButton::clicked, this, run);
-    row->addWidget(button);
-  };
   row->addWidget(target_, 1);
-  add("AggiungiSelezionati", "Aggiungi i canali selezionati", [this] { commands_.AddSelected(current_); });
-  add("TogliPreferiti", "Togli", [this] { Current().RemoveSelected(); });
-  move_ = MenuButton("Sposta in", "SpostaPreferiti");
-  row->addWidget(move_);
-  QToolButton* sort = MenuButton("Ordina", "OrdinaPreferiti");
-  sort->menu()->addAction("Per numero", this,
-                          [this] { commands_.Sort(current_, Edit::FavouriteOrder::ByNumber); });
-  sort->menu()->addAction("Per nome", this,
-                          [this] { commands_.Sort(current_, Edit::FavouriteOrder::ByName); });
-  row->addWidget(sort);
-  add("ChiudiPreferiti", "Chiudi", [this] { close(); });
+  connect(AddButton(*row, "AggiungiSelezionati", "Aggiungi i canali selezionati"), &QPushButton::clicked,
+          this, [this] { commands_.AddSelected(current_); });
+  connect(AddButton(*row, "TogliPreferiti", "Togli"), &QPushButton::clicked, this,
+          [this] { Current().RemoveSelected(); });
+  move_ = AddButton(*row, "SpostaPreferiti", "Sposta in");
+  move_->setMenu(new QMenu(move_));
   connect(move_->menu(), &QMenu::aboutToShow, this, &ListePreferiti::FillMoveMenu);
+  auto* orders = new QMenu(this);
+  orders->addAction("Per numero", this, [this] { commands_.Sort(current_, Edit::FavouriteOrder::ByNumber); });
+  orders->addAction("Per nome", this, [this] { commands_.Sort(current_, Edit::FavouriteOrder::ByName); });
+  AddButton(*row, "OrdinaPreferiti", "Ordina")->setMenu(orders);
+  connect(AddButton(*row, "ChiudiPreferiti", "Chiudi"), &QPushButton::clicked, this, &QDialog::close);
   return row;
 }
 
-QToolButton* ListePreferiti::MenuButton(const QString& caption, const char* name) {
-  auto* button = new QToolButton(this);
+QPushButton* ListePreferiti::AddButton(QBoxLayout& row, const char* name, const QString& caption) {
+  auto* button = new QPushButton(caption, this);
   button->setObjectName(name);
-  button->setText(caption);
-  button->setPopupMode(QToolButton::InstantPopup);
-  button->setFocusPolicy(Qt::TabFocus);
-  button->setMenu(new QMenu(button));
+  button->setAutoDefault(false);
+  row.addWidget(button);
   return button;
 }
 
@@ -107,6 +95,11 @@ void ListePreferiti::ShowCurrent() {
     lists_[list]->Entries().setFrameStyle(list == current_ ? QFrame::Box | QFrame::Plain
                                                            : QFrame::StyledPanel | QFrame::Sunken);
   }
+}
+
+void ListePreferiti::Enter(std::size_t list) {
+  current_ = list;
+  ShowCurrent();
 }
 
 void ListePreferiti::ShowResult(const QString& text) { result_->Show(text); }

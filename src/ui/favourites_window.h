@@ -5,8 +5,9 @@
 
 #include <QDialog>
 
+class QBoxLayout;
 class QMainWindow;
-class QToolButton;
+class QPushButton;
 
 namespace Ui {
 
@@ -19,11 +20,13 @@ class ListePreferiti : public QDialog {
   ListePreferiti(const Document& document, FavouritesCommands& commands, QMainWindow& window);
 
   void ShowResult(const QString& text);
+  // Makes a list the one that the buttons work on.
+  void Enter(std::size_t list);
 
  private:
   void AddLists(const Document& document, QWidget& place);
   QLayout* Buttons();
-  QToolButton* MenuButton(const QString& caption, const char* name);
+  QPushButton* AddButton(QBoxLayout& row, const char* name, const QString& caption);
   void FillMoveMenu();
   void ShowCurrent();
   [[nodiscard]] FavouritesList& Current() const { return *lists_[current_]; }
@@ -33,7 +36,7 @@ class ListePreferiti : public QDialog {
   std::size_t current_ = 0;  // that buttons work on
   ElidedLabel* target_;
   ElidedLabel* result_;
-  QToolButton* move_ = nullptr;
+  QPushButton* move_ = nullptr;
 };
 
 }  // namespace Ui

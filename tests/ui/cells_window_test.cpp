@@ -1,0 +1,171 @@
+// Editing in the grid, the popup menu and the window of the favourites lists.
+#include "model/favourites.h"
+#include "ui/window_fixture.h"
+
+#include <QApplication>
+#include <QComboBox>
+#include <QInputDialog>
+#include <QLineEdit>
+#include <QListView>
+#include <QMenu>
+#include <QMimeData>
+#include <QTest>
+
+namespace Ui {
+
+class Cells : public Window {
+ protected:
+  // Types into the cell of a row, counted as the user does, and ends with a key. The editor stays open where refused.
+  bool Type(int row, int column, const QString& text, Qt::Key end = Qt::Key_Return) {
+    Griglia& grid = driver_->Grid();
+    grid.setFocus();
+    grid.setCurrentIndex(grid.model()->index(row - 1, column));
+    driver_->Key(Qt::Key_F2);
+    QWidget* editor = QApplication::focusWidget();
+    if (editor == &grid) return false;
+    QTest::keyClick(editor, Qt::Key_A, Qt::ControlModifier);
+    if (auto* field = qobject_cast<QLineEdit*>(editor)) field->insert(text);
+    if (auto* list = qobject_cast<QComboBox*>(editor)) list->lineEdit()->insert(text);
+    QTest::keyClick(editor, end);
+    return true;
+  }
+  QWidget* Editor() { return driver_->Grid().findChild<QWidget*>("ModificaCella"); }
+  std::vector<int> Entries(std::size_t list) {
+    return Routines::FavouriteEntriesOf(List().FavouritesBlock, list);
+  }
+};
+
+TEST_F(Cells, TakeWhatIsTypedOrKeepWhatTheyHad) {
+  OpenDemo();
+  const Routines::State before = List();
+  ASSERT_TRUE(Type(2, 1, "Città Mia"));
+  EXPECT_EQ(driver_->Cell(2, 1), "Città Mia");
+  EXPECT_EQ(Said(), "Canale 2, Nome: Città Mia");
+  EXPECT_EQ(Action("Annulla").text(), "Annulla Modifica Nome");
+
+  ASSERT_TRUE(Type(2, 4, "70000"));
+  EXPECT_NE(Editor(), nullptr) << "a refused value can be mended";
+  EXPECT_EQ(Said(), "Non modificato: Serve un numero da 0 a 65535, con sole cifre decimali");
+  QTest::keyClick(QApplication::focusWidget(), Qt::Key_Escape);
+  ASSERT_TRUE(Type(2, 2, "19"));
+  EXPECT_EQ(driver_->Cell(2, 2), "019");
+  ASSERT_TRUE(Type(2, 9, "A4"));
+  EXPECT_EQ(driver_->Cell(2, 9), "A4");
+
+  Griglia& grid = driver_->Grid();
+  const QPoint active = grid.visualRect(grid.model()->index(1, 10)).center();
+  QTest::mouseClick(grid.viewport(), Qt::LeftButton, {}, active);
+  QTest::mouseDClick(grid.viewport(), Qt::LeftButton, {}, active);
+  EXPECT_EQ(driver_->Cell(2, 10), "N");
+  ASSERT_TRUE(driver_->Choose("VisualizzaTransponder"));
+  ASSERT_TRUE(Type(1, 1, "11000"));
+  EXPECT_EQ(driver_->Cell(1, 1), "11000");
+  EXPECT_FALSE(Type(1, 10, "Mio")) << "bouquets are looked up";
+  while (Action("Annulla").text() != "Annulla Apri Flash") ASSERT_TRUE(driver_->Choose("Annulla"));
+  EXPECT_EQ(List(), before);
+}
+
+TEST_F(Cells, ThePopupMenuWorksOnAllSelectedRows) {
+  OpenDemo();
+  const auto trigger = [this](const char* action) {
+    driver_->OpenMenu();
+    Action(action).trigger();
+    window_->findChild<QMenu*>("MenuCanali")->close();
+  };
+  driver_->SelectRows(19, 22);
+  trigger("Disattiva");
+  EXPECT_EQ(Said(), "Attivo N: 2 canali") << "two of the four are empty";
+  EXPECT_TRUE(driver_->Cell(20, 1).isEmpty());
+  trigger("Codifica_44");
+  EXPECT_EQ(driver_->Cell(22, 9), "44");
+  driver_->ExpectLine("Inserire la codifica, due cifre esadecimali", "XY");
+  driver_->ExpectMessage("Servono due cifre esadecimali, per esempio 24, o una codifica dell'elenco");
+  trigger("Codifica_altra");
+  driver_->ExpectDialog("Trovalis", [](QDialog& box) {
+    auto* choice = box.findChild<QComboBox*>();
+    EXPECT_TRUE(choice->currentText().startsWith("050 ")) << "the transponder it has";
+    choice->setCurrentIndex(choice->findText("018 ", Qt::MatchStartsWith));
+    EXPECT_EQ(qobject_cast<QInputDialog*>(&box)->labelText(), "Transponder dei canali da 19 a 22");
+    box.accept();
+  });
+  trigger("ImpostaTransponder");
+  EXPECT_EQ(driver_->Cell(19, 2) + driver_->Cell(22, 2), "018018");
+
+  const QString pushed = driver_->Cell(22, 1);
+  const auto sports = Entries(1);
+  trigger("InserisciRiga");
+  EXPECT_EQ(driver_->Cell(26, 1), pushed);
+  EXPECT_EQ(Entries(1).front(), sports.front() + 4) << "favourites follow";
+  driver_->SelectRows(26, 26);
+  trigger("VaiAlTransponder");
+  EXPECT_EQ(driver_->TextOf("Text1"), "Transponders");
+  EXPECT_EQ(driver_->Grid().Selected()->first, 18);
+}
+
+TEST_F(Cells, FavouritesAreArrangedInTheirWindow) {
+  Start();
+  ASSERT_TRUE(window_->Start());
+  EXPECT_FALSE(Action("VisualizzaPreferiti").isEnabled());
+  ASSERT_TRUE(driver_->Pick("QuantiCanali_2"));
+  ASSERT_TRUE(driver_->Pick("FlashScrittura_2"));
+  driver_->ExpectMessage(NoFlash);
+  ASSERT_TRUE(driver_->Choose("VisualizzaPreferiti"));
+  ASSERT_TRUE(driver_->Pick("FlashScrittura_0"));
+  EXPECT_FALSE(Action("VisualizzaPreferiti").isEnabled()) << "receivers of the first type have none to write";
+  ASSERT_TRUE(driver_->Pick("FlashScrittura_1"));
+  Open(flash_);
+  const auto cinema = Entries(0);
+  const auto sports = Entries(1);
+
+  driver_->SelectRows(19, 22);
+  driver_->Key(Qt::Key_2, Qt::ControlModifier);
+  EXPECT_EQ(Said(), "Sport: 2 preferiti in più, 2 posti vuoti saltati");
+  driver_->Key(Qt::Key_2, Qt::ControlModifier);
+  EXPECT_EQ(Said(), "Sport: 0 preferiti in più, 2 c'erano già, 2 posti vuoti saltati");
+  ASSERT_TRUE(driver_->Choose("VisualizzaPreferiti"));
+  auto* lists = window_->findChild<QDialog*>("ListePreferiti");
+  auto* first = lists->findChild<QListView*>("Preferiti_1");
+  auto* second = lists->findChild<QListView*>("Preferiti_2");
+  EXPECT_EQ(driver_->TextOf("ContaPreferiti_2"), QString("%1 di 128").arg(sports.size() + 2));
+
+  ASSERT_TRUE(QTest::qWaitForWindowActive(lists));
+  first->setFocus();
+  first->setCurrentIndex(first->model()->index(0, 0));
+  QTest::keyClick(first, Qt::Key_Down, Qt::AltModifier);
+  EXPECT_EQ(Entries(0)[1], cinema[0]) << "and the selection goes along:";
+  QTest::keyClick(first, Qt::Key_Delete);
+  EXPECT_EQ(Entries(0).size(), cinema.size() - 1);
+  EXPECT_EQ(Entries(0)[0], cinema[1]);
+
+  const std::unique_ptr<QMimeData> dragged(first->model()->mimeData({first->model()->index(0, 0)}));
+  second->model()->dropMimeData(dragged.get(), Qt::MoveAction, 1, 0, {});
+  QMimeData rows;
+  rows.setData(SlotsType, "1 2");
+  second->model()->dropMimeData(&rows, Qt::CopyAction, 0, 0, {});
+  QTest::qWait(1);
+  EXPECT_EQ(Entries(1)[0], 1);
+  EXPECT_EQ(Entries(1)[3], cinema[1]);
+
+  auto* name = lists->findChild<QLineEdit*>("NomePreferiti_2");
+  name->setFocus();
+  name->selectAll();
+  name->insert("Nove byte");
+  QTest::keyClick(name, Qt::Key_Return);
+  EXPECT_EQ(name->text(), "Sport") << "the ninth byte has no place";
+  EXPECT_TRUE(lists->isVisible());
+  name->selectAll();
+  name->insert("Città");
+  QTest::keyClick(name, Qt::Key_Return);
+  EXPECT_EQ(Action("Annulla").text(), "Annulla Nome lista preferiti");
+  while (Action("Annulla").text() != "Annulla Apri Flash") Action("Annulla").trigger();
+  EXPECT_EQ(Entries(1), sports);
+  EXPECT_EQ(name->text(), "Sport");
+
+  const QPoint third = second->visualRect(second->model()->index(2, 0)).center();
+  QTest::mouseDClick(second->viewport(), Qt::LeftButton, {}, third);
+  EXPECT_EQ(driver_->Grid().Selected()->first, sports[2]);
+  window_->close();
+  EXPECT_FALSE(lists->isVisible()) << "it goes with the main window";
+}
+
+}  // namespace Ui
