@@ -162,6 +162,7 @@ TEST_F(Cells, FavouritesAreArrangedInTheirWindow) {
   EXPECT_EQ(name->text(), "Sport");
 
   const QPoint third = second->visualRect(second->model()->index(2, 0)).center();
+  QTest::mouseClick(second->viewport(), Qt::LeftButton, {}, third);
   QTest::mouseDClick(second->viewport(), Qt::LeftButton, {}, third);
   EXPECT_EQ(driver_->Grid().Selected()->first, sports[2]);
   window_->close();
