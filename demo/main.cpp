@@ -125,6 +125,7 @@ class Session {
   void EditCells() {
     Ui::Griglia& grid = driver_->Grid();
     driver_->SelectRows(2, 2);
+    QTest::qWait(250);  // until the grid has scrolled to the pointer
     driver_->Key(Qt::Key_F2);
     QTest::keyClicks(CellEditor(), "Canale Mio");
     QTest::qWait(150);
