@@ -95,6 +95,7 @@ void DownloadCommands::Take(bool good, const QByteArray& reply) {
     session_.Message(written.error());
     return;
   }
+  if (onLoad) onLoad();
   sdx_.Load(path_);
 }
 

@@ -17,6 +17,9 @@ class DownloadCommands : public QObject {
  public:
   DownloadCommands(Session& session, SdxCommands& sdx, DownloadFrame& frame, QWidget& window);
 
+  // Tells the window that a list has come and is about to be loaded.
+  std::function<void()> onLoad;
+
   void ScaricaInternet();
 
  private:

@@ -98,6 +98,7 @@ void ListView::ShowFromStart(View view) {
   filter_->setVisible(channels);
   map_->setVisible(channels);
   RestoreTicks();
+  Q_EMIT Shown(view);
 }
 
 void ListView::Toggle(View view) { Show(view == current_ ? View::None : view); }
@@ -123,6 +124,7 @@ void ListView::GoTo(int slot) {
   grid_->clearSelection();
   grid_->selectionModel()->setCurrentIndex(channels_.index(slot - 1, 1), QItemSelectionModel::NoUpdate);
   grid_->ScrollToTop(slot);
+  Q_EMIT WentTo(slot);
 }
 
 void ListView::MarkMatches() {

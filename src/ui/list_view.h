@@ -51,6 +51,10 @@ class ListView : public QWidget {
   void Dropped(int first, int last, int before, bool copy);
   // The rows of the SDX table from `first` to `last` were.
   void SdxDropped(int first, int last, int before);
+  // A list is shown anew, or none is.
+  void Shown(View view);
+  // A command has made a channel current.
+  void WentTo(int slot);
 
  private:
   void LayOut();

@@ -74,6 +74,10 @@ CopiaTCSTPT::CopiaTCSTPT(const std::string& programFolder, std::unique_ptr<Dialo
   lists->setChildrenCollapsible(false);
   lists->addWidget(view);
   lists->addWidget(pane);
+  // The trees keep their width, these two share the rest.
+  for (const int list : {0, 1}) lists->setStretchFactor(list, 1);
+  trees_ = std::make_unique<TreeCommands>(*session_, *sdx_, CommandAction(*this, "VisualizzaBouquet"),
+                                          SettingsFile(), *lists);
   column->addWidget(lists, 1);
   column->addWidget(new ErrorPane(session_->bouquets.errors, contents));
   column->addWidget(status->ResultLine());
@@ -85,6 +89,7 @@ CopiaTCSTPT::CopiaTCSTPT(const std::string& programFolder, std::unique_ptr<Dialo
   ConnectEditCommands();
   ConnectCellCommands();
   ConnectSdxCommands();
+  ConnectTreeCommands();
   ConnectToolbar();
   connect(document_, &Document::Changed, this, &CopiaTCSTPT::ShowList);
   ShowList();
@@ -119,7 +124,6 @@ void CopiaTCSTPT::ConnectFileCommands() {
   Connect("Salva", [this] { files_->Salva(); });
   Connect("ApriFlashOutput", [this] { files_->ApriFlashOutput(); });
   Connect("ConvertiSR", [this] { files_->ConvertiSR(); });
-  Connect("VisualizzaCanali", [this] { ToggleView(View::Channels); });
   Connect("VisualizzaTransponder", [this] { ToggleView(View::Transponders); });
   Connect("Fine", [this] { close(); });
   Connect("About", [this] { ShowAbout(); });
@@ -178,13 +182,13 @@ void CopiaTCSTPT::ConnectCellCommands() {
 void CopiaTCSTPT::ConnectSdxCommands() {
   Connect("SDX", [this] { sdx_->Carica(); });
   Connect("ScaricaInternet", [this] { download_->ScaricaInternet(); });
-  Connect("VediSDX", [this] { sdx_->Vedi(); });
   Connect("RicercaSDX", [this] { sdx_->Ricerca(); });
   Connect("ImportaTuttoSDX", [this] { sdx_->ImportaTutto(); });
   sdx_->onShown = [this](bool shown) {
     sdxShownSinceFls_ = sdxShownSinceFls_ || shown;
     ShowList();
     CommandAction(*this, "VediSDX").setChecked(shown);
+    if (shown) trees_->Hide();
     for (const char* name : {"RicercaSDX", "ImportaTuttoSDX"}) CommandAction(*this, name).setEnabled(shown);
   };
   sdx_->ShowPane(false);
@@ -193,6 +197,19 @@ void CopiaTCSTPT::ConnectSdxCommands() {
   connect(pane, &SdxPane::CopyWanted, this, [this] { sdx_->CopySDX(); });
   connect(&session_->view, &ListView::SdxDropped, this,
           [this](int first, int last, int before) { sdx_->Drop(first, last, before); });
+}
+
+void CopiaTCSTPT::ConnectTreeCommands() {
+  Connect("VisualizzaBouquet", [this] { trees_->VisualizzaBouquet(); });
+  Connect("VediSDX", [this] {
+    sdx_->Vedi();
+    if (!sdx_->PaneShown()) trees_->FollowSdx();
+  });
+  Connect("VisualizzaCanali", [this] {
+    ToggleView(View::Channels);
+    if (session_->view.Current() == View::Channels) trees_->BringBack();
+  });
+  download_->onLoad = [this] { trees_->HideTransponders(); };
 }
 
 // The button stays enabled while the command is not, and says why nothing is opened.

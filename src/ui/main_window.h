@@ -11,6 +11,7 @@
 #include "ui/list_commands.h"
 #include "ui/sdx_commands.h"
 #include "ui/session.h"
+#include "ui/tree_commands.h"
 
 #include <QMainWindow>
 
@@ -43,6 +44,7 @@ class CopiaTCSTPT : public QMainWindow {
   void ConnectEditCommands();
   void ConnectCellCommands();
   void ConnectSdxCommands();
+  void ConnectTreeCommands();
   void ConnectToolbar();
   void OpenFlash();
   // Runs `slot` when the command is chosen, and enables it.
@@ -65,6 +67,7 @@ class CopiaTCSTPT : public QMainWindow {
   std::unique_ptr<ListCommands> lists_;
   std::unique_ptr<SdxCommands> sdx_;
   std::unique_ptr<DownloadCommands> download_;
+  std::unique_ptr<TreeCommands> trees_;
   bool sdxShownSinceFls_ = false;
 };
 

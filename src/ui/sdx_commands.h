@@ -31,6 +31,7 @@ class SdxCommands {
   // The loader: the options, the table, the pane. `path` is a list on the disk.
   void Load(const std::string& path);
   void ShowPane(bool shown);
+  [[nodiscard]] bool PaneShown() const { return !pane_.isHidden(); }
 
  private:
   void TellLoaded(const std::string& path, int satellite, std::string_view text);

@@ -185,9 +185,11 @@ TEST_F(Window, ADownloadIsSavedAndLoadedOrToldAndLeftEmpty) {
   }
   fetch("ftp://127.0.0.1/x", [&] { driver_->ExpectMessage(error + "ftp://127.0.0.1/x"); });
 
+  ASSERT_TRUE(driver_->Choose("VisualizzaBouquet"));
   const Server good(head + "SATCODX1 uno\r\nSATCODX1 due\r\nsenza fine");
   fetch(good.Address(),
         [&] { driver_->ExpectDialog("Opzioni importazione SDX", [](QDialog& box) { box.reject(); }); });
+  EXPECT_FALSE(Action("VisualizzaBouquet").isChecked()) << "the tree makes room for the list";
   EXPECT_EQ(Base::AsText(Contents(path)), "SATCODX1 uno\r\n\nSATCODX1 due\r\n");
 }
 

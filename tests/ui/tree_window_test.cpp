@@ -1,0 +1,205 @@
+// The two trees beside the list.
+#include "image_builder.h"
+#include "ui/tree_model.h"
+#include "ui/window_fixture.h"
+
+#include <QAbstractItemModelTester>
+#include <QScrollBar>
+#include <QSignalSpy>
+#include <QTest>
+#include <QToolButton>
+#include <QTreeView>
+
+#include <random>
+
+namespace Ui {
+namespace {
+
+using Routines::ListTree;
+using Routines::State;
+
+TEST(TreeModel, AnEditMovesNoMoreThanItMust) {
+  Document document;
+  const std::vector<Routines::Satellite> satellites;
+  TreeModel model(document, satellites, ListTree::Shape::Transponders, nullptr);
+  const QAbstractItemModelTester tester(&model, QAbstractItemModelTester::FailureReportingMode::Fatal);
+  QSignalSpy moved(&model, &QAbstractItemModel::layoutChanged);
+  QSignalSpy renamed(&model, &QAbstractItemModel::dataChanged);
+  document.Adjust([](State& state) {
+    state.ChannelCount = 60;
+    state.TransponderCount = 20;
+    for (int i = 1; i <= 60; ++i) {
+      state.ChannelTable[static_cast<std::size_t>(i)] = Samples::MakeChannel("Canale", i % 23, i, 2, 3);
+    }
+    for (int i = 1; i <= 20; ++i) {
+      state.TransponderTable[static_cast<std::size_t>(i)].record =
+          Samples::MakeTransponder(10700 + i * 20, i % 2 == 0, i % 3, 1, 2);
+    }
+  });
+  model.Refresh();
+  moved.clear();
+  model.Refresh();
+  EXPECT_EQ(moved.size() + renamed.size(), 0);
+  document.Adjust([](State& state) { state.ChannelTable[30] = Samples::MakeChannel("Nome", 7, 1, 2, 3); });
+  model.Refresh();
+  ASSERT_EQ(renamed.size(), 1);
+  EXPECT_EQ(renamed[0][0].toModelIndex().data().toString(), "0030 Nome");
+  EXPECT_EQ(moved.size(), 0);
+
+  std::mt19937 random(7);
+  const auto any = [&random](int most) {
+    return static_cast<int>(random() % static_cast<unsigned>(most)) + 1;
+  };
+  for (int round = 0; round < 200; ++round) {
+    std::vector<std::pair<int, QPersistentModelIndex>> channels;
+    for (int slot = 1; slot <= 60; slot += 7) channels.emplace_back(slot, model.IndexOfChannel(slot));
+    const QPersistentModelIndex branch = model.IndexOfTransponder(7);
+    document.Adjust([&](State& state) {
+      const int at = any(60);
+      const auto transponder = static_cast<std::size_t>(any(20));
+      switch (any(5)) {
+        case 1:
+          return static_cast<void>(Edit::DeleteChannels(state, {at, at}));
+        case 2:
+          return static_cast<void>(Edit::ShiftDown(state, at, 2));
+        case 3:
+          state.ChannelTable[static_cast<std::size_t>(at)] = Samples::MakeChannel("N", any(25), 1, 2, 3);
+          return;
+        case 4:
+          if (transponder != 7) state.TransponderTable[transponder].record = {};
+          return;
+        default:
+          state.TransponderTable[transponder].record = Samples::MakeTransponder(12000, true, 1, 1, 2);
+          return;
+      }
+    });
+    model.Refresh();
+    for (const auto& [slot, index] : channels) {
+      EXPECT_TRUE(!index.isValid() || QModelIndex(index) == model.IndexOfChannel(slot)) << round;
+    }
+    EXPECT_TRUE(!branch.isValid() || QModelIndex(branch) == model.IndexOfTransponder(7)) << round;
+  }
+}
+
+class Trees : public Window {
+ protected:
+  void SetUp() override {
+    OpenDemo();
+    bouquets_ = window_->findChild<QTreeView*>("TreeView1");
+    transponders_ = window_->findChild<QTreeView*>("TreeView2");
+  }
+
+  // Which of the three stands in the place beside the list.
+  [[nodiscard]] std::string Beside() const {
+    std::string shown;
+    for (const char* name : {"GrigliaSDX", "TreeView1", "TreeView2"}) {
+      if (window_->findChild<QWidget*>(name)->isVisible()) shown += name;
+    }
+    EXPECT_EQ(Action("VisualizzaBouquet").isChecked(), shown == "TreeView2");
+    EXPECT_EQ(Action("VediSDX").isChecked(), shown == "GrigliaSDX");
+    EXPECT_EQ(Action("RicercaSDX").isEnabled(), shown == "GrigliaSDX");
+    return shown;
+  }
+  [[nodiscard]] static std::string Current(const QTreeView& tree) {
+    return tree.currentIndex().data().toString().toStdString();
+  }
+  static void Click(QTreeView& tree, const QModelIndex& index) {
+    QTest::qWait(20);  // a tree that has just been shown has not got its place yet
+    tree.scrollTo(index);
+    QTest::mouseClick(tree.viewport(), Qt::LeftButton, {}, tree.visualRect(index).center());
+  }
+
+  QTreeView* bouquets_ = nullptr;
+  QTreeView* transponders_ = nullptr;
+};
+
+TEST_F(Trees, ShareTheirPlaceWithTheSdxPane) {
+  const auto after = [this](const char* command) {
+    EXPECT_TRUE(driver_->Choose(command));
+    return Beside();
+  };
+  EXPECT_EQ(Beside(), "TreeView1");
+  EXPECT_EQ(after("VisualizzaCanali"), "") << "closed with the channel list";
+  EXPECT_EQ(after("VisualizzaCanali"), "TreeView1");
+  EXPECT_EQ(after("VisualizzaTransponder"), "");
+  EXPECT_EQ(after("VediSDX"), "GrigliaSDX");
+  EXPECT_EQ(after("VisualizzaCanali"), "GrigliaSDX");
+  EXPECT_EQ(after("VediSDX"), "TreeView2");
+  EXPECT_EQ(after("VediSDX"), "GrigliaSDX");
+  EXPECT_EQ(after("VisualizzaBouquet"), "TreeView2");
+  EXPECT_EQ(after("VisualizzaTransponder"), "TreeView2");
+  EXPECT_EQ(after("VisualizzaCanali"), "TreeView2");
+  EXPECT_EQ(after("VisualizzaBouquet"), "");
+  Open(flash_);
+  EXPECT_EQ(Beside(), "TreeView1");
+
+  window_->findChild<QToolButton*>("ChiudiTreeView1")->click();
+  EXPECT_EQ(Beside(), "");
+  Start();
+  ASSERT_TRUE(window_->Start());
+  driver_->ExpectMessage(NoFlash);
+  EXPECT_EQ(after("VisualizzaBouquet"), "");
+  after("VediSDX");
+  EXPECT_EQ(after("VediSDX"), "") << "there is no list to show in a tree";
+  Open(flash_);
+  EXPECT_EQ(Beside(), "") << "closed by the user, in this session or an earlier one";
+  after("VisualizzaCanali");
+  EXPECT_EQ(after("VisualizzaCanali"), "TreeView1");
+  after("VisualizzaBouquet");
+  EXPECT_EQ(after("Annulla"), "") << "no list is loaded any more";
+}
+
+TEST_F(Trees, AndTheGridFollowEachOther) {
+  driver_->SelectRows(12, 12);
+  EXPECT_EQ(Current(*bouquets_), "0012 Stella TV");
+  const QPersistentModelIndex node = bouquets_->currentIndex();
+  Click(*bouquets_, node.sibling(node.row() + 1, 0));
+  const std::string next = Current(*bouquets_);
+  EXPECT_EQ(driver_->Grid().Selected()->first, std::stoi(next));
+  driver_->Key(Qt::Key_Up);
+  EXPECT_EQ(driver_->Grid().Selected()->first, 12);
+  EXPECT_TRUE(bouquets_->hasFocus()) << "the keys go on walking the tree";
+
+  bouquets_->setCurrentIndex(node.sibling(0, 0));
+  QTest::keyClicks(bouquets_, "stella");
+  EXPECT_EQ(driver_->Grid().Selected()->first, 12) << "names are found by typing";
+
+  bouquets_->expandAll();
+  driver_->SelectRows(300, 300);
+  const int scrolled = bouquets_->verticalScrollBar()->value();
+  EXPECT_GT(scrolled, 20);
+  ASSERT_TRUE(driver_->Press("Toolbar1_Delete"));
+  EXPECT_EQ(Current(*bouquets_), "0300 " + driver_->Cell(300, 1).toStdString());
+  EXPECT_EQ(bouquets_->verticalScrollBar()->value(), scrolled);
+  EXPECT_TRUE(bouquets_->isExpanded(node.parent()));
+
+  driver_->SelectRows(646, 646);
+  ASSERT_TRUE(driver_->Press("Toolbar1_Delete"));
+  EXPECT_EQ(Current(*bouquets_), "") << "no channel comes in the place of the last one";
+  ASSERT_TRUE(driver_->Choose("Annulla"));
+  EXPECT_EQ(Current(*bouquets_), "0646 " + driver_->Cell(646, 1).toStdString());
+
+  driver_->ExpectLine("Inserire il Nr. del canale su cui posizionarsi", "100");
+  ASSERT_TRUE(driver_->Choose("VaiAlCanale"));
+  EXPECT_EQ(std::stoi(Current(*bouquets_)), 100);
+
+  ASSERT_TRUE(driver_->Choose("VisualizzaTransponder"));
+  ASSERT_TRUE(driver_->Choose("VisualizzaBouquet"));
+  driver_->SelectRows(18, 18);
+  EXPECT_TRUE(Current(*transponders_).starts_with("018  ")) << Current(*transponders_);
+  const QModelIndex transponder = transponders_->currentIndex();
+  driver_->SelectRows(3, 3);
+  Click(*transponders_, transponder);
+  EXPECT_EQ(driver_->Grid().Selected()->first, 18);
+  ASSERT_TRUE(driver_->Choose("VisualizzaCanali"));
+  Click(*transponders_, transponder);
+  EXPECT_EQ(driver_->Cell(driver_->Grid().Selected()->first, 2), "018");
+  EXPECT_TRUE(Current(*transponders_).starts_with("018  ")) << "the channel selected is not shown back";
+  ASSERT_TRUE(driver_->Choose("VisualizzaCanali"));
+  transponders_->expand(transponder);
+  Click(*transponders_, transponders_->model()->index(0, 0, transponder));
+  EXPECT_EQ(driver_->TextOf("Text1"), "Canali") << "a channel brings its list";
+}
+
+}  // namespace
+}  // namespace Ui
