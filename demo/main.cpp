@@ -15,6 +15,7 @@
 #include <QPushButton>
 #include <QScreen>
 #include <QTest>
+#include <QTreeView>
 
 #include <cstdio>
 
@@ -43,6 +44,7 @@ class Session {
     ChooseSettings();
     OpenFlash();
     LookAtTransponders();
+    BrowseTrees();
     MoveRows();
     EditCells();
     ArrangeFavourites();
@@ -105,6 +107,17 @@ class Session {
              .arg(driver_->Cell(1, 1), driver_->Cell(1, 7), driver_->Cell(1, 5), driver_->Cell(1, 10)));
     const bool back = driver_->Press("Toolbar1_Canali") && driver_->TextOf("Text1") == "Canali";
     Step("channels", back, driver_->TextOf("CanaliUsati"));
+  }
+
+  void BrowseTrees() {
+    const bool chosen = driver_->Choose("VisualizzaBouquet");
+    auto* tree = window_->findChild<QTreeView*>("TreeView2");
+    driver_->SelectRows(7, 7);
+    Step("bouquet tree",
+         chosen && tree->isVisible() &&
+             tree->currentIndex().data().toString() == "0007 " + driver_->Cell(7, 1),
+         tree->currentIndex().parent().data().toString() + " > " + tree->currentIndex().data().toString());
+    driver_->Choose("VisualizzaBouquet");
   }
 
   void MoveRows() {
