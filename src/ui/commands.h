@@ -87,6 +87,7 @@ inline constexpr std::array Commands = {
     Command{"FormatoFLASH", "In formato FLASH", Menu::Export},
     Command{"FormatoTesto", "In formato Testo", Menu::Export},
 
+    Command{"Guida", "&Guida", Menu::About, "", "F1"},
     Command{"About", "&About", Menu::About, "info"},
 };
 

@@ -3,6 +3,7 @@
 #include "ui/channel_menu.h"
 #include "ui/commands.h"
 #include "ui/error_pane.h"
+#include "ui/guide_window.h"
 #include "ui/qt_dialogs.h"
 
 #include <QAction>
@@ -126,6 +127,7 @@ void CopiaTCSTPT::ConnectFileCommands() {
   Connect("ConvertiSR", [this] { files_->ConvertiSR(); });
   Connect("VisualizzaTransponder", [this] { ToggleView(View::Transponders); });
   Connect("Fine", [this] { close(); });
+  Connect("Guida", [this] { ShowGuide(); });
   Connect("About", [this] { ShowAbout(); });
 }
 
@@ -277,6 +279,14 @@ void CopiaTCSTPT::ShowSteps() {
     action.setEnabled(!label.empty());
     action.setText(label.empty() ? QString(name) : name + (" " + Text(label)));
   }
+}
+
+void CopiaTCSTPT::ShowGuide() {
+  auto* guide = findChild<FinestraGuida*>();
+  if (guide == nullptr) guide = new FinestraGuida(this);
+  guide->show();
+  guide->raise();
+  guide->activateWindow();
 }
 
 void CopiaTCSTPT::ShowAbout() {

@@ -54,6 +54,7 @@ class CopiaTCSTPT : public QMainWindow {
   void ShowSteps();
   void ShowList();
   void ShowAbout();
+  void ShowGuide();
   [[nodiscard]] QString SettingsFile() const;
 
   std::unique_ptr<Dialogs> dialogs_;

@@ -7,13 +7,16 @@
 
 #include <csignal>
 
-// The icons are in a library, which leaves them out unless they are asked for; the macro wants no namespace.
-static void KeepIcons() { Q_INIT_RESOURCE(icons); }
+// Icons and guide are in a library, which leaves them out unless they are asked for; the macro wants no namespace.
+static void KeepResources() {
+  Q_INIT_RESOURCE(icons);
+  Q_INIT_RESOURCE(guida);
+}
 
 namespace Ui {
 
 void SetUpToolkit(QApplication& application) {
-  KeepIcons();
+  KeepResources();
   QApplication::setApplicationName("Trovalis");
   QLocale::setDefault(QLocale(QLocale::Italian, QLocale::Italy));
   auto* italian = new QTranslator(&application);
