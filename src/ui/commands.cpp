@@ -1,5 +1,7 @@
 #include "ui/commands.h"
 
+#include "ui/command_tips.h"
+
 #include <QAction>
 #include <QIcon>
 #include <QMainWindow>
@@ -7,6 +9,9 @@
 #include <QMenuBar>
 #include <QToolBar>
 #include <QToolButton>
+
+#include <algorithm>
+#include <string_view>
 
 namespace Ui {
 namespace {
@@ -22,6 +27,7 @@ void AddCommand(QMainWindow& window, QMenu& menu, const Command& command) {
   if (*command.icon != '\0') action->setIcon(IconNamed(command.icon));
   if (*command.key != '\0') action->setShortcut(QKeySequence(command.key));
   if (command.forRows) action->setShortcutContext(Qt::WidgetShortcut);
+  action->setStatusTip(CommandTip(command.name));
   action->setCheckable(command.checkable);
   if (command.checkable) action->setIconVisibleInMenu(false);  // it would hide the tick
   action->setEnabled(false);
@@ -62,6 +68,12 @@ void BuildToolbar(QMainWindow& window) {
     widget->setObjectName(ButtonName(button.key));
     widget->setAccessibleName(button.tip);
   }
+}
+
+QString CommandTip(std::string_view name) {
+  const auto tip = std::find_if(CommandTips.begin(), CommandTips.end(),
+                                [name](const auto& entry) { return entry.first == name; });
+  return tip == CommandTips.end() ? QString() : QString(tip->second);
 }
 
 QAction& CommandAction(const QMainWindow& window, const char* name) {

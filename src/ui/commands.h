@@ -5,6 +5,7 @@
 #include <QString>
 
 #include <array>
+#include <string_view>
 
 class QAction;
 class QMainWindow;
@@ -125,6 +126,9 @@ inline constexpr std::array ToolbarButtons = {
 // makes a command work enables it.
 void BuildMenus(QMainWindow& window);
 void BuildToolbar(QMainWindow& window);
+
+// What a menu command does, for the status bar; empty where the name is none.
+QString CommandTip(std::string_view name);
 
 // The action of a menu command, or of a toolbar button by its key. The name must be one of the tables'.
 QAction& CommandAction(const QMainWindow& window, const char* name);

@@ -37,10 +37,7 @@ class Page : public QTextBrowser {
 }  // namespace
 
 FinestraGuida::FinestraGuida(QWidget* parent)
-    : QDialog(parent),
-      sections_(new QListWidget(this)),
-      page_(new Page(this)),
-      field_(new QLineEdit(this)) {
+    : QDialog(parent), sections_(new QListWidget(this)), page_(new Page(this)), field_(new QLineEdit(this)) {
   setObjectName("FinestraGuida");
   setWindowTitle("Guida a Trovalis");
   setAttribute(Qt::WA_DeleteOnClose);

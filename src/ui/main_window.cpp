@@ -265,7 +265,8 @@ void CopiaTCSTPT::ShowList() {
   for (const auto& [name, off] : blocked) {
     QAction& action = CommandAction(*this, name);
     action.setEnabled(!off);
-    action.setStatusTip(off ? "Non disponibile dopo l'importazione da formato FLASH: Annulla la toglie" : "");
+    action.setStatusTip(off ? "Non disponibile dopo l'importazione da formato FLASH: Annulla la toglie"
+                            : CommandTip(name));
   }
   ShowSteps();
   session_->ShowList();
