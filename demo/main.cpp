@@ -5,6 +5,7 @@
 #include "ui/toolkit.h"
 #include "window_driver.h"
 
+#include <QAction>
 #include <QApplication>
 #include <QComboBox>
 #include <QDir>
@@ -48,6 +49,8 @@ class Session {
     MoveRows();
     EditCells();
     ArrangeFavourites();
+    RemoveDuplicates();
+    PrintList();
     TakeFromSdx();
     Convert();
     SaveCopy();
@@ -171,6 +174,40 @@ class Session {
     if (lists != nullptr) lists->close();
     driver_->Choose("Annulla");
     driver_->Choose("Annulla");
+  }
+
+  // Copies of four channels are found and taken out again.
+  void RemoveDuplicates() {
+    const Routines::State before = window_->List().Tables();
+    driver_->SelectRows(34, 37);
+    driver_->Press("Toolbar1_Copy");
+    driver_->ExpectLine("Inserire il numero di canale da cui inserire", "60");
+    driver_->ExpectQuestion(
+        "Sposto o sovrascrivo i canali a partire dal 60 per 4 Canali?\n"
+        "Rispondere SI per spostare NO per sovrascrivere",
+        true);
+    driver_->Press("Toolbar1_Paste");
+    driver_->Choose("CanaliDoppi");
+    auto* found = window_->findChild<QDialog*>("FinestraCanaliDoppi");
+    const QString counts = driver_->TextOf("ConteggioDoppi");
+    Step("duplicates", counts == "4 gruppi, 8 canali, 0 scelti", counts);
+    if (found == nullptr) return;
+    found->findChild<QPushButton*>("EliminaTranneIlPrimo")->click();
+    Step("delete duplicates", window_->List().Tables().ChannelTable == before.ChannelTable,
+         driver_->TextOf("UltimoRisultato"));
+    found->close();
+  }
+
+  void PrintList() {
+    PictureBoxes("dialog-print");
+    driver_->Grid().clearSelection();
+    const QString pdf = output_ + "/canali.pdf";
+    driver_->ExpectDialog("Stampa Canali - " + QFileInfo(flash_).fileName(),
+                          [](QDialog& preview) { preview.findChild<QAction*>("SalvaPdf")->trigger(); });
+    driver_->ExpectFile("Salva la stampa come PDF", pdf);
+    const bool chosen = driver_->Choose("StampaGriglia");
+    driver_->onBox = nullptr;
+    Step("print to a PDF", chosen && QFileInfo(pdf).size() > 10000, driver_->TextOf("UltimoRisultato"));
   }
 
   void TakeFromSdx() {

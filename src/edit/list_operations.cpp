@@ -12,16 +12,6 @@ using namespace Routines;
 
 std::size_t At(int slot) { return static_cast<std::size_t>(slot); }
 
-// Puts every channel where the map says and brings the favourites along.
-std::vector<LostFavourite> Rearrange(State& state, const SlotMap& map) {
-  const auto before = state.ChannelTable;
-  for (std::size_t slot = 1; slot < map.size(); ++slot) state.ChannelTable[slot] = {};
-  for (std::size_t slot = 1; slot < map.size(); ++slot) {
-    if (map[slot] != 0 && !before[slot].Empty()) state.ChannelTable[At(map[slot])] = before[slot];
-  }
-  return RenumberFavourites(state.FavouritesBlock, map);
-}
-
 // Bouquet code and transponder number as one number that orders as the two texts and the number do; nothing for a
 // transponder that takes no part.
 constexpr std::uint32_t NoKey = 0xFFFFFFFF;
@@ -54,16 +44,33 @@ bool IsGap(const ChannelRecord& channel) {
 
 }  // namespace
 
-std::vector<LostFavourite> DeleteChannels(State& state, Slots slots) {
-  SlotMap map = SameSlots();
-  for (int slot = slots.first; slot <= state.ChannelCount; ++slot) {
-    map[At(slot)] = slot <= slots.last ? 0 : slot - slots.Count();
+std::vector<LostFavourite> Rearrange(State& state, const SlotMap& map) {
+  const auto before = state.ChannelTable;
+  for (std::size_t slot = 1; slot < map.size(); ++slot) state.ChannelTable[slot] = {};
+  for (std::size_t slot = 1; slot < map.size(); ++slot) {
+    if (map[slot] != 0 && !before[slot].Empty()) state.ChannelTable[At(map[slot])] = before[slot];
   }
-  for (int slot = slots.first; slot <= slots.last; ++slot) {
+  return RenumberFavourites(state.FavouritesBlock, map);
+}
+
+std::vector<LostFavourite> DeleteSlots(State& state, const std::vector<int>& slots) {
+  SlotMap map = SameSlots();
+  for (const int slot : slots) {
+    map[At(slot)] = 0;
     const ChannelRecord& channel = state.ChannelTable[At(slot)];
     if (!channel.Empty()) AddToChannelCount(state, Get(channel, ChannelField::Transponder), -1);
   }
+  int next = 1;
+  for (int slot = 1; slot <= state.ChannelCount; ++slot) {
+    if (map[At(slot)] != 0) map[At(slot)] = next++;
+  }
   return Rearrange(state, map);
+}
+
+std::vector<LostFavourite> DeleteChannels(State& state, Slots slots) {
+  std::vector<int> all(At(slots.Count()));
+  std::iota(all.begin(), all.end(), slots.first);
+  return DeleteSlots(state, all);
 }
 
 bool IsPosition(const State& state, int position, int count) {

@@ -20,9 +20,13 @@ struct Slots {
   [[nodiscard]] int Count() const { return last - first + 1; }
 };
 
-// Takes the channels of a run out; those behind it move up, and so do their favourites. Each transponder is told one
-// channel less for every channel taken.
+// Puts every channel where the map says and brings the favourites along. No two channels may go to one slot.
+std::vector<LostFavourite> Rearrange(State& state, const SlotMap& map);
+
+// Takes the channels of a run out, or those of some slots, none twice; those behind them move up, and so do their
+// favourites. Each transponder is told one channel less for every channel taken.
 std::vector<LostFavourite> DeleteChannels(State& state, Slots slots);
+std::vector<LostFavourite> DeleteSlots(State& state, const std::vector<int>& slots);
 
 // Whether `count` channels can be put in at `position`: the rule is position + count <= channel count.
 bool IsPosition(const State& state, int position, int count);

@@ -3,6 +3,7 @@
 #include "base/code_page.h"
 #include "base/text.h"
 #include "edit/list_operations.h"
+#include "edit/sposta_radio.h"
 
 #include <QApplication>
 
@@ -41,6 +42,28 @@ void ListCommands::OrdinaPerBouquet() {
   session_.view.Show(View::Channels);
   session_.status.ShowResult(QString("Canali ordinati per bouquet dal %1").arg(*start) +
                              session_.Losses(lost));
+}
+
+void ListCommands::SpostaRadio() {
+  if (!session_.NeedsFlash()) return;
+  const auto start = AskStart(Edit::LastOccupied(session_.document.Tables()));
+  if (!start) return;
+  const Edit::Regrouped done = session_.document.Apply(
+      "Raggruppa RADIO e SERVIZI", [&](State& state) { return Edit::SpostaRadio(state, *start); });
+  session_.view.Show(View::Channels);
+  session_.status.ShowResult(QString("Canali raggruppati dal %1: TV %2, radio %3, servizi %4")
+                                 .arg(*start)
+                                 .arg(done.television)
+                                 .arg(done.radio)
+                                 .arg(done.services) +
+                             session_.Losses(done.lost));
+  session_.dialogs.Message(
+      QString("Dal canale %1, nell'ordine:\nCanali TV: %2\nCanali radio: %3\nServizi: %4")
+          .arg(*start)
+          .arg(done.television)
+          .arg(done.radio)
+          .arg(done.services),
+      {}, Tone::Information);
 }
 
 void ListCommands::Azzera() {

@@ -10,6 +10,7 @@ class ListCommands {
   explicit ListCommands(Session& session) : session_(session) {}
 
   void OrdinaPerBouquet();
+  void SpostaRadio();
   void Azzera();
   void InvertiSatelliti();
   void RiportaAB();

@@ -2,6 +2,7 @@
 
 #include "ui/channel_menu.h"
 #include "ui/commands.h"
+#include "ui/duplicates_window.h"
 #include "ui/error_pane.h"
 #include "ui/guide_window.h"
 #include "ui/qt_dialogs.h"
@@ -68,6 +69,7 @@ CopiaTCSTPT::CopiaTCSTPT(const std::string& programFolder, std::unique_ptr<Dialo
   auto* pane = new SdxPane(session_->sdx, contents);
   pane->hide();
   sdx_ = std::make_unique<SdxCommands>(*session_, *pane, *this);
+  print_ = std::make_unique<PrintCommands>(*session_, *pane, *this);
   auto* frame = new DownloadFrame(contents);
   download_ = std::make_unique<DownloadCommands>(*session_, *sdx_, *frame, *this);
   column->addWidget(frame);
@@ -89,6 +91,7 @@ CopiaTCSTPT::CopiaTCSTPT(const std::string& programFolder, std::unique_ptr<Dialo
   ConnectListCommands();
   ConnectEditCommands();
   ConnectCellCommands();
+  ConnectPrintCommands();
   ConnectSdxCommands();
   ConnectTreeCommands();
   ConnectToolbar();
@@ -141,6 +144,8 @@ void CopiaTCSTPT::ConnectExchangeCommands() {
 
 void CopiaTCSTPT::ConnectListCommands() {
   Connect("OrdinaPerBouquet", [this] { lists_->OrdinaPerBouquet(); });
+  Connect("SpostaRadio", [this] { lists_->SpostaRadio(); });
+  Connect("CanaliDoppi", [this] { CanaliDoppi(*session_, *this); });
   Connect("Azzera", [this] { lists_->Azzera(); });
   Connect("InvertiSatelliti", [this] { lists_->InvertiSatelliti(); });
   Connect("RiportaAB", [this] { lists_->RiportaAB(); });
@@ -191,7 +196,8 @@ void CopiaTCSTPT::ConnectSdxCommands() {
     ShowList();
     CommandAction(*this, "VediSDX").setChecked(shown);
     if (shown) trees_->Hide();
-    for (const char* name : {"RicercaSDX", "ImportaTuttoSDX"}) CommandAction(*this, name).setEnabled(shown);
+    for (const char* name : {"RicercaSDX", "StampaSDX", "ImportaTuttoSDX"})
+      CommandAction(*this, name).setEnabled(shown);
   };
   sdx_->ShowPane(false);
   auto* pane = findChild<SdxPane*>();
@@ -212,6 +218,11 @@ void CopiaTCSTPT::ConnectTreeCommands() {
     if (session_->view.Current() == View::Channels) trees_->BringBack();
   });
   download_->onLoad = [this] { trees_->HideTransponders(); };
+}
+
+void CopiaTCSTPT::ConnectPrintCommands() {
+  Connect("StampaGriglia", [this] { print_->StampaGriglia(); });
+  Connect("StampaSDX", [this] { print_->StampaSDX(); });
 }
 
 // The button stays enabled while the command is not, and says why nothing is opened.
@@ -241,6 +252,7 @@ void CopiaTCSTPT::ConnectToolbar() {
       {"Cut", [this] { edit_->Cut(); }},
       {"Delete", [this] { edit_->Delete(); }},
       {"Find", [this] { lists_->CercaCanale(); }},
+      {"Print", [this] { print_->StampaGriglia(); }},
       {"Internet", [this] { download_->ScaricaInternet(); }},
       {"Find SDX", [this] { CommandAction(*this, "RicercaSDX").trigger(); }},
       {"Copy SDX", [this] { sdx_->CopySDX(); }},
@@ -255,7 +267,8 @@ void CopiaTCSTPT::ConnectToolbar() {
 void CopiaTCSTPT::ShowList() {
   const Routines::State& state = document_->Tables();
   setWindowTitle(Caption(state.InputFlash));
-  for (const char* name : {"Salva", "ApriFlashOutput", "ConvertiSR", "CercaCanale", "VaiAlCanale"}) {
+  for (const char* name :
+       {"Salva", "ApriFlashOutput", "ConvertiSR", "CercaCanale", "VaiAlCanale", "StampaGriglia"}) {
     CommandAction(*this, name).setEnabled(state.Loaded);
   }
   // What an exchange file of raw records makes unavailable; the pane comes back with a list to show in it.

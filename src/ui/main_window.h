@@ -9,6 +9,7 @@
 #include "ui/favourites_commands.h"
 #include "ui/file_commands.h"
 #include "ui/list_commands.h"
+#include "ui/print_commands.h"
 #include "ui/sdx_commands.h"
 #include "ui/session.h"
 #include "ui/tree_commands.h"
@@ -45,6 +46,7 @@ class CopiaTCSTPT : public QMainWindow {
   void ConnectCellCommands();
   void ConnectSdxCommands();
   void ConnectTreeCommands();
+  void ConnectPrintCommands();
   void ConnectToolbar();
   void OpenFlash();
   // Runs `slot` when the command is chosen, and enables it.
@@ -67,6 +69,7 @@ class CopiaTCSTPT : public QMainWindow {
   std::unique_ptr<FavouritesCommands> favourites_;
   std::unique_ptr<ListCommands> lists_;
   std::unique_ptr<SdxCommands> sdx_;
+  std::unique_ptr<PrintCommands> print_;
   std::unique_ptr<DownloadCommands> download_;
   std::unique_ptr<TreeCommands> trees_;
   bool sdxShownSinceFls_ = false;

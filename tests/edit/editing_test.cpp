@@ -1,6 +1,7 @@
 // Editing the list: every command that moves channels carries the favourites along, and every step can be undone.
 #include "edit/clipboard.h"
 #include "edit/history.h"
+#include "edit/sposta_radio.h"
 #include "image_builder.h"
 #include "model/favourites.h"
 
@@ -74,7 +75,7 @@ Slots RandomSlots(Junk& junk, const State& state) {
 void RandomCommand(Junk& junk, State& state, Clipboard& clipboard) {
   const Slots slots = RandomSlots(junk, state);
   std::vector<LostFavourite> lost;
-  switch (junk.Below(8)) {
+  switch (junk.Below(10)) {
     case 0:
       DeleteChannels(state, slots);
       break;
@@ -100,6 +101,12 @@ void RandomCommand(Junk& junk, State& state, Clipboard& clipboard) {
       break;
     case 6:
       InvertiSatelliti(state);
+      break;
+    case 7:
+      SpostaRadio(state, slots.first);
+      break;
+    case 8:
+      if (slots.last > 1) DeleteSlots(state, {slots.last, 1});
       break;
     default:
       CanaliXTransponder(state);
@@ -177,6 +184,11 @@ TEST(Editing, DeletingClosesTheListAndItsFavourites) {
   EXPECT_EQ(Get(Channel(*state, 5), ChannelField::Sid), 8U);
   EXPECT_TRUE(Channel(*state, 40).Empty());
   EXPECT_EQ(Get(state->TransponderTable[3].record, TransponderField::ChannelCount), 0U) << "never below 0";
+  DeleteSlots(*state, {12, 1, 4});
+  EXPECT_EQ(Get(Channel(*state, 1), ChannelField::Sid), 2U);
+  EXPECT_EQ(Get(Channel(*state, 10), ChannelField::Sid), 16U);
+  EXPECT_EQ(LastOccupied(*state), 14);
+  EXPECT_EQ(FavouriteEntriesOf(state->FavouritesBlock, 0), std::vector<int>({4, 4000, 14}));
   DeleteChannels(*state, {1, 40});
   EXPECT_EQ(LastOccupied(*state), 0);
 }
@@ -246,6 +258,32 @@ TEST(Editing, TheSortIsTheExchangeSortsOwn) {
     PlainSort(*plain, start);
     ASSERT_EQ(state->ChannelTable, plain->ChannelTable) << seed;
   }
+}
+
+TEST(Editing, TelevisionComesBeforeRadioAndServices) {
+  State state;
+  state.ChannelCount = 40;
+  state.FavouritesBlock.assign(NormalFavouritesSize, 0);
+  constexpr int None = 65535;
+  const struct {
+    int slot, sid, vpid, apid;
+  } channels[] = {{2, 2, 0, 7},   {4, 4, None, 7},      {5, 0, 8, 9},   {6, 6, 8, 9},   {9, 9, 0, None},
+                  {10, 10, 0, 0}, {11, 11, None, None}, {12, 12, 0, 7}, {13, 13, 8, 0}, {14, 0, 0, 7}};
+  for (const auto& c : channels) Channel(state, c.slot) = Samples::MakeChannel("x", 1, c.sid, c.vpid, c.apid);
+  std::fill_n(Channel(state, 6).bytes.begin(), 16, Base::Byte{' '});
+  const int entries[] = {2, 1, 8, 14, 6, 30};
+  for (std::size_t i = 0; i < 6; ++i) PutEntry(state, 0, i, entries[i]);
+  const Regrouped done = SpostaRadio(state, 4);
+  EXPECT_EQ(done.television, 2);
+  EXPECT_EQ(done.radio, 2);
+  EXPECT_EQ(done.services, 5);
+  std::vector<int> sids;
+  for (int slot = 1; slot <= 13; ++slot)
+    sids.push_back(
+        Channel(state, slot).Empty() ? -1 : static_cast<int>(Get(Channel(state, slot), ChannelField::Sid)));
+  EXPECT_EQ(sids, std::vector<int>({-1, 2, -1, 6, 13, 4, 12, 0, 9, 10, 11, 0, -1}));
+  EXPECT_EQ(FavouriteEntriesOf(state.FavouritesBlock, 0), std::vector<int>({2, 1, 12, 4, 30}));
+  EXPECT_EQ(done.lost, std::vector<LostFavourite>({{0, 2, 8}})) << "only the gap between channels was closed";
 }
 
 TEST(Editing, WholeListCommands) {

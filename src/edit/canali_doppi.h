@@ -1,0 +1,22 @@
+// Channels that are in the list more than once.
+#pragma once
+
+#include "model/routines.h"
+
+#include <vector>
+
+namespace Edit {
+
+// What makes two channels the same.
+struct DuplicateRules {
+  bool service = true;  // satellite, TID, NID and SID
+  bool streams = true;  // transponder, SID, VPID and APID
+  bool name = false;    // whatever its case; padding blanks do not count
+};
+
+// Groups of two or more slots, in the order of their first ones, the slots of each in ascending order. A channel is in
+// one group at most: groups of different rules that share a channel are one. Empty slots and channels whose transponder
+// is missing are in none.
+std::vector<std::vector<int>> CanaliDoppi(const Routines::State& state, const DuplicateRules& rules);
+
+}  // namespace Edit

@@ -1,0 +1,282 @@
+#include "ui/duplicates_window.h"
+
+#include "base/text.h"
+#include "edit/list_operations.h"
+#include "model/cells.h"
+#include "model/favourites.h"
+#include "ui/commands.h"
+
+#include <QAction>
+#include <QCheckBox>
+#include <QHeaderView>
+#include <QLabel>
+#include <QMainWindow>
+#include <QPushButton>
+#include <QTreeWidget>
+#include <QVBoxLayout>
+
+#include <map>
+
+namespace Ui {
+
+using Routines::ChannelRecord;
+using Routines::State;
+
+namespace {
+
+constexpr int SlotRole = Qt::UserRole;
+constexpr int ColumnGap = 12;
+constexpr bool IsNumber(int column) { return column >= 3 && column <= 5; }
+
+const ChannelRecord& ChannelAt(const State& state, int slot) {
+  return state.ChannelTable[static_cast<std::size_t>(slot)];
+}
+
+QString NameOf(const ChannelRecord& channel) { return CodePageText(Base::TrimmedRight(channel.Name())); }
+
+// "11804 V SAT A"
+QString TransponderOf(const State& state, const ChannelRecord& channel) {
+  const int slot = static_cast<int>(Get(channel, Routines::ChannelField::Transponder));
+  const auto& record = state.TransponderTable[static_cast<std::size_t>(slot)].record;
+  return Text(std::to_string(Routines::FrequencyMHz(record)) + " " +
+              Routines::TransponderCell(state, slot, 7) + " ") +
+         CodePageText(Routines::SatelliteLabel(record));
+}
+
+// Of each channel that is in any favourites list, the names of those lists.
+std::map<int, QString> FavouritesOf(const State& state) {
+  std::map<int, QString> lists;
+  for (std::size_t list = 0; list < Routines::FavouriteLists; ++list) {
+    const QString name = Text(Routines::FavouritesTitle(state.FavouritesBlock, list));
+    for (const int slot : Routines::FavouriteEntriesOf(state.FavouritesBlock, list)) {
+      QString& text = lists[slot];
+      if (!text.split(", ").contains(name)) text += (text.isEmpty() ? "" : ", ") + name;
+    }
+  }
+  return lists;
+}
+
+QString Counted(std::size_t count, const char* one, const char* more) {
+  return QString("%1 %2").arg(count).arg(count == 1 ? one : more);
+}
+
+}  // namespace
+
+void CanaliDoppi(Session& session, QMainWindow& window) {
+  if (!session.NeedsFlash()) return;
+  if (auto* open = window.findChild<FinestraCanaliDoppi*>(); open != nullptr && open->isVisible()) {
+    open->activateWindow();
+    return;
+  }
+  const State& state = session.document.Tables();
+  Edit::DuplicateRules rules;
+  if (Edit::CanaliDoppi(state, rules).empty()) {
+    rules.name = true;
+    if (Edit::CanaliDoppi(state, rules).empty()) {
+      session.dialogs.Message("Nessun canale doppio", {}, Tone::Information);
+      return;
+    }
+    if (!session.dialogs.YesNo("Nessun canale doppio\nCercare anche i canali con lo stesso nome?")) return;
+  }
+  auto* found = new FinestraCanaliDoppi(session, rules, &window);
+  for (const char* name : {"Annulla", "Ripeti"}) found->addAction(&CommandAction(window, name));
+  found->show();
+}
+
+FinestraCanaliDoppi::FinestraCanaliDoppi(Session& session, const Edit::DuplicateRules& rules, QWidget* parent)
+    : QDialog(parent), session_(session), tree_(new QTreeWidget(this)), counts_(new QLabel(this)) {
+  setObjectName("FinestraCanaliDoppi");
+  setWindowTitle("Canali Doppi");
+  setAttribute(Qt::WA_DeleteOnClose);
+  counts_->setObjectName("ConteggioDoppi");
+  SetUpTree();
+  auto* column = new QVBoxLayout(this);
+  column->addWidget(RuleBoxes(rules));
+  column->addWidget(tree_, 1);
+  column->addWidget(counts_);
+  column->addWidget(Buttons());
+  resize(760, 480);
+
+  connect(&session.document, &Document::Changed, this, &FinestraCanaliDoppi::Refresh);
+  Refresh();
+  tree_->setFocus();
+}
+
+QWidget* FinestraCanaliDoppi::RuleBoxes(const Edit::DuplicateRules& rules) {
+  auto* box = new QWidget(this);
+  auto* row = new QHBoxLayout(box);
+  row->setContentsMargins(0, 0, 0, 0);
+  const auto add = [&](const char* name, const char* caption, bool on) {
+    auto* check = new QCheckBox(caption, box);
+    check->setObjectName(name);
+    check->setChecked(on);
+    connect(check, &QCheckBox::toggled, this, &FinestraCanaliDoppi::Refresh);
+    row->addWidget(check);
+    return check;
+  };
+  service_ = add("StessoServizio", "Stesso servizio (satellite, TID, NID, SID)", rules.service);
+  streams_ = add("StessiPID", "Stesso transponder, SID e PID", rules.streams);
+  name_ = add("StessoNome", "Stesso nome", rules.name);
+  row->addStretch();
+  return box;
+}
+
+QWidget* FinestraCanaliDoppi::Buttons() {
+  auto* box = new QWidget(this);
+  auto* row = new QHBoxLayout(box);
+  row->setContentsMargins(0, 0, 0, 0);
+  const auto add = [&](const char* name, const char* caption, const auto& run) {
+    auto* button = new QPushButton(caption, box);
+    button->setObjectName(name);
+    button->setAutoDefault(false);  // Enter goes to the channel
+    connect(button, &QPushButton::clicked, this, run);
+    row->addWidget(button);
+    return button;
+  };
+  goTo_ = add("VaiAlDoppio", "Vai al canale", [this] { GoTo(tree_->currentItem()); });
+  deleteChosen_ = add("EliminaScelti", "Elimina scelti", [this] { Delete(Chosen()); });
+  deleteOthers_ =
+      add("EliminaTranneIlPrimo", "Elimina tutti tranne il primo", [this] { Delete(AllButFirst()); });
+  row->addStretch();
+  add("ChiudiDoppi", "Chiudi", [this] { close(); });
+  return box;
+}
+
+void FinestraCanaliDoppi::SetUpTree() {
+  tree_->setObjectName("GruppiDoppi");
+  tree_->setAccessibleName("Canali doppi");
+  tree_->setHeaderLabels({"Prog.", "Canale", "Transponder", "SID", "VPID", "APID", "Preferiti"});
+  for (int column = 0; column < tree_->columnCount(); ++column) {
+    if (IsNumber(column)) tree_->headerItem()->setTextAlignment(column, Qt::AlignCenter);
+  }
+  tree_->setExpandsOnDoubleClick(false);
+  tree_->setUniformRowHeights(true);
+  tree_->setAllColumnsShowFocus(true);
+  connect(tree_, &QTreeWidget::itemActivated, this, &FinestraCanaliDoppi::GoTo);
+  connect(tree_, &QTreeWidget::itemChanged, this, &FinestraCanaliDoppi::TellCounts);
+  // The space bar ticks the current cell, and only the first one can be ticked.
+  connect(tree_, &QTreeWidget::itemClicked, this,
+          [this](QTreeWidgetItem* item) { tree_->setCurrentItem(item, 0); });
+}
+
+// Ticks stay while the groups hold the same channels, wherever these have moved.
+void FinestraCanaliDoppi::Refresh() {
+  const State& state = session_.document.Tables();
+  groups_ = Edit::CanaliDoppi(state, {service_->isChecked(), streams_->isChecked(), name_->isChecked()});
+  std::vector<std::vector<ChannelRecord>> channels;
+  for (const auto& group : groups_) {
+    auto& records = channels.emplace_back();
+    for (const int slot : group) records.push_back(ChannelAt(state, slot));
+  }
+  const bool rebuild = channels != shown_;
+  shown_ = std::move(channels);
+  if (rebuild) Rebuild();
+  FillTexts();
+  for (int column = 0; rebuild && column + 1 < tree_->columnCount(); ++column) {
+    tree_->resizeColumnToContents(column);
+    tree_->setColumnWidth(column, tree_->columnWidth(column) + ColumnGap);
+  }
+  TellCounts();
+}
+
+void FinestraCanaliDoppi::Rebuild() {
+  const QSignalBlocker quiet(tree_);
+  tree_->clear();
+  QList<QTreeWidgetItem*> items;
+  for (const auto& group : groups_) {
+    auto* head = new QTreeWidgetItem;
+    for (std::size_t i = 0; i < group.size(); ++i) {
+      (new QTreeWidgetItem(head))->setCheckState(0, Qt::Unchecked);
+    }
+    items += head;
+  }
+  tree_->addTopLevelItems(items);
+  QFont bold = tree_->font();
+  bold.setBold(true);
+  for (QTreeWidgetItem* head : items) {
+    head->setFirstColumnSpanned(true);
+    head->setFont(0, bold);
+  }
+  tree_->expandAll();
+  if (!items.isEmpty()) tree_->setCurrentItem(items.front()->child(0));
+}
+
+void FinestraCanaliDoppi::FillTexts() {
+  const QSignalBlocker quiet(tree_);
+  const State& state = session_.document.Tables();
+  const auto favourites = FavouritesOf(state);
+  for (std::size_t i = 0; i < groups_.size(); ++i) {
+    QTreeWidgetItem& head = *tree_->topLevelItem(static_cast<int>(i));
+    const auto& group = groups_[i];
+    head.setText(0, NameOf(shown_[i].front()) + ": " + Counted(group.size(), "canale", "canali"));
+    head.setData(0, SlotRole, group.front());
+    for (std::size_t k = 0; k < group.size(); ++k) {
+      const auto in = favourites.find(group[k]);
+      FillChannel(*head.child(static_cast<int>(k)), group[k], in == favourites.end() ? "" : in->second);
+    }
+  }
+}
+
+void FinestraCanaliDoppi::FillChannel(QTreeWidgetItem& item, int slot, const QString& favourites) {
+  const State& state = session_.document.Tables();
+  const auto cell = [&](int column) { return CodePageText(Routines::ChannelCell(state, slot, column)); };
+  const ChannelRecord& channel = ChannelAt(state, slot);
+  item.setData(0, SlotRole, slot);
+  const QString texts[] = {cell(0), NameOf(channel), TransponderOf(state, channel), cell(3), cell(4),
+                           cell(5), favourites};
+  int column = 0;
+  for (const QString& text : texts) {
+    item.setText(column, text);
+    if (IsNumber(column)) item.setTextAlignment(column, Qt::AlignCenter);
+    ++column;
+  }
+}
+
+void FinestraCanaliDoppi::TellCounts() {
+  std::size_t channels = 0;
+  for (const auto& group : groups_) channels += group.size();
+  const std::size_t chosen = Chosen().size();
+  counts_->setText(groups_.empty() ? QString("Nessun canale doppio")
+                                   : Counted(groups_.size(), "gruppo", "gruppi") + ", " +
+                                         Counted(channels, "canale", "canali") + ", " +
+                                         Counted(chosen, "scelto", "scelti"));
+  goTo_->setEnabled(!groups_.empty());
+  deleteOthers_->setEnabled(!groups_.empty());
+  deleteChosen_->setEnabled(chosen > 0);
+}
+
+std::vector<int> FinestraCanaliDoppi::Chosen() const {
+  std::vector<int> slots;
+  for (std::size_t i = 0; i < groups_.size(); ++i) {
+    const QTreeWidgetItem& head = *tree_->topLevelItem(static_cast<int>(i));
+    for (std::size_t k = 0; k < groups_[i].size(); ++k) {
+      if (head.child(static_cast<int>(k))->checkState(0) == Qt::Checked) slots.push_back(groups_[i][k]);
+    }
+  }
+  return slots;
+}
+
+std::vector<int> FinestraCanaliDoppi::AllButFirst() const {
+  std::vector<int> slots;
+  for (const auto& group : groups_) slots.insert(slots.end(), group.begin() + 1, group.end());
+  return slots;
+}
+
+void FinestraCanaliDoppi::GoTo(const QTreeWidgetItem* item) {
+  if (item == nullptr) return;
+  const int slot = item->data(0, SlotRole).toInt();
+  session_.view.Show(View::Channels);
+  session_.view.Grid().Select({slot, slot});
+  session_.view.Grid().scrollTo(session_.view.Grid().currentIndex(), QAbstractItemView::PositionAtCenter);
+  session_.status.ShowResult(QString("Canale %1").arg(slot));
+}
+
+void FinestraCanaliDoppi::Delete(const std::vector<int>& slots) {
+  const std::string label = slots.size() == 1 ? "Elimina 1 canale doppio"
+                                              : "Elimina " + std::to_string(slots.size()) + " canali doppi";
+  const auto lost =
+      session_.document.Apply(label, [&](State& state) { return Edit::DeleteSlots(state, slots); });
+  session_.status.ShowResult(Text(label) + session_.Losses(lost));
+}
+
+}  // namespace Ui

@@ -1,0 +1,57 @@
+// `FinestraCanaliDoppi`: the channels that are in the list more than once, in groups that follow the list.
+#pragma once
+
+#include "edit/canali_doppi.h"
+#include "ui/session.h"
+
+#include <QDialog>
+
+class QCheckBox;
+class QLabel;
+class QMainWindow;
+class QPushButton;
+class QTreeWidget;
+class QTreeWidgetItem;
+
+namespace Ui {
+
+// The command: shows the window, or says that there is nothing to show.
+void CanaliDoppi(Session& session, QMainWindow& window);
+
+class FinestraCanaliDoppi : public QDialog {
+  Q_OBJECT
+
+ public:
+  FinestraCanaliDoppi(Session& session, const Edit::DuplicateRules& rules, QWidget* parent);
+
+ private:
+  QWidget* RuleBoxes(const Edit::DuplicateRules& rules);
+  QWidget* Buttons();
+  void SetUpTree();
+
+  void Refresh();
+  void Rebuild();
+  void FillTexts();
+  void FillChannel(QTreeWidgetItem& item, int slot, const QString& favourites);
+  void TellCounts();
+  [[nodiscard]] std::vector<int> Chosen() const;
+  [[nodiscard]] std::vector<int> AllButFirst() const;
+  void GoTo(const QTreeWidgetItem* item);
+  void Delete(const std::vector<int>& slots);
+
+  using Groups = std::vector<std::vector<int>>;  // of slots
+
+  Session& session_;
+  Groups groups_;
+  std::vector<std::vector<Routines::ChannelRecord>> shown_;  // the channels of the groups in the tree
+  QCheckBox* service_;
+  QCheckBox* streams_;
+  QCheckBox* name_;
+  QTreeWidget* tree_;
+  QLabel* counts_;
+  QPushButton* goTo_;
+  QPushButton* deleteChosen_;
+  QPushButton* deleteOthers_;
+};
+
+}  // namespace Ui

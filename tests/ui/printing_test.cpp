@@ -1,0 +1,180 @@
+// Printed pages: their text is taken out again, and they are looked at as pictures.
+#include "image_builder.h"
+#include "ui/list_model.h"
+#include "ui/print_report.h"
+#include "ui/window_fixture.h"
+
+#include <QDialog>
+#include <QImage>
+#include <QLineEdit>
+#include <QProcess>
+
+#include <sys/stat.h>
+
+namespace Ui {
+namespace {
+
+QByteArray Run(const QString& program, const QStringList& arguments) {
+  QProcess process;
+  process.start(program, arguments);
+  EXPECT_TRUE(process.waitForFinished() && process.exitCode() == 0) << qPrintable(program);
+  return process.readAllStandardOutput();
+}
+
+// The lines of each page of a PDF.
+std::vector<QStringList> PagesIn(const std::string& path) {
+  QStringList pages = QString::fromUtf8(Run("pdftotext", {"-layout", PathText(path), "-"})).split('\f');
+  pages.removeLast();
+  std::vector<QStringList> lines;
+  for (const QString& page : pages) lines.push_back(page.split('\n', Qt::SkipEmptyParts));
+  return lines;
+}
+
+// Where the first page has ink, in millimetres of its width and height.
+QRectF InkOf(const std::string& path) {
+  const QImage page =
+      QImage::fromData(Run("pdftoppm", {"-r", "127", "-gray", "-f", "1", "-l", "1", PathText(path)}));
+  QRect ink;
+  for (int y = 0; y < page.height(); ++y) {
+    for (int x = 0; x < page.width(); ++x) {
+      if (qGray(page.pixel(x, y)) < 128) ink |= QRect(x, y, 1, 1);
+    }
+  }
+  return {ink.x() / 5.0, ink.y() / 5.0, ink.width() / 5.0, ink.height() / 5.0};
+}
+
+}  // namespace
+
+TEST(Printing, EveryRowIsOnItsPageWhateverThePaper) {
+  Document document;
+  document.Adjust([](Routines::State& state) {
+    state.ChannelCount = 200;
+    for (std::size_t slot = 2; slot <= 200; ++slot)
+      state.ChannelTable[slot] = Samples::MakeChannel(
+          "\x05"
+          "Citt\xE0 \t" +
+              std::to_string(slot),
+          1, 7, 65535, 9);
+  });
+  const ListModel model(document, ListModel::Channels, nullptr);
+  const PrintReport report = ReportOf(model, {1, 200}, QString(200, 'X'));
+  for (const QString& row : report.rows) EXPECT_EQ(row.size(), report.titles.size()) << qPrintable(row);
+
+  const Tests::TestFolder folder;
+  const std::string path = folder.Path("lista.pdf");
+  for (const auto paper : {QPageSize::A4, QPageSize::A6}) {
+    for (const auto way : {QPageLayout::Portrait, QPageLayout::Landscape}) {
+      const QPageLayout layout(QPageSize(paper), way, QMarginsF(12, 12, 12, 12), QPageLayout::Millimeter);
+      const auto pages = SavePdf(report, path, layout);
+      ASSERT_TRUE(pages);
+      EXPECT_EQ(*pages, 200 / 64 + 1);
+      QStringList rows;
+      for (const QStringList& lines : PagesIn(path)) {
+        EXPECT_TRUE(lines[0].startsWith("XXX") && lines[0].contains(" Pagina ")) << qPrintable(lines[0]);
+        EXPECT_EQ(lines[1].simplified(), report.titles.simplified());
+        EXPECT_LE(lines.size(), 80);
+        rows += lines.mid(2);
+      }
+      ASSERT_EQ(rows.size(), 200);
+      EXPECT_EQ(rows[0].simplified().toStdString(), "0001") << "an empty slot has its line";
+      EXPECT_EQ(rows[199].simplified().toStdString(), "0200 Città 200 001 7 65535 9 65535 65535 65535 04 S");
+      const QRectF area = layout.paintRect(QPageLayout::Millimeter);
+      const QRectF ink = InkOf(path);
+      EXPECT_TRUE(area.adjusted(-1, -1, 1, 1).contains(ink)) << paper << " " << way;
+      EXPECT_GT(ink.height(), 0.9 * area.height());
+    }
+  }
+  QPageRanges second;
+  second.addPage(2);
+  ASSERT_TRUE(SavePdf(report, path, UsualPage(), second));
+  const auto pages = PagesIn(path);
+  ASSERT_EQ(pages.size(), 1U);
+  EXPECT_TRUE(pages[0][0].endsWith("Pagina 2 di 4")) << qPrintable(pages[0][0]);
+}
+
+class PrintingWindow : public Window {
+ protected:
+  // Saves the preview of that title as a PDF.
+  std::string ExpectPdf(const QString& title, const char* name) {
+    std::string path = folder_.Path(name);
+    driver_->ExpectDialog(title,
+                          [](QDialog& preview) { preview.findChild<QAction*>("SalvaPdf")->trigger(); });
+    driver_->ExpectFile("Salva la stampa come PDF", PathText(path));
+    return path;
+  }
+};
+
+TEST_F(PrintingWindow, PrintsTheListShownOrItsSelectedRows) {
+  OpenDemo();
+  const std::string all = ExpectPdf("Stampa Canali - demo.dat", "tutti.pdf");
+  ASSERT_TRUE(driver_->Choose("StampaGriglia"));
+  const auto pages = PagesIn(all);
+  EXPECT_EQ(Said(), "Stampa Canali - demo.dat: " + std::to_string(pages.size()) + " pagine in tutti.pdf");
+  EXPECT_TRUE(pages.back().back().startsWith("0647")) << "the free slots at the list's end are left out";
+  driver_->SelectRows(3, 5);
+  const QString which = "Stampare solo le 3 righe selezionate?\nRispondere NO per stampare tutta la lista";
+  driver_->ExpectCancelledQuestion(which);
+  driver_->Key(Qt::Key_P, Qt::ControlModifier);
+  driver_->ExpectQuestion(which, true);
+  const std::string some = ExpectPdf("Stampa Canali - demo.dat", "tre.pdf");
+  driver_->Key(Qt::Key_P, Qt::ControlModifier);
+  EXPECT_EQ(PagesIn(some).at(0).size(), 5);
+  EXPECT_TRUE(PagesIn(some)[0][2].startsWith("0003"));
+  ASSERT_TRUE(driver_->Choose("VisualizzaTransponder"));
+  const std::string transponders = ExpectPdf("Stampa Transponder - demo.dat", "transponder.pdf");
+  ASSERT_TRUE(driver_->Press("Toolbar1_Print"));
+  EXPECT_TRUE(PagesIn(transponders).at(0)[2].startsWith("001"));
+}
+
+TEST_F(PrintingWindow, ThePrintDialogWritesAFileWithoutAnyPrinter) {
+  OpenDemo();
+  const std::string path = folder_.Path("stampa.pdf");
+  driver_->ExpectDialog("Stampa Canali - demo.dat", [](QDialog& preview) {
+    for (QAction* action : preview.findChildren<QAction*>()) {
+      if (action->text() == "Stampa") action->trigger();
+    }
+  });
+  driver_->ExpectDialog("Stampa", [&path](QDialog& dialog) {
+    dialog.findChild<QLineEdit*>("filename")->setText(PathText(path));
+    dialog.accept();
+  });
+  ASSERT_TRUE(driver_->Choose("StampaGriglia"));
+  EXPECT_EQ(PagesIn(path).at(0)[0].left(24), "Stampa Canali - demo.dat");
+  EXPECT_TRUE(Said().ends_with(" in stampa.pdf")) << Said();
+}
+
+TEST_F(PrintingWindow, WhatCannotBePrintedIsTold) {
+  Start();
+  ASSERT_TRUE(window_->Start());
+  const QString noList = "Funzione valida solo in visualizzazione canali";
+  EXPECT_FALSE(Action("StampaGriglia").isEnabled());
+  EXPECT_FALSE(Action("StampaSDX").isEnabled());
+  driver_->ExpectMessage(noList);
+  ASSERT_TRUE(driver_->Press("Toolbar1_Print"));
+  Open(flash_);
+  ::chmod(folder_.Path().c_str(), 0555);
+  {
+    const Tests::OrdinaryUser user;
+    ExpectPdf("Stampa Canali - demo.dat", "no.pdf");
+    driver_->ExpectMessage("Impossibile scrivere no.pdf: permesso negato");
+    driver_->ExpectFileCancelled("Stampa Canali - demo.dat");
+    EXPECT_TRUE(driver_->Choose("StampaGriglia"));
+  }
+  ::chmod(folder_.Path().c_str(), 0755);
+  ASSERT_TRUE(driver_->Choose("VediSDX"));
+  driver_->ExpectMessage("Canali SDX non caricati");
+  ASSERT_TRUE(driver_->Choose("StampaSDX"));
+  driver_->ExpectMessage("Sono stati azzerati 647 Canali");
+  ASSERT_TRUE(driver_->Choose("Azzera"));
+  for (const char* view : {"VisualizzaCanali", "VisualizzaTransponder"}) {
+    const bool shown = Action(view).isChecked() || driver_->Choose(view);
+    ASSERT_TRUE(shown);
+    driver_->ExpectMessage("Nessuna riga da stampare");
+    ASSERT_TRUE(driver_->Choose("StampaGriglia"));
+  }
+  ASSERT_TRUE(driver_->Choose("VisualizzaTransponder"));
+  driver_->ExpectMessage(noList);
+  ASSERT_TRUE(driver_->Choose("StampaGriglia"));
+}
+
+}  // namespace Ui

@@ -1,0 +1,146 @@
+// Duplicates and regrouping.
+#include "model/favourites.h"
+#include "ui/window_fixture.h"
+
+#include <QCheckBox>
+#include <QDialog>
+#include <QPushButton>
+#include <QTest>
+#include <QTreeWidget>
+
+namespace Ui {
+namespace {
+
+class Duplicates : public Window {
+ protected:
+  // Copies of three channels stand in slots 20 to 22.
+  void OpenWithCopies(int first = 2) {
+    driver_->SelectRows(first, first + 2);
+    ASSERT_TRUE(driver_->Press("Toolbar1_Copy"));
+    driver_->ExpectLine("Inserire il numero di canale da cui inserire", "20");
+    driver_->ExpectQuestion(
+        "Sposto o sovrascrivo i canali a partire dal 20 per 3 Canali?\n"
+        "Rispondere SI per spostare NO per sovrascrivere",
+        true);
+    ASSERT_TRUE(driver_->Press("Toolbar1_Paste"));
+    ASSERT_TRUE(driver_->Choose("CanaliDoppi"));
+    found_ = window_->findChild<QDialog*>("FinestraCanaliDoppi");
+    ASSERT_NE(found_, nullptr);
+    tree_ = found_->findChild<QTreeWidget*>();
+  }
+
+  [[nodiscard]] QTreeWidgetItem& Row(int group, int row) const {
+    return *tree_->topLevelItem(group)->child(row);
+  }
+  [[nodiscard]] std::string Counts() const { return driver_->TextOf("ConteggioDoppi").toStdString(); }
+  void Click(const char* button) {
+    QTest::mouseClick(found_->findChild<QPushButton*>(button), Qt::LeftButton);
+  }
+
+  QDialog* found_ = nullptr;
+  QTreeWidget* tree_ = nullptr;
+};
+
+}  // namespace
+
+TEST_F(Duplicates, TheGroupsFollowEveryChangeAndTicksTheirChannels) {
+  OpenDemo();
+  OpenWithCopies();
+  EXPECT_EQ(Counts(), "3 gruppi, 6 canali, 0 scelti");
+  EXPECT_FALSE(found_->findChild<QPushButton*>("EliminaScelti")->isEnabled());
+  QTest::keyClick(tree_, Qt::Key_Down);
+  QTest::keyClick(tree_, Qt::Key_Space);
+  EXPECT_EQ(Row(0, 1).checkState(0), Qt::Checked);
+  EXPECT_EQ(Counts(), "3 gruppi, 6 canali, 1 scelto");
+
+  driver_->SelectRows(10, 10);
+  ASSERT_TRUE(driver_->Press("Toolbar1_Delete"));
+  EXPECT_EQ(Row(0, 1).text(0), "0019") << "a channel before it went away";
+  EXPECT_EQ(Row(0, 1).checkState(0), Qt::Checked);
+  const auto channels = List().ChannelTable;
+  Click("EliminaScelti");
+  EXPECT_EQ(List().ChannelTable[19], channels[20]);
+  EXPECT_EQ(Counts(), "2 gruppi, 4 canali, 0 scelti") << "no tick goes to another channel";
+  EXPECT_EQ(Said(), "Elimina 1 canale doppio");
+  found_->activateWindow();
+  ASSERT_TRUE(QTest::qWaitForWindowActive(found_));
+  QTest::keyClick(found_, Qt::Key_Z, Qt::ControlModifier);
+  EXPECT_EQ(Counts(), "3 gruppi, 6 canali, 0 scelti");
+  driver_->Choose("Annulla");
+  ASSERT_EQ(Row(2, 1).text(0), "0022");
+
+  Open(flash_);
+  EXPECT_EQ(Counts(), "Nessun canale doppio");
+  EXPECT_FALSE(found_->findChild<QPushButton*>("EliminaTranneIlPrimo")->isEnabled());
+}
+
+TEST_F(Duplicates, AllButTheFirstGoInOneStepAndFavouritesAreTold) {
+  OpenDemo();
+  OpenWithCopies(Routines::FavouriteEntriesOf(List().FavouritesBlock, 0).front());
+  const Routines::State before = List();
+  for (const char* rule : {"StessoServizio", "StessiPID"}) found_->findChild<QCheckBox*>(rule)->click();
+  EXPECT_EQ(Counts(), "Nessun canale doppio");
+  found_->findChild<QCheckBox*>("StessiPID")->click();
+  QTreeWidgetItem& favourite = Row(0, Row(0, 0).text(6).isEmpty() ? 1 : 0);
+  EXPECT_EQ(favourite.text(6).toStdString(), Routines::FavouritesTitle(List().FavouritesBlock, 0));
+  favourite.setCheckState(0, Qt::Checked);
+  Click("EliminaScelti");
+  EXPECT_EQ(Said(), "Elimina 1 canale doppio, tolto 1 preferito (Cinema 1)");
+  driver_->Choose("Annulla");
+  EXPECT_TRUE(List() == before);
+  Click("EliminaTranneIlPrimo");
+  EXPECT_EQ(driver_->TextOf("CanaliUsati"), "Canali 620 di 3996");
+  EXPECT_EQ(Said(), "Elimina 3 canali doppi, tolti 3 preferiti (Cinema 3)");
+  driver_->Choose("Annulla");
+  EXPECT_TRUE(List() == before);
+}
+
+TEST_F(Duplicates, ARowLeadsToItsChannelFromAnyView) {
+  OpenDemo();
+  OpenWithCopies();
+  ASSERT_TRUE(driver_->Choose("VisualizzaTransponder"));
+  const QRect place = tree_->visualItemRect(&Row(2, 1));
+  QTest::mouseClick(tree_->viewport(), Qt::LeftButton, {}, place.center());
+  QTest::mouseDClick(tree_->viewport(), Qt::LeftButton, {}, place.center());
+  EXPECT_EQ(driver_->TextOf("Text1"), "Canali");
+  EXPECT_EQ(driver_->Grid().Selected()->first, 22);
+  EXPECT_TRUE(driver_->Grid().viewport()->rect().intersects(
+      driver_->Grid().visualRect(driver_->Grid().model()->index(21, 1))));
+  tree_->setCurrentItem(&Row(1, 0));
+  QTest::keyClick(tree_, Qt::Key_Return);
+  EXPECT_EQ(driver_->Grid().Selected()->first, 3);
+  EXPECT_TRUE(found_->isVisible());
+}
+
+TEST_F(Window, NothingTwiceIsAMessageAndNamesAreAChoice) {
+  Start();
+  for (const char* command : {"CanaliDoppi", "SpostaRadio"}) {
+    driver_->ExpectMessage(NoFlash);
+    ASSERT_TRUE(driver_->Choose(command));
+  }
+  ASSERT_TRUE(window_->Start());
+  Open(flash_);
+  driver_->ExpectQuestion("Nessun canale doppio\nCercare anche i canali con lo stesso nome?", false);
+  ASSERT_TRUE(driver_->Choose("CanaliDoppi"));
+  EXPECT_EQ(window_->findChild<QDialog*>("FinestraCanaliDoppi"), nullptr);
+  driver_->ExpectMessage("Sono stati azzerati 647 Canali");
+  ASSERT_TRUE(driver_->Choose("Azzera"));
+  driver_->ExpectMessage("Nessun canale doppio");
+  ASSERT_TRUE(driver_->Choose("CanaliDoppi"));
+}
+
+TEST_F(Window, RegroupingTellsHowManyOfEach) {
+  OpenDemo();
+  const Routines::State before = List();
+  const QString from =
+      "Inserire il canale dal quale iniziare il raggruppamento; I canali precedenti manterranno la "
+      "numerazione";
+  driver_->ExpectLine(from, "7");
+  driver_->ExpectMessage("Dal canale 7, nell'ordine:\nCanali TV: 461\nCanali radio: 123\nServizi: 30");
+  ASSERT_TRUE(driver_->Choose("SpostaRadio"));
+  EXPECT_EQ(Said(), "Canali raggruppati dal 7: TV 461, radio 123, servizi 30");
+  ASSERT_TRUE(driver_->Choose("Annulla"));
+  EXPECT_TRUE(List() == before);
+}
+
+}  // namespace Ui
