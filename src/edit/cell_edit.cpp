@@ -118,12 +118,17 @@ Outcome SetChannelField(State& state, ChannelRecord& channel, int column, std::s
   }
 }
 
+// What the four bytes can show, in MHz above the oscillator.
+constexpr int LowestShown = 16;
+constexpr int HighestShown = 4294;
+
 // The smallest stored value that shows as `megahertz`; nothing where the four bytes have none.
 std::optional<std::uint32_t> HertzShownAs(TransponderRecord transponder, int megahertz) {
   const int oscillator = LocalOscillator(transponder);
-  constexpr int Highest = 4294;
-  if (megahertz <= oscillator || megahertz - oscillator > Highest) return std::nullopt;
-  auto hertz = static_cast<std::uint32_t>(megahertz - oscillator) * 1000000U;
+  if (megahertz < oscillator + LowestShown || megahertz > oscillator + HighestShown) return std::nullopt;
+  // A record whose first byte is 0 shows no frequency.
+  constexpr std::uint32_t FirstWithByte = 1U << 24U;
+  auto hertz = std::max(static_cast<std::uint32_t>(megahertz - oscillator) * 1000000U, FirstWithByte);
   Set(transponder, TransponderField::Frequency, hertz);
   while (FrequencyMHz(transponder) < megahertz) Set(transponder, TransponderField::Frequency, ++hertz);
   return hertz;
@@ -139,8 +144,8 @@ Outcome SetFrequency(TransponderRecord& transponder, std::string_view text) {
   const auto hertz = HertzShownAs(changed, typed);
   if (!hertz) {
     const int oscillator = LocalOscillator(changed);
-    return Error{"Serve una frequenza in MHz da " + std::to_string(oscillator + 1) + " a " +
-                 std::to_string(oscillator + 4294)};
+    return Error{"Serve una frequenza in MHz da " + std::to_string(oscillator + LowestShown) + " a " +
+                 std::to_string(oscillator + HighestShown)};
   }
   if (!IsFree(transponder) && FrequencyMHz(transponder) == typed) return Done{};
   Set(changed, TransponderField::Frequency, *hertz);

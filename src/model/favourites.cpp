@@ -55,7 +55,8 @@ std::string FavouritesTitle(Base::ByteView block, std::size_t list) {
 
 bool SetFavouriteName(Base::Bytes& block, std::size_t list, std::string_view name) {
   const std::size_t at = FavouriteNameOffset(block.size(), list);
-  if (at + FavouriteNameSize > block.size() || name.size() > FavouriteNameSize) return false;
+  const bool place = at >= FavouriteListsSize && at + FavouriteNameSize <= block.size();
+  if (!place || name.size() > FavouriteNameSize) return false;
   const auto end = std::copy(name.begin(), name.end(), block.begin() + static_cast<std::ptrdiff_t>(at));
   std::fill(end, block.begin() + static_cast<std::ptrdiff_t>(at + FavouriteNameSize), Base::Byte{0});
   return true;

@@ -37,7 +37,8 @@ std::string FavouriteNameOf(Base::ByteView block, std::size_t list);
 // The name to show, or "lista 3" where there is none; UTF-8.
 std::string FavouritesTitle(Base::ByteView block, std::size_t list);
 
-// `name` is at most eight bytes of the code page. False where the block is too short for it.
+// `name` is at most eight bytes of the code page. False where the block is so short that it
+// has no place, or one among the entries.
 bool SetFavouriteName(Base::Bytes& block, std::size_t list, std::string_view name);
 
 }  // namespace Routines

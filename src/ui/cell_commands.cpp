@@ -65,6 +65,12 @@ QStringList Satellites(const std::vector<Routines::Satellite>& named) {
   return texts;
 }
 
+// The header calls the column of the names after the channel.
+std::string Title(const QAbstractItemModel& list, int column, bool channels) {
+  if (channels && column == Name) return "Nome";
+  return list.headerData(column, Qt::Horizontal, Qt::DisplayRole).toString().toStdString();
+}
+
 }  // namespace
 
 CellKind CellCommands::KindOf(int column) const {
@@ -92,20 +98,14 @@ QStringList CellCommands::Choices(int column) const {
   }
 }
 
-// The header calls the column of the names after the channel.
-std::string CellCommands::ColumnTitle(int column) const {
-  if (Channels() && column == Name) return "Nome";
-  return session_.view.Grid()
-      .model()
-      ->headerData(column, Qt::Horizontal, Qt::DisplayRole)
-      .toString()
-      .toStdString();
-}
-
-QString CellCommands::Take(int slot, int column, const QString& typed) {
+// An editor may be closed by the very command that shows the other list: the cell says whose it is.
+QString CellCommands::Take(const QModelIndex& cell, const QString& typed) {
+  const int slot = cell.row() + 1;
+  const int column = cell.column();
   const std::string text = typed.toStdString();
-  const std::string label = "Modifica " + ColumnTitle(column);
-  const bool channels = Channels();
+  const bool channels = static_cast<const ListModel*>(cell.model())->OfChannels();
+  const std::string title = Title(*cell.model(), column, channels);
+  const std::string label = "Modifica " + title;
   const int revision = session_.document.Revision();
   const Base::Outcome done = session_.document.Apply(label, [&](State& state) {
     return channels ? Edit::EditChannel(state, slot, column, text)
@@ -119,7 +119,7 @@ QString CellCommands::Take(int slot, int column, const QString& typed) {
     session_.status.ShowResult(QString("%1 %2, %3: %4")
                                    .arg(channels ? "Canale" : "Transponder")
                                    .arg(slot)
-                                   .arg(Text(ColumnTitle(column)), typed.trimmed()));
+                                   .arg(Text(title), typed.trimmed()));
   }
   return {};
 }
@@ -156,7 +156,7 @@ void CellCommands::InsertRows() {
 void CellCommands::SetColumn(int column, const QString& value) {
   const auto rows = Rows();
   if (!rows) return;
-  const std::string label = ColumnTitle(column) + " " + value.toStdString();
+  const std::string label = Title(*session_.view.Grid().model(), column, true) + " " + value.toStdString();
   const auto changed = session_.document.Apply(
       label, [&](State& state) { return Edit::EditChannels(state, *rows, column, value.toStdString()); });
   if (!changed) {

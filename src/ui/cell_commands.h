@@ -12,7 +12,7 @@ class CellCommands : public CellEdits {
 
   [[nodiscard]] CellKind KindOf(int column) const override;
   [[nodiscard]] QStringList Choices(int column) const override;
-  QString Take(int slot, int column, const QString& typed) override;
+  QString Take(const QModelIndex& cell, const QString& typed) override;
 
   // Opens the editor of the current row's name.
   void Rename();
@@ -28,7 +28,6 @@ class CellCommands : public CellEdits {
  private:
   [[nodiscard]] bool Channels() const { return session_.view.Current() == View::Channels; }
   [[nodiscard]] std::optional<Edit::Slots> Rows() const;
-  [[nodiscard]] std::string ColumnTitle(int column) const;
 
   Session& session_;
 };

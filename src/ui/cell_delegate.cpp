@@ -14,7 +14,10 @@
 namespace Ui {
 namespace {
 
+// What an editor carries: the cell, and what it held when it was opened. A list's popup carries the editor.
 constexpr const char* CellProperty = "cella";
+constexpr const char* BeforeProperty = "prima";
+constexpr const char* EditorProperty = "editor";
 
 QString TextIn(const QWidget& editor) {
   if (const auto* list = qobject_cast<const QComboBox*>(&editor)) return list->currentText();
@@ -31,7 +34,11 @@ int EntryOf(const QComboBox& list, const QString& cell) {
 
 }  // namespace
 
+CellDelegate::CellDelegate(CellEdits& edits, QAbstractItemView* view)
+    : QStyledItemDelegate(view), edits_(edits), view_(*view) {}
+
 QComboBox* CellDelegate::MakeList(QWidget* parent, const QModelIndex& index, bool open) const {
+  auto* self = const_cast<CellDelegate*>(this);  // the toolkit makes editors through a const interface
   auto* list = new QComboBox(parent);
   list->addItems(edits_.Choices(index.column()));
   list->setMaxVisibleItems(15);
@@ -46,11 +53,12 @@ QComboBox* CellDelegate::MakeList(QWidget* parent, const QModelIndex& index, boo
     list->setInsertPolicy(QComboBox::NoInsert);
     list->completer()->setFilterMode(Qt::MatchContains);
     list->completer()->setCompletionMode(QCompleter::PopupCompletion);
+    list->completer()->popup()->setProperty(EditorProperty, QVariant::fromValue<QWidget*>(list));
+    list->completer()->popup()->installEventFilter(self);
   } else {
     QTimer::singleShot(0, list, &QComboBox::showPopup);
   }
-  auto* self = const_cast<CellDelegate*>(this);  // the toolkit makes editors through a const interface
-  connect(list, &QComboBox::activated, self, [self, list] { self->Finish(*list, NoHint); });
+  connect(list, &QComboBox::activated, self, [self, list] { self->Finish(*list); });
   return list;
 }
 
@@ -59,7 +67,7 @@ QWidget* CellDelegate::createEditor(QWidget* parent, const QStyleOptionViewItem&
   QWidget* editor = nullptr;
   switch (edits_.KindOf(index.column())) {
     case CellKind::Fixed:
-      edits_.Take(index.row() + 1, index.column(), {});
+      edits_.Take(index, {});
       return nullptr;
     case CellKind::Name:
       editor = new NameEdit(static_cast<int>(Routines::ChannelRecord::NameSize), parent);
@@ -75,18 +83,24 @@ QWidget* CellDelegate::createEditor(QWidget* parent, const QStyleOptionViewItem&
       editor = MakeList(parent, index, false);
       break;
   }
-  editor->setObjectName("ModificaCella");
+  editor->setObjectName(CellEditorName);
   editor->setAccessibleName(index.model()->headerData(index.column(), Qt::Horizontal).toString());
   editor->setAutoFillBackground(true);
   editor->setProperty(CellProperty, QVariant::fromValue(QPersistentModelIndex(index)));
   return editor;
 }
 
+// Once: a change of the list does not take away what is being typed.
 void CellDelegate::setEditorData(QWidget* editor, const QModelIndex& index) const {
-  const QString cell = index.data(Qt::DisplayRole).toString();
-  if (auto* field = qobject_cast<QLineEdit*>(editor)) {
+  if (editor->property(BeforeProperty).isValid()) return;
+  Fill(*editor, index.data(Qt::DisplayRole).toString());
+  editor->setProperty(BeforeProperty, TextIn(*editor));
+}
+
+void CellDelegate::Fill(QWidget& editor, const QString& cell) const {
+  if (auto* field = qobject_cast<QLineEdit*>(&editor)) {
     field->setText(cell);
-  } else if (auto* list = qobject_cast<QComboBox*>(editor)) {
+  } else if (auto* list = qobject_cast<QComboBox*>(&editor)) {
     list->setCurrentIndex(EntryOf(*list, cell));
     if (!list->isEditable()) return;
     list->setEditText(cell);
@@ -95,7 +109,13 @@ void CellDelegate::setEditorData(QWidget* editor, const QModelIndex& index) cons
 }
 
 void CellDelegate::setModelData(QWidget* editor, QAbstractItemModel*, const QModelIndex& index) const {
-  edits_.Take(index.row() + 1, index.column(), TextIn(*editor));
+  const QString typed = TextIn(*editor);
+  if (typed != editor->property(BeforeProperty).toString()) edits_.Take(index, typed);
+}
+
+void CellDelegate::Close(QWidget& editor) {
+  Q_EMIT commitData(&editor);
+  Q_EMIT closeEditor(&editor, NoHint);
 }
 
 void CellDelegate::updateEditorGeometry(QWidget* editor, const QStyleOptionViewItem& option,
@@ -108,32 +128,66 @@ void CellDelegate::updateEditorGeometry(QWidget* editor, const QStyleOptionViewI
 }
 
 // Takes what is in the editor and closes it; where it is refused the editor stays open and says why.
-bool CellDelegate::Finish(QWidget& editor, EndEditHint hint) {
+bool CellDelegate::Finish(QWidget& editor) {
   const auto index = editor.property(CellProperty).value<QPersistentModelIndex>();
-  const QString reason =
-      index.isValid() ? edits_.Take(index.row() + 1, index.column(), TextIn(editor)) : QString();
+  const QString typed = TextIn(editor);
+  const bool changed = index.isValid() && typed != editor.property(BeforeProperty).toString();
+  const QString reason = changed ? edits_.Take(index, typed) : QString();
   if (reason.isEmpty()) {
-    Q_EMIT closeEditor(&editor, hint);
+    Q_EMIT closeEditor(&editor, NoHint);
     return true;
   }
   QToolTip::showText(editor.mapToGlobal(editor.rect().bottomLeft()), reason.toHtmlEscaped(), &editor);
   return false;
 }
 
+// Goes on with the next cell (1) or the one before (-1) that can be edited, in the next row where this one ends.
+void CellDelegate::FinishAndStep(QWidget& editor, int step) {
+  const auto index = editor.property(CellProperty).value<QPersistentModelIndex>();
+  if (!Finish(editor) || !index.isValid()) return;
+  const int columns = index.model()->columnCount();
+  int row = index.row();
+  int column = index.column();
+  do {
+    column += step;
+    if (column < 0 || column >= columns) {
+      row += step;
+      column = step > 0 ? 0 : columns - 1;
+    }
+    if (row < 0 || row >= index.model()->rowCount()) return;
+  } while (edits_.KindOf(column) == CellKind::Fixed);
+  const QModelIndex next = index.model()->index(row, column);
+  view_.setCurrentIndex(next);
+  view_.edit(next);
+}
+
+// What stands in the field counts when nothing of the list that has popped up is chosen.
+bool CellDelegate::PopupKey(QWidget& popup, int key) {
+  const auto& list = static_cast<QAbstractItemView&>(popup);
+  auto* editor = popup.property(EditorProperty).value<QWidget*>();
+  if ((key != Qt::Key_Return && key != Qt::Key_Enter) || list.currentIndex().isValid()) return false;
+  popup.hide();
+  Finish(*editor);
+  return true;
+}
+
 bool CellDelegate::eventFilter(QObject* watched, QEvent* event) {
   auto* editor = qobject_cast<QWidget*>(watched);
+  const bool popup = editor != nullptr && editor->property(EditorProperty).isValid();
   if (editor == nullptr || event->type() != QEvent::KeyPress)
-    return QStyledItemDelegate::eventFilter(watched, event);
-  switch (static_cast<QKeyEvent*>(event)->key()) {
+    return popup ? false : QStyledItemDelegate::eventFilter(watched, event);
+  const int key = static_cast<QKeyEvent*>(event)->key();
+  if (popup) return PopupKey(*editor, key);
+  switch (key) {
     case Qt::Key_Return:
     case Qt::Key_Enter:
-      Finish(*editor, NoHint);
+      Finish(*editor);
       return true;
     case Qt::Key_Tab:
-      Finish(*editor, EditNextItem);
+      FinishAndStep(*editor, 1);
       return true;
     case Qt::Key_Backtab:
-      Finish(*editor, EditPreviousItem);
+      FinishAndStep(*editor, -1);
       return true;
     default:
       return QStyledItemDelegate::eventFilter(watched, event);
@@ -148,8 +202,7 @@ bool CellDelegate::editorEvent(QEvent* event, QAbstractItemModel* model, const Q
   if (!toggle) return QStyledItemDelegate::editorEvent(event, model, option, index);
   const QString cell = index.data(Qt::DisplayRole).toString();
   const QStringList values = edits_.Choices(index.column());
-  if (!cell.isEmpty())
-    edits_.Take(index.row() + 1, index.column(), cell == values.front() ? values.back() : values.front());
+  if (!cell.isEmpty()) edits_.Take(index, cell == values.front() ? values.back() : values.front());
   return true;
 }
 

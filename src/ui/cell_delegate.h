@@ -3,13 +3,16 @@
 
 #include <QStyledItemDelegate>
 
+class QAbstractItemView;
 class QComboBox;
 
 namespace Ui {
 
+inline constexpr const char* CellEditorName = "ModificaCella";
+
 enum class CellKind { Fixed, Name, Number, OpenList, ClosedList, Toggle };
 
-// The cells behind a grid. `slot` counts from 1, `column` is one of the header's.
+// The cells behind a grid. `column` is one of the header's.
 class CellEdits {
  public:
   virtual ~CellEdits() = default;
@@ -18,19 +21,21 @@ class CellEdits {
   // What a list offers; the first word or the whole of an entry is what the cell shows.
   [[nodiscard]] virtual QStringList Choices(int column) const = 0;
   // Stores what was typed. Empty, or the reason why the cell keeps what it had.
-  virtual QString Take(int slot, int column, const QString& typed) = 0;
+  virtual QString Take(const QModelIndex& cell, const QString& typed) = 0;
 };
 
 class CellDelegate : public QStyledItemDelegate {
   Q_OBJECT
 
  public:
-  CellDelegate(CellEdits& edits, QObject* parent) : QStyledItemDelegate(parent), edits_(edits) {}
+  CellDelegate(CellEdits& edits, QAbstractItemView* view);
 
   QWidget* createEditor(QWidget* parent, const QStyleOptionViewItem& option,
                         const QModelIndex& index) const override;
   void setEditorData(QWidget* editor, const QModelIndex& index) const override;
   void setModelData(QWidget* editor, QAbstractItemModel* model, const QModelIndex& index) const override;
+  // Takes what is in an open editor, or drops it where it is refused, and closes the editor.
+  void Close(QWidget& editor);
   void updateEditorGeometry(QWidget* editor, const QStyleOptionViewItem& option,
                             const QModelIndex& index) const override;
 
@@ -41,9 +46,13 @@ class CellDelegate : public QStyledItemDelegate {
 
  private:
   QComboBox* MakeList(QWidget* parent, const QModelIndex& index, bool open) const;
-  bool Finish(QWidget& editor, EndEditHint hint);
+  void Fill(QWidget& editor, const QString& cell) const;
+  bool Finish(QWidget& editor);
+  void FinishAndStep(QWidget& editor, int step);
+  bool PopupKey(QWidget& popup, int key);
 
   CellEdits& edits_;
+  QAbstractItemView& view_;
 };
 
 }  // namespace Ui

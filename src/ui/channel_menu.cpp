@@ -22,8 +22,6 @@ ChannelMenu::ChannelMenu(Session& session, CellCommands& cells, FavouritesComman
   menu_->addSeparator();
   Add(*menu_, "InserisciRiga", "Inserisci riga vuota", [this] { cells_.InsertRows(); });
   rename_ = Add(*menu_, "Rinomina", "Rinomina", [this] { cells_.Rename(); });
-  rename_->setShortcut(QKeySequence("F2"));
-  rename_->setShortcutContext(Qt::WidgetShortcut);
   menu_->addSeparator();
   forChannels_ = {Add(*menu_, "Attiva", "Attiva", [this] { cells_.SetColumn(Active, "S"); }),
                   Add(*menu_, "Disattiva", "Disattiva", [this] { cells_.SetColumn(Active, "N"); })};
@@ -48,6 +46,7 @@ QAction* ChannelMenu::Add(QMenu& menu, const QString& name, const QString& capti
 void ChannelMenu::AddCodings() {
   QMenu* codings = menu_->addMenu("Codifica");
   forChannels_.push_back(codings->menuAction());
+  codings->menuAction()->setObjectName("MenuCodifica");
   for (const std::string_view coding : Edit::Codings) {
     const QString digits = Text(coding.substr(0, 2));
     Add(*codings, "Codifica_" + digits, Text(coding), [this, digits] { cells_.SetColumn(Flags, digits); });
@@ -59,6 +58,7 @@ void ChannelMenu::AddCodings() {
 void ChannelMenu::AddFavourites(FavouritesCommands& favourites, QMainWindow& window) {
   QMenu* lists = menu_->addMenu("Aggiungi ai preferiti");
   forChannels_.push_back(lists->menuAction());
+  lists->menuAction()->setObjectName("MenuPreferiti");
   for (std::size_t list = 0; list < Routines::FavouriteLists; ++list) {
     const QString number = QString::number(list + 1);
     QAction* add =
@@ -84,7 +84,7 @@ void ChannelMenu::BringUpToDate() {
   for (std::size_t list = 0; list < favourites_.size(); ++list) {
     const QString name = Text(Routines::FavouritesTitle(state.FavouritesBlock, list)).replace('&', "&&");
     const auto entries = Routines::FavouriteEntriesOf(state.FavouritesBlock, list).size();
-    favourites_[list]->setText(QString("&%1 %2 (%3)").arg(list + 1).arg(name).arg(entries));
+    favourites_[list]->setText(QString("&%1 ").arg(list + 1) + name + QString(" (%1)").arg(entries));
   }
 }
 

@@ -21,8 +21,11 @@ QString Entries(int count) {
 // What became of the channels that could not be added.
 QString Remarks(const Edit::AddReport& report) {
   QString text;
-  if (report.known > 0) text += QString(", %1 c'erano già").arg(report.known);
-  if (report.empty > 0) text += QString(", %1 posti vuoti saltati").arg(report.empty);
+  if (report.known > 0)
+    text += QString(report.known == 1 ? ", %1 c'era già" : ", %1 c'erano già").arg(report.known);
+  if (report.empty > 0)
+    text += QString(report.empty == 1 ? ", %1 posto vuoto saltato" : ", %1 posti vuoti saltati")
+                .arg(report.empty);
   if (report.full > 0) text += QString(", %1 senza posto: la lista è piena").arg(report.full);
   return text;
 }
@@ -33,14 +36,19 @@ QString FavouritesCommands::Title(std::size_t list) const {
   return Text(Routines::FavouritesTitle(session_.document.Tables().FavouritesBlock, list));
 }
 
-void FavouritesCommands::Tell(const QString& text) {
-  session_.status.ShowResult(text);
-  if (lists_) lists_->ShowResult(text);
+void FavouritesCommands::Tell(const QString& text) { session_.status.ShowResult(text); }
+
+bool FavouritesCommands::Any(const Places& places) {
+  if (places.empty()) Tell("Nessun preferito selezionato");
+  return !places.empty();
 }
 
 void FavouritesCommands::Show() {
   if (!session_.NeedsFlash()) return;
-  if (!lists_) lists_ = new ListePreferiti(session_.document, *this, window_);
+  if (!lists_) {
+    lists_ = new ListePreferiti(session_.document, *this, window_);
+    QObject::connect(&session_.status, &StatusLine::ResultShown, lists_, &ListePreferiti::ShowResult);
+  }
   lists_->show();
   lists_->raise();
   lists_->activateWindow();
@@ -71,7 +79,7 @@ void FavouritesCommands::AddSlots(std::size_t list, int first, int last, std::si
 }
 
 void FavouritesCommands::Remove(std::size_t list, const Places& places) {
-  if (places.empty()) return;
+  if (!Any(places)) return;
   session_.document.Apply("Togli dai preferiti", [&](State& state) {
     Edit::RemoveFavourites(state, list, places);
     return Base::Done{};
@@ -81,6 +89,7 @@ void FavouritesCommands::Remove(std::size_t list, const Places& places) {
 
 std::size_t FavouritesCommands::Move(std::size_t list, const Places& places, std::size_t target,
                                      std::size_t before) {
+  if (!Any(places)) return 0;
   const auto report = session_.document.Apply("Sposta preferiti", [&](State& state) {
     return Edit::MoveFavourites(state, list, places, target, before);
   });
@@ -99,6 +108,7 @@ void FavouritesCommands::Sort(std::size_t list, Edit::FavouriteOrder order) {
 }
 
 bool FavouritesCommands::Rename(std::size_t list, const QString& name) {
+  if (!session_.document.Tables().Loaded) return false;
   const auto renamed = session_.document.Apply("Nome lista preferiti", [&](State& state) {
     return Edit::RenameFavourites(state, list, name.toStdString());
   });

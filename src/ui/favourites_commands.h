@@ -41,6 +41,7 @@ class FavouritesCommands {
 
  private:
   void Tell(const QString& text);
+  bool Any(const Places& places);
 
   Session& session_;
   QMainWindow& window_;

@@ -3,6 +3,7 @@
 #include "model/favourites.h"
 #include "ui/name_edit.h"
 
+#include <QDropEvent>
 #include <QKeyEvent>
 #include <QLabel>
 #include <QListView>
@@ -56,6 +57,7 @@ void FavouritesList::BuildEntries() {
   entries_->setDefaultDropAction(Qt::MoveAction);
   entries_->setTextElideMode(Qt::ElideRight);
   entries_->installEventFilter(this);
+  entries_->viewport()->installEventFilter(this);
   connect(entries_, &QListView::doubleClicked, this, &FavouritesList::GoToCurrent);
   // The source of a drag waits for the drop: the list changes after it.
   connect(&model_, &FavouritesModel::Dropped, this, &FavouritesList::TakeDrop, Qt::QueuedConnection);
@@ -65,16 +67,19 @@ void FavouritesList::BuildEntries() {
       Qt::QueuedConnection);
 }
 
+QString FavouritesList::StoredName() const {
+  return CodePageText(Routines::FavouriteNameOf(document_.Tables().FavouritesBlock, list_)).trimmed();
+}
+
 void FavouritesList::Refresh() {
   const Base::Bytes& block = document_.Tables().FavouritesBlock;
-  const QString name = CodePageText(Routines::FavouriteNameOf(block, list_)).trimmed();
+  const QString name = StoredName();
   if (!name_->isModified() && name_->text() != name) name_->setText(name);
-  count_->setText(QString("%1 di %2").arg(model_.rowCount()).arg(Routines::FavouriteEntries));
+  count_->setText(QString("%1 di %2").arg(model_.rowCount()).arg(Routines::FavouriteRoom(block, list_)));
 }
 
 void FavouritesList::Rename() {
-  const QString stored =
-      CodePageText(Routines::FavouriteNameOf(document_.Tables().FavouritesBlock, list_)).trimmed();
+  const QString stored = StoredName();
   const bool typed = name_->isModified() && name_->text() != stored;
   name_->setModified(false);
   if (typed && !commands_.Rename(list_, name_->text())) name_->setText(stored);
@@ -100,10 +105,9 @@ void FavouritesList::Select(std::size_t first, std::size_t count) {
 
 void FavouritesList::RemoveSelected() {
   const auto places = Selected();
-  if (places.empty()) return;
   commands_.Remove(list_, places);
   const int left = model_.rowCount();
-  if (left > 0) Select(std::min(places.front(), static_cast<std::size_t>(left) - 1), 1);
+  if (left > 0 && !places.empty()) Select(std::min(places.front(), static_cast<std::size_t>(left) - 1), 1);
 }
 
 void FavouritesList::MoveSelected(int rows) {
@@ -128,13 +132,20 @@ void FavouritesList::GoToCurrent() {
 
 bool FavouritesList::eventFilter(QObject* watched, QEvent* event) {
   if (event->type() == QEvent::FocusIn) Q_EMIT Entered();
+  // Rows of another program would be numbers of another list.
+  if (event->type() == QEvent::DragEnter && static_cast<QDropEvent*>(event)->source() == nullptr) {
+    event->ignore();
+    return true;
+  }
   if (event->type() != QEvent::KeyPress) return QWidget::eventFilter(watched, event);
   const auto* pressed = static_cast<QKeyEvent*>(event);
   const bool enter = pressed->key() == Qt::Key_Return || pressed->key() == Qt::Key_Enter;
   if (watched == name_) {
-    // A dialog would take it for its own button.
+    // A dialog would take these for its own buttons.
+    const bool leave = pressed->key() == Qt::Key_Escape && name_->isModified();
     if (enter) Rename();
-    return enter;
+    if (leave) name_->setText(StoredName());
+    return enter || leave;
   }
   if (enter) {
     GoToCurrent();

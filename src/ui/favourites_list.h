@@ -39,6 +39,7 @@ class FavouritesList : public QWidget {
 
  private:
   void BuildEntries();
+  [[nodiscard]] QString StoredName() const;
   void Refresh();
   void Rename();
   void TakeDrop(std::size_t list, const FavouritesCommands::Places& places, std::size_t before);

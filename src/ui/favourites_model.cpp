@@ -95,7 +95,8 @@ bool FavouritesModel::dropMimeData(const QMimeData* data, Qt::DropAction, int ro
     const QList<QByteArray> numbers = data->data(FavouritesType).split(' ');
     std::vector<std::size_t> places;
     for (const QByteArray& number : numbers.mid(1)) places.push_back(number.toULongLong());
-    Q_EMIT Dropped(numbers.front().toULongLong(), places, before);
+    const auto list = numbers.front().toULongLong();
+    if (list < Routines::FavouriteLists) Q_EMIT Dropped(list, places, before);
   } else if (data->hasFormat(SlotsType)) {
     const QList<QByteArray> ends = data->data(SlotsType).split(' ');
     if (ends.size() == 2) Q_EMIT ChannelsDropped(ends[0].toInt(), ends[1].toInt(), before);

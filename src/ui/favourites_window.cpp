@@ -21,6 +21,7 @@ ListePreferiti::ListePreferiti(const Document& document, FavouritesCommands& com
   setWindowTitle("Liste Preferiti");
   setAttribute(Qt::WA_DeleteOnClose);
   result_->setObjectName("RisultatoPreferiti");
+  target_->setObjectName("ListaCorrente");
   // Undo and redo work here as they do in the main window.
   for (const char* name : {"Annulla", "Ripeti"}) addAction(&CommandAction(window, name));
   auto* lists = new QWidget(this);
@@ -29,7 +30,10 @@ ListePreferiti::ListePreferiti(const Document& document, FavouritesCommands& com
   column->addWidget(lists, 1);
   column->addLayout(Buttons());
   column->addWidget(result_);
-  connect(&document, &Document::Changed, this, &ListePreferiti::ShowCurrent);
+  connect(&document, &Document::Changed, this, [this, &document] {
+    ShowCurrent();
+    if (!document.Tables().Loaded) close();
+  });
   ShowCurrent();
   ShowResult(
       "Trascinare qui i canali dalla griglia; Canc toglie, Alt+Su e Alt+Giù spostano, Invio va al canale.");
@@ -62,8 +66,10 @@ QLayout* ListePreferiti::Buttons() {
   move_->setMenu(new QMenu(move_));
   connect(move_->menu(), &QMenu::aboutToShow, this, &ListePreferiti::FillMoveMenu);
   auto* orders = new QMenu(this);
-  orders->addAction("Per numero", this, [this] { commands_.Sort(current_, Edit::FavouriteOrder::ByNumber); });
-  orders->addAction("Per nome", this, [this] { commands_.Sort(current_, Edit::FavouriteOrder::ByName); });
+  orders->addAction("Per numero", this, [this] { commands_.Sort(current_, Edit::FavouriteOrder::ByNumber); })
+      ->setObjectName("OrdinaPerNumero");
+  orders->addAction("Per nome", this, [this] { commands_.Sort(current_, Edit::FavouriteOrder::ByName); })
+      ->setObjectName("OrdinaPerNome");
   AddButton(*row, "OrdinaPreferiti", "Ordina")->setMenu(orders);
   connect(AddButton(*row, "ChiudiPreferiti", "Chiudi"), &QPushButton::clicked, this, &QDialog::close);
   return row;
@@ -82,9 +88,10 @@ void ListePreferiti::FillMoveMenu() {
   for (std::size_t list = 0; list < lists_.size(); ++list) {
     if (list == current_) continue;
     const QString title = commands_.Title(list).replace('&', "&&");
-    move_->menu()->addAction(QString("&%1 %2").arg(list + 1).arg(title), this, [this, list] {
+    QAction* move = move_->menu()->addAction(QString("&%1 ").arg(list + 1) + title, this, [this, list] {
       commands_.Move(current_, Current().Selected(), list, Routines::FavouriteEntries);
     });
+    move->setObjectName(QString("SpostaPreferiti_%1").arg(list + 1));
   }
 }
 

@@ -24,6 +24,8 @@ class ListModel : public TableModel {
 
   ListModel(const Document& document, const Kind& kind, QObject* parent);
 
+  [[nodiscard]] bool OfChannels() const { return &kind_ == &Channels; }
+
   // Rows that a search has found are painted in a colour of their own until the list changes.
   enum class Mark : unsigned char { None, Filtered, Found };
   void SetMark(int slot, Mark mark);

@@ -109,9 +109,16 @@ void ListView::RestoreTicks() {
 }
 
 void ListView::EditWith(CellEdits& edits) {
-  grid_->setItemDelegate(new CellDelegate(edits, grid_));
+  cells_ = new CellDelegate(edits, grid_);
+  grid_->setItemDelegate(cells_);
   grid_->setEditTriggers(QAbstractItemView::DoubleClicked | QAbstractItemView::EditKeyPressed |
                          QAbstractItemView::AnyKeyPressed);
+}
+
+void ListView::FinishEditing() {
+  for (auto* editor : grid_->findChildren<QWidget*>(CellEditorName)) {
+    if (!editor->isHidden()) cells_->Close(*editor);  // one that is hidden waits to be deleted
+  }
 }
 
 void ListView::ShowFound(int slot) {

@@ -40,6 +40,8 @@ class ListView : public QWidget {
 
   // Lets the user edit the cells of both lists.
   void EditWith(CellEdits& edits);
+  // Takes what is in an open editor, or drops it where it is refused.
+  void FinishEditing();
 
   // Makes a channel current and the first visible one, with nothing selected.
   void GoTo(int slot);
@@ -70,6 +72,7 @@ class ListView : public QWidget {
   FilterBar* filter_;
   QLabel* hint_;
   Griglia* grid_;
+  CellDelegate* cells_ = nullptr;
   ListMap* map_;
   QStackedWidget* stack_;
   View current_ = View::None;

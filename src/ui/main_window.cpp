@@ -9,6 +9,7 @@
 
 #include <QAction>
 #include <QCloseEvent>
+#include <QDialog>
 #include <QDropEvent>
 #include <QFileInfo>
 #include <QIcon>
@@ -41,6 +42,10 @@ CopiaTCSTPT::CopiaTCSTPT(const std::string& programFolder, std::unique_ptr<Dialo
   setWindowIcon(QIcon(":/icons/trovalis.svg"));
   BuildMenus(*this);
   BuildToolbar(*this);
+
+  // First of all a command does: what is being typed in a cell is no longer open to doubt.
+  for (QAction* command : findChildren<QAction*>())
+    connect(command, &QAction::triggered, this, [this] { session_->view.FinishEditing(); });
 
   auto* contents = new QWidget(this);
   auto* settings = new SettingsPanel(contents);
@@ -102,7 +107,11 @@ CopiaTCSTPT::CopiaTCSTPT(const std::string& programFolder, std::unique_ptr<Dialo
   restoreGeometry(QSettings(SettingsFile(), QSettings::IniFormat).value("Finestra/Geometria").toByteArray());
 }
 
-CopiaTCSTPT::~CopiaTCSTPT() = default;
+// Windows and controls may still tell the commands of what was being typed in them.
+CopiaTCSTPT::~CopiaTCSTPT() {
+  qDeleteAll(findChildren<QDialog*>(Qt::FindDirectChildrenOnly));
+  delete takeCentralWidget();
+}
 
 bool CopiaTCSTPT::Start() {
   const auto rates = session_->LoadSymbolRates();
@@ -121,6 +130,11 @@ void CopiaTCSTPT::Connect(const char* command, Slot slot) {
 void CopiaTCSTPT::ToggleView(View view) {
   if (session_->NeedsFlash()) session_->view.Toggle(view);
   session_->view.RestoreTicks();
+}
+
+void CopiaTCSTPT::VisualizzaCanali() {
+  ToggleView(View::Channels);
+  if (session_->view.Current() == View::Channels) trees_->BringBack();
 }
 
 void CopiaTCSTPT::ConnectFileCommands() {
@@ -213,10 +227,7 @@ void CopiaTCSTPT::ConnectTreeCommands() {
     sdx_->Vedi();
     if (!sdx_->PaneShown()) trees_->FollowSdx();
   });
-  Connect("VisualizzaCanali", [this] {
-    ToggleView(View::Channels);
-    if (session_->view.Current() == View::Channels) trees_->BringBack();
-  });
+  Connect("VisualizzaCanali", [this] { VisualizzaCanali(); });
   download_->onLoad = [this] { trees_->HideTransponders(); };
 }
 
@@ -241,7 +252,7 @@ void CopiaTCSTPT::ConnectToolbar() {
       {"CanaliXTransponder", [this] { lists_->CanaliXTransponder(); }},
       {"Goto", [this] { CommandAction(*this, "VaiAlCanale").trigger(); }},
       {"TRANSPONDERS", [this] { ToggleView(View::Transponders); }},
-      {"Canali", [this] { ToggleView(View::Channels); }},
+      {"Canali", [this] { VisualizzaCanali(); }},
       {"Rectangle", [this] { dialogs_->Message("Add 'Rectangle' button code.", {}); }},
       {"New", [this] { dialogs_->Message("Add 'New' button code.", {}); }},
       {"Fine Programma", [this] { close(); }},
@@ -338,6 +349,7 @@ void CopiaTCSTPT::dropEvent(QDropEvent* event) {
 
 void CopiaTCSTPT::closeEvent(QCloseEvent* event) {
   QSettings(SettingsFile(), QSettings::IniFormat).setValue("Finestra/Geometria", saveGeometry());
+  session_->view.FinishEditing();
   favourites_->CloseWindow();
   event->accept();
 }

@@ -53,6 +53,7 @@ class CopiaTCSTPT : public QMainWindow {
   template <class Slot>
   void Connect(const char* command, Slot slot);
   void ToggleView(View view);
+  void VisualizzaCanali();
   void ShowSteps();
   void ShowList();
   void ShowAbout();

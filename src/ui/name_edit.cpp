@@ -32,7 +32,9 @@ void NameEdit::paintEvent(QPaintEvent* event) {
   const QString hint = Hint();
   const bool wrong = !hint.startsWith("rest");
   QPainter painter(this);
-  painter.setPen(wrong ? QColor(200, 0, 0) : palette().color(QPalette::PlaceholderText));
+  const bool dark = palette().color(QPalette::Base).lightness() < 128;
+  const QColor red = dark ? QColor(255, 130, 130) : QColor(200, 0, 0);
+  painter.setPen(wrong ? red : palette().color(QPalette::PlaceholderText));
   painter.drawText(rect().adjusted(0, 0, -HintMargin - 2, 0), Qt::AlignRight | Qt::AlignVCenter, hint);
 }
 

@@ -48,7 +48,10 @@ QLabel* StatusLine::AddFigure(QStatusBar& bar, const char* name) {
   return label;
 }
 
-void StatusLine::ShowResult(const QString& text) { result_->Show(text); }
+void StatusLine::ShowResult(const QString& text) {
+  result_->Show(text);
+  Q_EMIT ResultShown(text);
+}
 
 void StatusLine::ShowList(const Routines::State& state, bool unsaved, int clipboard) {
   channels_->setText(state.Loaded

@@ -26,6 +26,9 @@ class StatusLine : public QObject {
   // 0..100 while a command runs; 100 hides the bar again.
   void ShowProgress(int percent);
 
+ Q_SIGNALS:
+  void ResultShown(const QString& text);
+
  private:
   QLabel* AddFigure(QStatusBar& bar, const char* name);
 

@@ -43,7 +43,13 @@ TreeCommands::TreeCommands(Session& session, SdxCommands& sdx, QAction& tick, co
 }
 
 void TreeCommands::VisualizzaBouquet() {
-  if (session_.NeedsFlash()) ShowTransponders(transponders_->isHidden());
+  if (session_.NeedsFlash()) {
+    if (transponders_->isHidden()) {
+      ShowTransponders(true);
+    } else {
+      HideTransponders();
+    }
+  }
   tick_.setChecked(!transponders_->isHidden());
 }
 
@@ -54,7 +60,11 @@ void TreeCommands::ShowTransponders(bool shown) {
   tick_.setChecked(shown);
 }
 
-void TreeCommands::HideTransponders() { ShowTransponders(false); }
+// What was there before comes back.
+void TreeCommands::HideTransponders() {
+  ShowTransponders(false);
+  FollowView(session_.view.Current());
+}
 
 void TreeCommands::FollowSdx() {
   if (session_.document.Tables().Loaded) ShowTransponders(true);

@@ -17,19 +17,24 @@ class Cells : public Window {
  protected:
   // Types into the cell of a row, counted as the user does, and ends with a key. The editor stays open where refused.
   bool Type(int row, int column, const QString& text, Qt::Key end = Qt::Key_Return) {
-    Griglia& grid = driver_->Grid();
-    grid.setFocus();
-    grid.setCurrentIndex(grid.model()->index(row - 1, column));
+    Grid().setFocus();
+    Grid().setCurrentIndex(Grid().model()->index(row - 1, column));
     driver_->Key(Qt::Key_F2);
     QWidget* editor = QApplication::focusWidget();
-    if (editor == &grid) return false;
+    if (editor == &Grid()) return false;
     QTest::keyClick(editor, Qt::Key_A, Qt::ControlModifier);
     if (auto* field = qobject_cast<QLineEdit*>(editor)) field->insert(text);
-    if (auto* list = qobject_cast<QComboBox*>(editor)) list->lineEdit()->insert(text);
+    if (auto* list = qobject_cast<QComboBox*>(editor); list && list->isEditable())
+      list->lineEdit()->insert(text);
     QTest::keyClick(editor, end);
     return true;
   }
-  QWidget* Editor() { return driver_->Grid().findChild<QWidget*>("ModificaCella"); }
+  Griglia& Grid() { return driver_->Grid(); }
+  bool Editing() {
+    const auto editors = Grid().findChildren<QWidget*>("ModificaCella");
+    return std::any_of(editors.begin(), editors.end(),
+                       [](const QWidget* editor) { return editor->isVisible(); });
+  }
   std::vector<int> Entries(std::size_t list) {
     return Routines::FavouriteEntriesOf(List().FavouritesBlock, list);
   }
@@ -44,20 +49,30 @@ TEST_F(Cells, TakeWhatIsTypedOrKeepWhatTheyHad) {
   EXPECT_EQ(Action("Annulla").text(), "Annulla Modifica Nome");
 
   ASSERT_TRUE(Type(2, 4, "70000"));
-  EXPECT_NE(Editor(), nullptr) << "a refused value can be mended";
+  EXPECT_TRUE(Editing()) << "a refused value can be mended";
   EXPECT_EQ(Said(), "Non modificato: Serve un numero da 0 a 65535, con sole cifre decimali");
   QTest::keyClick(QApplication::focusWidget(), Qt::Key_Escape);
   ASSERT_TRUE(Type(2, 2, "19"));
   EXPECT_EQ(driver_->Cell(2, 2), "019");
-  ASSERT_TRUE(Type(2, 9, "A4"));
-  EXPECT_EQ(driver_->Cell(2, 9), "A4");
+  Grid().setCurrentIndex(Grid().model()->index(1, 9));
+  QTest::keyClick(&Grid(), 'A');
+  QTest::keyClick(QApplication::focusWidget(), '4');
+  QTest::keyClick(QApplication::activePopupWidget(), Qt::Key_Return);
+  EXPECT_EQ(driver_->Cell(2, 9), "A4") << "by typing alone, although the list has popped up";
+  ASSERT_TRUE(Type(2, 10, "", Qt::Key_Tab));
+  EXPECT_EQ(driver_->Grid().currentIndex().row() + 1, 3) << "on to the name in the next row";
+  QTest::keyClick(QApplication::focusWidget(), Qt::Key_Return);
+  EXPECT_FALSE(Editing()) << "nothing typed, nothing refused";
 
-  Griglia& grid = driver_->Grid();
-  const QPoint active = grid.visualRect(grid.model()->index(1, 10)).center();
-  QTest::mouseClick(grid.viewport(), Qt::LeftButton, {}, active);
-  QTest::mouseDClick(grid.viewport(), Qt::LeftButton, {}, active);
+  const QPoint active = Grid().visualRect(Grid().model()->index(1, 10)).center();
+  QTest::mouseClick(Grid().viewport(), Qt::LeftButton, {}, active);
+  QTest::mouseDClick(Grid().viewport(), Qt::LeftButton, {}, active);
   EXPECT_EQ(driver_->Cell(2, 10), "N");
-  ASSERT_TRUE(driver_->Choose("VisualizzaTransponder"));
+  const auto transponders = List().TransponderTable;
+  ASSERT_TRUE(Type(3, 3, "1234", Qt::Key_End));
+  ASSERT_TRUE(driver_->Press("Toolbar1_TRANSPONDERS"));
+  EXPECT_EQ(Said(), "Canale 3, SID: 1234") << "a command takes what is being typed, into its own list";
+  EXPECT_EQ(List().TransponderTable, transponders);
   ASSERT_TRUE(Type(1, 1, "11000"));
   EXPECT_EQ(driver_->Cell(1, 1), "11000");
   EXPECT_FALSE(Type(1, 10, "Mio")) << "bouquets are looked up";
@@ -153,6 +168,10 @@ TEST_F(Cells, FavouritesAreArrangedInTheirWindow) {
   QTest::keyClick(name, Qt::Key_Return);
   EXPECT_EQ(name->text(), "Sport") << "the ninth byte has no place";
   EXPECT_TRUE(lists->isVisible());
+  name->selectAll();
+  name->insert("Mai");
+  QTest::keyClick(name, Qt::Key_Escape);
+  EXPECT_TRUE(lists->isVisible() && name->text() == "Sport") << "what was typed is given up, not the window";
   name->selectAll();
   name->insert("Città");
   QTest::keyClick(name, Qt::Key_Return);

@@ -123,7 +123,7 @@ TEST_F(Trees, ShareTheirPlaceWithTheSdxPane) {
   EXPECT_EQ(after("VisualizzaBouquet"), "TreeView2");
   EXPECT_EQ(after("VisualizzaTransponder"), "TreeView2");
   EXPECT_EQ(after("VisualizzaCanali"), "TreeView2");
-  EXPECT_EQ(after("VisualizzaBouquet"), "");
+  EXPECT_EQ(after("VisualizzaBouquet"), "TreeView1");
   Open(flash_);
   EXPECT_EQ(Beside(), "TreeView1");
 
