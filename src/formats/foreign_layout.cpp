@@ -216,9 +216,7 @@ bool LooksLike(Meaning meaning, const Cells& cells) {
     case Meaning::Polarisation:
       return cells.Mostly([](std::string_view cell) { return IsLetters(cell) && HorizontalIn(cell); });
     case Meaning::Fec:
-      return cells.Mostly([](std::string_view cell) {
-        return cell.size() == 3 && cell[1] == '/' && HasDigit(cell.substr(0, 1));
-      });
+      return cells.Mostly([](std::string_view cell) { return cell.size() > 1 && !FecDigitIn(cell).empty(); });
     case Meaning::SymbolRate:
       return cells.Mostly([](std::string_view cell) { return SymbolRateIn(cell).has_value(); }) &&
              cells.Count(isUsualRate) * 3 >= cells.Size();

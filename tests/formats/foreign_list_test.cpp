@@ -66,7 +66,7 @@ TEST(ForeignLayout, IsGuessedFromTheFile) {
   EXPECT_EQ(Summary(FirstRow("Rai Uno         11766 V 27500  34\n"
                              "La 7, Roma      12092 H 27500  34\n"
                              "Rete Quattro HD 12092 H  5632  23\n")),
-            "Rai Uno|011766V27500||65535|65535|0|00000|T");
+            "Rai Uno|011766V27500|3|65535|65535|0|00000|T");
   EXPECT_EQ(Summary(FirstRow("Uno 11766 V 27500 3/4\nDieci 12092 H 27500 5/6\n")),
             "Uno|011766V27500|3|65535|65535|0|00000|T");
 }
