@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <charconv>
+#include <cmath>
 
 namespace Formats {
 namespace {
@@ -60,7 +61,7 @@ std::optional<int> Scaled(const Decimal& number, double least, double most) {
   // Without a mark a small number is no frequency in GHz but some other column.
   double value = number.point && number.value < most / 1000 ? number.value * 1000 : number.value;
   for (int step = 0; step < 3; ++step, value /= 1000) {
-    if (value >= least && value < most) return static_cast<int>(value + 0.5);
+    if (value >= least && value < most) return static_cast<int>(std::lround(value));
   }
   return std::nullopt;
 }

@@ -46,7 +46,7 @@ class Reader {
     const std::size_t place = places_[static_cast<std::size_t>(meaning)];
     if (place >= fields_.size()) return {};
     const std::string_view field = fields_[place];
-    return meaning != Meaning::Name && field.find_first_not_of("-") == std::string_view::npos
+    return meaning != Meaning::Name && field.find_first_not_of('-') == std::string_view::npos
                ? std::string_view()
                : field;
   }
