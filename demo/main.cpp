@@ -10,6 +10,7 @@
 #include <QComboBox>
 #include <QDir>
 #include <QFile>
+#include <QLabel>
 #include <QLineEdit>
 #include <QListWidget>
 #include <QMenu>
@@ -31,6 +32,7 @@ class Session {
     for (const char* name : {"Bouquets.txt", "SR.INI", "SDX.INI"}) {
       QFile::copy(support + "/" + name, ProgramFolder() + "/" + name);
     }
+    foreign_ = QFileInfo(support + "/demo.csv").absoluteFilePath();
     copy_ = output_ + "/copia.dat";
     QFile::copy(flash_, copy_);
     QFile::setPermissions(copy_, QFile::ReadOwner | QFile::WriteOwner);
@@ -52,6 +54,9 @@ class Session {
     RemoveDuplicates();
     PrintList();
     TakeFromSdx();
+    ShowAdditionalFlash();
+    ImportForeignList();
+    ShowAbout();
     Convert();
     SaveCopy();
     OpenCopyAgain();
@@ -233,6 +238,38 @@ class Session {
     driver_->Choose("VediSDX");
   }
 
+  void ShowAdditionalFlash() {
+    driver_->ExpectFile("Selezionare la flash aggiuntiva", flash_);
+    const bool chosen = driver_->Choose("CaricaAggiuntiva");
+    Step("additional flash", chosen && driver_->TextOf("EtichettaSDX") == "SDX: demo.dat",
+         driver_->TextOf("UltimoRisultato"));
+  }
+
+  void ImportForeignList() {
+    PictureBoxes("dialog-foreign");
+    driver_->ExpectFile("Selezionare il file da importare", foreign_);
+    driver_->ExpectDialog("Da File Pelko", [](QDialog& box) {
+      box.findChild<QComboBox*>("Combo1")->setCurrentIndex(0);
+      box.findChild<QPushButton*>("Command1")->click();
+    });
+    const bool chosen = driver_->Choose("Pelko");
+    Step("list of another program", chosen && driver_->TextOf("EtichettaSDX") == "SDX: demo.csv",
+         driver_->TextOf("UltimoRisultato"));
+    driver_->Choose("VediSDX");
+  }
+
+  void ShowAbout() {
+    PictureBoxes("dialog-about");
+    QString version;
+    driver_->ExpectDialog("About", [&version](QDialog& box) {
+      version = box.findChild<QLabel*>("Versione")->text();
+      box.findChild<QPushButton*>("Chiudi")->click();
+    });
+    const bool chosen = driver_->Choose("About");
+    driver_->onBox = nullptr;
+    Step("about", chosen && !version.isEmpty(), version);
+  }
+
   void Convert() {
     const bool good = driver_->Pick("SRDef_1") && driver_->Choose("ConvertiSR");
     Step("convert symbol rates", good && driver_->TextOf("ModificheNonSalvate") == "Modifiche non salvate",
@@ -269,6 +306,7 @@ class Session {
   QString flash_;
   QString output_;
   QString copy_;
+  QString foreign_;
   std::unique_ptr<Ui::CopiaTCSTPT> window_;
   std::unique_ptr<Demo::WindowDriver> driver_;
   int steps_ = 0;

@@ -88,4 +88,32 @@ std::string FromUtf8Lossy(std::string_view text) {
   return bytes;
 }
 
+bool IsUtf8(std::string_view text) {
+  bool beyondAscii = false;
+  while (!text.empty()) {
+    beyondAscii = beyondAscii || static_cast<unsigned char>(text.front()) >= 0x80;
+    if (TakeCharacter(text)) continue;
+    // Four bytes are no character of the code page, but they are UTF-8.
+    if (text.size() < 4 || static_cast<unsigned char>(text.front()) >> 3U != 0x1E) return false;
+    for (std::size_t i = 1; i < 4; ++i) {
+      if (static_cast<unsigned char>(text[i]) >> 6U != 0x02) return false;
+    }
+    text.remove_prefix(4);
+  }
+  return beyondAscii;
+}
+
+std::string FromUtf16Lossy(std::string_view units, bool highByteFirst) {
+  std::string bytes;
+  bytes.reserve(units.size() / 2);
+  for (std::size_t i = 0; i + 1 < units.size(); i += 2) {
+    const auto one = static_cast<unsigned char>(units[i]);
+    const auto other = static_cast<unsigned char>(units[i + 1]);
+    const char32_t unit = highByteFirst ? one * 256U + other : other * 256U + one;
+    // The second half of a pair belongs to the first, which has no byte.
+    if (unit < 0xDC00 || unit > 0xDFFF) bytes += ByteOf(unit).value_or('?');
+  }
+  return bytes;
+}
+
 }  // namespace Base

@@ -19,4 +19,10 @@ std::optional<std::string> FromUtf8(std::string_view text);
 // The same with one question mark for each character that has no byte, so that columns stay columns.
 std::string FromUtf8Lossy(std::string_view text);
 
+// Whether a text has characters beyond ASCII and all of them are well-formed UTF-8.
+bool IsUtf8(std::string_view text);
+
+// The same for UTF-16 units without a byte-order mark; a lone byte at the end is left out.
+std::string FromUtf16Lossy(std::string_view units, bool highByteFirst);
+
 }  // namespace Base

@@ -3,9 +3,11 @@
 #pragma once
 
 #include "base/columns.h"
+#include "model/transponder.h"
 
 #include <array>
 #include <cstdint>
+#include <optional>
 #include <set>
 #include <string>
 #include <string_view>
@@ -23,7 +25,7 @@ struct SdxRow {
   std::string frequency;  // 6 characters, MHz
   bool highBand = false;  // 11700 MHz and above
   bool horizontal = false;
-  std::string symbolRate;  // 5 characters
+  std::string symbolRate;  // 5 characters, as the symbol-rate table has them
   std::string fec;         // one digit
   std::string vpid, apid;  // as they stand, "65535" where absent
   std::string pcr, sid, nid;
@@ -32,6 +34,8 @@ struct SdxRow {
   std::string vecm = "65535";
   int codifica = 0;  // the receiver's coding byte
   std::string bouquet = "Nessuno";
+  // Of a channel from a flash: its transponder to the last bit, of which the texts above show the most.
+  std::optional<Routines::TransponderRecord> transponder;
 
   friend bool operator==(const SdxRow&, const SdxRow&) = default;
 };

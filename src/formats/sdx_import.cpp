@@ -27,14 +27,26 @@ std::uint32_t FecCode(std::string_view digit) {
 
 }  // namespace
 
-// Where the symbol-rate table has the row's rate.
-std::size_t SdxImport::RateAt(const SdxRow& row) const {
-  return row.symbolRate.size() == SymbolRateCell - 1 ? state_.SymbolRateTable.find(row.symbolRate)
-                                                     : std::string::npos;
+// The row's code in the symbol-rate table.
+std::optional<std::uint32_t> SdxImport::RateCodeOf(const SdxRow& row) const {
+  const auto has = [&](std::uint32_t code) {
+    return SymbolRateText(state_.SymbolRateTable, code) == row.symbolRate;
+  };
+  // A table may have a rate twice: then the code that the flash has is as good as the first.
+  if (row.transponder && has(Get(*row.transponder, TransponderField::SymbolRate)))
+    return Get(*row.transponder, TransponderField::SymbolRate);
+  const bool filled = !row.symbolRate.starts_with('\\');
+  for (std::uint32_t code = 0; filled && code < SymbolRateCodes; ++code) {
+    if (has(code)) return code;
+  }
+  return std::nullopt;
 }
 
 TransponderRecord SdxImport::RecordOf(const SdxRow& row) const {
-  TransponderRecord record;
+  TransponderRecord record = row.transponder.value_or(TransponderRecord{});
+  Set(record, TransponderField::ChannelCount, 1);
+  if (const auto code = RateCodeOf(row)) Set(record, TransponderField::SymbolRate, *code);
+  if (row.transponder) return record;
   Set(record, TransponderField::HighBand, row.highBand ? 1U : 0U);
   Set(record, TransponderField::Horizontal, row.horizontal ? 1U : 0U);
   Set(record, TransponderField::Satellite, static_cast<std::uint32_t>(row.satellite));
@@ -42,10 +54,6 @@ TransponderRecord SdxImport::RecordOf(const SdxRow& row) const {
   Set(record, TransponderField::Frequency, static_cast<std::uint32_t>(hertz & 0xFFFFFFFF));
   Set(record, TransponderField::Tid, Low16(row.tid));
   Set(record, TransponderField::Nid, Low16(row.nid));
-  Set(record, TransponderField::ChannelCount, 1);
-  const std::size_t rate = RateAt(row);
-  Set(record, TransponderField::SymbolRate,
-      rate == std::string::npos ? 0 : static_cast<std::uint32_t>((rate + 1) / SymbolRateCell));
   Set(record, TransponderField::Fec, FecCode(row.fec));
   return record;
 }
@@ -56,7 +64,7 @@ int SdxImport::TransponderOf(const SdxRow& row, int position) {
   const TransponderSlot found =
       IsFree(record) ? TransponderSlot{} : FindOrAddTransponder(state_, record, Megahertz(row));
   if (found.added) {
-    if (RateAt(row) == std::string::npos) ++unknownRates_;
+    if (!RateCodeOf(row)) ++unknownRates_;
     NameBouquet(state_.TransponderTable[static_cast<std::size_t>(found.slot)], bouquets_);
     return found.slot;
   }
@@ -79,7 +87,8 @@ void SdxImport::Put(const SdxRow& row, int slot, int position) {
   if (Megahertz(row) == 0) return;
 
   std::string name = row.name.substr(0, ChannelRecord::NameSize);
-  const std::size_t used = Base::TrimmedRight(name).size();
+  // A list fills names up with blanks; those of a flash are its own.
+  const std::size_t used = row.transponder ? 0 : Base::TrimmedRight(name).size();
   std::copy_n(name.begin(), used == 0 ? name.size() : used, channel.bytes.begin());
   Set(channel, ChannelField::Flags, static_cast<std::uint32_t>(row.codifica));
   Set(channel, ChannelField::Transponder, static_cast<std::uint32_t>(TransponderOf(row, position)));

@@ -18,13 +18,13 @@ class SdxImport {
 
   // The sentence to show once when rows found no transponder and went to the last one; else empty.
   [[nodiscard]] const std::string& Message() const { return message_; }
-  // New transponders whose symbol rate has no code.
+  // New transponders whose symbol rate has no code; one from a flash keeps the code it had there.
   [[nodiscard]] int UnknownRates() const { return unknownRates_; }
 
  private:
   int TransponderOf(const SdxRow& row, int position);
   [[nodiscard]] Routines::TransponderRecord RecordOf(const SdxRow& row) const;
-  [[nodiscard]] std::size_t RateAt(const SdxRow& row) const;
+  [[nodiscard]] std::optional<std::uint32_t> RateCodeOf(const SdxRow& row) const;
 
   Routines::State& state_;
   const Routines::BouquetTables& bouquets_;

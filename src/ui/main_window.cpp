@@ -1,5 +1,6 @@
 #include "ui/main_window.h"
 
+#include "ui/about_dialog.h"
 #include "ui/channel_menu.h"
 #include "ui/commands.h"
 #include "ui/duplicates_window.h"
@@ -77,6 +78,7 @@ CopiaTCSTPT::CopiaTCSTPT(const std::string& programFolder, std::unique_ptr<Dialo
   print_ = std::make_unique<PrintCommands>(*session_, *pane, *this);
   auto* frame = new DownloadFrame(contents);
   download_ = std::make_unique<DownloadCommands>(*session_, *sdx_, *frame, *this);
+  foreign_ = std::make_unique<ForeignCommands>(*session_, *sdx_, *this);
   column->addWidget(frame);
   auto* lists = new QSplitter(contents);
   lists->setChildrenCollapsible(false);
@@ -99,6 +101,7 @@ CopiaTCSTPT::CopiaTCSTPT(const std::string& programFolder, std::unique_ptr<Dialo
   ConnectPrintCommands();
   ConnectSdxCommands();
   ConnectTreeCommands();
+  ConnectForeignCommands();
   ConnectToolbar();
   connect(document_, &Document::Changed, this, &CopiaTCSTPT::ShowList);
   ShowList();
@@ -145,7 +148,7 @@ void CopiaTCSTPT::ConnectFileCommands() {
   Connect("VisualizzaTransponder", [this] { ToggleView(View::Transponders); });
   Connect("Fine", [this] { close(); });
   Connect("Guida", [this] { ShowGuide(); });
-  Connect("About", [this] { ShowAbout(); });
+  Connect("About", [this] { FinestraAbout(this).exec(); });
 }
 
 void CopiaTCSTPT::ConnectExchangeCommands() {
@@ -236,6 +239,13 @@ void CopiaTCSTPT::ConnectPrintCommands() {
   Connect("StampaSDX", [this] { print_->StampaSDX(); });
 }
 
+void CopiaTCSTPT::ConnectForeignCommands() {
+  Connect("CaricaAggiuntiva", [this] { foreign_->CaricaAggiuntiva(); });
+  for (const char* kind : {"Digiquest", "Pelko"}) {
+    Connect(kind, [this, kind] { foreign_->Importa(kind, CommandAction(*this, kind).text()); });
+  }
+}
+
 // The button stays enabled while the command is not, and says why nothing is opened.
 void CopiaTCSTPT::OpenFlash() {
   const QAction& open = CommandAction(*this, "ApriFlashInput");
@@ -312,15 +322,6 @@ void CopiaTCSTPT::ShowGuide() {
   guide->show();
   guide->raise();
   guide->activateWindow();
-}
-
-void CopiaTCSTPT::ShowAbout() {
-  dialogs_->Message(
-      "Trovalis 1.0ß\n\nEditor delle liste canali dei ricevitori satellitari digitali: apre l'immagine della "
-      "flash, "
-      "mostra canali e transponder e li riscrive nell'immagine del ricevitore.\n\nRealizzato con "
-      "Qt " QT_VERSION_STR ".",
-      "About", Tone::Information);
 }
 
 // The one file dropped, when the program opens files of its kind.

@@ -8,6 +8,7 @@
 #include "ui/exchange_commands.h"
 #include "ui/favourites_commands.h"
 #include "ui/file_commands.h"
+#include "ui/foreign_commands.h"
 #include "ui/list_commands.h"
 #include "ui/print_commands.h"
 #include "ui/sdx_commands.h"
@@ -47,6 +48,7 @@ class CopiaTCSTPT : public QMainWindow {
   void ConnectSdxCommands();
   void ConnectTreeCommands();
   void ConnectPrintCommands();
+  void ConnectForeignCommands();
   void ConnectToolbar();
   void OpenFlash();
   // Runs `slot` when the command is chosen, and enables it.
@@ -56,7 +58,6 @@ class CopiaTCSTPT : public QMainWindow {
   void VisualizzaCanali();
   void ShowSteps();
   void ShowList();
-  void ShowAbout();
   void ShowGuide();
   [[nodiscard]] QString SettingsFile() const;
 
@@ -73,6 +74,7 @@ class CopiaTCSTPT : public QMainWindow {
   std::unique_ptr<PrintCommands> print_;
   std::unique_ptr<DownloadCommands> download_;
   std::unique_ptr<TreeCommands> trees_;
+  std::unique_ptr<ForeignCommands> foreign_;
   bool sdxShownSinceFls_ = false;
 };
 

@@ -35,11 +35,14 @@ QString RowName(const Formats::SdxRow& row) { return CodePageText(Base::TrimmedR
 
 }  // namespace
 
+bool SdxCommands::NeedsChannels() {
+  if (session_.view.Current() == View::Channels) return true;
+  session_.dialogs.Message("Per Caricare un file SDX si deve visualizzare la griglia Canali", {});
+  return false;
+}
+
 void SdxCommands::Carica(std::string path) {
-  if (session_.view.Current() != View::Channels) {
-    session_.dialogs.Message("Per Caricare un file SDX si deve visualizzare la griglia Canali", {});
-    return;
-  }
+  if (!NeedsChannels()) return;
   if (path.empty()) {
     path = PathBytes(session_.dialogs.OpenFile(
         {"Selezionare il file SDX di input", "SatcoDX files(*.sdx)|*.sdx|Tutti i file (*.*)|*.*|",
@@ -73,10 +76,16 @@ void SdxCommands::Load(const std::string& path) {
     for (const auto& [service, slot] : ServicesOn(session_.document.Tables(), options.satellite))
       options.known.insert(service);
   }
-  session_.sdx = Formats::ReadSatcodx(text, options);
-  ShowPane(true);
-  pane_.Refresh(CodePageText(Base::TrimmedRight(session_.sdx.satelliteName)));
+  Formats::SdxTable table = Formats::ReadSatcodx(text, options);
+  const QString name = CodePageText(Base::TrimmedRight(table.satelliteName));
+  Show(std::move(table), name);
   TellLoaded(path, options.satellite, text);
+}
+
+void SdxCommands::Show(Formats::SdxTable table, const QString& name) {
+  session_.sdx = std::move(table);
+  ShowPane(true);
+  pane_.Refresh(name);
 }
 
 void SdxCommands::TellLoaded(const std::string& path, int satellite, std::string_view text) {
@@ -94,7 +103,7 @@ void SdxCommands::TellLoaded(const std::string& path, int satellite, std::string
   }
   if (!dropped.isEmpty()) result += "; scartate: " + dropped.join(", ");
   session_.status.ShowResult(result);
-  if (table.full) session_.dialogs.Message("Superato il numero di canali SDX gestibili 4000", {});
+  if (table.full) session_.dialogs.Message(SdxTableFull, {});
   ListMissing(satellite, text);
 }
 

@@ -8,6 +8,8 @@ class QWidget;
 
 namespace Ui {
 
+inline constexpr const char* SdxTableFull = "Superato il numero di canali SDX gestibili 4000";
+
 class SdxCommands {
  public:
   SdxCommands(Session& session, SdxPane& pane, QWidget& window)
@@ -30,8 +32,12 @@ class SdxCommands {
 
   // The loader: the options, the table, the pane. `path` is a list on the disk.
   void Load(const std::string& path);
+  // Puts other rows into the table and shows them; `name` says where they are from.
+  void Show(Formats::SdxTable table, const QString& name);
   void ShowPane(bool shown);
   [[nodiscard]] bool PaneShown() const { return !pane_.isHidden(); }
+  // Whether the channel list is shown, as every list that is loaded for it needs; says so where it is not.
+  bool NeedsChannels();
 
  private:
   void TellLoaded(const std::string& path, int satellite, std::string_view text);

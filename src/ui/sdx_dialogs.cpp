@@ -31,18 +31,24 @@ Widget* Named(const char* name, Arguments&&... arguments) {
 
 }  // namespace
 
+void FillSatellites(QComboBox& box, const std::vector<Routines::Satellite>& satellites) {
+  for (const Routines::Satellite& satellite : satellites) {
+    box.addItem(CodePageText(satellite.name) + " " + CodePageText(satellite.label).toUpper());
+  }
+  for (char letter = 'A'; satellites.empty() && letter <= 'Z'; ++letter)
+    box.addItem(QString("SAT ") + letter);
+  box.setCurrentIndex(-1);
+}
+
+int SatelliteIn(const QComboBox& box) { return box.currentText().back().unicode() - 'A'; }
+
 OpzioniImportSDX::OpzioniImportSDX(const std::vector<Routines::Satellite>& satellites,
                                    const std::vector<std::string>& codes, Dialogs& dialogs, QWidget* parent)
     : QDialog(parent), dialogs_(dialogs), codes_(codes) {
   setObjectName("OpzioniImportSDX");
   setWindowTitle("Opzioni importazione SDX");
   satellite_ = Named<QComboBox>("Combo1", this);
-  for (const Routines::Satellite& satellite : satellites) {
-    satellite_->addItem(CodePageText(satellite.name) + " " + CodePageText(satellite.label).toUpper());
-  }
-  for (char letter = 'A'; satellites.empty() && letter <= 'Z'; ++letter)
-    satellite_->addItem(QString("SAT ") + letter);
-  satellite_->setCurrentIndex(-1);
+  FillSatellites(*satellite_, satellites);
 
   auto* form = new QFormLayout(this);
   form->addRow("Satellite da assegnare", satellite_);
@@ -88,7 +94,7 @@ void OpzioniImportSDX::Confirm() {
 
 Formats::SdxOptions OpzioniImportSDX::Chosen() const {
   Formats::SdxOptions options;
-  options.satellite = satellite_->currentText().back().unicode() - 'A';
+  options.satellite = SatelliteIn(*satellite_);
   options.television = types_[0]->isChecked();
   options.radio = types_[1]->isChecked();
   options.data = types_[2]->isChecked();

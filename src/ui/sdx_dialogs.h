@@ -15,6 +15,10 @@ class QRadioButton;
 
 namespace Ui {
 
+// The satellites that rows can be assigned to, by name and letter, none of them chosen; and the one chosen, 0 for A.
+void FillSatellites(QComboBox& box, const std::vector<Routines::Satellite>& satellites);
+int SatelliteIn(const QComboBox& box);
+
 // `OpzioniImportSDX`: which lines of a list become rows.
 class OpzioniImportSDX : public QDialog {
   Q_OBJECT

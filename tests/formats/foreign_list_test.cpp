@@ -1,0 +1,153 @@
+#include "formats/foreign_list.h"
+
+#include "formats/foreign_fields.h"
+#include "formats/foreign_text.h"
+
+#include <gtest/gtest.h>
+
+namespace Formats {
+namespace {
+
+// The first row that a text gives when it is laid out as it seems to be.
+SdxRow FirstRow(std::string_view text, ForeignLayout* guessed = nullptr) {
+  const ForeignLayout layout = GuessForeign(SampleOf(text));
+  if (guessed != nullptr) *guessed = layout;
+  const ForeignList list = ReadForeign(text, layout, 2);
+  EXPECT_FALSE(list.table.rows.empty()) << text << list.DropsText();
+  return list.table.rows.empty() ? SdxRow{} : list.table.rows[0];
+}
+
+std::string Summary(const SdxRow& row) {
+  return row.name + "|" + row.frequency + (row.horizontal ? "H" : "V") + row.symbolRate + "|" + row.fec +
+         "|" + row.vpid + "|" + row.apid + "|" + row.sid + "|" + row.tid + "|" + row.type;
+}
+
+std::vector<std::string> Fields(std::string_view line, Separator separator) {
+  ForeignLayout layout;
+  layout.separator = separator;
+  std::vector<std::string> fields;
+  SplitForeign(line, layout, fields);
+  return fields;
+}
+
+}  // namespace
+
+TEST(ForeignText, AnyEncodingBecomesLinesOfTheCodePage) {
+  const auto decoded = [](std::string_view bytes) {
+    const auto text = DecodeForeign(bytes, "lista");
+    return text ? std::string(text->encoding) + ":" + text->text : text.error().message;
+  };
+  using namespace std::string_view_literals;
+  EXPECT_EQ(decoded("Citt\xE0\r\nb\r\n"), "Windows-1252:Citt\xE0\nb\n");
+  EXPECT_EQ(decoded("Citt\xC3\xA0 \xF0\x9F\x93\xBA\rb"), "UTF-8:Citt\xE0 ?\nb");
+  EXPECT_EQ(decoded("\xFF\xFE\xAC\x20\x3D\xD8\xFA\xDC\x0A\x00\x62"sv), "UTF-16:\x80?\n");
+  EXPECT_EQ(decoded("\xFE\xFF\x00\x61"sv), "UTF-16:a");
+  EXPECT_EQ(decoded(""), "lista è vuoto");
+  EXPECT_EQ(decoded("\xEF\xBB\xBF \r\n"), "lista è vuoto");
+  EXPECT_EQ(decoded("testo\0e altro"sv), "lista non è un file di testo");
+  EXPECT_EQ(decoded("\x01\x02\x03 abc"), "lista non è un file di testo");
+}
+
+TEST(ForeignLayout, IsGuessedFromTheFile) {
+  ForeignLayout layout;
+  EXPECT_EQ(Summary(FirstRow("Nome;Frequenza (MHz);Pol;SR;FEC;V-PID;APID;SID;TSID;Tipo\n"
+                             "\"Uno; \"\"Due\"\"\";11,766;V;27500;3/4;0200;028A;1F41;4B0;TV\n"
+                             "Tre;11.766;H;27500;3/4;A1;0;11;12;Radio\n",
+                             &layout)),
+            "Uno; \"Due\"|011766V27500|3|512|650|8001|01200|T");
+  EXPECT_TRUE(layout.header);
+  EXPECT_TRUE(layout.columns[5].hexadecimal);
+  EXPECT_FALSE(layout.columns[1].hexadecimal);
+
+  EXPECT_EQ(Summary(FirstRow("SAT1\t11766000\tO\t22000\tRai Uno\nSAT1\t12092000\tV\t22000\tLa 7\n", &layout)),
+            "Rai Uno|011766H22000||65535|65535|0|00000|T");
+  EXPECT_FALSE(layout.header);
+
+  EXPECT_EQ(Summary(FirstRow("Rai Uno         11766 V 27500  34\n"
+                             "La 7, Roma      12092 H 27500  34\n"
+                             "Rete Quattro HD 12092 H  5632  23\n")),
+            "Rai Uno|011766V27500|3|65535|65535|0|00000|T");
+  EXPECT_EQ(Summary(FirstRow("Uno 11766 V 27500 3/4\nDieci 12092 H 27500 5/6\n")),
+            "Uno|011766V27500|3|65535|65535|0|00000|T");
+}
+
+TEST(ForeignLayout, AStrangeLineIsCutAndNotMisread) {
+  EXPECT_EQ(Fields("\"a;b\" ; c;\"\"\"d\"\"\"", Separator::Semicolon),
+            (std::vector<std::string>{"a;b", "c", "\"d\""}));
+  EXPECT_EQ(Fields("\"a;b", Separator::Semicolon), (std::vector<std::string>{"\"a", "b"}))
+      << "no second mark";
+  EXPECT_EQ(Fields("\"a\" b;c", Separator::Semicolon), (std::vector<std::string>{"\"a\" b", "c"}));
+  EXPECT_EQ(Fields("  a \t b ", Separator::Blanks), (std::vector<std::string>{"a", "b"}));
+  std::string wide;
+  for (int i = 0; i < 10000; ++i) wide += "11766;";
+  EXPECT_EQ(GuessForeign(SampleOf(wide + "\n" + wide)).columns.size(), MostForeignColumns);
+  ForeignLayout fixed;
+  fixed.separator = Separator::Columns;
+  fixed.starts = {0, 4, 9000};
+  std::vector<std::string> fields;
+  SplitForeign("abc d", fixed, fields);
+  EXPECT_EQ(fields, (std::vector<std::string>{"abc", "d", ""}));
+}
+
+TEST(ForeignLayout, AChoiceHoldsForTheNextFileOfTheSameShape) {
+  ForeignLayout chosen = GuessForeign(SampleOf("Name,Freq,X\nUno,11766,5\nDue,12092,6\n"));
+  chosen.columns[2].meaning = Meaning::Sid;
+  chosen.columns[2].hexadecimal = true;
+  const auto moved = Reapplied(chosen, SampleOf("X,Name,Freq\n1F,Uno,11766\n"));
+  ASSERT_TRUE(moved);
+  EXPECT_EQ(moved->columns[0].meaning, Meaning::Sid) << "by its title";
+  EXPECT_TRUE(moved->columns[0].hexadecimal);
+  EXPECT_EQ(Reapplied(chosen, SampleOf("A,B,C\nUno,11766,5\n"))->columns[0].meaning, Meaning::Name)
+      << "by place";
+  EXPECT_FALSE(Reapplied(chosen, SampleOf("A,B\nUno,11766\n")));
+}
+
+TEST(ForeignFields, EachWayOfWriting) {
+  for (const char* text :
+       {"11766", "11766000", "11766000000", "11,766", "11.766", "11.766.000", "11766,4 MHz", "11766 V"})
+    EXPECT_EQ(MegahertzIn(text), 11766) << text;
+  for (const char* text : {"", "1.2", "12", "1176", "99999999999999999999", "11766x", "3800", "."})
+    EXPECT_EQ(MegahertzIn(text), std::nullopt) << text;
+  EXPECT_EQ(SymbolRateIn("27.500"), 27500);
+  EXPECT_EQ(SymbolRateIn("27500000"), 27500);
+  EXPECT_EQ(SymbolRateIn("27"), std::nullopt);
+  EXPECT_EQ(FecDigitIn("3/4") + FecDigitIn("56") + FecDigitIn("7") + FecDigitIn("4") + FecDigitIn("9/10"),
+            "357");
+  EXPECT_EQ(NumberIn("$1F", false), 31);
+  EXPECT_EQ(NumberIn("1Fh", false), 31);
+  EXPECT_EQ(NumberIn("650, 651", false), 650);
+  EXPECT_EQ(NumberIn("650x", false), std::nullopt);
+  EXPECT_EQ(NumberIn("70000", false), std::nullopt);
+  EXPECT_EQ(CodificaIn("Seca 2", false), 0x24);
+  EXPECT_EQ(CodificaIn("0x0500", false), 0xA4);
+  EXPECT_EQ(CodificaIn("A4", true), 0xA4);
+  EXPECT_EQ(CodificaIn("FTA", false), 0x04);
+  EXPECT_EQ(CodificaIn("qualcosa", false), std::nullopt);
+}
+
+TEST(ForeignList, EachDroppedLineHasItsReason) {
+  const std::string head = "Nome;Freq;Pol;SR;VPID;APID;SID;Tipo;Codifica\n";
+  const std::string good = "Uno;11766;V;5632;512;8191;1;1;Nagra\n";
+  const std::string text =
+      head + good + "\n;11766;V;;;;;;\nDue;-;V;;;;;;\nTre;12;V;;;;;;\nQuattro;11766;?;;;;;;\n" +
+      "Cinque;11766;V;x;;;;;\nSei;11766;V;;;;70000;;\nSette\n" + "Otto\x01;11766;1;;600;601;;Radio;?\n";
+  const ForeignList list = ReadForeign(text, GuessForeign(SampleOf(text)), 3);
+  EXPECT_EQ(list.table.lines, 9);
+  EXPECT_EQ(list.DropsText(),
+            "senza nome 1, senza frequenza 2, frequenza non valida 1, polarizzazione non valida 1, numero "
+            "non valido 2");
+  ASSERT_EQ(list.table.rows.size(), 2U);
+  EXPECT_EQ(Summary(list.table.rows[0]), "Uno|011766V5632\\||512|65535|1|00000|T");
+  EXPECT_EQ(list.table.rows[0].codifica, 0x44);
+  EXPECT_EQ(list.table.rows[0].satellite, 3);
+  EXPECT_TRUE(list.table.rows[0].highBand);
+  EXPECT_EQ(Summary(list.table.rows[1]), "Otto |011766H||65535|601|0|00000|R");
+
+  std::string many = head;
+  for (int i = 0; i < 4001; ++i) many += good;
+  const ForeignList full = ReadForeign(many + "\xFF", GuessForeign(SampleOf(many)), 0);
+  EXPECT_TRUE(full.table.full);
+  EXPECT_EQ(full.table.rows.size(), MostSdxRows);
+}
+
+}  // namespace Formats

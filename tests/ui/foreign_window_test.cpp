@@ -1,0 +1,104 @@
+// Rows that come into the SDX table from a second flash and from texts of other programs.
+#include "ui/window_fixture.h"
+
+#include <QCheckBox>
+#include <QComboBox>
+#include <QDialog>
+#include <QLabel>
+#include <QPushButton>
+
+namespace Ui {
+namespace {
+
+void ImportInto(QDialog& box) {
+  box.findChild<QComboBox*>("Combo1")->setCurrentIndex(1);
+  box.findChild<QPushButton*>("Command1")->click();
+}
+
+}  // namespace
+
+TEST_F(Window, ASecondFlashStandsBesideTheListAndLeavesItAlone) {
+  OpenDemo();
+  const Routines::State before = List();
+  const QString dialog = "Selezionare la flash aggiuntiva";
+  const auto refused = [&](const std::string& path, const QString& told) {
+    driver_->ExpectFile(dialog, PathText(path));
+    driver_->ExpectMessage(told, "Errore FLASH di Input");
+    ASSERT_TRUE(driver_->Choose("CaricaAggiuntiva"));
+  };
+  refused(folder_.Write("corta.dat", "abc"), "Dimensione FLASH selezionata errata 3");
+  refused(folder_.Path("manca.dat"), "Impossibile leggere manca.dat: il file o la cartella non esiste");
+  auto* pane = window_->findChild<Griglia*>("GrigliaSDX");
+  EXPECT_FALSE(pane->isVisible());
+
+  ASSERT_TRUE(driver_->Pick("QuantiCanali_0"));
+  driver_->ExpectFile(dialog, PathText(flash_));
+  ASSERT_TRUE(driver_->Choose("CaricaAggiuntiva"));
+  EXPECT_EQ(Said(), "demo.dat: letti 620 canali");
+  EXPECT_EQ(driver_->TextOf("EtichettaSDX"), "SDX: demo.dat");
+  EXPECT_EQ(pane->model()->rowCount(), 620);
+  EXPECT_TRUE(List() == before);
+
+  pane->Select({1, 2});
+  driver_->ExpectLine("Inserire la posizione in cui inserire Rete Italia", "700");
+  driver_->ExpectQuestion("Si desidera spostare i canali verso il basso?", false);
+  ASSERT_TRUE(driver_->Press("Toolbar1_Copy_SDX"));
+  EXPECT_TRUE(List().ChannelTable[700] == before.ChannelTable[1]) << "the same transponder too";
+}
+
+TEST_F(Window, AListOfAnotherProgramIsSettledOnceAndRemembered) {
+  OpenDemo();
+  const QString dialog = "Selezionare il file da importare";
+  driver_->ExpectFile(dialog, PathText(flash_));
+  driver_->ExpectMessage("demo.dat non è un file di testo");
+  ASSERT_TRUE(driver_->Choose("Pelko"));
+
+  const std::string path =
+      folder_.Write("lista.csv", "Uno;99;11766;V;10\nDue;98;12092;H;11\nTre;97;x;H;12\n");
+  driver_->ExpectFile(dialog, PathText(path));
+  driver_->ExpectDialog("Da File Pelko", [this](QDialog& box) {
+    const auto column = [&box](int i) { return box.findChild<QComboBox*>(QString("Contenuto_%1").arg(i)); };
+    EXPECT_EQ(column(0)->currentText(), "Nome");
+    column(2)->setCurrentText("—");
+    EXPECT_FALSE(box.findChild<QPushButton*>("Command1")->isEnabled()) << "no frequency";
+    column(2)->setCurrentText("Frequenza");
+    column(1)->setCurrentText("SID");
+    column(4)->setCurrentText("SID");
+    EXPECT_EQ(column(1)->currentText(), "—") << "a field stands in one column";
+    box.findChild<QCheckBox*>("Esadecimale_4")->setChecked(true);
+    EXPECT_TRUE(box.findChild<QLabel*>("Esito")->text().startsWith(
+        "2 righe su 3 darebbero canali; le altre: frequenza non valida 1."));
+    driver_->ExpectMessage("Si deve specificare il codice da assegnare al satellite");
+    box.findChild<QPushButton*>("Command1")->click();
+    ImportInto(box);
+  });
+  ASSERT_TRUE(driver_->Choose("Pelko"));
+  EXPECT_EQ(Said(), "lista.csv: lette 3 righe, prese 2; scartate: frequenza non valida 1");
+  auto* rows = window_->findChild<Griglia*>("GrigliaSDX")->model();
+  EXPECT_EQ(rows->index(1, 3).data().toString(), "17") << "hexadecimal";
+  EXPECT_EQ(rows->index(1, 10).data().toString(), "SAT B");
+
+  std::string many;
+  for (int i = 0; i < 4001; ++i) many += "Nuovo;1;11766;V;20\n";
+  const std::string next = folder_.Write("seconda.csv", many);
+  driver_->ExpectFile(dialog, PathText(next));
+  driver_->ExpectDialog("Da File Pelko", ImportInto);
+  driver_->ExpectMessage("Superato il numero di canali SDX gestibili 4000");
+  ASSERT_TRUE(driver_->Choose("Pelko"));
+  EXPECT_EQ(rows->rowCount(), 4000);
+  EXPECT_EQ(rows->index(0, 3).data().toString(), "32") << "as chosen for the last file";
+
+  driver_->ExpectFile(dialog, PathText(next));
+  driver_->ExpectDialog("Da File Digiquest/FortecStar", [](QDialog& box) {
+    EXPECT_EQ(box.findChild<QComboBox*>("Contenuto_4")->currentText(), "—")
+        << "each kind has choices of its own";
+    box.reject();
+  });
+  ASSERT_TRUE(driver_->Choose("Digiquest"));
+  EXPECT_EQ(rows->rowCount(), 4000) << "a cancelled import leaves the rows";
+  ASSERT_TRUE(driver_->Choose("VisualizzaTransponder"));
+  driver_->ExpectMessage("Per Caricare un file SDX si deve visualizzare la griglia Canali");
+  ASSERT_TRUE(driver_->Choose("Digiquest"));
+}
+
+}  // namespace Ui
