@@ -1,0 +1,160 @@
+// Saves that are killed, and saves whose system calls fail one after the other.
+#include "base/file.h"
+#include "model/flash_file.h"
+#include "model/flash_image.h"
+#include "support/test_folder.h"
+
+#include <gtest/gtest.h>
+
+#include <cerrno>
+#include <chrono>
+#include <csignal>
+#include <cstdarg>
+#include <cstdio>
+#include <fcntl.h>
+#include <random>
+#include <sys/stat.h>
+#include <sys/wait.h>
+#include <thread>
+#include <unistd.h>
+
+namespace {
+
+int callsLeft = -1;  // before one fails; below 0 none does
+int failure = 0;
+
+bool Fails() {
+  if (callsLeft < 0 || callsLeft-- > 0) return false;
+  errno = failure;
+  return true;
+}
+
+}  // namespace
+
+// The linker sends the calls of this program's own objects, and so of the core, here.
+extern "C" {
+int __real_open(const char* path, int flags, mode_t mode);
+ssize_t __real_write(int file, const void* bytes, size_t count);
+int __real_fsync(int file);
+int __real_rename(const char* from, const char* to);
+
+int __wrap_open(const char* path, int flags, ...) {
+  va_list arguments;
+  va_start(arguments, flags);
+  const auto mode = (flags & O_CREAT) != 0 ? va_arg(arguments, mode_t) : 0;
+  va_end(arguments);
+  return Fails() ? -1 : __real_open(path, flags, mode);
+}
+
+// A failing write leaves a part behind first, as a full disk does.
+ssize_t __wrap_write(int file, const void* bytes, size_t count) {
+  if (!Fails()) return __real_write(file, bytes, count);
+  const ssize_t part = __real_write(file, bytes, count / 3);
+  errno = failure;
+  return part < 0 ? part : -1;
+}
+
+int __wrap_fsync(int file) { return Fails() ? -1 : __real_fsync(file); }
+int __wrap_rename(const char* from, const char* to) { return Fails() ? -1 : __real_rename(from, to); }
+}
+
+namespace Routines {
+
+using Tests::Contents;
+using Tests::TestFolder;
+
+namespace {
+
+const Base::Bytes Old(FlashSize, 'o');
+const Base::Bytes New(FlashSize, 'n');
+
+// Saves one image over the other until it is killed.
+[[noreturn]] void SaveForEver(const std::string& path) {
+  Backups backups{Base::FolderOf(path), {}};
+  for (;;) {
+    const Base::Bytes now = Contents(path);
+    static_cast<void>(SaveFlash(path, now, now == Old ? New : Old, backups));
+  }
+}
+
+// Whether every copy there is holds one of the two images whole.
+bool CopiesAreWhole(const std::string& path) {
+  for (const char* ending : {".bak", ".bak2"}) {
+    const Base::Bytes copy = Contents(path + ending);
+    if (!copy.empty() && copy != Old && copy != New) return false;
+  }
+  return true;
+}
+
+}  // namespace
+
+// TROVALIS_KILLS=5000 makes a long run of it.
+TEST(InterruptedSave, AKilledSaveLeavesTheOldImageOrTheNewOne) {
+  const char* wanted = std::getenv("TROVALIS_KILLS");
+  const int kills = wanted == nullptr ? 300 : std::atoi(wanted);
+  const TestFolder folder;
+  const std::string path = folder.Write("a.dat", Old);
+  std::mt19937 random(7);
+  int inTheMiddle = 0;
+  for (int i = 0; i < kills; ++i) {
+    const pid_t child = ::fork();
+    ASSERT_GE(child, 0);
+    if (child == 0) SaveForEver(path);
+    std::this_thread::sleep_for(std::chrono::microseconds(500 + random() % 15000));
+    ::kill(child, SIGKILL);
+    ::waitpid(child, nullptr, 0);
+
+    const Base::Bytes found = Contents(path);
+    ASSERT_TRUE(found == Old || found == New) << "kill " << i;
+    ASSERT_TRUE(CopiesAreWhole(path)) << "kill " << i;
+    const int before = folder.Files();
+    ASSERT_TRUE(Base::ReplaceFile(path, found));
+    const int after = folder.Files();
+    ASSERT_LE(after, 3) << "the image and its copies, nothing of a killed save";
+    if (after < before) ++inTheMiddle;
+  }
+  EXPECT_GT(inTheMiddle, kills / 20) << "the kills come at the wrong time";
+  std::printf("%d kills, %d of them while a file was being written\n", kills, inTheMiddle);
+}
+
+TEST(InterruptedSave, ASaveThatGoesOnKeepsItsFile) {
+  const TestFolder folder;
+  const std::string path = folder.Write("a.dat", Old);
+  const auto saveOften = [](const std::string& target) {
+    for (int i = 0; i < 60; ++i) ASSERT_TRUE(Base::ReplaceFile(target, New));
+  };
+  std::thread other(saveOften, folder.Path("b.dat"));
+  saveOften(path);
+  other.join();
+  EXPECT_EQ(folder.Files(), 2);
+}
+
+TEST(InterruptedSave, WhicheverCallFailsTheOldImageStaysAndTheErrorIsTold) {
+  for (const int code : {ENOSPC, EIO, EROFS}) {
+    bool failed = true;
+    for (int call = 0; failed; ++call) {
+      ASSERT_LT(call, 100);
+      const TestFolder folder;
+      const std::string path = folder.Write("a.dat", Old);
+      Backups backups{folder.Path(), {}};
+      failure = code;
+      callsLeft = call;
+      const auto saved = SaveFlash(path, Old, New, backups);
+      failed = callsLeft < 0;
+      callsLeft = -1;
+      const Base::Bytes found = Contents(path);
+      EXPECT_TRUE(saved ? found == New : found == Old) << "call " << call << ", error " << code;
+      EXPECT_TRUE(CopiesAreWhole(path));
+      if (saved) {
+        EXPECT_EQ(Contents(path + ".bak"), Old);
+        EXPECT_EQ(folder.Files(), 2);
+        continue;
+      }
+      EXPECT_TRUE(saved.error().message.starts_with("Impossibile ")) << saved.error().message;
+      EXPECT_LE(folder.Files(), 2) << "no temporary file is left by call " << call;
+      ASSERT_TRUE(SaveFlash(path, Old, New, backups)) << "the next attempt succeeds";
+    }
+  }
+}
+
+}  // namespace Routines
