@@ -9,7 +9,6 @@
 #include <cerrno>
 #include <chrono>
 #include <csignal>
-#include <cstdarg>
 #include <cstdio>
 #include <fcntl.h>
 #include <random>
@@ -31,32 +30,31 @@ bool Fails() {
 
 }  // namespace
 
-// The linker sends the calls of this program's own objects, and so of the core, here.
-extern "C" {
-int __real_open(const char* path, int flags, mode_t mode);
-ssize_t __real_write(int file, const void* bytes, size_t count);
-int __real_fsync(int file);
-int __real_rename(const char* from, const char* to);
+// The linker sends the calls of this program's own objects, and so of the core, to the functions below.
+int RealOpen(const char* path, int flags, mode_t mode) __asm__("__real_open");
+ssize_t RealWrite(int file, const void* bytes, std::size_t count) __asm__("__real_write");
+int RealFsync(int file) __asm__("__real_fsync");
+int RealRename(const char* from, const char* to) __asm__("__real_rename");
 
-int __wrap_open(const char* path, int flags, ...) {
-  va_list arguments;
-  va_start(arguments, flags);
-  const auto mode = (flags & O_CREAT) != 0 ? va_arg(arguments, mode_t) : 0;
-  va_end(arguments);
-  return Fails() ? -1 : __real_open(path, flags, mode);
+int WrappedOpen(const char* path, int flags, mode_t mode) __asm__("__wrap_open");
+ssize_t WrappedWrite(int file, const void* bytes, std::size_t count) __asm__("__wrap_write");
+int WrappedFsync(int file) __asm__("__wrap_fsync");
+int WrappedRename(const char* from, const char* to) __asm__("__wrap_rename");
+
+int WrappedOpen(const char* path, int flags, mode_t mode) {
+  return Fails() ? -1 : RealOpen(path, flags, mode);
 }
 
 // A failing write leaves a part behind first, as a full disk does.
-ssize_t __wrap_write(int file, const void* bytes, size_t count) {
-  if (!Fails()) return __real_write(file, bytes, count);
-  const ssize_t part = __real_write(file, bytes, count / 3);
+ssize_t WrappedWrite(int file, const void* bytes, std::size_t count) {
+  if (!Fails()) return RealWrite(file, bytes, count);
+  const ssize_t part = RealWrite(file, bytes, count / 3);
   errno = failure;
   return part < 0 ? part : -1;
 }
 
-int __wrap_fsync(int file) { return Fails() ? -1 : __real_fsync(file); }
-int __wrap_rename(const char* from, const char* to) { return Fails() ? -1 : __real_rename(from, to); }
-}
+int WrappedFsync(int file) { return Fails() ? -1 : RealFsync(file); }
+int WrappedRename(const char* from, const char* to) { return Fails() ? -1 : RealRename(from, to); }
 
 namespace Routines {
 
