@@ -8,6 +8,7 @@
 #include "ui/qt_dialogs.h"
 
 #include <QAction>
+#include <QApplication>
 #include <QCloseEvent>
 #include <QDropEvent>
 #include <QFileInfo>
@@ -341,6 +342,8 @@ void CopiaTCSTPT::dropEvent(QDropEvent* event) {
 
 // Nothing is asked on the way out, as unsaved work is kept; only where it cannot be kept the user decides.
 void CopiaTCSTPT::closeEvent(QCloseEvent* event) {
+  // A cell that is being edited takes what has been typed.
+  if (QWidget* editor = QApplication::focusWidget()) editor->clearFocus();
   const auto kept = kept_->Flush();
   if (!kept && !dialogs_->YesNo(Text(kept.error().message) +
                                 "\n\nLe modifiche non salvate andrebbero perse. Si desidera chiudere?")) {

@@ -2,6 +2,7 @@
 #include "edit/list_operations.h"
 #include "ui/window_fixture.h"
 
+#include <QApplication>
 #include <QProcess>
 #include <QTest>
 
@@ -49,8 +50,12 @@ TEST_F(KeptWorkWindow, ClosingAsksNothingAndTheNextStartGoesOn) {
   window_->show();
   driver_->SelectRows(10, 12);
   ASSERT_TRUE(driver_->Press("Toolbar1_Cut"));
-  const Routines::State before = List();
+  driver_->SelectRows(1, 1);
+  driver_->Key(Qt::Key_F2);
+  QTest::keyClicks(QApplication::focusWidget(), "Nuovo");
   EXPECT_TRUE(window_->close());
+  EXPECT_EQ(driver_->Cell(1, 1), "Nuovo") << "a cell still being edited";
+  const Routines::State before = List();
 
   StartAndAnswer(true);
   EXPECT_EQ(Said(), Recovered);
