@@ -1,4 +1,5 @@
 // Work on a flash image beside the least that any program must do for it: copying its bytes once.
+#include "edit/recovery.h"
 #include "image_builder.h"
 #include "model/flash_loader.h"
 #include "model/flash_writer.h"
@@ -57,5 +58,16 @@ void PatchImage(benchmark::State& run) {
   }
 }
 BENCHMARK(PatchImage);
+
+// What the window does itself each time it puts unsaved work aside; the disk is another thread's business.
+void EncodeUnsavedWork(benchmark::State& run) {
+  const auto state = std::make_unique<State>();
+  LoadFlash(*state, FullImage(), LastChannelSlot, 0, {});
+  for (auto _ : run) {
+    auto file = Edit::EncodeRecovery(*state, {}, {});
+    benchmark::DoNotOptimize(file.data());
+  }
+}
+BENCHMARK(EncodeUnsavedWork);
 
 }  // namespace

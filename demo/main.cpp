@@ -36,14 +36,11 @@ class Session {
     copy_ = output_ + "/copia.dat";
     QFile::copy(flash_, copy_);
     QFile::setPermissions(copy_, QFile::ReadOwner | QFile::WriteOwner);
-    window_ = std::make_unique<Ui::CopiaTCSTPT>(Ui::PathBytes(ProgramFolder()));
-    driver_ = std::make_unique<Demo::WindowDriver>(*window_);
   }
 
   int Run() {
-    window_->show();
-    const bool exposed = QTest::qWaitForWindowExposed(window_.get());
-    Step("start", exposed && window_->Start(), window_->windowTitle());
+    const bool started = Start();
+    Step("start", started, window_->windowTitle());
     ChooseSettings();
     OpenFlash();
     LookAtTransponders();
@@ -60,7 +57,8 @@ class Session {
     Convert();
     SaveCopy();
     OpenCopyAgain();
-    for (const QString& failure : driver_->Failures()) Step("boxes", false, failure);
+    EndWithUnsavedWork();
+    CheckBoxes();
     std::printf("%s: %d steps, %d failed; pictures in %s\n", failed_ == 0 ? "OK" : "FAILED", steps_, failed_,
                 qPrintable(output_));
     return failed_ == 0 ? 0 : 1;
@@ -68,6 +66,18 @@ class Session {
 
  private:
   [[nodiscard]] QString ProgramFolder() const { return output_ + "/programma"; }
+
+  bool Start() {
+    driver_.reset();
+    window_ = std::make_unique<Ui::CopiaTCSTPT>(Ui::PathBytes(ProgramFolder()));
+    driver_ = std::make_unique<Demo::WindowDriver>(*window_);
+    window_->show();
+    return QTest::qWaitForWindowExposed(window_.get()) && window_->Start();
+  }
+
+  void CheckBoxes() {
+    for (const QString& failure : driver_->Failures()) Step("boxes", false, failure);
+  }
 
   // Prints a step and takes its picture.
   void Step(const char* name, bool good, const QString& seen) {
@@ -301,6 +311,24 @@ class Session {
              after.FavouritesBlock == before.FavouritesBlock &&
              after.TransponderCount == before.TransponderCount,
          "same channels, transponders and favourites as before the save");
+  }
+
+  void EndWithUnsavedWork() {
+    driver_->SelectRows(2, 6);
+    driver_->Press("Toolbar1_Cut");
+    const Routines::State before = window_->List().Tables();
+    window_->close();
+    CheckBoxes();
+    bool good = Start();
+    PictureBoxes("dialog-recover");
+    driver_->ExpectQuestion("Esistono modifiche non salvate dell' ultima sessione. Si desidera recuperarle?",
+                            true);
+    window_->OfferKeptWork();
+    const Routines::State& after = window_->List().Tables();
+    good =
+        good && after.ChannelTable == before.ChannelTable && after.FavouritesBlock == before.FavouritesBlock;
+    Step("recover unsaved work", good,
+         driver_->TextOf("UltimoRisultato") + "; " + driver_->TextOf("CanaliCopiati"));
   }
 
   QString flash_;

@@ -2,11 +2,13 @@
 
 #include <algorithm>
 #include <array>
+#include <atomic>
 #include <cerrno>
 #include <cstdlib>
 #include <cstring>
 #include <fcntl.h>
 #include <filesystem>
+#include <sys/file.h>
 #include <sys/stat.h>
 #include <unistd.h>
 #include <utility>
@@ -15,6 +17,11 @@ namespace Base {
 namespace {
 
 constexpr uid_t NoOwner = static_cast<uid_t>(-1);  // leaves the owner as it is
+
+// The names of files on their way into the place of others: this and six hexadecimal digits.
+constexpr std::string_view TemporaryPrefix = ".trovalis-";
+constexpr std::size_t TemporaryDigits = 6;
+constexpr int MostTemporaries = 1000;
 
 class Descriptor {
  public:
@@ -73,18 +80,61 @@ void FlushFolder(const std::string& folder) {
   if (opened.Valid()) ::fsync(opened.Number());
 }
 
-// Owner and permissions of `old`, or those of any new file. Ownership follows as far as the system lets it.
-int TakeOver(int file, const struct stat* old) {
-  if (old == nullptr) {
-    const mode_t mask = ::umask(0);
-    ::umask(mask);
-    return ::fchmod(file, 0666 & ~mask) == 0 ? 0 : errno;
-  }
-  const bool owned =
-      ::fchown(file, old->st_uid, old->st_gid) == 0 || ::fchown(file, NoOwner, old->st_gid) == 0;
+// Owner and permissions of `old`. Ownership follows as far as the system lets it.
+int TakeOver(int file, const struct stat& old) {
+  const bool owned = ::fchown(file, old.st_uid, old.st_gid) == 0 || ::fchown(file, NoOwner, old.st_gid) == 0;
   // A group that could not follow must not be given the rights of another one.
-  const mode_t mode = old->st_mode & (owned ? 07777U : 07707U);
+  const mode_t mode = old.st_mode & (owned ? 07777U : 07707U);
   return ::fchmod(file, mode) == 0 ? 0 : errno;
+}
+
+bool IsTemporary(const std::filesystem::directory_entry& entry) {
+  const std::string name = entry.path().filename().string();
+  const std::size_t prefix = TemporaryPrefix.size();
+  std::error_code error;
+  return name.size() == prefix + TemporaryDigits && name.starts_with(TemporaryPrefix) &&
+         name.find_first_not_of("0123456789abcdef", prefix) == std::string::npos &&
+         entry.symlink_status(error).type() == std::filesystem::file_type::regular;
+}
+
+// Removes what a program that was killed in the middle of a save has left. A save that goes on holds a lock on its
+// file, which the system takes away with the program.
+void RemoveAbandoned(const std::string& folder) {
+  std::error_code error;
+  std::filesystem::directory_iterator entry(folder, error);
+  for (; !error && entry != std::filesystem::directory_iterator(); entry.increment(error)) {
+    if (!IsTemporary(*entry)) continue;
+    const Descriptor file(::open(entry->path().c_str(), O_RDWR | O_NOFOLLOW | O_CLOEXEC));
+    if (file.Valid() && ::flock(file.Number(), LOCK_EX | LOCK_NB) == 0) ::unlink(entry->path().c_str());
+  }
+}
+
+std::string TemporaryName(unsigned number) {
+  std::string digits(TemporaryDigits, '0');
+  for (char& digit : digits) {
+    digit = "0123456789abcdef"[number & 15U];
+    number >>= 4U;
+  }
+  return std::string(TemporaryPrefix) + digits;
+}
+
+// A new file in `folder`, held by a lock while it is open; `path` gets its name. -1 with errno where there is none.
+int OpenTemporary(const std::string& folder, mode_t mode, std::string& path) {
+  static std::atomic<unsigned> number{static_cast<unsigned>(::getpid()) << 6U};
+  for (int i = 0; i < MostTemporaries; ++i) {
+    path = folder + "/" + TemporaryName(number++);
+    const int file = ::open(path.c_str(), O_RDWR | O_CREAT | O_EXCL | O_CLOEXEC, mode);
+    if (file < 0 && errno != EEXIST) return -1;
+    if (file < 0) continue;
+    // Another save may have taken the file for abandoned before it was locked. Where a file system knows no locks,
+    // nothing is taken so.
+    const bool taken = ::flock(file, LOCK_EX | LOCK_NB) != 0 && errno == EWOULDBLOCK;
+    struct stat status {};
+    if (!taken && ::fstat(file, &status) == 0 && status.st_nlink > 0) return file;
+    ::close(file);
+  }
+  errno = EEXIST;
+  return -1;
 }
 
 // 0 where `path` may be replaced: it is a file that can be written to, or nothing yet.
@@ -175,10 +225,11 @@ Outcome ReplaceFile(const std::string& path, ByteView bytes, const std::string& 
   struct stat model {};
   const bool hasModel = exists || (!like.empty() && ::stat(like.c_str(), &model) == 0);
   const std::string folder = FolderOf(target);
-  std::string temporary = folder + "/.trovalis-XXXXXX";
-  const Descriptor file(::mkostemp(temporary.data(), O_CLOEXEC));
+  RemoveAbandoned(folder);
+  std::string temporary;
+  const Descriptor file(OpenTemporary(folder, hasModel ? 0600 : 0666, temporary));
   if (!file.Valid()) return WriteFailure(path, errno);
-  int code = TakeOver(file.Number(), !hasModel ? nullptr : exists ? &old : &model);
+  int code = hasModel ? TakeOver(file.Number(), exists ? old : model) : 0;
   if (code == 0) code = WriteFlushCompare(file.Number(), bytes);
   if (code == 0 && ::rename(temporary.c_str(), target.c_str()) != 0) code = errno;
   if (code != 0) {

@@ -47,6 +47,7 @@ Clipboard CopyChannels(const State& state, Slots slots) {
 
 std::vector<LostFavourite> CutChannels(State& state, Slots slots, Clipboard& clipboard) {
   std::vector<LostFavourite> lost = DeleteChannels(state, slots);
+  clipboard.wasCut = true;
   clipboard.cut = lost;
   if (!lost.empty()) clipboard.cutNumber = ++state.CutNumber;
   for (LostFavourite& entry : clipboard.cut) entry.slot -= slots.first;

@@ -20,6 +20,7 @@ struct Clipboard {
   std::string symbolRates;  // the table that gives the transponders' codes their rates
   int cutNumber = 0;        // of that cut, in the state of its list
   int listNumber = 0;       // of the list they came from
+  bool wasCut = false;      // they have been taken out of it
 
   [[nodiscard]] int Count() const { return static_cast<int>(channels.size()); }
 };

@@ -4,6 +4,7 @@
 #include <QByteArray>
 #include <QNetworkAccessManager>
 #include <QObject>
+#include <QTimer>
 
 class QNetworkReply;
 
@@ -13,10 +14,14 @@ class Download : public QObject {
   Q_OBJECT
 
  public:
-  static constexpr qint64 Largest = 64LL << 20;     // bytes
-  static constexpr int LongestSilence = 30 * 1000;  // milliseconds without data
+  struct Limits {
+    qint64 bytes = 64LL << 20;
+    int silence = 30 * 1000;     // milliseconds without data
+    int whole = 10 * 60 * 1000;  // milliseconds for all of it
+  };
 
-  explicit Download(QObject* parent) : QObject(parent) {}
+  explicit Download(QObject* parent);
+  Download(const Limits& limits, QObject* parent);
 
   [[nodiscard]] bool Running() const { return reply_ != nullptr; }
   // Begins a GET of an http or https address, following redirects that are no less safe. Not while one is running.
@@ -31,12 +36,15 @@ class Download : public QObject {
 
  private:
   void Take();
+  void Stop();
   void End();
 
+  Limits limits_;
   QNetworkAccessManager network_;
+  QTimer wholeTime_;
   QNetworkReply* reply_ = nullptr;
   QByteArray bytes_;
-  bool tooLarge_ = false;
+  bool stopped_ = false;  // by one of the limits
 };
 
 }  // namespace Ui

@@ -10,7 +10,12 @@ ElidedLabel::ElidedLabel(Qt::TextElideMode mode, QWidget* parent) : QLabel(paren
 }
 
 void ElidedLabel::Show(const QString& text, const QString& tip) {
-  setText(text);
+  QString line = text;
+  // A file's name may have line breaks in it.
+  for (QChar& c : line) {
+    if (c < ' ' || c == QChar::LineSeparator || c == QChar::ParagraphSeparator) c = ' ';
+  }
+  setText(line);
   // A tip without a tag would show its escapes.
   setToolTip("<span>" + (tip.isEmpty() ? text : tip).toHtmlEscaped() + "</span>");
 }

@@ -9,6 +9,7 @@
 #include "ui/qt_dialogs.h"
 
 #include <QAction>
+#include <QApplication>
 #include <QCloseEvent>
 #include <QDialog>
 #include <QDropEvent>
@@ -68,6 +69,7 @@ CopiaTCSTPT::CopiaTCSTPT(const std::string& programFolder, std::unique_ptr<Dialo
   cells_ = std::make_unique<CellCommands>(*session_);
   favourites_ = std::make_unique<FavouritesCommands>(*session_, *this);
   lists_ = std::make_unique<ListCommands>(*session_);
+  kept_ = std::make_unique<KeptWork>(*session_, this);
 
   auto* column = new QVBoxLayout(contents);
   column->setContentsMargins(8, 6, 8, 4);
@@ -122,6 +124,8 @@ bool CopiaTCSTPT::Start() {
   document_->Adjust([&rates](Routines::State& state) { state.SymbolRateTable = rates->table; });
   return true;
 }
+
+void CopiaTCSTPT::OfferKeptWork() { kept_->Offer(); }
 
 template <class Slot>
 void CopiaTCSTPT::Connect(const char* command, Slot slot) {
@@ -348,7 +352,16 @@ void CopiaTCSTPT::dropEvent(QDropEvent* event) {
   });
 }
 
+// Nothing is asked on the way out, as unsaved work is kept; only where it cannot be kept the user decides.
 void CopiaTCSTPT::closeEvent(QCloseEvent* event) {
+  // A cell that is being edited takes what has been typed.
+  if (QWidget* editor = QApplication::focusWidget()) editor->clearFocus();
+  const auto kept = kept_->Flush();
+  if (!kept && !dialogs_->YesNo(Text(kept.error().message) +
+                                "\n\nLe modifiche non salvate andrebbero perse. Si desidera chiudere?")) {
+    event->ignore();
+    return;
+  }
   QSettings(SettingsFile(), QSettings::IniFormat).setValue("Finestra/Geometria", saveGeometry());
   session_->view.FinishEditing();
   favourites_->CloseWindow();

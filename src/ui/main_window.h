@@ -9,6 +9,7 @@
 #include "ui/favourites_commands.h"
 #include "ui/file_commands.h"
 #include "ui/foreign_commands.h"
+#include "ui/kept_work.h"
 #include "ui/list_commands.h"
 #include "ui/print_commands.h"
 #include "ui/sdx_commands.h"
@@ -31,6 +32,9 @@ class CopiaTCSTPT : public QMainWindow {
 
   // Reads the symbol rates, as every start does; false where a malformed SR.INI ends the program.
   bool Start();
+
+  // Asks whether to take up the work that an earlier session has left, where there is any. After Start().
+  void OfferKeptWork();
 
   [[nodiscard]] const Document& List() const { return *document_; }
 
@@ -75,6 +79,7 @@ class CopiaTCSTPT : public QMainWindow {
   std::unique_ptr<DownloadCommands> download_;
   std::unique_ptr<TreeCommands> trees_;
   std::unique_ptr<ForeignCommands> foreign_;
+  std::unique_ptr<KeptWork> kept_;
   bool sdxShownSinceFls_ = false;
 };
 

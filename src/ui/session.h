@@ -1,7 +1,7 @@
 // What every command of the window works with, for as long as the program runs.
 #pragma once
 
-#include "edit/clipboard.h"
+#include "edit/recovery.h"
 #include "formats/satcodx.h"
 #include "model/flash_file.h"
 #include "support/bouquets_txt.h"
@@ -30,9 +30,13 @@ struct Session {
   Edit::Clipboard clipboard = {};
   Formats::SdxTable sdx = {};
   bool srIniMissingTold = false;
+  std::function<void()> onChange = {};
 
-  // Brings the figures of the status bar up to date.
-  void ShowList() { status.ShowList(document.Tables(), document.Unsaved(), clipboard.Count()); }
+  // Whatever changed the list or the clipboard ends here: the status bar's figures, and who else wants to know.
+  void ShowList() {
+    status.ShowList(document.Tables(), document.Unsaved(), clipboard.Count());
+    if (onChange) onChange();
+  }
 
   void Message(const Base::Error& error) { dialogs.Message(Text(error.message), Text(error.title)); }
 

@@ -39,6 +39,16 @@ Routines::Settings SettingsPanel::Chosen() const {
   return {Index(*quantiCanali_), Index(*flashScrittura_), Index(*srDef_)};
 }
 
+void SettingsPanel::Choose(const Routines::Settings& settings) {
+  const std::pair<QButtonGroup*, std::optional<std::size_t>> choices[] = {
+      {quantiCanali_, settings.quantiCanali},
+      {flashScrittura_, settings.flashScrittura},
+      {srDef_, settings.srDef}};
+  for (const auto& [group, index] : choices) {
+    if (index) group->button(static_cast<int>(*index))->setChecked(true);
+  }
+}
+
 QButtonGroup* SettingsPanel::AddGroup(const char* name, const QString& title,
                                       const std::vector<std::string_view>& captions) {
   auto* box = new QGroupBox(title, this);

@@ -17,6 +17,8 @@ class SettingsPanel : public QWidget {
   explicit SettingsPanel(QWidget* parent);
 
   [[nodiscard]] Routines::Settings Chosen() const;
+  // Groups without a choice in `settings` stay as they are.
+  void Choose(const Routines::Settings& settings);
 
  Q_SIGNALS:
   // The user has chosen an option of any group.

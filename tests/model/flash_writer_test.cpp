@@ -186,6 +186,31 @@ TEST(FlashWriter, SavingAnImageIntoItselfChangesSectionsOnly) {
   }
 }
 
+// Both sides of every border, and bytes all over the image.
+TEST(FlashWriter, TheGuardStopsAnyByteOutsideTheSections) {
+  const RandomImage random(99);
+  const Base::Bytes& original = random.image.Image();
+  const auto state = ListOf(20, 20);
+  Base::Bytes patched = PatchFlash(*state, original, {FlashType::Two, 20, ""}).image;
+  int inside = 0;
+  int borders = 0;
+  for (std::size_t at = 1; at < FlashSize; ++at) {
+    const bool border = random.mayChange[at - 1] != random.mayChange[at];
+    borders += border ? 1 : 0;
+    if (!border && at % 199 != 0) continue;
+    for (const std::size_t place : {at - 1, at}) {
+      patched[place] ^= 0x80U;
+      ASSERT_EQ(DiffersOnlyInSections(original, patched), random.mayChange[place]) << place;
+      patched[place] ^= 0x80U;
+      inside += random.mayChange[place] ? 1 : 0;
+    }
+  }
+  EXPECT_GT(borders, 10);
+  EXPECT_GT(inside, 100);
+  patched.push_back(0);
+  EXPECT_FALSE(DiffersOnlyInSections(original, patched));
+}
+
 TEST(FlashWriter, WhatAnImageDoesNotTakeIsTold) {
   const Base::Bytes original = Template().Image();
   const auto unwritten = [&](const State& state, FlashType type) {

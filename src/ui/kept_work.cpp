@@ -1,0 +1,176 @@
+#include "ui/kept_work.h"
+
+#include "base/file.h"
+
+#include <filesystem>
+
+namespace Ui {
+namespace {
+
+constexpr int MostPrograms = 50;
+constexpr const char* Old = ".old";
+constexpr const char* Damaged = ".danneggiato";
+constexpr std::size_t LargestFile = 8U << 20U;
+constexpr int SettleTime = 300;      // milliseconds behind a change, as one seldom comes alone
+constexpr qint64 LeastPause = 1000;  // between two writes
+
+bool Exists(const std::string& path) {
+  std::error_code error;
+  return std::filesystem::exists(path, error);
+}
+
+void SetAside(const std::string& path, const std::string& ending) {
+  std::error_code error;
+  std::filesystem::rename(path, path + ending, error);
+}
+
+}  // namespace
+
+KeptWork::KeptWork(Session& session, QObject* parent) : QObject(parent), session_(session) {
+  timer_.setSingleShot(true);
+  connect(&timer_, &QTimer::timeout, this, &KeptWork::Write);
+  writer_.setMaxThreadCount(1);
+  session_.onChange = [this] { Follow(); };
+}
+
+KeptWork::~KeptWork() { writer_.waitForDone(); }
+
+std::string KeptWork::PathOf(int number) const {
+  const std::string suffix = number == 1 ? "" : "-" + std::to_string(number);
+  return session_.programFolder + "/trovalis" + suffix + ".recupero";
+}
+
+std::optional<KeptWork::Place> KeptWork::Claim(int number) const {
+  auto lock = std::make_unique<QLockFile>(PathText(PathOf(number)) + ".lock");
+  lock->setStaleLockTime(0);  // only the end of its program makes a lock stale
+  if (!lock->tryLock(0) && lock->error() == QLockFile::LockFailedError) return std::nullopt;
+  // Where the folder takes no lock the file is tried all the same: its error is the one to tell.
+  return Place{PathOf(number), std::move(lock)};
+}
+
+// Files that nobody has been asked about yet are left for the next start.
+bool KeptWork::HasPlace() {
+  for (int number = 1; own_.path.empty() && number <= MostPrograms; ++number) {
+    if (Exists(PathOf(number))) continue;
+    if (auto place = Claim(number)) own_ = std::move(*place);
+  }
+  return !own_.path.empty();
+}
+
+void KeptWork::Offer() {
+  for (int number = 1; number <= MostPrograms; ++number) {
+    if (!Exists(PathOf(number))) continue;
+    auto place = Claim(number);
+    if (!place || !Take(place->path)) continue;
+    own_ = std::move(*place);
+    return;
+  }
+}
+
+bool KeptWork::Take(const std::string& path) {
+  const auto bytes = Base::ReadFile(path, LargestFile);
+  auto recovery = bytes ? Edit::DecodeRecovery(*bytes) : bytes.error();
+  if (!recovery) {
+    SetAside(path, Damaged);
+    session_.status.ShowResult(Text(recovery.error().message) + ", messo da parte come " +
+                               PathText(Base::FileName(path) + Damaged));
+    return false;
+  }
+  if (!session_.dialogs.YesNo(
+          "Esistono modifiche non salvate dell' ultima sessione. Si desidera recuperarle?")) {
+    SetAside(path, Old);
+    return false;
+  }
+  Restore(*recovery);
+  return true;
+}
+
+// List numbers count within one session, so the list gets a new one, and the clipboard with it where it came from
+// that list.
+void KeptWork::Restore(Edit::Recovery& recovery) {
+  Document& document = session_.document;
+  const bool sameList = recovery.clipboard.listNumber == recovery.state.ListNumber;
+  recovery.state.ListNumber = keptList_ = document.NextListNumber();
+  recovery.clipboard.listNumber = sameList ? keptList_ : document.NextListNumber();
+  session_.settings.Choose(recovery.settings);
+  session_.clipboard = std::move(recovery.clipboard);
+  document.Apply(
+      "Recupera",
+      [&recovery](Routines::State& state) {
+        state = recovery.state;
+        return Base::Done{};
+      },
+      Edit::History::Kind::List);
+  session_.view.ShowFromStart(View::Channels);
+  session_.status.ShowResult("Recuperate le modifiche dell'ultima sessione");
+}
+
+bool KeptWork::NothingToKeep() const {
+  return !session_.document.Unsaved() &&
+         !Edit::HoldsCutChannels(session_.clipboard, session_.document.Tables());
+}
+
+void KeptWork::Follow() {
+  if (timer_.isActive()) return;
+  const qint64 pause = sinceWrite_.isValid() ? LeastPause - sinceWrite_.elapsed() : 0;
+  timer_.start(static_cast<int>(std::max<qint64>(SettleTime, pause)));
+}
+
+Base::Bytes KeptWork::Contents() {
+  keptList_ = session_.document.Tables().ListNumber;
+  return Edit::EncodeRecovery(session_.document.Tables(), session_.clipboard, session_.settings.Chosen());
+}
+
+// A disk may take its time, so the file is written beside the event loop.
+void KeptWork::Write() {
+  if (writing_) {
+    timer_.start(SettleTime);
+    return;
+  }
+  sinceWrite_.start();
+  if (NothingToKeep()) {
+    Discard();
+    return;
+  }
+  if (!HasPlace()) return;
+  writing_ = true;
+  writer_.start([this, path = own_.path, bytes = Contents()] {
+    auto outcome = Base::ReplaceFile(path, bytes);
+    QMetaObject::invokeMethod(
+        this,
+        [this, outcome = std::move(outcome)] {
+          writing_ = false;
+          Written(outcome);
+        },
+        Qt::QueuedConnection);
+  });
+}
+
+// A failure is told once, until a write has succeeded again.
+void KeptWork::Written(const Base::Outcome& outcome) {
+  if (!outcome && !failureTold_) {
+    session_.status.ShowResult("Modifiche non conservate per il recupero: " + Text(outcome.error().message));
+  }
+  failureTold_ = !outcome;
+}
+
+Base::Outcome KeptWork::Flush() {
+  timer_.stop();
+  writer_.waitForDone();
+  if (NothingToKeep()) {
+    Discard();
+    return Base::Done{};
+  }
+  if (!HasPlace()) return Base::Error{"Troppi file di recupero in " + session_.programFolder};
+  return Base::ReplaceFile(own_.path, Contents());
+}
+
+// What the file holds is saved or taken back, or else another list has taken its place without that.
+void KeptWork::Discard() {
+  if (own_.path.empty()) return;
+  if (session_.document.Tables().ListNumber != keptList_) SetAside(own_.path, Old);
+  std::error_code error;
+  std::filesystem::remove(own_.path, error);
+}
+
+}  // namespace Ui
