@@ -3,6 +3,7 @@
 #include "ui/toolkit.h"
 
 #include <QApplication>
+#include <QFileInfo>
 
 int main(int argc, char** argv) {
   QApplication application(argc, argv);
@@ -11,5 +12,8 @@ int main(int argc, char** argv) {
   window.show();
   if (!window.Start()) return 1;
   window.OfferKeptWork();
+  if (const QStringList arguments = QApplication::arguments(); arguments.size() > 1) {
+    window.OpenWhenChosen(Ui::PathBytes(QFileInfo(arguments[1]).absoluteFilePath()));
+  }
   return QApplication::exec();
 }

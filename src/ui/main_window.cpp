@@ -1,5 +1,6 @@
 #include "ui/main_window.h"
 
+#include "base/file.h"
 #include "ui/about_dialog.h"
 #include "ui/channel_menu.h"
 #include "ui/commands.h"
@@ -126,6 +127,21 @@ bool CopiaTCSTPT::Start() {
 }
 
 void CopiaTCSTPT::OfferKeptWork() { kept_->Offer(); }
+
+void CopiaTCSTPT::OpenWhenChosen(const std::string& path) {
+  const auto open = [this, path] {
+    if (session_->settings.Chosen().quantiCanali) files_->ApriFlashInput(path);
+    return session_->settings.Chosen().quantiCanali.has_value();
+  };
+  if (open()) return;
+  session_->status.ShowResult("Scegliere in \"Canali da copiare\" quanti canali ha il ricevitore: " +
+                              PathText(Base::FileName(path)) + " si apre subito dopo");
+  auto* waiting = new QObject(this);
+  connect(&session_->settings, &SettingsPanel::Clicked, waiting, [open, waiting] {
+    if (!open()) return;
+    waiting->deleteLater();
+  });
+}
 
 template <class Slot>
 void CopiaTCSTPT::Connect(const char* command, Slot slot) {

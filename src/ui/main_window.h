@@ -36,6 +36,9 @@ class CopiaTCSTPT : public QMainWindow {
   // Asks whether to take up the work that an earlier session has left, where there is any. After Start().
   void OfferKeptWork();
 
+  // Opens a flash as soon as the number of channels has been chosen.
+  void OpenWhenChosen(const std::string& path);
+
   [[nodiscard]] const Document& List() const { return *document_; }
 
  protected:
