@@ -68,6 +68,7 @@ inline constexpr std::array Commands = {
     Checkable({"VisualizzaTransponder", "Visualizza Transponders", Menu::Utilities, "transponders"}),
     Command{"VisualizzaPreferiti", "Visualizza Preferiti", Menu::Utilities, "favourites"},
     Checkable({"VisualizzaBouquet", "Visualizza Struttura per Bouquet", Menu::Utilities, "bouquet"}),
+    Command{"Riepilogo", "Riepilogo", Menu::Utilities},
     Group({"CercaCanale", "Ricerca canale per Nome", Menu::Utilities, "find", "Ctrl+F"}),
     Command{"CercaSuccessivo", "Ricerca successivo", Menu::Utilities, "", "F3"},
     Command{"Filtra", "Filtro", Menu::Utilities, "", "Ctrl+Shift+F"},
@@ -87,6 +88,7 @@ inline constexpr std::array Commands = {
     Command{"Pelko", "Da File Pelko", Menu::Import},
     Command{"FormatoFLASH", "In formato FLASH", Menu::Export},
     Command{"FormatoTesto", "In formato Testo", Menu::Export},
+    Command{"FormatoCSV", "In formato CSV", Menu::Export},
 
     Command{"Guida", "&Guida", Menu::About, "", "F1"},
     Command{"About", "&About", Menu::About, "info"},

@@ -2,6 +2,7 @@
 
 #include "base/code_page.h"
 #include "base/file.h"
+#include "formats/csv_format.h"
 #include "formats/fls_format.h"
 #include "formats/text_format.h"
 #include "model/flash_loader.h"
@@ -46,10 +47,29 @@ void ExchangeCommands::FormatoTesto() {
   Export(path, Base::AsBytes(Formats::WriteText(session_.document.Tables())));
 }
 
+void ExchangeCommands::FormatoCSV() {
+  if (!session_.NeedsFlash()) return;
+  const State& state = session_.document.Tables();
+  const bool transponders = session_.view.Current() == View::Transponders;
+  Edit::Slots rows{1, transponders ? state.TransponderCount : state.ChannelCount};
+  const auto selected =
+      session_.view.Current() == View::None ? std::nullopt : session_.view.Grid().Selected();
+  if (selected && selected->Count() > 1) {
+    const Answer answer = session_.dialogs.YesNoCancel("Esportare solo le righe selezionate?");
+    if (answer == Answer::Cancel) return;
+    if (answer == Answer::Yes) rows = *selected;
+  }
+  const std::string path = AskExport("File CSV(*.csv)|*.csv");
+  if (path.empty()) return;
+  Export(path, Base::AsBytes(transponders ? Formats::WriteTranspondersCsv(state, rows.first, rows.last)
+                                          : Formats::WriteChannelsCsv(state, rows.first, rows.last)));
+}
+
 void ExchangeCommands::FormatoFLASH() {
   const Routines::Settings chosen = session_.settings.Chosen();
   if (!chosen.quantiCanali) {
     session_.dialogs.Message("Si deve selezionare il numero di canali da esportare", {});
+    session_.settings.PointOutMissing();
     return;
   }
   const std::string flash = session_.document.Tables().InputFlash;
@@ -101,9 +121,11 @@ std::optional<ExchangeCommands::Preparation> ExchangeCommands::Prepare() {
 
 std::optional<Base::Bytes> ExchangeCommands::ReadImport(const QString& title, const QString& filters,
                                                         std::string& path) {
-  path = PathBytes(session_.dialogs.OpenFile(
-      {title, filters,
-       PathText(Support::RememberedFolder(session_.programFolder, Support::FolderKind::Input))}));
+  if (path.empty()) {
+    path = PathBytes(session_.dialogs.OpenFile(
+        {title, filters,
+         PathText(Support::RememberedFolder(session_.programFolder, Support::FolderKind::Input))}));
+  }
   if (path.empty()) return std::nullopt;
   auto bytes = Base::ReadFile(path, LargestImport);
   if (bytes) return std::move(*bytes);
@@ -152,10 +174,9 @@ void ExchangeCommands::TellImported(const std::string& path, const Formats::Impo
   if (!report.error.empty()) session_.dialogs.Message(Text(report.error), {});
 }
 
-void ExchangeCommands::DaEsportatoTesto() {
+void ExchangeCommands::DaEsportatoTesto(std::string path) {
   const auto preparation = Prepare();
   if (!preparation) return;
-  std::string path;
   const auto bytes = ReadImport("Selezionare il file di testo contenente i CANALI e i TRANSPONDERS",
                                 "File di testo(*.txt)|*.txt|", path);
   if (!bytes) return;
@@ -169,10 +190,9 @@ void ExchangeCommands::DaEsportatoTesto() {
          [&](State& state) { return Formats::ReadText(state, text, path, session_.bouquets.tables); });
 }
 
-void ExchangeCommands::DaEsportato() {
+void ExchangeCommands::DaEsportato(std::string path) {
   const auto preparation = Prepare();
   if (!preparation) return;
-  std::string path;
   const auto bytes = ReadImport("Selezionare il file di da importare", "Files di testo(*.fls)|*.fls", path);
   if (!bytes) return;
   Import("Importa da formato FLASH", path, *preparation, [&](State& state) {

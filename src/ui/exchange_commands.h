@@ -15,8 +15,10 @@ class ExchangeCommands {
 
   void FormatoTesto();
   void FormatoFLASH();
-  void DaEsportatoTesto();
-  void DaEsportato();
+  void FormatoCSV();
+  // Both ask for the file unless its path is given, as by a file dropped on the window.
+  void DaEsportatoTesto(std::string path = {});
+  void DaEsportato(std::string path = {});
 
  private:
   // What an import needs before a file is asked for.
@@ -27,6 +29,7 @@ class ExchangeCommands {
 
   std::optional<Preparation> Prepare();
   std::string AskExport(const QString& filters);
+  // Asks for `path` where it is empty.
   std::optional<Base::Bytes> ReadImport(const QString& title, const QString& filters, std::string& path);
   void Export(const std::string& path, Base::ByteView bytes);
   template <class Read>

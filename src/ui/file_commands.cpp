@@ -61,6 +61,7 @@ std::optional<int> FileCommands::AskAppendStart() {
 void FileCommands::ApriFlashInput(std::string path) {
   if (!session_.settings.Chosen().quantiCanali) {
     session_.dialogs.Message(Text(Routines::NoCapacityChosen), {});
+    session_.settings.PointOutMissing();
     return;
   }
   const auto appendStart = AskAppendStart();
@@ -103,6 +104,7 @@ void FileCommands::Load(const std::string& path, const Base::Bytes& image, int a
   for (const std::string& message : report.messages) session_.dialogs.Message(Text(message), {});
   session_.status.ShowResult(ShortName(path) + ": " + LoadResult(document.Tables(), report, appended) +
                              (ratesMoved ? RatesMovedText : ""));
+  if (onOpened) onOpened(path);
 }
 
 // Whether the list's codes were read with 22000 in another place than `SRDef` now says.

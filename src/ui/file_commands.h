@@ -11,6 +11,9 @@ class FileCommands {
  public:
   explicit FileCommands(Session& session) : session_(session) {}
 
+  // Tells the window that a flash has been opened.
+  std::function<void(const std::string&)> onOpened;
+
   // Asks for the image unless its path is given, as by a file dropped on the window.
   void ApriFlashInput(std::string path = {});
   void Salva();

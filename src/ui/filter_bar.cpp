@@ -23,7 +23,10 @@ FilterBar::FilterBar(const Document& document, QWidget* parent)
   row->setContentsMargins(0, 0, 0, 0);
   row->addWidget(count_);
   row->addWidget(field_);
-  connect(field_, &QLineEdit::textChanged, this, &FilterBar::Refresh);
+  connect(field_, &QLineEdit::textChanged, this, [this] {
+    rows_ = {};
+    Refresh();
+  });
 }
 
 void FilterBar::StartTyping() {
@@ -31,9 +34,20 @@ void FilterBar::StartTyping() {
   field_->selectAll();
 }
 
+void FilterBar::Show(Rows rows) {
+  field_->setText(rows.title);
+  field_->setCursorPosition(0);
+  rows_ = std::move(rows);
+  Refresh();
+}
+
 void FilterBar::Refresh() {
   const auto text = Base::FromUtf8(field_->text().trimmed().toStdString());
-  matches_ = text ? Edit::MatchingSlots(document_.Tables(), *text) : std::vector<int>();
+  if (rows_.find) {
+    matches_ = rows_.find(document_.Tables());
+  } else {
+    matches_ = text ? Edit::MatchingSlots(document_.Tables(), *text) : std::vector<int>();
+  }
   const auto found = matches_.size();
   count_->setText(field_->text().trimmed().isEmpty() ? QString()
                   : found == 1                       ? "1 trovato"

@@ -1,11 +1,12 @@
-// The small field above the channel list that marks matches of name, SID or transponder as they are typed, and steps
-// through them. No row is ever hidden, so that numbers stay true.
+// The small field above the list that marks matches of name, SID or transponder as they are typed, or rows that another
+// window points out, and steps through them. No row is ever hidden, so that numbers stay true.
 #pragma once
 
 #include "ui/document.h"
 
 #include <QWidget>
 
+#include <functional>
 #include <vector>
 
 class QLabel;
@@ -19,7 +20,17 @@ class FilterBar : public QWidget {
  public:
   FilterBar(const Document& document, QWidget* parent);
 
+  // Rows found by something else than a text, and found again by it after every change of the list.
+  struct Rows {
+    QString title;              // shown in the field until the user types in it
+    bool transponders = false;  // they are rows of that list, not of the channel list
+    std::function<std::vector<int>(const Routines::State&)> find;
+  };
+
   void StartTyping();
+  void Show(Rows rows);
+  // Whether the matches are rows of the transponder list.
+  [[nodiscard]] bool ForTransponders() const { return rows_.find && rows_.transponders; }
   [[nodiscard]] bool Active() const { return !matches_.empty(); }
   [[nodiscard]] const std::vector<int>& Matches() const { return matches_; }
   // Finds the matches again, as the list has changed.
@@ -40,6 +51,7 @@ class FilterBar : public QWidget {
   const Document& document_;
   QLineEdit* field_;
   QLabel* count_;
+  Rows rows_;  // without `find` where the text of the field counts
   std::vector<int> matches_;
 };
 

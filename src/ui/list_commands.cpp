@@ -133,11 +133,11 @@ void ListCommands::Filtra() {
 }
 
 void ListCommands::CercaSuccessivo() {
-  if (session_.view.Current() != View::Channels) return;
   if (session_.view.Filter().Active()) {
     Q_EMIT session_.view.Filter().Step(true);
     return;
   }
+  if (session_.view.Current() != View::Channels) return;
   const State& state = session_.document.Tables();
   const int here = session_.view.Grid().currentIndex().row() + 1;
   int slot = wanted_.empty() ? 0 : Edit::FindName(state, wanted_, here + 1);

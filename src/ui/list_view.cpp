@@ -28,10 +28,12 @@ ListView::ListView(const Document& document, QAction& showChannels, QAction& sho
   hint_->setObjectName("Suggerimento");
   hint_->setAlignment(Qt::AlignCenter);
   hint_->setWordWrap(true);
+  hint_->setText("Per vedere la lista: Utilities, Visualizza Canali o Visualizza Transponders.");
   grid_->setObjectName("Griglia");
   LayOut();
 
   connect(&document, &Document::Changed, filter_, &FilterBar::Refresh);
+  connect(&document, &Document::Changed, this, &ListView::ShowHint);
   connect(filter_, &FilterBar::Changed, this, &ListView::MarkMatches);
   connect(filter_, &FilterBar::Step, this, &ListView::StepMatch);
   connect(filter_, &FilterBar::Left, grid_, qOverload<>(&QWidget::setFocus));
@@ -79,11 +81,7 @@ void ListView::ShowFromStart(View view) {
   const bool channels = view == View::Channels;
   if (view == View::None) {
     marker_->clear();
-    hint_->setText(document_.Tables().Loaded
-                       ? "Per vedere la lista: Utilities, Visualizza Canali o Visualizza Transponders."
-                       : "Scegliere quanti canali ha il ricevitore in \"Canali da copiare\",\n"
-                         "poi aprire l'immagine della flash con File, Apri Flash Input (Ctrl+O).");
-    stack_->setCurrentWidget(hint_);
+    ShowHint();
   } else {
     marker_->setText(channels ? "Canali" : "Transponders");
     printHeading_ = channels ? "Stampa Canali" : "Stampa Transponder";
@@ -92,13 +90,32 @@ void ListView::ShowFromStart(View view) {
     grid_->ShowList(channels ? &channels_ : &transponders_);
     stack_->setCurrentWidget(grid_);
     grid_->setFocus();
-    MarkMatches();
   }
+  MarkMatches();
   marker_->setVisible(view != View::None);
-  filter_->setVisible(channels);
   map_->setVisible(channels);
   RestoreTicks();
   Q_EMIT Shown(view);
+}
+
+void ListView::StartWith(QWidget* page) {
+  start_ = page;
+  stack_->addWidget(page);
+  ShowHint();
+}
+
+void ListView::ShowHint() {
+  if (current_ == View::None)
+    stack_->setCurrentWidget(start_ == nullptr || document_.Tables().Loaded ? hint_ : start_);
+}
+
+void ListView::ShowRows(FilterBar::Rows rows) {
+  Show(rows.transponders ? View::Transponders : View::Channels);
+  filter_->Show(std::move(rows));
+  if (!filter_->Active()) return;
+  grid_->clearSelection();
+  grid_->selectionModel()->setCurrentIndex(grid_->model()->index(0, 1), QItemSelectionModel::NoUpdate);
+  StepMatch(true);
 }
 
 void ListView::Toggle(View view) { Show(view == current_ ? View::None : view); }
@@ -135,14 +152,21 @@ void ListView::GoTo(int slot) {
 }
 
 void ListView::MarkMatches() {
-  channels_.ClearMarks();
-  for (const int slot : filter_->Matches()) channels_.SetMark(slot, ListModel::Mark::Filtered);
+  const View marked = filter_->ForTransponders() ? View::Transponders : View::Channels;
+  for (ListModel* list : {&channels_, &transponders_}) list->ClearMarks();
+  ListModel& list = marked == View::Channels ? channels_ : transponders_;
+  for (const int slot : filter_->Matches()) list.SetMark(slot, ListModel::Mark::Filtered);
+  const bool hadFocus = filter_->isAncestorOf(window()->focusWidget());
+  filter_->setVisible(current_ == View::Channels || (current_ == marked && current_ != View::None));
+  if (hadFocus && filter_->isHidden()) grid_->setFocus();
 }
 
 // Goes to the match behind the current row, or before it, and round at the ends.
 void ListView::StepMatch(bool forward) {
   const std::vector<int>& matches = filter_->Matches();
-  if (matches.empty() || current_ != View::Channels) return;
+  if (matches.empty()) return;
+  if (filter_->ForTransponders()) Show(View::Transponders);
+  if (!filter_->ForTransponders() && current_ != View::Channels) return;
   const int here = grid_->currentIndex().row() + 1;
   const bool onMatch = grid_->Selected().has_value();
   auto at = forward ? std::lower_bound(matches.begin(), matches.end(), onMatch ? here + 1 : here)
@@ -150,7 +174,7 @@ void ListView::StepMatch(bool forward) {
   if (forward && at == matches.end()) at = matches.begin();
   if (!forward) at = (at == matches.begin() ? matches.end() : at) - 1;
   grid_->Select({*at, *at});
-  grid_->scrollTo(channels_.index(*at - 1, 1), QAbstractItemView::PositionAtCenter);
+  grid_->scrollTo(grid_->model()->index(*at - 1, 1), QAbstractItemView::PositionAtCenter);
 }
 
 }  // namespace Ui

@@ -38,6 +38,12 @@ class ListView : public QWidget {
   // Sets the ticks to what is shown, for a command that was refused.
   void RestoreTicks();
 
+  // What stands in the place of a list while none is loaded.
+  void StartWith(QWidget* page);
+
+  // Marks rows of the list that they belong to, which is shown, and makes the first of them current.
+  void ShowRows(FilterBar::Rows rows);
+
   // Lets the user edit the cells of both lists.
   void EditWith(CellEdits& edits);
   // Takes what is in an open editor, or drops it where it is refused.
@@ -60,6 +66,7 @@ class ListView : public QWidget {
 
  private:
   void LayOut();
+  void ShowHint();
   void MarkMatches();
   void StepMatch(bool forward);
 
@@ -70,7 +77,8 @@ class ListView : public QWidget {
   ListModel transponders_;
   QLabel* marker_;  // Text1: "Canali", "Transponders" or nothing
   FilterBar* filter_;
-  QLabel* hint_;
+  QLabel* hint_;  // while no list is shown
+  QWidget* start_ = nullptr;
   Griglia* grid_;
   CellDelegate* cells_ = nullptr;
   ListMap* map_;

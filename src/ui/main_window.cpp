@@ -4,10 +4,13 @@
 #include "ui/about_dialog.h"
 #include "ui/channel_menu.h"
 #include "ui/commands.h"
+#include "ui/dropped_file.h"
 #include "ui/duplicates_window.h"
 #include "ui/error_pane.h"
 #include "ui/guide_window.h"
 #include "ui/qt_dialogs.h"
+#include "ui/riepilogo_window.h"
+#include "ui/start_page.h"
 
 #include <QAction>
 #include <QApplication>
@@ -105,6 +108,8 @@ CopiaTCSTPT::CopiaTCSTPT(const std::string& programFolder, std::unique_ptr<Dialo
   ConnectSdxCommands();
   ConnectTreeCommands();
   ConnectForeignCommands();
+  ConnectOverview();
+  ConnectFirstMinutes();
   ConnectToolbar();
   connect(document_, &Document::Changed, this, &CopiaTCSTPT::ShowList);
   ShowList();
@@ -266,11 +271,33 @@ void CopiaTCSTPT::ConnectForeignCommands() {
   }
 }
 
-// The button stays enabled while the command is not, and says why nothing is opened.
-void CopiaTCSTPT::OpenFlash() {
+void CopiaTCSTPT::ConnectOverview() {
+  Connect("FormatoCSV", [this] { exchange_->FormatoCSV(); });
+  Connect("Riepilogo", [this] { ShowRiepilogo(*session_, *this); });
+}
+
+void CopiaTCSTPT::ConnectFirstMinutes() {
+  recent_ = new RecentFiles(SettingsFile(), *this);
+  connect(recent_, &RecentFiles::Chosen, this, &CopiaTCSTPT::OpenRecent);
+  files_->onOpened = [this](const std::string& path) { recent_->Add(PathText(path)); };
+  session_->view.StartWith(
+      new StartPage(session_->settings, *recent_, CommandAction(*this, "ApriFlashInput"), &session_->view));
+}
+
+void CopiaTCSTPT::OpenRecent(const QString& path) {
+  if (session_->settings.Chosen().quantiCanali && !QFileInfo::exists(path)) {
+    dialogs_->Message("Flash non trovata: " + path + "\nViene tolta dai file recenti", {});
+    recent_->Remove(path);
+    return;
+  }
+  OpenFlash(PathBytes(path));
+}
+
+// The button stays enabled while the command is not, and says why nothing is opened; so do dropped files.
+void CopiaTCSTPT::OpenFlash(const std::string& path) {
   const QAction& open = CommandAction(*this, "ApriFlashInput");
   if (open.isEnabled()) {
-    files_->ApriFlashInput();
+    files_->ApriFlashInput(path);
   } else {
     session_->status.ShowResult(open.statusTip());
   }
@@ -344,26 +371,26 @@ void CopiaTCSTPT::ShowGuide() {
   guide->activateWindow();
 }
 
-// The one file dropped, when the program opens files of its kind.
-static QString DroppedFile(const QMimeData& data) {
-  const QString path = data.urls().size() == 1 ? data.urls().front().toLocalFile() : QString();
-  const QString ending = QFileInfo(path).suffix().toLower();
-  return ending == "dat" || ending == "sdx" ? path : QString();
-}
-
 void CopiaTCSTPT::dragEnterEvent(QDragEnterEvent* event) {
-  if (!DroppedFile(*event->mimeData()).isEmpty()) event->acceptProposedAction();
+  if (event->mimeData()->hasUrls()) event->acceptProposedAction();
 }
 
 void CopiaTCSTPT::dropEvent(QDropEvent* event) {
-  const QString path = DroppedFile(*event->mimeData());
+  const DroppedFile file = FileIn(*event->mimeData());
   event->acceptProposedAction();
   // The drag's source waits for the drop; the questions come after it.
-  QTimer::singleShot(0, this, [this, path] {
-    if (path.endsWith(".dat", Qt::CaseInsensitive)) {
-      files_->ApriFlashInput(PathBytes(path));
+  QTimer::singleShot(0, this, [this, file] {
+    const std::string path = PathBytes(file.path);
+    if (file.ending == "dat") {
+      OpenFlash(path);
+    } else if (file.ending == "sdx") {
+      sdx_->Carica(path);
+    } else if (file.ending == "txt") {
+      exchange_->DaEsportatoTesto(path);
+    } else if (file.ending == "fls") {
+      exchange_->DaEsportato(path);
     } else {
-      sdx_->Carica(PathBytes(path));
+      session_->status.ShowResult(file.refusal);
     }
   });
 }

@@ -12,6 +12,7 @@
 #include "ui/kept_work.h"
 #include "ui/list_commands.h"
 #include "ui/print_commands.h"
+#include "ui/recent_files.h"
 #include "ui/sdx_commands.h"
 #include "ui/session.h"
 #include "ui/tree_commands.h"
@@ -57,7 +58,10 @@ class CopiaTCSTPT : public QMainWindow {
   void ConnectPrintCommands();
   void ConnectForeignCommands();
   void ConnectToolbar();
-  void OpenFlash();
+  void ConnectFirstMinutes();
+  void ConnectOverview();
+  void OpenFlash(const std::string& path = {});
+  void OpenRecent(const QString& path);
   // Runs `slot` when the command is chosen, and enables it.
   template <class Slot>
   void Connect(const char* command, Slot slot);
@@ -83,6 +87,7 @@ class CopiaTCSTPT : public QMainWindow {
   std::unique_ptr<TreeCommands> trees_;
   std::unique_ptr<ForeignCommands> foreign_;
   std::unique_ptr<KeptWork> kept_;
+  RecentFiles* recent_ = nullptr;
   bool sdxShownSinceFls_ = false;
 };
 

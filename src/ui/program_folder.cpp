@@ -1,5 +1,6 @@
 #include "ui/program_folder.h"
 
+#include "support/pos_ini.h"
 #include "ui/dialogs.h"
 
 #include <QCoreApplication>
@@ -17,15 +18,26 @@ std::string ProgramFolder() {
   if (!installed && QFileInfo(own).isWritable()) return PathBytes(own);
 
   const QString data = QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation) + "/trovalis";
-  QDir().mkpath(data);
-  const QStringList names = {"Bouquets.txt", "SR.INI", "SDX.INI"};
-  const bool first = QDir(data).entryList(names).isEmpty();
-  for (qsizetype i = 0; first && i < names.size(); ++i) {
-    const QString copy = data + "/" + names[i];
-    QFile::copy((installed ? shipped : own) + "/" + names[i], copy);
-    QFile::setPermissions(copy, QFile::permissions(copy) | QFile::WriteOwner);
-  }
+  FillProgramFolder(PathBytes(installed ? shipped : own), PathBytes(data));
   return PathBytes(data);
+}
+
+void FillProgramFolder(const std::string& shipped, const std::string& folder) {
+  const QString from = PathText(shipped) + "/";
+  const QString to = PathText(folder) + "/";
+  QDir().mkpath(to);
+  const QStringList support = {"Bouquets.txt", "SR.INI", "SDX.INI"};
+  if (!QDir(to).entryList(support).isEmpty()) return;
+  const QString demo = "demo.dat";
+  for (const QString& name : support + QStringList{demo, "demo.sdx", "demo.csv"}) {
+    QFile::copy(from + name, to + name);
+    QFile::setPermissions(to + name, QFile::permissions(to + name) | QFile::WriteOwner);
+  }
+  if (!QFile::exists(to + demo)) return;
+  for (const auto kind :
+       {Support::FolderKind::Input, Support::FolderKind::Foreign, Support::FolderKind::Output}) {
+    Support::RememberFolderOf(folder, kind, PathBytes(to + demo));
+  }
 }
 
 }  // namespace Ui

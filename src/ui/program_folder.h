@@ -9,4 +9,8 @@ namespace Ui {
 // folder, which is made with the shipped defaults the first time. Needs a QCoreApplication.
 std::string ProgramFolder();
 
+// Copies what is shipped into a new `folder`: the support files, and the demo lists, which the file dialogs start
+// with. Where any of the support files is there already nothing happens.
+void FillProgramFolder(const std::string& shipped, const std::string& folder);
+
 }  // namespace Ui

@@ -17,6 +17,7 @@ std::optional<Routines::Settings> Session::NeedsSettings() {
   const Routines::Settings chosen = settings.Chosen();
   if (const auto complete = Routines::CheckSettings(chosen); !complete) {
     Message(complete.error());
+    settings.PointOutMissing();
     return std::nullopt;
   }
   return chosen;

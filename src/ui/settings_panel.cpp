@@ -1,15 +1,50 @@
 #include "ui/settings_panel.h"
 
 #include "ui/dialogs.h"
+#include "ui/table_model.h"
 
 #include <QButtonGroup>
 #include <QGroupBox>
 #include <QHBoxLayout>
+#include <QPainter>
 #include <QRadioButton>
+#include <QStyleOptionGroupBox>
 #include <QVBoxLayout>
 
 namespace Ui {
 namespace {
+
+// A group that can stand out, in a colour that shows on light and dark alike.
+class SettingsGroup : public QGroupBox {
+ public:
+  using QGroupBox::QGroupBox;
+
+  void StandOut(bool on) {
+    standsOut_ = on;
+    setAccessibleDescription(on ? "Da scegliere" : "");
+    update();
+  }
+
+ protected:
+  void paintEvent(QPaintEvent* event) override {
+    QGroupBox::paintEvent(event);
+    if (!standsOut_) return;
+    QColor colour = ToColor(Routines::Colours::Found);
+    QPainter painter(this);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(QPen(colour, 3));
+    colour.setAlpha(45);
+    painter.setBrush(colour);
+    QStyleOptionGroupBox option;
+    initStyleOption(&option);
+    const QRect heading =
+        style()->subControlRect(QStyle::CC_GroupBox, &option, QStyle::SC_GroupBoxLabel, this);
+    painter.drawRoundedRect(QRectF(rect()).adjusted(1.5, heading.bottom() + 2.5, -1.5, -1.5), 5, 5);
+  }
+
+ private:
+  bool standsOut_ = false;
+};
 
 template <std::size_t N>
 std::vector<std::string_view> Captions(const std::array<Routines::CapacityOption, N>& options) {
@@ -49,9 +84,18 @@ void SettingsPanel::Choose(const Routines::Settings& settings) {
   }
 }
 
+void SettingsPanel::PointOutMissing() {
+  for (const QButtonGroup* group : {quantiCanali_, flashScrittura_, srDef_}) {
+    if (group->checkedId() >= 0) continue;
+    static_cast<SettingsGroup*>(group->parent())->StandOut(true);
+    group->button(0)->setFocus(Qt::OtherFocusReason);
+    return;
+  }
+}
+
 QButtonGroup* SettingsPanel::AddGroup(const char* name, const QString& title,
                                       const std::vector<std::string_view>& captions) {
-  auto* box = new QGroupBox(title, this);
+  auto* box = new SettingsGroup(title, this);
   box->setObjectName(name);
   auto* column = new QVBoxLayout(box);
   column->setContentsMargins(10, 4, 10, 4);
@@ -64,6 +108,7 @@ QButtonGroup* SettingsPanel::AddGroup(const char* name, const QString& title,
     group->addButton(button, static_cast<int>(i));
   }
   connect(group, &QButtonGroup::idClicked, this, &SettingsPanel::Clicked);
+  connect(group, &QButtonGroup::idToggled, box, [box] { box->StandOut(false); });
   column->addStretch();
   static_cast<QHBoxLayout*>(layout())->addWidget(box, 1);
   return group;

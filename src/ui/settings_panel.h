@@ -20,6 +20,9 @@ class SettingsPanel : public QWidget {
   // Groups without a choice in `settings` stay as they are.
   void Choose(const Routines::Settings& settings);
 
+  // Makes the first group without a choice stand out until it has one, and gives it the focus.
+  void PointOutMissing();
+
  Q_SIGNALS:
   // The user has chosen an option of any group.
   void Clicked();

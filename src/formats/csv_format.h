@@ -1,0 +1,18 @@
+// Lists for spreadsheets: one row a line, fields divided by semicolons as an Italian spreadsheet expects them, lines
+// ended by CR LF, UTF-8 with a byte-order mark. It is not read back: a field that a spreadsheet would take for a formula
+// or a date is written so that it stays a text.
+#pragma once
+
+#include "model/routines.h"
+
+#include <string>
+
+namespace Formats {
+
+// The channels in slots `first`..`last` of the list, each with the transponder it is on; empty slots are left out.
+std::string WriteChannelsCsv(const Routines::State& state, int first, int last);
+
+// The transponders in slots `first`..`last`; free ones are left out.
+std::string WriteTranspondersCsv(const Routines::State& state, int first, int last);
+
+}  // namespace Formats

@@ -1,0 +1,42 @@
+// The flash images opened last, kept in trovalis.ini, and the submenu that lists them.
+#pragma once
+
+#include <QObject>
+#include <QStringList>
+
+#include <vector>
+
+class QAction;
+class QMainWindow;
+class QMenu;
+
+namespace Ui {
+
+class RecentFiles : public QObject {
+  Q_OBJECT
+
+ public:
+  // Puts the submenu `FileRecenti` behind the commands of the menu File that open a flash.
+  RecentFiles(QString settingsFile, QMainWindow& window);
+
+  // The latest first, at most 8.
+  [[nodiscard]] QStringList Paths() const;
+  void Add(const QString& path);
+  void Remove(const QString& path);
+
+ Q_SIGNALS:
+  void Changed();
+  // The user wants one of them opened.
+  void Chosen(const QString& path);
+
+ private:
+  void Store(const QStringList& paths);
+  void FillMenu();
+
+  QString settingsFile_;
+  QAction& open_;  // ApriFlashInput
+  QMenu* menu_;
+  std::vector<QAction*> items_;
+};
+
+}  // namespace Ui

@@ -1,0 +1,196 @@
+// The first minutes, the overview and lists for spreadsheets.
+#include "support/pos_ini.h"
+#include "ui/program_folder.h"
+#include "ui/window_fixture.h"
+
+#include <QDialog>
+#include <QDropEvent>
+#include <QGroupBox>
+#include <QLineEdit>
+#include <QMenu>
+#include <QMimeData>
+#include <QPushButton>
+#include <QTest>
+#include <QTreeWidget>
+
+namespace Ui {
+namespace {
+
+class Overview : public Window {
+ protected:
+  void Drop(const QList<QUrl>& files) {
+    QMimeData data;
+    data.setUrls(files);
+    QDragEnterEvent enter({5, 5}, Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+    QApplication::sendEvent(window_.get(), &enter);
+    QDropEvent drop({5, 5}, Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+    QApplication::sendEvent(window_.get(), &drop);
+    QTest::qWait(1);
+    EXPECT_TRUE(QTest::qWaitFor([this] { return driver_->Idle(); }, 5000));
+  }
+  void Drop(const std::string& path) { Drop({QUrl::fromLocalFile(PathText(path))}); }
+  [[nodiscard]] bool StandsOut(const char* group) const {
+    return !window_->findChild<QGroupBox*>(group)->accessibleDescription().isEmpty();
+  }
+};
+
+}  // namespace
+
+TEST_F(Overview, TheStartPageLeadsToTheFirstListAndTicksItsSteps) {
+  Start();
+  ASSERT_TRUE(window_->Start());
+  EXPECT_TRUE(window_->findChild<QWidget*>("Inizio")->isVisible());
+  EXPECT_FALSE(window_->findChild<QMenu*>("FileRecenti")->isEnabled());
+  driver_->ExpectMessage("Si deve selezionare il numero di canali da visualizzare");
+  window_->findChild<QPushButton*>("InizioApri")->click();
+  EXPECT_TRUE(StandsOut("QuantiCanali"));
+  EXPECT_EQ(window_->focusWidget()->objectName(), "QuantiCanali_0");
+  ASSERT_TRUE(driver_->Pick("QuantiCanali_2"));
+  EXPECT_FALSE(StandsOut("QuantiCanali"));
+  EXPECT_EQ(driver_->TextOf("Passo_1") + driver_->TextOf("Passo_3"), "✓3");
+  driver_->ExpectFile(InputDialog, PathText(flash_));
+  window_->findChild<QPushButton*>("InizioApri")->click();
+  EXPECT_EQ(driver_->TextOf("Text1"), "Canali");
+  driver_->ExpectMessage("Si deve selezionare il tipo di FLASH da registrare");
+  ASSERT_TRUE(driver_->Choose("ApriFlashOutput"));
+  EXPECT_TRUE(StandsOut("FlashScrittura"));
+  ASSERT_TRUE(driver_->Choose("Annulla"));
+  EXPECT_TRUE(window_->findChild<QWidget*>("InizioRecente_1")->isVisible());
+}
+
+TEST_F(Overview, RecentFilesAreTheLastEightAndVanishedOnesGo) {
+  std::vector<std::string> copies;
+  for (int i = 0; i < 9; ++i)
+    copies.push_back(folder_.Write("a&b, " + std::to_string(i) + ".dat", Contents(flash_)));
+  OpenDemo();
+  for (const std::string& copy : copies) Open(copy);
+  Start();
+  ASSERT_TRUE(window_->Start());
+  EXPECT_TRUE(Action("FileRecenti_8").isVisible());
+  EXPECT_EQ(Action("FileRecenti_8").statusTip(), PathText(copies[1]));
+  EXPECT_TRUE(Action("FileRecenti_1").text().endsWith("a&&b, 8.dat"));
+  driver_->ExpectMessage("Si deve selezionare il numero di canali da visualizzare");
+  ASSERT_TRUE(driver_->Choose("FileRecenti_8"));
+  ASSERT_TRUE(driver_->Pick("QuantiCanali_2"));
+  ASSERT_TRUE(driver_->Choose("FileRecenti_8"));
+  EXPECT_EQ(List().InputFlash, copies[1]);
+  EXPECT_EQ(Action("FileRecenti_1").statusTip(), PathText(copies[1]));
+  std::filesystem::remove(copies[8]);
+  driver_->ExpectMessage("Flash non trovata: " + PathText(copies[8]) + "\nViene tolta dai file recenti");
+  ASSERT_TRUE(driver_->Choose("FileRecenti_2"));
+  EXPECT_FALSE(Action("FileRecenti_8").isVisible());
+}
+
+TEST_F(Overview, DroppedFilesOpenLikeTheirCommandsOrSayWhyNot) {
+  OpenDemo();
+  const Routines::State before = List();
+  const std::string text = folder_.Path("lista.TXT");
+  driver_->ExpectFile("Selezionare il file di output", PathText(text));
+  ASSERT_TRUE(driver_->Choose("FormatoTesto"));
+  const std::string raw = folder_.Path("lista.fls");
+  driver_->ExpectFile("Selezionare il file di output", PathText(raw));
+  ASSERT_TRUE(driver_->Choose("FormatoFLASH"));
+  Drop(text);
+  EXPECT_EQ(Said(), "lista.TXT: importati 620 canali");
+  Drop(raw);
+  EXPECT_EQ(Said(), "lista.fls: importati 620 canali");
+  EXPECT_FALSE(window_->findChild<QMenu*>("FileRecenti")->isEnabled());
+  Drop(flash_);
+  EXPECT_EQ(Said(), "Non disponibile dopo l'importazione da formato FLASH: Annulla la toglie");
+  Drop(folder_.Path("SR.INI"));
+  EXPECT_EQ(Said(), "Non aperto: SR.INI non è un file .dat, .sdx, .txt o .fls");
+  std::filesystem::create_directory(folder_.Path("cartella.dat"));
+  Drop(folder_.Path("cartella.dat"));
+  EXPECT_EQ(Said(), "Non aperto: cartella.dat è una cartella");
+  Drop({QUrl("http://127.0.0.1/lista.dat")});
+  EXPECT_EQ(Said(), "Non aperto: lista.dat non è su questo computer");
+  Drop({QUrl::fromLocalFile(PathText(raw)), QUrl::fromLocalFile(PathText(text))});
+  EXPECT_EQ(Said(), "Non aperti: si trascina un file alla volta");
+}
+
+TEST_F(Overview, TheRiepilogoFollowsTheListAndLeadsToItsRows) {
+  Start();
+  driver_->ExpectMessage(NoFlash);
+  ASSERT_TRUE(driver_->Choose("Riepilogo"));
+  OpenDemo();
+  ASSERT_TRUE(driver_->Choose("Riepilogo"));
+  auto* shown = window_->findChild<QDialog*>("FinestraRiepilogo");
+  auto* tree = shown->findChild<QTreeWidget*>();
+  const auto line = [tree](const QString& text) {
+    return tree->findItems(text, Qt::MatchExactly | Qt::MatchRecursive).value(0);
+  };
+  const auto choose = [&](const QString& text) {
+    tree->setCurrentItem(line(text));
+    QTest::keyClick(tree, Qt::Key_Return);
+  };
+  EXPECT_EQ(line("Radio")->text(2), "123");
+  EXPECT_EQ(line("Radio")->text(3), "19,8");
+
+  ASSERT_TRUE(driver_->Choose("VisualizzaTransponder"));
+  choose("Radio");
+  EXPECT_EQ(driver_->TextOf("Text1"), "Canali");
+  const int first = driver_->Grid().Selected()->first;
+  EXPECT_EQ(Routines::KindOf(List().ChannelTable[static_cast<std::size_t>(first)]),
+            Routines::ChannelKind::Radio);
+  EXPECT_EQ(driver_->TextOf("FiltroTrovati"), "123 trovati");
+  Action("CercaSuccessivo").trigger();
+  EXPECT_GT(driver_->Grid().Selected()->first, first);
+  driver_->SelectRows(first, first);
+  ASSERT_TRUE(driver_->Press("Toolbar1_Delete"));
+  EXPECT_EQ(driver_->TextOf("FiltroTrovati"), "122 trovati") << "the marks follow the list";
+  EXPECT_EQ(line("Radio")->text(2), "122");
+
+  choose("Transponder senza canali");
+  EXPECT_EQ(Said(), "Riepilogo: Transponder senza canali: nessuna riga");
+  tree->setCurrentItem(tree->findItems("Transponder", Qt::MatchExactly).front()->child(1));
+  QTest::keyClick(tree, Qt::Key_Return);
+  EXPECT_EQ(Said(), "Riepilogo: Transponder Liberi: 33 transponder");
+  EXPECT_EQ(driver_->TextOf("Text1"), "Transponders");
+  EXPECT_TRUE(driver_->Cell(driver_->Grid().Selected()->first, 1) == "0");
+  window_->findChild<QLineEdit*>("Filtro")->clear();
+  EXPECT_FALSE(window_->findChild<QLineEdit*>("Filtro")->isVisible()) << "what is typed finds channels only";
+  while (Action("Annulla").isEnabled()) Action("Annulla").trigger();
+  EXPECT_EQ(tree->topLevelItemCount(), 0);
+  EXPECT_EQ(driver_->TextOf("RiepilogoTotali"), "Nessuna flash caricata");
+}
+
+TEST_F(Overview, SpreadsheetsGetTheListShownOrItsSelectedRows) {
+  OpenDemo();
+  const std::string path = folder_.Path("lista.csv");
+  const auto lines = [&] {
+    driver_->ExpectFile("Selezionare il file di output", PathText(path));
+    EXPECT_TRUE(driver_->Choose("FormatoCSV"));
+    EXPECT_EQ(Said(), "Esportato lista.csv");
+    const Base::Bytes bytes = Contents(path);
+    std::filesystem::remove(path);
+    return std::count(bytes.begin(), bytes.end(), '\n') - 1;
+  };
+  EXPECT_EQ(lines(), 620);
+  const QString ask = "Esportare solo le righe selezionate?";
+  driver_->SelectRows(1, 3);
+  driver_->ExpectQuestion(ask, true);
+  EXPECT_EQ(lines(), 3);
+  driver_->ExpectQuestion(ask, false);
+  EXPECT_EQ(lines(), 620);
+  driver_->ExpectCancelledQuestion(ask);
+  ASSERT_TRUE(driver_->Choose("FormatoCSV"));
+  ASSERT_TRUE(driver_->Choose("VisualizzaTransponder"));
+  EXPECT_EQ(lines(), 87);
+}
+
+TEST(ProgramFolderTest, StartsWithTheDemoAndKeepsWhatTheUserChanged) {
+  const Tests::TestFolder folder;
+  const std::string shipped = folder.Path("shipped");
+  std::filesystem::create_directory(shipped);
+  for (const char* name : {"SR.INI", "demo.dat"})
+    folder.Write(std::string("shipped/") + name, std::string("uno"));
+  const std::string own = folder.Path("own");
+  FillProgramFolder(shipped, own);
+  EXPECT_TRUE(std::filesystem::exists(own + "/demo.dat"));
+  EXPECT_EQ(Support::RememberedFolder(own, Support::FolderKind::Input), own);
+  std::filesystem::remove(own + "/demo.dat");
+  FillProgramFolder(shipped, own);
+  EXPECT_FALSE(std::filesystem::exists(own + "/demo.dat")) << "deleted once, it stays away";
+}
+
+}  // namespace Ui
