@@ -18,6 +18,7 @@
 #include <QScreen>
 #include <QTest>
 #include <QTreeView>
+#include <QTreeWidget>
 
 #include <cstdio>
 
@@ -44,6 +45,7 @@ class Session {
     ChooseSettings();
     OpenFlash();
     LookAtTransponders();
+    LookAtOverview();
     BrowseTrees();
     MoveRows();
     EditCells();
@@ -102,8 +104,11 @@ class Session {
   }
 
   void ChooseSettings() {
+    driver_->ExpectMessage("Si deve selezionare il numero di canali da visualizzare");
+    window_->findChild<QPushButton*>("InizioApri")->click();
+    Step("first steps", driver_->TextOf("Passo_1") == "1", "the group to be chosen stands out");
     const bool good = driver_->Pick("QuantiCanali_2") && driver_->Pick("FlashScrittura_1");
-    Step("settings", good, "3996 channels, type 2.x, SR 22000 come 2");
+    Step("settings", good && driver_->TextOf("Passo_1") == "✓", "3996 channels, type 2.x, SR 22000 come 2");
   }
 
   void OpenFlash() {
@@ -125,6 +130,27 @@ class Session {
              .arg(driver_->Cell(1, 1), driver_->Cell(1, 7), driver_->Cell(1, 5), driver_->Cell(1, 10)));
     const bool back = driver_->Press("Toolbar1_Canali") && driver_->TextOf("Text1") == "Canali";
     Step("channels", back, driver_->TextOf("CanaliUsati"));
+  }
+
+  void LookAtOverview() {
+    const bool chosen = driver_->Choose("Riepilogo");
+    auto* overview = window_->findChild<QDialog*>("FinestraRiepilogo");
+    auto* lines = window_->findChild<QTreeWidget*>("RiepilogoVoci");
+    if (lines == nullptr) {
+      Step("overview", false, "no window");
+      return;
+    }
+    lines->setCurrentItem(lines->topLevelItem(0)->child(1));
+    QTest::keyClick(lines, Qt::Key_Return);
+    Step("overview", chosen && driver_->TextOf("FiltroTrovati") == "123 trovati",
+         driver_->TextOf("UltimoRisultato") + "; " + driver_->TextOf("RiepilogoTotali"));
+    overview->close();
+    window_->findChild<QLineEdit*>("Filtro")->clear();
+    driver_->Grid().clearSelection();
+    driver_->ExpectFile("Selezionare il file di output", output_ + "/canali.csv");
+    const bool exported = driver_->Choose("FormatoCSV");
+    Step("list for a spreadsheet", exported && QFileInfo(output_ + "/canali.csv").size() > 10000,
+         driver_->TextOf("UltimoRisultato"));
   }
 
   void BrowseTrees() {
