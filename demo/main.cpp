@@ -16,6 +16,7 @@
 #include <QMenu>
 #include <QPushButton>
 #include <QScreen>
+#include <QTableView>
 #include <QTest>
 #include <QTreeView>
 #include <QTreeWidget>
@@ -50,6 +51,7 @@ class Session {
     MoveRows();
     EditCells();
     ArrangeFavourites();
+    CompareWithDisk();
     RemoveDuplicates();
     PrintList();
     TakeFromSdx();
@@ -249,6 +251,39 @@ class Session {
     const bool chosen = driver_->Choose("StampaGriglia");
     driver_->onBox = nullptr;
     Step("print to a PDF", chosen && QFileInfo(pdf).size() > 10000, driver_->TextOf("UltimoRisultato"));
+  }
+
+  void EditCell(int row, int column, const QString& typed) {
+    Ui::Griglia& grid = driver_->Grid();
+    driver_->SelectRows(row, row);
+    grid.setCurrentIndex(grid.model()->index(row - 1, column));
+    driver_->Key(Qt::Key_F2);
+    QTest::keyClicks(CellEditor(), typed);
+    QTest::keyClick(CellEditor(), Qt::Key_Return);
+    QTest::qWait(100);  // until the editor is gone
+  }
+
+  // A few changes, one of which is taken back from the disk.
+  void CompareWithDisk() {
+    EditCell(2, Routines::ChannelColumn::Name, "Canale Mio");
+    EditCell(6, Routines::ChannelColumn::Vpid, "513");
+    driver_->SelectRows(14, 15);
+    driver_->Choose("Elimina");
+    driver_->SelectRows(20, 20);
+    driver_->ExpectLine("Inserire il numero di canale a cui spostare", "3");
+    driver_->Choose("SpostaA");
+    driver_->Choose("ConfrontaDisco");
+    auto* found = window_->findChild<QDialog*>("FinestraConfronto");
+    auto* table = found != nullptr ? found->findChild<QTableView*>("Differenze") : nullptr;
+    if (table == nullptr) return Step("compare with the disk", false, "no window");
+    table->selectRow(0);
+    QTest::keyClick(table, Qt::Key_Space);
+    Step("compare with the disk", table->model()->rowCount() == 5,
+         QString("%1 differences").arg(table->model()->rowCount()));
+    QTest::mouseClick(found->findChild<QPushButton*>("ApplicaSegnati"), Qt::LeftButton);
+    Step("take back one change", table->model()->rowCount() == 4, driver_->TextOf("UltimoRisultato"));
+    found->close();
+    for (int step = 0; step < 5; ++step) driver_->Choose("Annulla");
   }
 
   void TakeFromSdx() {

@@ -1,6 +1,9 @@
 #include "model/flash_loader.h"
 
+#include "model/write_settings.h"
+
 #include <cstring>
+#include <memory>
 
 namespace Routines {
 namespace {
@@ -61,9 +64,11 @@ class Loader {
   [[nodiscard]] bool Appending() const { return appendStart_ > 0; }
 
   void TakeChannels(std::vector<ChannelRecord> records) {
-    if (channelSections_ == 0 || !Repeats(records, firstSection_)) report_.channelsInImage += UsedIn(records);
+    const bool repeats = channelSections_ > 0 && Repeats(records, firstSection_);
+    if (!repeats) report_.channelsInImage += UsedIn(records);
     ++channelSections_;
     if (channelSections_ == 1 || slot_ < state_.MaxChannels) {
+      report_.repeats = report_.repeats || repeats;
       for (const ChannelRecord& record : records) {
         if (slot_ >= state_.MaxChannels) break;
         ++slot_;
@@ -153,6 +158,16 @@ LoadReport LoadFlash(State& state, Base::ByteView image, int capacity, int appen
   state.ChannelCount = state.MaxChannels;
   state.Loaded = true;
   return Loader(state, image, appendStart, bouquets).Run();
+}
+
+int CapacityOf(Base::ByteView image) {
+  const auto state = std::make_unique<State>();
+  int capacity = 0;
+  for (const CapacityOption& option : QuantiCanali) {
+    if (capacity == 0 || !LoadFlash(*state, image, option.channels, 0, {}).repeats)
+      capacity = option.channels;
+  }
+  return capacity;
 }
 
 std::string TooManyTransponders(int count) {

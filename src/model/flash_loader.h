@@ -14,6 +14,7 @@ struct LoadReport {
   int channelsRead = 0;      // taken from the image, empty slots not counted
   int channelsInImage = 0;   // held by the image; a section that repeats the first one is not counted
   int strandedChannels = 0;  // loaded channels whose transponder lies past TransponderCount
+  bool repeats = false;      // some were taken from a section that repeats the first one
   std::vector<std::string> messages;  // to be shown, in this order
 };
 
@@ -22,6 +23,9 @@ struct LoadReport {
 // loaded, and the favourites stay. What an image has no room for, or does not have, is no error.
 LoadReport LoadFlash(State& state, Base::ByteView image, int capacity, int appendStart,
                      const BouquetTables& bouquets);
+
+// The most channels that `QuantiCanali` offers without running into the copy that some receivers keep of their list.
+int CapacityOf(Base::ByteView image);
 
 // Where a second flash begins: one slot behind the last channel stays empty between the two.
 inline int AppendStart(const State& state) { return LastUsedChannel(state) + 1; }

@@ -61,6 +61,8 @@ inline constexpr std::array Commands = {
     Command{"OrdinaPerBouquet", "Ordina Canali per Bouquet", Menu::Utilities},
     Command{"SpostaRadio", "Raggruppa RADIO e SERVIZI", Menu::Utilities},
     Command{"CanaliDoppi", "Controlla Canali Doppi", Menu::Utilities},
+    Group({"Confronta", "Confronta con un'altra flash…", Menu::Utilities}),
+    Command{"ConfrontaDisco", "Confronta con il file su disco", Menu::Utilities},
     Group({"InvertiSatelliti", "Inverti Satelliti", Menu::Utilities}),
     Command{"RiportaAB", "Riporta tutto a SAT A-B", Menu::Utilities},
     Command{"ConvertiSR", "Converti SR", Menu::Utilities, "convert-sr"},

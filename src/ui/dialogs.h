@@ -20,6 +20,8 @@ QString CodePageText(std::string_view bytes);
 QString PathText(const std::string& path);
 std::string PathBytes(const QString& path);
 
+inline constexpr const char* FlashFilters = "Binary files(*.dat)|*.dat|Tutti i file (*.*)|*.*|";
+
 struct FileQuestion {
   QString title;
   QString filters;  // "Caption|*.dat|Caption|*.*|"

@@ -41,9 +41,8 @@ QString LoadResult(const State& state, const Routines::LoadReport& report, bool 
 }  // namespace
 
 std::string FileCommands::AskFlash(const QString& title, FolderKind folder) {
-  return PathBytes(
-      session_.dialogs.OpenFile({title, "Binary files(*.dat)|*.dat|Tutti i file (*.*)|*.*|",
-                                 PathText(Support::RememberedFolder(session_.programFolder, folder))}));
+  return PathBytes(session_.dialogs.OpenFile(
+      {title, FlashFilters, PathText(Support::RememberedFolder(session_.programFolder, folder))}));
 }
 
 // 0 to replace what is loaded; nothing where the user gives up.

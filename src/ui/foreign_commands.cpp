@@ -19,7 +19,7 @@ constexpr std::size_t LargestList = 256U << 20U;
 
 void ForeignCommands::CaricaAggiuntiva() {
   const std::string path = PathBytes(session_.dialogs.OpenFile(
-      {"Selezionare la flash aggiuntiva", "Binary files(*.dat)|*.dat|Tutti i file (*.*)|*.*|",
+      {"Selezionare la flash aggiuntiva", FlashFilters,
        PathText(Support::RememberedFolder(session_.programFolder, FolderKind::Input))}));
   if (path.empty()) return;
   const auto image = Routines::ReadFlash(path, "Errore FLASH di Input");

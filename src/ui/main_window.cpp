@@ -74,6 +74,7 @@ CopiaTCSTPT::CopiaTCSTPT(const std::string& programFolder, std::unique_ptr<Dialo
   favourites_ = std::make_unique<FavouritesCommands>(*session_, *this);
   lists_ = std::make_unique<ListCommands>(*session_);
   kept_ = std::make_unique<KeptWork>(*session_, this);
+  compare_ = std::make_unique<CompareCommands>(*session_, *this);
 
   auto* column = new QVBoxLayout(contents);
   column->setContentsMargins(8, 6, 8, 4);
@@ -110,6 +111,7 @@ CopiaTCSTPT::CopiaTCSTPT(const std::string& programFolder, std::unique_ptr<Dialo
   ConnectForeignCommands();
   ConnectOverview();
   ConnectFirstMinutes();
+  ConnectCompareCommands();
   ConnectToolbar();
   connect(document_, &Document::Changed, this, &CopiaTCSTPT::ShowList);
   ShowList();
@@ -247,6 +249,11 @@ void CopiaTCSTPT::ConnectSdxCommands() {
   connect(pane, &SdxPane::CopyWanted, this, [this] { sdx_->CopySDX(); });
   connect(&session_->view, &ListView::SdxDropped, this,
           [this](int first, int last, int before) { sdx_->Drop(first, last, before); });
+}
+
+void CopiaTCSTPT::ConnectCompareCommands() {
+  Connect("Confronta", [this] { compare_->Confronta(); });
+  Connect("ConfrontaDisco", [this] { compare_->ConfrontaDisco(); });
 }
 
 void CopiaTCSTPT::ConnectTreeCommands() {
@@ -408,6 +415,7 @@ void CopiaTCSTPT::closeEvent(QCloseEvent* event) {
   QSettings(SettingsFile(), QSettings::IniFormat).setValue("Finestra/Geometria", saveGeometry());
   session_->view.FinishEditing();
   favourites_->CloseWindow();
+  compare_->CloseWindow();
   event->accept();
 }
 

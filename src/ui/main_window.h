@@ -2,6 +2,7 @@
 #pragma once
 
 #include "ui/cell_commands.h"
+#include "ui/compare_commands.h"
 #include "ui/dialogs.h"
 #include "ui/download_commands.h"
 #include "ui/edit_commands.h"
@@ -55,6 +56,7 @@ class CopiaTCSTPT : public QMainWindow {
   void ConnectCellCommands();
   void ConnectSdxCommands();
   void ConnectTreeCommands();
+  void ConnectCompareCommands();
   void ConnectPrintCommands();
   void ConnectForeignCommands();
   void ConnectToolbar();
@@ -81,6 +83,7 @@ class CopiaTCSTPT : public QMainWindow {
   std::unique_ptr<CellCommands> cells_;
   std::unique_ptr<FavouritesCommands> favourites_;
   std::unique_ptr<ListCommands> lists_;
+  std::unique_ptr<CompareCommands> compare_;
   std::unique_ptr<SdxCommands> sdx_;
   std::unique_ptr<PrintCommands> print_;
   std::unique_ptr<DownloadCommands> download_;

@@ -1,0 +1,206 @@
+#include "edit/take_over.h"
+
+#include "edit/list_operations.h"
+#include "model/symbol_rates.h"
+
+#include <optional>
+
+namespace Edit {
+namespace {
+
+using namespace Routines;
+
+std::size_t At(int slot) { return static_cast<std::size_t>(slot); }
+
+class Taker {
+ public:
+  Taker(State& state, const State& other, const Comparison& comparison, const BouquetTables& bouquets)
+      : state_(state), other_(other), comparison_(comparison), bouquets_(bouquets) {}
+
+  TakeOverReport Run(const std::vector<Difference>& chosen) {
+    for (const Difference& difference : chosen) {
+      if (difference.Has(Mark::Renamed) || difference.Has(Mark::Retuned) || difference.Has(Mark::Modified))
+        Change(difference);
+    }
+    report_.lost = Arrange(chosen);
+    for (const Difference& difference : chosen) {
+      if (difference.Has(Mark::OnlyThere)) Add(difference.there);
+    }
+    CanaliXTransponder(state_);
+    return report_;
+  }
+
+ private:
+  // The other list's channel, linked to its transponder here; nothing where that finds no slot. `current` is the
+  // transponder to keep when it is the same one, 0 for none.
+  std::optional<ChannelRecord> Linked(int there, int current) {
+    ChannelRecord channel = other_.ChannelTable[At(there)];
+    if (!HasTransponder(other_, channel)) {
+      // It must not come upon a transponder that it never had.
+      if (HasTransponder(state_, channel)) Set(channel, ChannelField::Transponder, 0);
+      return channel;
+    }
+    const TransponderRecord wanted = Wanted(channel);
+    int slot = current;
+    if (current == 0 || !SameTransponder(state_.TransponderTable[At(current)].record, wanted)) {
+      const TransponderSlot found = FindOrAddTransponder(state_, wanted);
+      if (found.added) NameBouquet(state_.TransponderTable[At(found.slot)], bouquets_);
+      slot = found.slot;
+    }
+    if (slot == 0) return std::nullopt;
+    Set(channel, ChannelField::Transponder, static_cast<std::uint32_t>(slot));
+    return channel;
+  }
+
+  [[nodiscard]] TransponderRecord Wanted(const ChannelRecord& theirs) const {
+    TransponderRecord wanted = other_.TransponderTable[Get(theirs, ChannelField::Transponder)].record;
+    const auto code = RecodedRate(other_.SymbolRateTable, state_.SymbolRateTable,
+                                  Get(wanted, TransponderField::SymbolRate));
+    Set(wanted, TransponderField::SymbolRate, static_cast<std::uint32_t>(code));
+    return wanted;
+  }
+
+  void Change(const Difference& difference) {
+    ChannelRecord& mine = state_.ChannelTable[At(difference.here)];
+    const int current =
+        HasTransponder(state_, mine) ? static_cast<int>(Get(mine, ChannelField::Transponder)) : 0;
+    const auto channel = Linked(difference.there, current);
+    if (!channel) {
+      ++report_.noTransponder;
+      return;
+    }
+    mine = *channel;
+    ++report_.changed;
+    const ChannelRecord& theirs = other_.ChannelTable[At(difference.there)];
+    if (HasTransponder(other_, theirs)) Update(Get(mine, ChannelField::Transponder), Wanted(theirs));
+  }
+
+  // A transponder's data go for all its channels: without them the one taken over would still be another. Those that
+  // the first channel brings stay, where the other list has several within 3 MHz.
+  void Update(std::size_t slot, const TransponderRecord& wanted) {
+    using namespace TransponderField;
+    TransponderRow& row = state_.TransponderTable[slot];
+    TransponderRecord updated = row.record;
+    for (const auto& field : {SymbolRate, Fec, Tid, Nid}) Set(updated, field, Get(wanted, field));
+    if (Get(updated, HighBand) != Get(wanted, HighBand)) {
+      for (const auto& field : {Frequency, HighBand}) Set(updated, field, Get(wanted, field));
+    }
+    if (row.record == updated || updated_[slot]) return;
+    row.record = updated;
+    NameBouquet(row, bouquets_);
+    updated_.set(slot);
+    ++report_.updated;
+  }
+
+  // Takes the chosen channels out that are only here, and puts each moved one behind the channel that it follows in the
+  // other list, the moved ones left out.
+  std::vector<LostFavourite> Arrange(const std::vector<Difference>& chosen) {
+    std::bitset<LastChannelSlot + 1> leaves;
+    std::bitset<LastChannelSlot + 1> moves;
+    for (const Difference& difference : chosen) {
+      if (difference.Has(Mark::OnlyHere) || difference.Has(Mark::Moved)) leaves.set(At(difference.here));
+      if (difference.Has(Mark::Moved)) moves.set(At(difference.here));
+    }
+    if (leaves.none()) return {};
+    report_.moved = static_cast<int>(moves.count());
+    report_.deleted = static_cast<int>(leaves.count() - moves.count());
+
+    const std::vector<std::vector<int>> behind = Followers(moves);
+    SlotMap map = SameSlots();
+    int next = 1;
+    for (int slot = 0; slot <= state_.ChannelCount; ++slot) {
+      if (slot > 0 && !leaves[At(slot)]) map[At(slot)] = next++;
+      if (slot > 0 && leaves[At(slot)] && !moves[At(slot)]) map[At(slot)] = 0;
+      for (const int moved : behind[At(slot)]) map[At(moved)] = next++;
+    }
+    return Rearrange(state_, map);
+  }
+
+  // For each channel that stays, slot 0 for the list's head, the moved ones that come behind it, in the other's order.
+  [[nodiscard]] std::vector<std::vector<int>> Followers(const std::bitset<LastChannelSlot + 1>& moves) const {
+    SlotMap here{};
+    for (std::size_t slot = 1; slot < here.size(); ++slot)
+      here[At(comparison_.there[slot])] = static_cast<int>(slot);
+    std::vector<std::vector<int>> behind(LastChannelSlot + 1);
+    int last = 0;
+    for (std::size_t there = 1; there < here.size(); ++there) {
+      const int slot = here[there];
+      if (slot == 0) continue;
+      if (comparison_.fixed[At(slot)]) last = slot;
+      if (moves[At(slot)]) behind[At(last)].push_back(slot);
+    }
+    return behind;
+  }
+
+  void Add(int there) {
+    int slot = LastOccupied(state_) + 1;
+    if (slot > state_.ChannelCount) {
+      slot = 1;
+      while (slot <= state_.ChannelCount && !state_.ChannelTable[At(slot)].Empty()) ++slot;
+    }
+    if (slot > state_.ChannelCount) {
+      ++report_.noRoom;
+    } else if (const auto channel = Linked(there, 0)) {
+      state_.ChannelTable[At(slot)] = *channel;
+      ++report_.added;
+    } else {
+      ++report_.noTransponder;
+    }
+  }
+
+  State& state_;
+  const State& other_;
+  const Comparison& comparison_;
+  const BouquetTables& bouquets_;
+  std::bitset<LastTransponderSlot + 1> updated_;
+  TakeOverReport report_;
+};
+
+// Gives slots to those that have none yet: the free ones behind `last` first, then from the front on.
+void Place(const std::vector<int>& slots, int last, int count, SlotMap& map,
+           std::bitset<LastChannelSlot + 1>& taken) {
+  std::vector<int> free;
+  for (int slot = last + 1; slot <= count; ++slot) free.push_back(slot);
+  for (int slot = 1; slot <= last; ++slot) free.push_back(slot);
+  std::erase_if(free, [&taken](int slot) { return taken[At(slot)]; });
+  for (std::size_t i = 0; i < slots.size(); ++i) {
+    map[At(slots[i])] = free[i];
+    taken.set(At(free[i]));
+  }
+}
+
+}  // namespace
+
+TakeOverReport TakeOver(State& state, const State& other, const Comparison& comparison,
+                        const std::vector<Difference>& chosen, const BouquetTables& bouquets) {
+  return Taker(state, other, comparison, bouquets).Run(chosen);
+}
+
+int TakeOrder(State& state, const State& other, const Comparison& comparison) {
+  SlotMap map = SameSlots();
+  std::bitset<LastChannelSlot + 1> taken;
+  std::vector<int> rest;   // channels without a number of the other list
+  std::vector<int> empty;  // a favourites entry on an empty slot goes on naming one
+  for (int slot = 1; slot <= state.ChannelCount; ++slot) {
+    const int there = comparison.there[At(slot)];
+    if (state.ChannelTable[At(slot)].Empty()) {
+      empty.push_back(slot);
+    } else if (there == 0 || there > state.ChannelCount) {
+      rest.push_back(slot);
+    } else {
+      map[At(slot)] = there;
+      taken.set(At(there));
+    }
+  }
+  Place(rest, std::min(LastOccupied(other), state.ChannelCount), state.ChannelCount, map, taken);
+  Place(empty, 0, state.ChannelCount, map, taken);
+
+  int moved = 0;
+  for (int slot = 1; slot <= state.ChannelCount; ++slot) {
+    if (!state.ChannelTable[At(slot)].Empty() && map[At(slot)] != slot) ++moved;
+  }
+  Rearrange(state, map);
+  return moved;
+}
+
+}  // namespace Edit
