@@ -133,6 +133,7 @@ void KeptWork::Write() {
     return;
   }
   if (!HasPlace()) return;
+  SetReplacedAside();
   writing_ = true;
   writer_.start([this, path = own_.path, bytes = Contents()] {
     auto outcome = Base::ReplaceFile(path, bytes);
@@ -162,13 +163,19 @@ Base::Outcome KeptWork::Flush() {
     return Base::Done{};
   }
   if (!HasPlace()) return Base::Error{"Troppi file di recupero in " + session_.programFolder};
+  SetReplacedAside();
   return Base::ReplaceFile(own_.path, Contents());
 }
 
-// What the file holds is saved or taken back, or else another list has taken its place without that.
+// Another list may have taken the place of the one in the file, which was never saved: an import is unsaved at once.
+void KeptWork::SetReplacedAside() {
+  if (session_.document.Tables().ListNumber != keptList_) SetAside(own_.path, Old);
+}
+
+// What the file holds is saved or taken back, or else set aside.
 void KeptWork::Discard() {
   if (own_.path.empty()) return;
-  if (session_.document.Tables().ListNumber != keptList_) SetAside(own_.path, Old);
+  SetReplacedAside();
   std::error_code error;
   std::filesystem::remove(own_.path, error);
 }

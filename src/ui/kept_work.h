@@ -46,6 +46,7 @@ class KeptWork : public QObject {
   [[nodiscard]] Base::Bytes Contents();
   void Write();
   void Written(const Base::Outcome& outcome);
+  void SetReplacedAside();
   void Discard();
 
   Session& session_;

@@ -107,6 +107,22 @@ TEST_F(KeptWorkWindow, ARefusedOrDamagedOrReplacedFileIsSetAside) {
       << "another list has taken its place unsaved";
 }
 
+TEST_F(KeptWorkWindow, AnImportLeavesTheUnsavedListBeforeIt) {
+  OpenDemo();
+  const std::string text = folder_.Path("lista.txt");
+  driver_->ExpectFile("Selezionare il file di output", PathText(text));
+  ASSERT_TRUE(driver_->Choose("FormatoTesto"));
+  DeleteFirst();
+  ASSERT_TRUE(FileIs(true));
+  const Base::Bytes kept = Contents(file_);
+  driver_->ExpectFile("Selezionare il file di testo contenente i CANALI e i TRANSPONDERS", PathText(text));
+  ASSERT_TRUE(driver_->Choose("DaEsportatoTesto"));
+  EXPECT_TRUE(window_->close());
+  ASSERT_TRUE(std::filesystem::exists(file_ + ".old"));
+  EXPECT_EQ(Contents(file_ + ".old"), kept);
+  EXPECT_NE(Contents(file_), kept);
+}
+
 TEST_F(KeptWorkWindow, TwoProgramsHaveAFileEach) {
   OpenDemo();
   DeleteFirst();
