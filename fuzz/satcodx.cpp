@@ -1,0 +1,99 @@
+// Reading a SatcoDX list under any options, and carrying its rows into a channel list.
+#include "formats/satcodx.h"
+
+#include "formats/sdx_import.h"
+#include "fuzz_support.h"
+
+#include <algorithm>
+
+using namespace Fuzz;
+using namespace Formats;
+
+namespace {
+
+constexpr int MostImported = 40;
+
+// Eight bits of choices and a satellite; what to filter is what the list itself says.
+SdxOptions OptionsOf(std::size_t choice, std::size_t satellite, std::string_view text) {
+  SdxOptions options;
+  options.satellite = static_cast<int>(satellite % 26);
+  options.television = (choice & 1U) == 0;
+  options.radio = (choice & 2U) == 0;
+  options.data = (choice & 4U) == 0;
+  options.allCodes = (choice & 8U) == 0;
+  options.codes = EncryptionCodesOf(text);
+  options.codes.resize(std::min<std::size_t>(options.codes.size(), choice >> 4U & 3U));
+  if ((choice & 64U) != 0) options.filtered = FilteredServices(text);
+  if ((choice & 128U) != 0) options.known = ServicesOf(text.substr(0, text.size() / 2));
+  return options;
+}
+
+void CheckRow(const SdxRow& row, const SdxOptions& options) {
+  Require(row.name.size() <= 20 && row.frequency.size() <= 6 && row.symbolRate.size() <= 5 &&
+              row.fec.size() <= 1 && row.vpid.size() <= 5 && row.apid.size() <= 5 && row.pcr.size() <= 4 &&
+              row.sid.size() <= 5 && row.nid.size() <= 5 && row.tid.size() == 5,
+          "a row's texts keep to their columns");
+  Require((row.type == 'T' && options.television) || (row.type == 'R' && options.radio) ||
+              (row.type == 'S' && options.data),
+          "only the types that are wanted");
+  Require(row.type != 'R' || row.vpid == "65535", "a radio row has no video");
+  Require(row.satellite == options.satellite, "the satellite that was chosen");
+}
+
+void CheckTable(const SdxTable& table, const SdxOptions& options) {
+  const int dropped = table.droppedByRate + table.droppedByType + table.droppedByFormat + table.droppedByPid +
+                      table.droppedByCode + table.droppedByFilter;
+  Require(table.rows.size() <= MostSdxRows, "no more rows than the table has");
+  Require(table.satelliteName.size() <= 17, "the satellite's name");
+  Require(static_cast<int>(table.rows.size()) + dropped + (table.full ? 1 : 0) == table.lines,
+          "every line is taken or dropped for a reason");
+  for (const SdxRow& row : table.rows) CheckRow(row, options);
+}
+
+void CheckImport(const SdxTable& table, int transponders) {
+  const auto state = EmptyList();
+  state->MaxChannels = state->ChannelCount = 999;
+  state->TransponderCount = transponders;
+  SdxImport import(*state, Bouquets());
+  int slot = 0;
+  for (const SdxRow& row : table.rows) {
+    if (++slot > MostImported) break;
+    import.Put(row, slot, slot);
+    const Routines::ChannelRecord& channel = state->ChannelTable[static_cast<std::size_t>(slot)];
+    Require(Get(channel, Routines::ChannelField::Transponder) <= static_cast<std::uint32_t>(transponders),
+            "a channel goes to a transponder of the list");
+  }
+  CheckList(*state);
+  Require(state->TransponderCount == transponders, "an import adds no transponder slots");
+}
+
+void CheckDownload(std::string_view reply) {
+  const std::string lines = DownloadedLines(reply);
+  Require(lines.empty() || lines.ends_with("\r\n"), "downloaded lines are whole");
+  Require(lines.size() <= 2 * reply.size(), "a download grows by its line ends alone");
+  static_cast<void>(LooksLikeSatcodx(reply));
+}
+
+}  // namespace
+
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
+  Input input(data, size);
+  const std::size_t choice = input.Byte();
+  const std::size_t satellite = input.Byte();
+  const int transponders = static_cast<int>(input.Byte() % (Routines::LastTransponderSlot + 1));
+  const bool repeat = input.Byte() == 255;
+  const std::string_view text = input.Text();
+  CheckDownload(text);
+  const SdxOptions options = OptionsOf(choice, satellite, text);
+  SdxTable table = ReadSatcodx(text, options);
+  CheckTable(table, options);
+  CheckImport(table, transponders);
+  if (!repeat || table.rows.empty()) return 0;
+  // As often as it takes to fill the table.
+  std::string full;
+  const std::size_t times = MostSdxRows / table.rows.size() + 1;
+  for (std::size_t i = 0; i < times && full.size() < (1U << 20U); ++i) full.append(text).append("\n");
+  table = ReadSatcodx(full, options);
+  CheckTable(table, options);
+  return 0;
+}

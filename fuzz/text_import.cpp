@@ -1,0 +1,64 @@
+// Importing a list from the text format, and carrying it out and in again.
+#include "base/code_page.h"
+#include "formats/text_format.h"
+#include "fuzz_support.h"
+
+#include <algorithm>
+
+using namespace Fuzz;
+using namespace Routines;
+
+namespace {
+
+// Single precision may take 1 MHz off a frequency, and "Auto" the tone, each time a list goes round.
+constexpr int MostRounds = 6;
+
+std::unique_ptr<State> Read(std::string_view text) {
+  auto state = EmptyList();
+  const Formats::ImportReport report = Formats::ReadText(*state, text, "lista.txt", Bouquets());
+  CheckList(*state);
+  Require(state->MaxChannels == state->ChannelCount, "an import's count is the list's");
+  Require(!report.listRead || (report.changed && report.transpondersRead),
+          "a list read has changed the tables");
+  Require(report.listRead || !report.error.empty(), "an import that stops says so");
+  return report.listRead ? std::move(state) : nullptr;
+}
+
+// What a list is made of when it has been carried out and in once. Slots past the channel count are not carried.
+void CheckSameList(const State& one, const State& other) {
+  Require(one.ChannelCount == other.ChannelCount && one.TransponderCount == other.TransponderCount,
+          "counts survive a round");
+  Require(std::equal(one.ChannelTable.begin() + 1, one.ChannelTable.end(), other.ChannelTable.begin() + 1),
+          "channels survive a second round");
+  Require(SameFavourites(one, other), "favourites survive a second round");
+}
+
+}  // namespace
+
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
+  std::string_view text = Base::AsText({data, size});
+  constexpr std::string_view ByteOrderMark = "\xEF\xBB\xBF";
+  std::string converted;
+  if (text.starts_with(ByteOrderMark)) {
+    converted = Base::FromUtf8Lossy(text.substr(ByteOrderMark.size()));
+    text = converted;
+  }
+  Require(Base::FromUtf8(Base::ToUtf8(text)) == text, "every byte has a character of its own");
+
+  const auto imported = Read(text);
+  if (!imported) return 0;
+  std::string exported = Formats::WriteText(*imported);
+  auto before = Read(exported);
+  Require(before != nullptr, "an exported list can be imported");
+  for (int round = 1; round <= MostRounds; ++round) {
+    const std::string again = Formats::WriteText(*before);
+    auto after = Read(again);
+    Require(after != nullptr, "an exported list can be imported again");
+    CheckSameList(*before, *after);
+    if (again == exported) return 0;
+    exported = again;
+    before = std::move(after);
+  }
+  Require(false, "a list that goes round settles");
+  return 0;
+}
