@@ -9,7 +9,9 @@ using namespace Routines;
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
   static const auto empty = EmptyList();
-  const auto state = EmptyList();
+  static const auto state = EmptyList();
+  static const auto again = EmptyList();
+  *state = *again = *empty;
   const Formats::ImportReport report = Formats::ReadFls(*state, {data, size}, Bouquets());
   Require(report.changed || *state == *empty, "an import without a list changes nothing");
   Require(report.listRead || !report.error.empty(), "an import that stops says so");
@@ -19,7 +21,6 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
   Require(state->FavouritesBlock.size() <= size + 30, "no larger than its file");
   if (!report.listRead) return 0;
 
-  const auto again = EmptyList();
   const Formats::ImportReport second = Formats::ReadFls(*again, Formats::WriteFls(*state), Bouquets());
   Require(second.listRead && second.error.empty() == !state->FavouritesBlock.empty(),
           "an exported list can be imported");

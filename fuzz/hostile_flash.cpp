@@ -2,7 +2,6 @@
 
 #include "demo_flash.h"
 #include "image_builder.h"
-#include "model/flash_writer.h"
 
 #include <algorithm>
 #include <cstring>
@@ -203,12 +202,6 @@ bool DifferOnlyIn(const std::vector<Range>& mayChange, Base::ByteView one, Base:
     at = range.End();
   }
   return same(one.size());
-}
-
-void CheckGuard(Base::ByteView original, Base::ByteView written) {
-  Require(written.size() == FlashSize, "a written image keeps its size");
-  Require(DifferOnlyIn(LayoutOf(original).mayChange, original, written), "a write stays inside the sections");
-  Require(DiffersOnlyInSections(original, written), "the guard lets a write pass");
 }
 
 }  // namespace Fuzz

@@ -65,7 +65,4 @@ Layout LayoutOf(Base::ByteView image);
 // Whether the two differ only in `mayChange`.
 bool DifferOnlyIn(const std::vector<Routines::Range>& mayChange, Base::ByteView one, Base::ByteView other);
 
-// Requires that a write changed only what it may, by this file's own account and by the program's.
-void CheckGuard(Base::ByteView original, Base::ByteView written);
-
 }  // namespace Fuzz

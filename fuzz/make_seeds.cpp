@@ -110,16 +110,15 @@ void AddExchangeFiles(Seeds& seeds) {
   seeds.Add("fls_import", "no-favourites", Base::AsText(Formats::WriteFls(state)));
 }
 
-// Behind the choices, the satellite, the transponders, and whether the list is to fill the table.
+// Behind the choices, the satellite and the transponders.
 void AddSatcodx(Seeds& seeds) {
   const std::string list = Samples::DemoSdx().substr(0, 20 * 129);
-  seeds.Add("satcodx", "all", Bytes({0, 1, 120, 0}) + list);
-  seeds.Add("satcodx", "some-codes", Bytes({0x28, 0, 3, 0}) + list);
-  seeds.Add("satcodx", "filters", Bytes({0xC0, 3, 254, 0}) + "512 4435\n00650 00512\r\n" + list);
-  seeds.Add("satcodx", "full", Bytes({0, 0, 20, 255}) + list.substr(0, 10 * 129));
+  seeds.Add("satcodx", "all", Bytes({0, 1, 120}) + list);
+  seeds.Add("satcodx", "some-codes", Bytes({0x28, 0, 3}) + list);
+  seeds.Add("satcodx", "filters", Bytes({0xC0, 3, 254}) + "512 4435\n00650 00512\r\n" + list);
   std::string download = list;
   std::erase(download, '\n');
-  seeds.Add("satcodx", "download", Bytes({0, 0, 20, 0}) + download);
+  seeds.Add("satcodx", "download", Bytes({0, 0, 20}) + download);
 }
 
 std::string Sample(const std::string& path) {

@@ -5,6 +5,7 @@
 #include "fuzz_support.h"
 
 #include <algorithm>
+#include <functional>
 
 using namespace Fuzz;
 using namespace Formats;
@@ -81,19 +82,16 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
   const std::size_t choice = input.Byte();
   const std::size_t satellite = input.Byte();
   const int transponders = static_cast<int>(input.Byte() % (Routines::LastTransponderSlot + 1));
-  const bool repeat = input.Byte() == 255;
   const std::string_view text = input.Text();
   CheckDownload(text);
   const SdxOptions options = OptionsOf(choice, satellite, text);
-  SdxTable table = ReadSatcodx(text, options);
+  const SdxTable table = ReadSatcodx(text, options);
   CheckTable(table, options);
   CheckImport(table, transponders);
-  if (!repeat || table.rows.empty()) return 0;
-  // As often as it takes to fill the table.
+  // One dense list in a hundred or so again, as often as it takes to fill the table.
+  if (table.rows.size() < 8 || std::hash<std::string_view>{}(text) % 100 != 0) return 0;
   std::string full;
-  const std::size_t times = MostSdxRows / table.rows.size() + 1;
-  for (std::size_t i = 0; i < times && full.size() < (1U << 20U); ++i) full.append(text).append("\n");
-  table = ReadSatcodx(full, options);
-  CheckTable(table, options);
+  for (std::size_t rows = 0; rows <= MostSdxRows; rows += table.rows.size()) full.append(text).append("\n");
+  CheckTable(ReadSatcodx(full, options), options);
   return 0;
 }
