@@ -40,6 +40,12 @@ std::string Bytes(std::initializer_list<int> values) {
   return bytes;
 }
 
+std::string Repeated(std::string_view text, int times) {
+  std::string all;
+  for (int i = 0; i < times; ++i) all += text;
+  return all;
+}
+
 struct Image {
   const char* name;
   std::string bytes;  // a beginning, and steps
@@ -97,17 +103,34 @@ State ShortList() {
   return state;
 }
 
+std::string FlsRecord(std::string text) {
+  text.resize(30, ' ');
+  return text;
+}
+
+// Two records of the file can be repeated: how many stand before each, and its copies.
+std::string FlsFile(const State& state) {
+  return Bytes({0, 0, 1, 0, 0, 0, 1, 0}).append(Base::AsText(Formats::WriteFls(state)));
+}
+
 void AddExchangeFiles(Seeds& seeds) {
   State state = ShortList();
   const std::string text = Formats::WriteText(state);
   seeds.Add("text_import", "list", text);
+  seeds.Add("text_import", "long-favourites",
+            "[CANALI] 2\n0001 Uno\n[END CANALI]\n[TRANSPONDERS] 9\n[END TRANSPONDERS]\n[PREFERITI]\n00|\n" +
+                Repeated("0001\n", 140) + "[END PREFERITI]\n");
   seeds.Add("text_import", "utf-8", "\xEF\xBB\xBF" + Base::ToUtf8(text));
-  seeds.Add("fls_import", "list", Base::AsText(Formats::WriteFls(state)));
+  seeds.Add("fls_import", "too-many",
+            Bytes({1, 0, 0xA0, 0x0F, 1, 0, 0x2C, 1}) + FlsRecord("[CANALI] 4000") + FlsRecord("Rete") +
+                FlsRecord("[TRANSPONDERS] 300") + FlsRecord("tttttttttttt") + FlsRecord("[PREFERITI] 0040") +
+                FlsRecord("ff"));
+  seeds.Add("fls_import", "list", FlsFile(state));
   state.FavouritesBlock.resize(300);
-  seeds.Add("fls_import", "short-favourites", Base::AsText(Formats::WriteFls(state)));
+  seeds.Add("fls_import", "short-favourites", FlsFile(state));
   state.FavouritesBlock.clear();
   seeds.Add("text_import", "no-favourites", Formats::WriteText(state));
-  seeds.Add("fls_import", "no-favourites", Base::AsText(Formats::WriteFls(state)));
+  seeds.Add("fls_import", "no-favourites", FlsFile(state));
 }
 
 // Behind the choices, the satellite and the transponders.
@@ -129,6 +152,7 @@ std::string Sample(const std::string& path) {
 void AddSupportFiles(Seeds& seeds, const std::string& samples) {
   seeds.Add("bouquets_txt", "sample", Sample(samples + "/Bouquets.txt").substr(0, 3000));
   seeds.Add("bouquets_txt", "odd", "#\r\nx,1e400,3\nUno,SAT=a\nDue,SAT=Z\r\n ,nan,\r\nTre,SAT=5\n,,,\n\n");
+  seeds.Add("bouquets_txt", "too-many", Repeated("s,SAT=C\n", 30) + Repeated(",,\n", 300));
   seeds.Add("sr_ini", "sample", Sample(samples + "/SR.INI"));
   seeds.Add("sr_ini", "odd", "INPUT\n1 =9\n0:=22000\r\n15=2750012\n\n 07= 0\nOUTPUT\n16=1\n");
   const std::string path = "/home/anna/flash/lista.dat";

@@ -2,6 +2,7 @@
 #include "base/code_page.h"
 #include "formats/text_format.h"
 #include "fuzz_support.h"
+#include "model/favourites.h"
 
 #include <algorithm>
 
@@ -24,6 +25,37 @@ bool Read(State& state, std::string_view text) {
           "a list read has changed the tables");
   Require(report.listRead || !report.error.empty(), "an import that stops says so");
   return report.listRead;
+}
+
+bool Carried(const ChannelRecord& channel) {
+  return std::any_of(channel.bytes.begin(), channel.bytes.begin() + ChannelRecord::NameSize,
+                     [](Base::Byte byte) { return byte != 0; });
+}
+
+// What the first round keeps: the numbers, every name without a byte that could not stand in a line, and favourites.
+void CheckFirstRound(const State& one, const State& other) {
+  for (int slot = 1; slot <= one.ChannelCount; ++slot) {
+    const ChannelRecord& before = one.ChannelTable[static_cast<std::size_t>(slot)];
+    const ChannelRecord& after = other.ChannelTable[static_cast<std::size_t>(slot)];
+    if (!Carried(before)) continue;
+    const auto numbers = before.bytes.begin() + 17;
+    Require(std::equal(numbers, before.bytes.end(), after.bytes.begin() + 17), "a channel's numbers survive");
+    const std::string_view name = Base::AsText(before.bytes).substr(0, ChannelRecord::NameSize);
+    const bool usual = name.find_first_of(std::string_view("\0\r\n[", 4)) == std::string_view::npos;
+    Require(!usual || Base::AsText(after.bytes).starts_with(name), "an ordinary name survives");
+  }
+  for (int number = 1; number <= one.TransponderCount; ++number) {
+    const TransponderRecord& before = one.TransponderTable[static_cast<std::size_t>(number)].record;
+    const TransponderRecord& after = other.TransponderTable[static_cast<std::size_t>(number)].record;
+    const auto numbers = before.bytes.begin() + 4;
+    Require(IsFree(before) || std::equal(numbers, numbers + 5, after.bytes.begin() + 4),
+            "a transponder's numbers survive");
+  }
+  for (std::size_t list = 0; list < FavouriteLists; ++list) {
+    auto entries = FavouriteEntriesOf(one.FavouritesBlock, list);
+    std::erase_if(entries, [](int slot) { return slot > LastChannelSlot; });
+    Require(entries == FavouriteEntriesOf(other.FavouritesBlock, list), "favourites survive");
+  }
 }
 
 // What a list is made of when it has been carried out and in once. Slots past the channel count are not carried.
@@ -52,7 +84,9 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
   static const auto after = EmptyList();
   if (!Read(*before, text)) return 0;
   std::string exported = Formats::WriteText(*before);
-  Require(Read(*before, exported), "an exported list can be imported");
+  Require(Read(*after, exported), "an exported list can be imported");
+  CheckFirstRound(*before, *after);
+  *before = *after;
   for (int round = 1; round <= MostRounds; ++round) {
     std::string again = Formats::WriteText(*before);
     Require(Read(*after, again), "an exported list can be imported again");
