@@ -2,6 +2,7 @@
 #include "hostile_flash.h"
 #include "model/flash_loader.h"
 #include "model/flash_writer.h"
+#include "model/list_tree.h"
 
 #include <algorithm>
 
@@ -22,6 +23,8 @@ void CheckLoaded(const State& state, const LoadReport& report, const Layout& lay
   Require(state.TransponderCount == std::max(layout.transponders, 0), "the last section's transponders");
   Require(state.FavouritesBlock.size() == layout.favouritesSize, "the favourites area is read whole");
   Require(report.messages.empty(), "a first load has nothing to say");
+  const ListTree tree(state, Bouquets().satellites, ListTree::Shape::Transponders);
+  Require(tree.Groups().front().channels == report.channelsRead, "every channel stands in the tree");
 }
 
 // What a written image gives back when it is loaded again.
