@@ -1,8 +1,11 @@
 #include "fuzz_support.h"
 
 #include "base/text.h"
+#include "demo_flash.h"
+#include "formats/sdx_import.h"
 #include "model/cells.h"
 #include "model/favourites.h"
+#include "model/flash_loader.h"
 #include "model/symbol_rates.h"
 #include "support/bouquets_txt.h"
 
@@ -12,6 +15,12 @@
 namespace Fuzz {
 
 using namespace Routines;
+
+namespace {
+
+constexpr int MostImported = 40;
+
+}  // namespace
 
 void Require(bool holds, const char* what) {
   if (holds) return;
@@ -64,6 +73,12 @@ std::unique_ptr<State> EmptyList() {
   return state;
 }
 
+std::unique_ptr<State> DemoList() {
+  auto state = EmptyList();
+  LoadFlash(*state, Samples::DemoFlash(SymbolRates()), LastChannelSlot, 0, Bouquets());
+  return state;
+}
+
 bool SameFavourites(const State& one, const State& other) {
   for (std::size_t list = 0; list < FavouriteLists; ++list) {
     const auto nameOf = [list](const State& state) { return FavouriteNameOf(state.FavouritesBlock, list); };
@@ -90,6 +105,36 @@ void CheckList(const State& state) {
               "a transponder's cell");
     }
   }
+}
+
+void CheckRows(const Formats::SdxTable& table) {
+  Require(table.rows.size() <= Formats::MostSdxRows, "no more rows than the table has");
+  for (const Formats::SdxRow& row : table.rows) {
+    Require(row.name.size() <= 20 && row.frequency.size() <= 6 && row.symbolRate.size() <= 5 &&
+                row.fec.size() <= 1 && row.vpid.size() <= 5 && row.apid.size() <= 5 && row.pcr.size() <= 5 &&
+                row.sid.size() <= 5 && row.nid.size() <= 5 && row.tid.size() == 5,
+            "a row's texts keep to their columns");
+    Require(row.type == 'T' || row.type == 'R' || row.type == 'S', "a row's type");
+    Require(row.satellite >= 0 && row.satellite <= 31 && row.codifica >= 0 && row.codifica <= 255,
+            "a row's numbers fit their fields");
+  }
+}
+
+void CheckRowImport(const Formats::SdxTable& table, int transponders) {
+  const auto state = EmptyList();
+  state->MaxChannels = state->ChannelCount = 999;
+  state->TransponderCount = transponders;
+  Formats::SdxImport import(*state, Bouquets());
+  int slot = 0;
+  for (const Formats::SdxRow& row : table.rows) {
+    if (++slot > MostImported) break;
+    import.Put(row, slot, slot);
+    const ChannelRecord& channel = state->ChannelTable[static_cast<std::size_t>(slot)];
+    Require(Get(channel, ChannelField::Transponder) <= static_cast<std::uint32_t>(transponders),
+            "a channel goes to a transponder of the list");
+  }
+  CheckList(*state);
+  Require(state->TransponderCount == transponders, "an import adds no transponder slots");
 }
 
 }  // namespace Fuzz

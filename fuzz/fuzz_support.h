@@ -2,6 +2,7 @@
 #pragma once
 
 #include "base/bytes.h"
+#include "formats/satcodx.h"
 #include "model/bouquets.h"
 #include "model/routines.h"
 
@@ -39,10 +40,17 @@ const Routines::BouquetTables& Bouquets();
 // An empty list with those symbol rates.
 std::unique_ptr<Routines::State> EmptyList();
 
+// The demo list under those symbol rates.
+std::unique_ptr<Routines::State> DemoList();
+
 // Whether the eight lists have the same entries and, but for blanks at their ends, the same names.
 bool SameFavourites(const Routines::State& one, const Routines::State& other);
 
 // What holds for every list, wherever it came from; reads some of its cells as a view would.
 void CheckList(const Routines::State& state);
+
+// What holds for rows from anywhere, and for the first of them carried into a list with so many transponder slots.
+void CheckRows(const Formats::SdxTable& table);
+void CheckRowImport(const Formats::SdxTable& table, int transponders);
 
 }  // namespace Fuzz

@@ -1,13 +1,11 @@
 // Writes the inputs that fuzzing starts from, a folder for each target: make_seeds SAMPLES_FOLDER OUTPUT_FOLDER
 #include "base/code_page.h"
 #include "base/file.h"
-#include "demo_flash.h"
 #include "demo_sdx.h"
 #include "formats/fls_format.h"
 #include "formats/text_format.h"
 #include "hostile_flash.h"
-#include "model/favourites.h"
-#include "model/flash_loader.h"
+#include "recovery_file.h"
 
 #include <cstdio>
 #include <filesystem>
@@ -88,6 +86,7 @@ void AddImages(Seeds& seeds) {
     ++number;
     seeds.Add("flash_load", image.name, Bytes({number}) + image.bytes);
     seeds.Add("flash_append", image.name, Bytes({number, number / 3}) + image.bytes);
+    seeds.Add("flash_rows", image.name, Bytes({20 * number}) + image.bytes);
     seeds.Add("flash_write", image.name,
               Bytes({number, 20 * number, 0xB8, 0x09, 0x9C, 0x0F, number, 16 * number}) + image.bytes);
   }
@@ -95,9 +94,7 @@ void AddImages(Seeds& seeds) {
 
 // The demo list's beginning, short enough for an input.
 State ShortList() {
-  State state;
-  LoadFlash(state, Samples::DemoFlash(SymbolRates()), 999, 0, Bouquets());
-  state.SymbolRateTable = SymbolRates();
+  State state = *DemoList();
   state.ChannelCount = state.MaxChannels = 25;
   state.TransponderCount = 9;
   return state;
@@ -133,6 +130,44 @@ void AddExchangeFiles(Seeds& seeds) {
   seeds.Add("fls_import", "no-favourites", FlsFile(state));
 }
 
+std::string Sample(const std::string& path) {
+  const auto bytes = Base::ReadFile(path, 1U << 20U);
+  return bytes ? std::string(Base::AsText(*bytes)) : std::string();
+}
+
+// Behind what to paste where and the byte of the header to spoil.
+void AddRecovery(Seeds& seeds) {
+  State state = ShortList();
+  state.FavouritesBlock.resize(600);
+  Edit::Clipboard clipboard = Edit::CopyChannels(state, {3, 5});
+  const auto add = [&](const char* name, int paste, int spoilt) {
+    const Base::Bytes file = Edit::EncodeRecovery(state, clipboard, {2, 1, 0});
+    const std::string_view behind = Base::AsText(file).substr(RecoveryHeader + RecoveryTables);
+    seeds.Add("recovery", name, Bytes({paste, spoilt}).append(behind));
+  };
+  add("copied", 0, 255);
+  add("damaged", 0, 25);
+  Edit::CutChannels(state, {3, 5}, clipboard);
+  add("cut", 130, 255);
+  state.ListNumber = 7;
+  add("another-list", 0, 255);
+}
+
+// A satellite, a separator, the number of choices and those, then the list.
+void AddForeign(Seeds& seeds, const std::string& samples) {
+  const std::string list = Sample(samples + "/demo.csv").substr(0, 1500);
+  const std::string columns =
+      "Uno       11766 V 27500 3/4 0200\nDue       12500 H 22000 5/6 1FFF\nTre       10992 H 27500 2/3 "
+      "00A0\n";
+  seeds.Add("foreign_list", "sample", Bytes({0, 1, 0}) + list);
+  seeds.Add("foreign_list", "changed", Bytes({1, 5, 9, 1, 1, 3, 10, 12, 6, 0, 1, 1}) + list);
+  seeds.Add("foreign_list", "columns", Bytes({2, 4, 0}) + columns);
+  seeds.Add("foreign_list", "quotes",
+            Bytes({3, 2, 0}) + "\"Uno; \"\"1\"\"\";\"11,766\";V;0x1F\n\"Due;12.5;H;$20\n");
+  seeds.Add("foreign_list", "utf-16",
+            Bytes({0, 0, 0, 0xFF, 0xFE, 'a', 0, '\t', 0, '1', 0, '\n', 0, 0xAC, 0x20}));
+}
+
 // Behind the choices, the satellite and the transponders.
 void AddSatcodx(Seeds& seeds) {
   const std::string list = Samples::DemoSdx().substr(0, 20 * 129);
@@ -142,11 +177,6 @@ void AddSatcodx(Seeds& seeds) {
   std::string download = list;
   std::erase(download, '\n');
   seeds.Add("satcodx", "download", Bytes({0, 0, 20}) + download);
-}
-
-std::string Sample(const std::string& path) {
-  const auto bytes = Base::ReadFile(path, 1U << 20U);
-  return bytes ? std::string(Base::AsText(*bytes)) : std::string();
 }
 
 void AddSupportFiles(Seeds& seeds, const std::string& samples) {
@@ -171,6 +201,8 @@ int main(int argc, char** argv) {
   Seeds seeds(argv[2]);
   AddImages(seeds);
   AddExchangeFiles(seeds);
+  AddRecovery(seeds);
+  AddForeign(seeds, argv[1]);
   AddSatcodx(seeds);
   AddSupportFiles(seeds, argv[1]);
   if (!seeds.Failure().empty()) std::fprintf(stderr, "%s\n", seeds.Failure().c_str());
