@@ -96,7 +96,7 @@ void AddImages(Seeds& seeds) {
 State ShortList() {
   State state = *DemoList();
   state.ChannelCount = state.MaxChannels = 25;
-  state.TransponderCount = 9;
+  state.TransponderCount = 14;
   return state;
 }
 
@@ -145,10 +145,10 @@ void AddRecovery(Seeds& seeds) {
     const std::string_view behind = Base::AsText(file).substr(RecoveryHeader + RecoveryTables);
     seeds.Add("recovery", name, Bytes({paste, spoilt}).append(behind));
   };
-  add("copied", 0, 255);
+  add("copied", 140, 255);
   add("damaged", 0, 25);
   Edit::CutChannels(state, {3, 5}, clipboard);
-  add("cut", 130, 255);
+  add("cut", 10, 255);
   state.ListNumber = 7;
   add("another-list", 0, 255);
 }

@@ -31,7 +31,7 @@ void CheckRecovery(const Recovery& recovery) {
 void GoOn(Recovery& recovery, std::size_t choice) {
   State& state = recovery.state;
   static_cast<void>(HoldsCutChannels(recovery.clipboard, state));
-  const int position = static_cast<int>(choice % 64) * 63 + 1;
+  const int position = 1 + static_cast<int>(choice % 64) * state.ChannelCount / 64;
   const PasteWay way = choice < 128 ? PasteWay::Move : PasteWay::Overwrite;
   const int last = Routines::LastUsedChannel(state);
   const auto pasted = Paste(state, recovery.clipboard, position, way, Bouquets());
