@@ -20,8 +20,10 @@ TransponderRecord TransponderOf(const State& state, const ChannelRecord& channel
 bool LinkTransponder(State& state, ChannelRecord& channel, const Clipboard& clipboard,
                      TransponderRecord transponder, const BouquetTables& bouquets) {
   if (IsFree(transponder)) return true;
+  // A byte has room for one number more than the table.
   const std::uint32_t number = Get(channel, ChannelField::Transponder);
-  if (clipboard.listNumber == state.ListNumber && !IsFree(state.TransponderTable[number].record)) return true;
+  const bool isSlot = number <= LastTransponderSlot && !IsFree(state.TransponderTable[number].record);
+  if (clipboard.listNumber == state.ListNumber && isSlot) return true;
   const auto code = RecodedRate(clipboard.symbolRates, state.SymbolRateTable,
                                 Get(transponder, TransponderField::SymbolRate));
   Set(transponder, TransponderField::SymbolRate, static_cast<std::uint32_t>(code));

@@ -16,6 +16,7 @@ using Routines::TransponderRow;
 
 constexpr std::string_view Magic = "TROVALIS RECUPERO 1\r\n";
 constexpr std::size_t NumberSize = 4;
+constexpr int MostCuts = 1 << 30;  // leaves room to count on
 constexpr std::size_t HeaderSize = Magic.size() + 2 * NumberSize;
 
 void AppendNumber(Base::Bytes& bytes, std::uint32_t value) {
@@ -204,6 +205,7 @@ void Confine(Recovery& recovery) {
   state.MaxChannels = std::clamp(state.MaxChannels, 0, Routines::LastChannelSlot);
   state.ChannelCount = std::clamp(state.ChannelCount, 0, Routines::LastChannelSlot);
   state.TransponderCount = std::clamp(state.TransponderCount, 0, Routines::LastTransponderSlot);
+  state.CutNumber = std::clamp(state.CutNumber, 0, MostCuts);
   if (state.FavouritesBlock.size() > Routines::SectorSize) state.FavouritesBlock.resize(Routines::SectorSize);
   Confine(state.SymbolRateTable);
   Confine(recovery.clipboard);

@@ -3,21 +3,25 @@
 #include "base/file.h"
 #include "base/text.h"
 
-#include <array>
+#include <algorithm>
 
 namespace Support {
 namespace {
 
 constexpr std::size_t SizeLimit = 1U << 20U;
-using Folders = std::array<std::string, 3>;
 
 std::string PathIn(const std::string& programFolder) { return programFolder + "/POS.ini"; }
 
 Folders ReadFolders(const std::string& programFolder) {
-  Folders folders;
   const auto bytes = Base::ReadFile(PathIn(programFolder), SizeLimit);
-  if (!bytes) return folders;
-  const auto lines = Base::Lines(Base::AsText(*bytes));
+  return bytes ? FoldersOf(Base::AsText(*bytes)) : Folders{};
+}
+
+}  // namespace
+
+Folders FoldersOf(std::string_view text) {
+  Folders folders;
+  const auto lines = Base::Lines(text);
   if (lines.size() < folders.size()) return folders;
   for (std::size_t i = 0; i < folders.size(); ++i) {
     folders[i] = Base::TrimmedRight(lines[i].substr(std::min<std::size_t>(2, lines[i].size())));
@@ -25,7 +29,18 @@ Folders ReadFolders(const std::string& programFolder) {
   return folders;
 }
 
-}  // namespace
+void SetFolderOf(Folders& folders, FolderKind kind, const std::string& path) {
+  const std::size_t separator = path.find_last_of("/\\");
+  // A line end inside a folder's name would push the other folders off their lines.
+  if (separator == std::string::npos || path.find_first_of("\r\n") < separator) return;
+  folders[static_cast<std::size_t>(kind)] = path.substr(0, separator);
+}
+
+std::string PosIniOf(const Folders& folders) {
+  std::string text;
+  for (std::size_t i = 0; i < folders.size(); ++i) text += std::to_string(i) + ":" + folders[i] + "\r\n";
+  return text;
+}
 
 std::string RememberedFolder(const std::string& programFolder, FolderKind kind) {
   return ReadFolders(programFolder)[static_cast<std::size_t>(kind)];
@@ -33,15 +48,9 @@ std::string RememberedFolder(const std::string& programFolder, FolderKind kind) 
 
 void RememberFolderOf(const std::string& programFolder, FolderKind kind, const std::string& path) {
   Folders folders = ReadFolders(programFolder);
-  const std::size_t separator = path.find_last_of("/\\");
-  // A line end inside a folder's name would push the other folders off their lines.
-  if (separator != std::string::npos && path.find_first_of("\r\n") >= separator) {
-    folders[static_cast<std::size_t>(kind)] = path.substr(0, separator);
-  }
-  std::string text;
-  for (std::size_t i = 0; i < folders.size(); ++i) text += std::to_string(i) + ":" + folders[i] + "\r\n";
+  SetFolderOf(folders, kind, path);
   // Nothing to be done where it cannot be written: the next dialog opens in its default folder.
-  static_cast<void>(Base::ReplaceFile(PathIn(programFolder), Base::AsBytes(text)));
+  static_cast<void>(Base::ReplaceFile(PathIn(programFolder), Base::AsBytes(PosIniOf(folders))));
 }
 
 }  // namespace Support

@@ -3,16 +3,29 @@
 // concern.
 #pragma once
 
+#include <array>
 #include <string>
+#include <string_view>
 
 namespace Support {
 
 enum class FolderKind { Input = 0, Foreign = 1, Output = 2 };
 
+// The folders that a file's text gives, by kind; fewer than three lines give none.
+using Folders = std::array<std::string, 3>;
+Folders FoldersOf(std::string_view text);
+
+// Puts the folder of a chosen file, the path before its last separator, in the place of the one of its kind. A path
+// without a folder, or with a line end in it, changes nothing.
+void SetFolderOf(Folders& folders, FolderKind kind, const std::string& path);
+
+// The text of the file that holds them.
+std::string PosIniOf(const Folders& folders);
+
 // The remembered folder, as bytes of the file system; empty where there is none.
 std::string RememberedFolder(const std::string& programFolder, FolderKind kind);
 
-// Remembers the folder of a chosen file: the path before its last separator.
+// Remembers the folder of a chosen file.
 void RememberFolderOf(const std::string& programFolder, FolderKind kind, const std::string& path);
 
 }  // namespace Support

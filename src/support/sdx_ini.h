@@ -4,9 +4,13 @@
 #include "base/result.h"
 
 #include <string>
+#include <string_view>
 #include <vector>
 
 namespace Support {
+
+// The lines of a file's text.
+std::vector<std::string> AddressesOf(std::string_view text);
 
 // The lines of SDX.INI of the program's folder, as bytes of the code page; an error with the sentence to show where
 // the file is not there.
