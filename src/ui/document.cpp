@@ -21,7 +21,7 @@ bool Document::Unsaved() const {
   if (!state_->Loaded) return false;
   const auto found = saved_.find(state_->ListNumber);
   if (found == saved_.end()) return true;
-  const State& saved = *found->second;
+  const State& saved = *found->second.state;
   const auto sameRecord = [](const auto& one, const auto& other) { return one.record == other.record; };
   return state_->ChannelTable != saved.ChannelTable || state_->TransponderCount != saved.TransponderCount ||
          state_->FavouritesBlock != saved.FavouritesBlock ||
@@ -37,10 +37,14 @@ void Document::Redo() {
   if (history_.Redo(*state_)) Tell();
 }
 
-void Document::MarkSaved() {
-  saved_[state_->ListNumber] = std::make_unique<State>(*state_);
+void Document::MarkSaved(const std::string& path) {
+  saved_[state_->ListNumber] = {path, std::make_unique<State>(*state_)};
   if (saved_.size() > MostSavedLists) saved_.erase(saved_.begin());
   Tell();
+}
+
+void Document::ForgetSaved(const std::string& path) {
+  std::erase_if(saved_, [&path](const auto& entry) { return entry.second.path == path; });
 }
 
 void Document::MarkUnsaved() {

@@ -53,8 +53,10 @@ class Document : public QObject {
 
   // Whether the tables hold anything that no flash image gives back.
   [[nodiscard]] bool Unsaved() const;
-  // The tables are as an image on the disk has them.
-  void MarkSaved();
+  // The tables are as the image at `path` has them.
+  void MarkSaved(const std::string& path);
+  // That image has been written over: what it had before is saved no longer.
+  void ForgetSaved(const std::string& path);
   // No image on the disk has them whole, however little was changed.
   void MarkUnsaved();
 
@@ -65,7 +67,11 @@ class Document : public QObject {
   void Tell();
 
   std::unique_ptr<Routines::State> state_;
-  std::map<int, std::unique_ptr<Routines::State>> saved_;  // of each list, by number, what the disk has
+  struct Saved {
+    std::string path;
+    std::unique_ptr<Routines::State> state;
+  };
+  std::map<int, Saved> saved_;  // of each list, by number, what the disk has
   Edit::History history_;
   int lastListNumber_ = 0;
   int revision_ = 0;

@@ -105,7 +105,7 @@ void ExchangeCommands::FormatoFLASH() {
         return Base::Done{};
       },
       Edit::History::Kind::List);
-  document.MarkSaved();
+  document.MarkSaved(document.Tables().InputFlash);
   session_.status.ShowResult("Esportato " + PathText(Base::FileName(path)) + "; ricaricata la flash " +
                              PathText(Base::FileName(flash)));
 }

@@ -97,7 +97,7 @@ void FileCommands::Load(const std::string& path, const Base::Bytes& image, int a
         return loaded;
       },
       Edit::History::Kind::List);
-  if (!appended) document.MarkSaved();
+  if (!appended) document.MarkSaved(path);
   session_.status.ShowProgress(100);
   session_.view.ShowFromStart(View::Channels);
   for (const std::string& message : report.messages) session_.dialogs.Message(Text(message), {});
@@ -185,8 +185,9 @@ void FileCommands::TellWritten(const std::string& path, const Routines::PatchedF
     state.OutputFlash = path;
     state.MaxChannels = 0;
   });
+  document.ForgetSaved(path);
   if (unwritten.Nothing()) {
-    document.MarkSaved();
+    document.MarkSaved(path);
   } else {
     document.MarkUnsaved();
   }

@@ -2,6 +2,10 @@
 
 #include "base/file.h"
 
+#include <QDateTime>
+#include <QFile>
+#include <QFileInfo>
+
 #include <filesystem>
 
 namespace Ui {
@@ -19,9 +23,26 @@ bool Exists(const std::string& path) {
   return std::filesystem::exists(path, error);
 }
 
-void SetAside(const std::string& path, const std::string& ending) {
+// Beside what was set aside before, as far as a few names go. Returns the name it has now, empty where it stayed.
+std::string SetAside(const std::string& path, const std::string& ending) {
+  constexpr int MostSetAside = 9;
+  std::string aside = path + ending;
+  for (int number = 2; Exists(aside) && number <= MostSetAside; ++number)
+    aside = path + ending + std::to_string(number);
   std::error_code error;
-  std::filesystem::rename(path, path + ending, error);
+  std::filesystem::rename(path, aside, error);
+  return error ? std::string() : aside;
+}
+
+// A lock that names no program is what a power cut has left of one, unless its program is just about to write it.
+void RemoveBrokenLock(QLockFile& lock) {
+  constexpr int Seconds = 10;
+  qint64 program = 0;
+  QString host;
+  QString name;
+  const QFileInfo file(lock.fileName());
+  const bool old = file.lastModified().secsTo(QDateTime::currentDateTime()) > Seconds;
+  if (old && !lock.getLockInfo(&program, &host, &name)) QFile::remove(lock.fileName());
 }
 
 }  // namespace
@@ -43,6 +64,7 @@ std::string KeptWork::PathOf(int number) const {
 std::optional<KeptWork::Place> KeptWork::Claim(int number) const {
   auto lock = std::make_unique<QLockFile>(PathText(PathOf(number)) + ".lock");
   lock->setStaleLockTime(0);  // only the end of its program makes a lock stale
+  RemoveBrokenLock(*lock);
   if (!lock->tryLock(0) && lock->error() == QLockFile::LockFailedError) return std::nullopt;
   // Where the folder takes no lock the file is tried all the same: its error is the one to tell.
   return Place{PathOf(number), std::move(lock)};
@@ -71,9 +93,10 @@ bool KeptWork::Take(const std::string& path) {
   const auto bytes = Base::ReadFile(path, LargestFile);
   auto recovery = bytes ? Edit::DecodeRecovery(*bytes) : bytes.error();
   if (!recovery) {
-    SetAside(path, Damaged);
-    session_.status.ShowResult(Text(recovery.error().message) + ", messo da parte come " +
-                               PathText(Base::FileName(path) + Damaged));
+    const std::string aside = SetAside(path, Damaged);
+    session_.status.ShowResult(Text(recovery.error().message) +
+                               (aside.empty() ? QString(", non si può mettere da parte")
+                                              : ", messo da parte come " + PathText(Base::FileName(aside))));
     return false;
   }
   if (!session_.dialogs.YesNo(
