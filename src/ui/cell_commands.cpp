@@ -5,7 +5,6 @@
 namespace Ui {
 
 using Routines::State;
-using Routines::ChannelColumn::Active;
 using Routines::ChannelColumn::Flags;
 using Routines::ChannelColumn::Name;
 

@@ -24,7 +24,7 @@ class Page : public QTextBrowser {
  protected:
   QVariant loadResource(int type, const QUrl& name) override {
     constexpr int Widest = 640;
-    const QVariant content = QTextBrowser::loadResource(type, name);
+    QVariant content = QTextBrowser::loadResource(type, name);
     if (type != QTextDocument::ImageResource) return content;
     QImage picture = QImage::fromData(content.toByteArray());
     const int width = qRound(Widest * devicePixelRatioF());
