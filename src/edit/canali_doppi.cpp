@@ -5,6 +5,7 @@
 
 #include <numeric>
 #include <optional>
+#include <set>
 #include <string>
 #include <utility>
 
@@ -52,15 +53,56 @@ std::optional<std::uint64_t> ServiceKey(const TransponderRecord& transponder, co
   return number << 56U | satellite << 48U | network << 16U | sid;
 }
 
+std::uint64_t StreamOf(std::uint32_t pid) { return pid == AbsentPid ? 0 : pid; }
+
 // Without a SID and any stream there is nothing that two channels could have in common.
 std::optional<std::uint64_t> StreamsKey(const ChannelRecord& channel) {
   const std::uint64_t sid = Get(channel, ChannelField::Sid);
-  const std::uint64_t vpid = Get(channel, ChannelField::Vpid);
-  const std::uint64_t apid = Get(channel, ChannelField::Apid);
+  const std::uint64_t vpid = StreamOf(Get(channel, ChannelField::Vpid));
+  const std::uint64_t apid = StreamOf(Get(channel, ChannelField::Apid));
   if (sid == 0 && KindOf(channel) == ChannelKind::Service) return std::nullopt;
   const std::uint64_t number = Get(channel, ChannelField::Transponder);
   return number << 48U | sid << 32U | vpid << 16U | apid;
 }
+
+// What a channel is known by under the rules.
+struct Keys {
+  std::optional<std::uint64_t> service;
+  std::optional<std::uint64_t> streams;
+  std::optional<std::string> name;
+};
+
+Keys KeysOf(const State& state, int slot, const DuplicateRules& rules) {
+  Keys keys;
+  const ChannelRecord& channel = state.ChannelTable[At(slot)];
+  const TransponderRecord* transponder = channel.Empty() ? nullptr : TransponderOf(state, channel);
+  if (transponder == nullptr) return keys;
+  if (rules.service) keys.service = ServiceKey(*transponder, channel);
+  if (rules.streams) keys.streams = StreamsKey(channel);
+  if (!rules.name) return keys;
+  std::string name = UpperCase(Base::Trimmed(channel.Name()));
+  if (!name.empty()) keys.name = std::move(name);
+  return keys;
+}
+
+// The keys of the channels of a group that stay.
+class KeptKeys {
+ public:
+  [[nodiscard]] bool HasAnyOf(const Keys& keys) const {
+    return (keys.service && services_.contains(*keys.service)) ||
+           (keys.streams && streams_.contains(*keys.streams)) || (keys.name && names_.contains(*keys.name));
+  }
+  void Add(const Keys& keys) {
+    if (keys.service) services_.insert(*keys.service);
+    if (keys.streams) streams_.insert(*keys.streams);
+    if (keys.name) names_.insert(*keys.name);
+  }
+
+ private:
+  std::set<std::uint64_t> services_;
+  std::set<std::uint64_t> streams_;
+  std::set<std::string> names_;
+};
 
 template <class Key>
 using Keyed = std::vector<std::pair<Key, int>>;
@@ -81,16 +123,10 @@ std::vector<std::vector<int>> CanaliDoppi(const State& state, const DuplicateRul
   Keyed<std::uint64_t> streams;
   Keyed<std::string> names;
   for (int slot = 1; slot <= state.ChannelCount; ++slot) {
-    const ChannelRecord& channel = state.ChannelTable[At(slot)];
-    const TransponderRecord* transponder = channel.Empty() ? nullptr : TransponderOf(state, channel);
-    if (transponder == nullptr) continue;
-    const auto service = ServiceKey(*transponder, channel);
-    if (rules.service && service) services.push_back({*service, slot});
-    const auto stream = StreamsKey(channel);
-    if (rules.streams && stream) streams.push_back({*stream, slot});
-    if (!rules.name) continue;
-    const std::string name = UpperCase(Base::Trimmed(channel.Name()));
-    if (!name.empty()) names.push_back({name, slot});
+    const Keys keys = KeysOf(state, slot, rules);
+    if (keys.service) services.push_back({*keys.service, slot});
+    if (keys.streams) streams.push_back({*keys.streams, slot});
+    if (keys.name) names.push_back({*keys.name, slot});
   }
   Groups groups;
   JoinEqual(groups, std::move(services));
@@ -101,6 +137,23 @@ std::vector<std::vector<int>> CanaliDoppi(const State& state, const DuplicateRul
   for (int slot = 1; slot <= state.ChannelCount; ++slot) members[At(groups.First(slot))].push_back(slot);
   std::erase_if(members, [](const std::vector<int>& group) { return group.size() < 2; });
   return members;
+}
+
+std::vector<int> Surplus(const State& state, const DuplicateRules& rules,
+                         const std::vector<std::vector<int>>& groups) {
+  std::vector<int> surplus;
+  for (const auto& group : groups) {
+    KeptKeys kept;
+    for (const int slot : group) {
+      const Keys keys = KeysOf(state, slot, rules);
+      if (kept.HasAnyOf(keys)) {
+        surplus.push_back(slot);
+      } else {
+        kept.Add(keys);
+      }
+    }
+  }
+  return surplus;
 }
 
 }  // namespace Edit

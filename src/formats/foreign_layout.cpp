@@ -256,6 +256,33 @@ bool LooksHexadecimal(const Cells& cells) {
   return cells.Count(OnlyHexadecimal) > 0 && cells.Mostly(isHex);
 }
 
+// Whether a column begins within a word of a line; titles may reach beyond their column.
+bool CutWords(const std::vector<std::size_t>& starts, const ForeignSample& sample) {
+  const auto cuts = [&starts](std::string_view line) {
+    return std::any_of(starts.begin(), starts.end(), [line](std::size_t at) {
+      return at > 0 && at < line.size() && line[at - 1] != ' ' && line[at] != ' ';
+    });
+  };
+  return sample.size() > 1 && std::any_of(sample.begin() + 1, sample.end(), cuts);
+}
+
+bool SameTitles(const ForeignLayout& one, const ForeignLayout& other) {
+  const auto titles = [](const ForeignLayout& of) {
+    std::multiset<std::string> all;
+    for (const ForeignColumn& column : of.columns) all.insert(column.title);
+    return all;
+  };
+  return titles(one) == titles(other);
+}
+
+// Whether a column's title names something else than what the column is taken for.
+bool TitlesDeny(const ForeignLayout& layout) {
+  return std::any_of(layout.columns.begin(), layout.columns.end(), [](const ForeignColumn& column) {
+    const Meaning named = MeaningOfTitle(column.title);
+    return named != Meaning::None && column.meaning != Meaning::None && named != column.meaning;
+  });
+}
+
 }  // namespace
 
 bool ForeignLayout::Has(Meaning meaning) const {
@@ -367,14 +394,21 @@ void GuessColumns(ForeignLayout& layout, const ForeignSample& sample) {
 
 std::optional<ForeignLayout> Reapplied(const ForeignLayout& earlier, const ForeignSample& sample) {
   ForeignLayout layout = earlier;
-  if (ColumnCount(RowsOf(layout, sample)) != earlier.columns.size()) return std::nullopt;
+  if (layout.separator == Separator::Columns) {
+    // Fixed places divide any text into as many columns: whether they are this file's, only its own look tells.
+    const ForeignLayout own = GuessForeign(sample);
+    if (own.separator != Separator::Columns || own.starts.size() != layout.starts.size()) return std::nullopt;
+    if (CutWords(layout.starts, sample)) layout.starts = own.starts;
+  }
+  const Rows rows = RowsOf(layout, sample);
+  if (ColumnCount(rows) != earlier.columns.size()) return std::nullopt;
   TakeTitles(layout, sample);
-  const auto titles = [](const ForeignLayout& of) {
-    std::multiset<std::string> all;
-    for (const ForeignColumn& column : of.columns) all.insert(column.title);
-    return all;
-  };
-  if (!layout.header || titles(layout) != titles(earlier)) return layout;
+  if (!earlier.header || !SameTitles(layout, earlier)) {
+    layout.header = LooksLikeHeader(rows);
+    TakeTitles(layout, sample);
+    if (TitlesDeny(layout)) return std::nullopt;
+    return layout;
+  }
   std::vector<ForeignColumn> left = earlier.columns;
   for (ForeignColumn& column : layout.columns) {
     const auto same = std::find_if(left.begin(), left.end(), [&column](const ForeignColumn& other) {

@@ -76,8 +76,8 @@ void GuessColumns(ForeignLayout& layout, const ForeignSample& sample);
 // The titles of the columns, from the first line where it is the header.
 void TakeTitles(ForeignLayout& layout, const ForeignSample& sample);
 
-// A layout chosen for another file, where it has as many columns in this one; columns are found by their titles where
-// both files have the same ones, else by place.
+// A layout chosen for another file, where this one is divided in the same way into as many columns; columns are found by
+// their titles where both files have the same ones, else by place. None where titles here name other columns.
 std::optional<ForeignLayout> Reapplied(const ForeignLayout& earlier, const ForeignSample& sample);
 
 }  // namespace Formats

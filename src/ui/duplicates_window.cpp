@@ -15,7 +15,7 @@
 #include <QTreeWidget>
 #include <QVBoxLayout>
 
-#include <map>
+#include <algorithm>
 
 namespace Ui {
 
@@ -135,8 +135,8 @@ QWidget* FinestraCanaliDoppi::Buttons() {
   };
   goTo_ = add("VaiAlDoppio", "Vai al canale", [this] { GoTo(tree_->currentItem()); });
   deleteChosen_ = add("EliminaScelti", "Elimina scelti", [this] { Delete(Chosen()); });
-  deleteOthers_ =
-      add("EliminaTranneIlPrimo", "Elimina tutti tranne il primo", [this] { Delete(AllButFirst()); });
+  deleteOthers_ = add("EliminaTranneIlPrimo", "Elimina tutti tranne il primo",
+                      [this] { Delete(Edit::Surplus(session_.document.Tables(), Rules(), groups_)); });
   row->addStretch();
   add("ChiudiDoppi", "Chiudi", [this] { close(); });
   return box;
@@ -159,10 +159,15 @@ void FinestraCanaliDoppi::SetUpTree() {
           [this](QTreeWidgetItem* item) { tree_->setCurrentItem(item, 0); });
 }
 
-// Ticks stay while the groups hold the same channels, wherever these have moved.
+Edit::DuplicateRules FinestraCanaliDoppi::Rules() const {
+  return {service_->isChecked(), streams_->isChecked(), name_->isChecked()};
+}
+
+// Ticks stay on channels that are unchanged, wherever these have moved.
 void FinestraCanaliDoppi::Refresh() {
   const State& state = session_.document.Tables();
-  groups_ = Edit::CanaliDoppi(state, {service_->isChecked(), streams_->isChecked(), name_->isChecked()});
+  const Rows earlier = RowsByChannel();
+  groups_ = Edit::CanaliDoppi(state, Rules());
   std::vector<std::vector<ChannelRecord>> channels;
   for (const auto& group : groups_) {
     auto& records = channels.emplace_back();
@@ -170,7 +175,10 @@ void FinestraCanaliDoppi::Refresh() {
   }
   const bool rebuild = channels != shown_;
   shown_ = std::move(channels);
-  if (rebuild) Rebuild();
+  if (rebuild) {
+    Rebuild();
+    Restore(earlier);
+  }
   FillTexts();
   for (int column = 0; rebuild && column + 1 < tree_->columnCount(); ++column) {
     tree_->resizeColumnToContents(column);
@@ -199,6 +207,42 @@ void FinestraCanaliDoppi::Rebuild() {
   }
   tree_->expandAll();
   if (!items.isEmpty()) tree_->setCurrentItem(items.front()->child(0));
+}
+
+FinestraCanaliDoppi::Rows FinestraCanaliDoppi::RowsByChannel() const {
+  Rows rows;
+  const QTreeWidgetItem* current = tree_->currentItem();
+  for (std::size_t i = 0; i < groups_.size(); ++i) {
+    QTreeWidgetItem& head = *tree_->topLevelItem(static_cast<int>(i));
+    for (std::size_t k = 0; k < groups_[i].size(); ++k) {
+      QTreeWidgetItem* item = head.child(static_cast<int>(k));
+      const bool isCurrent = item == current || (k == 0 && &head == current);
+      rows[shown_[i][k].bytes].push_back(
+          {item, groups_[i][k], item->checkState(0) == Qt::Checked, isCurrent});
+    }
+  }
+  return rows;
+}
+
+// The items of `earlier` are gone. Where the number of channels with the same bytes has changed their slots do not tell
+// them apart for sure: once one is gone ticks stay only if all had one, else one could pass to a channel that is to stay.
+void FinestraCanaliDoppi::Restore(const Rows& earlier) {
+  const QSignalBlocker quiet(tree_);
+  for (const auto& [bytes, rows] : RowsByChannel()) {
+    const auto found = earlier.find(bytes);
+    if (found == earlier.end()) continue;
+    const std::vector<Row>& old = found->second;
+    const auto isTicked = [](const Row& row) { return row.ticked; };
+    const bool fewer = rows.size() < old.size();
+    const bool allTicked = std::all_of(old.begin(), old.end(), isTicked);
+    for (std::size_t i = 0; i < rows.size(); ++i) {
+      const auto inSlot =
+          std::find_if(old.begin(), old.end(), [&](const Row& row) { return row.slot == rows[i].slot; });
+      const auto same = rows.size() == old.size() ? old.begin() + static_cast<std::ptrdiff_t>(i) : inSlot;
+      if (fewer ? allTicked : same != old.end() && same->ticked) rows[i].item->setCheckState(0, Qt::Checked);
+      if (same != old.end() && same->current) tree_->setCurrentItem(rows[i].item);
+    }
+  }
 }
 
 void FinestraCanaliDoppi::FillTexts() {
@@ -253,12 +297,6 @@ std::vector<int> FinestraCanaliDoppi::Chosen() const {
       if (head.child(static_cast<int>(k))->checkState(0) == Qt::Checked) slots.push_back(groups_[i][k]);
     }
   }
-  return slots;
-}
-
-std::vector<int> FinestraCanaliDoppi::AllButFirst() const {
-  std::vector<int> slots;
-  for (const auto& group : groups_) slots.insert(slots.end(), group.begin() + 1, group.end());
   return slots;
 }
 

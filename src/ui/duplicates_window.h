@@ -6,6 +6,8 @@
 
 #include <QDialog>
 
+#include <map>
+
 class QCheckBox;
 class QLabel;
 class QMainWindow;
@@ -29,13 +31,25 @@ class FinestraCanaliDoppi : public QDialog {
   QWidget* Buttons();
   void SetUpTree();
 
+  // A channel's row in the tree, and what the user did there.
+  struct Row {
+    QTreeWidgetItem* item;
+    int slot;
+    bool ticked;
+    bool current;
+  };
+  // Under the bytes of their channels. Channels of the same bytes are in one group.
+  using Rows = std::map<decltype(Routines::ChannelRecord::bytes), std::vector<Row>>;
+
+  [[nodiscard]] Edit::DuplicateRules Rules() const;
   void Refresh();
   void Rebuild();
+  [[nodiscard]] Rows RowsByChannel() const;
+  void Restore(const Rows& earlier);
   void FillTexts();
   void FillChannel(QTreeWidgetItem& item, int slot, const QString& favourites);
   void TellCounts();
   [[nodiscard]] std::vector<int> Chosen() const;
-  [[nodiscard]] std::vector<int> AllButFirst() const;
   void GoTo(const QTreeWidgetItem* item);
   void Delete(const std::vector<int>& slots);
 

@@ -27,7 +27,6 @@ void ForeignCommands::CaricaAggiuntiva() {
     session_.Message(image.error());
     return;
   }
-  Support::RememberFolderOf(session_.programFolder, FolderKind::Input, path);
   const auto rates = session_.LoadSymbolRates();
   if (!rates) return;
   Formats::FlashRows rows = Formats::ReadFlashRows(*image, rates->table, session_.bouquets.tables);

@@ -65,6 +65,7 @@ ImportazioneTesto::ImportazioneTesto(const QString& caption, const QString& file
   setObjectName("ImportazioneTesto");
   setWindowTitle(caption);
   const auto known = earlier ? Formats::Reapplied(*earlier, sample_) : std::nullopt;
+  chosen_ = known;
   layout_ = known ? *known : Formats::GuessForeign(sample_);
   QString recognised = QString("%1: testo %2, %3").arg(fileName, Text(text.encoding), Lines(text.lines));
   recognised += known ? ". Ha tante colonne quante l'ultimo file importato: valgono le stesse scelte."
@@ -150,16 +151,23 @@ void ImportazioneTesto::ConnectChoices() {
   connect(header_, &QCheckBox::toggled, this, [this](bool on) {
     layout_.header = on;
     Formats::TakeTitles(layout_, sample_);
+    chosen_ = layout_;
     ShowLayout();
   });
   connect(columns_, &ColumnHeader::Changed, this, [this] {
     layout_.columns = columns_->Columns();
+    chosen_ = layout_;
     ShowOutcome();
   });
 }
 
 void ImportazioneTesto::Divide() {
   Formats::GuessColumns(layout_, sample_);
+  if (chosen_ && chosen_->columns.size() == layout_.columns.size()) {
+    layout_.columns = chosen_->columns;
+    layout_.header = chosen_->header;
+    Formats::TakeTitles(layout_, sample_);
+  }
   ShowLayout();
 }
 

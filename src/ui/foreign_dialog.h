@@ -34,7 +34,7 @@ class ImportazioneTesto : public QDialog {
  private:
   void Build(const QString& recognised, const std::vector<Routines::Satellite>& satellites);
   void ConnectChoices();
-  // The lines are divided in another way: the columns are guessed anew.
+  // The lines are divided in another way: the columns are guessed anew, unless there are as many as the user chose for.
   void Divide();
   void ShowLayout();
   void ShowPreview();
@@ -45,6 +45,7 @@ class ImportazioneTesto : public QDialog {
   const Formats::ForeignText& text_;
   Formats::ForeignSample sample_;
   Formats::ForeignLayout layout_;
+  std::optional<Formats::ForeignLayout> chosen_;  // as the user's last choice for the columns left it
   Dialogs& dialogs_;
   QFormLayout* form_;
   QComboBox* separator_;

@@ -45,7 +45,7 @@ void PrintCommands::StampaSDX() {
     session_.dialogs.Message("Canali SDX non caricati", {});
     return;
   }
-  Print(pane_.Grid(), rows, WithSource("Stampa SDX", CodePageText(session_.sdx.satelliteName).trimmed()));
+  Print(pane_.Grid(), rows, WithSource("Stampa SDX", pane_.Name()));
 }
 
 // One selected row is where the user is, more of them may be what is to be printed.

@@ -29,6 +29,7 @@ SdxPane::SdxPane(const Formats::SdxTable& table, QWidget* parent)
 }
 
 void SdxPane::Refresh(const QString& name) {
+  name_ = name;
   model_.Refresh();
   grid_->ShowList(&model_);
   caption_->setText(name.isEmpty() ? QString("SDX") : "SDX: " + name);

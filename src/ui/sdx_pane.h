@@ -17,8 +17,9 @@ class SdxPane : public QWidget {
   SdxPane(const Formats::SdxTable& table, QWidget* parent);
 
   [[nodiscard]] Griglia& Grid() const { return *grid_; }
-  // The table holds other rows now; `name` is the file's satellite.
+  // The table holds other rows now; `name` is the file's satellite, or the file.
   void Refresh(const QString& name);
+  [[nodiscard]] const QString& Name() const { return name_; }
 
  Q_SIGNALS:
   // The user wants a row, from 1, in the channel list.
@@ -31,6 +32,7 @@ class SdxPane : public QWidget {
 
  private:
   SdxModel model_;
+  QString name_;
   QLabel* caption_;
   Griglia* grid_;
 };

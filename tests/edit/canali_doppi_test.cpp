@@ -64,5 +64,21 @@ TEST(CanaliDoppi, EachRuleFindsItsOwnAndGroupsThatShareAChannelAreOne) {
   EXPECT_EQ(found(true, true, true), Groups({{1, 2, 20}, {4, 6}, {7, 8}}));
 }
 
+TEST(CanaliDoppi, WhatIsLikeNoChannelThatStaysStays) {
+  State state;
+  state.ChannelCount = 5;
+  state.TransponderCount = 1;
+  state.TransponderTable[1].record = Samples::MakeTransponder(11000, true, 0, 1, 2, 1, 2);
+  state.ChannelTable[1] = Samples::MakeChannel("AAA", 1, 1, 10, 20);
+  state.ChannelTable[2] = Samples::MakeChannel("AAA", 1, 2, 11, 21);
+  state.ChannelTable[3] = Samples::MakeChannel("BBB", 1, 2, 12, 22);
+  state.ChannelTable[4] = Samples::MakeChannel("Radio", 1, 0, 0, 30);
+  state.ChannelTable[5] = Samples::MakeChannel("Radio 2", 1, 0, 65535, 30);
+  const DuplicateRules rules{true, true, true};
+  const Groups groups = CanaliDoppi(state, rules);
+  EXPECT_EQ(groups, Groups({{1, 2, 3}, {4, 5}}));
+  EXPECT_EQ(Surplus(state, rules, groups), (std::vector<int>{2, 5}));
+}
+
 }  // namespace
 }  // namespace Edit

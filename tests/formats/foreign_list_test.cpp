@@ -100,6 +100,15 @@ TEST(ForeignLayout, AChoiceHoldsForTheNextFileOfTheSameShape) {
   EXPECT_EQ(Reapplied(chosen, SampleOf("A,B,C\nUno,11766,5\n"))->columns[0].meaning, Meaning::Name)
       << "by place";
   EXPECT_FALSE(Reapplied(chosen, SampleOf("A,B\nUno,11766\n")));
+  EXPECT_FALSE(Reapplied(chosen, SampleOf("Freq,Nome,Y\n11766,Uno,5\n"))) << "titles that name other columns";
+  EXPECT_FALSE(Reapplied(chosen, SampleOf("Uno,11766,5\nDue,12092,6\n"))->header);
+
+  const ForeignLayout fixed = GuessForeign(SampleOf("Uno   11766 V\nDue   12092 H\nTre   11804 V\n"));
+  ASSERT_EQ(fixed.separator, Separator::Columns);
+  EXPECT_FALSE(Reapplied(fixed, SampleOf("Uno;11766;V\nDue;12092;H\nTre;11804;V\n")));
+  const auto wider = Reapplied(fixed, SampleOf("Quattro 11766 V\nCinque  12092 H\nSei     11804 V\n"));
+  ASSERT_TRUE(wider);
+  EXPECT_EQ(wider->starts, (std::vector<std::size_t>{0, 8, 14}));
 }
 
 TEST(ForeignFields, EachWayOfWriting) {

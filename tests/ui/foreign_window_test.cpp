@@ -66,6 +66,8 @@ TEST_F(Window, AListOfAnotherProgramIsSettledOnceAndRemembered) {
     column(4)->setCurrentText("SID");
     EXPECT_EQ(column(1)->currentText(), "—") << "a field stands in one column";
     box.findChild<QCheckBox*>("Esadecimale_4")->setChecked(true);
+    box.findChild<QCheckBox*>("Virgolette")->click();
+    EXPECT_EQ(column(4)->currentText(), "SID") << "as many columns, the same choices";
     EXPECT_TRUE(box.findChild<QLabel*>("Esito")->text().startsWith(
         "2 righe su 3 darebbero canali; le altre: frequenza non valida 1."));
     driver_->ExpectMessage("Si deve specificare il codice da assegnare al satellite");

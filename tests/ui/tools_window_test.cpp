@@ -68,6 +68,13 @@ TEST_F(Duplicates, TheGroupsFollowEveryChangeAndTicksTheirChannels) {
   EXPECT_EQ(Counts(), "3 gruppi, 6 canali, 0 scelti");
   driver_->Choose("Annulla");
   ASSERT_EQ(Row(2, 1).text(0), "0022");
+  Row(2, 1).setCheckState(0, Qt::Checked);
+  tree_->setCurrentItem(&Row(2, 1));
+  driver_->SelectRows(2, 2);
+  ASSERT_TRUE(driver_->Press("Toolbar1_Delete"));
+  EXPECT_EQ(Counts(), "2 gruppi, 4 canali, 1 scelto") << "another group went away";
+  EXPECT_EQ(Row(1, 1).checkState(0), Qt::Checked);
+  EXPECT_EQ(tree_->currentItem(), &Row(1, 1));
 
   Open(flash_);
   EXPECT_EQ(Counts(), "Nessun canale doppio");
