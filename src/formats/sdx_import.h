@@ -11,6 +11,7 @@ class SdxImport {
   // Works on `state`, whose symbol-rate table gives the rates their codes.
   SdxImport(Routines::State& state, const Routines::BouquetTables& bouquets)
       : state_(state), bouquets_(bouquets) {}
+  SdxImport(Routines::State& state, Routines::BouquetTables&& bouquets) = delete;  // they must stay
 
   // Puts a row into a slot of the channel table in the place of what is there. `position` is the row's number in the
   // SDX table, from 1, for messages. A row of frequency 0 empties the slot.

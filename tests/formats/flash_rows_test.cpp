@@ -61,7 +61,8 @@ TEST(FlashRows, CarriedOverTheyAreTheChannelsOfTheirFlash) {
   list->SymbolRateTable = Rates();
   list->ChannelCount = 3;
   list->TransponderCount = 3;
-  SdxImport import(*list, {});
+  const Routines::BouquetTables bouquets;
+  SdxImport import(*list, bouquets);
   for (int i = 0; i < 3; ++i) import.Put(rows.table.rows[static_cast<std::size_t>(i)], i + 1, i + 1);
   const std::size_t from[] = {0, 1, 5};
   const std::size_t on[] = {0, 1, 3};
