@@ -80,7 +80,7 @@ TEST(FlashRows, CarriedOverTheyAreTheChannelsOfTheirFlash) {
   other->TransponderTable = {};
   PlaceUsualRates(other->SymbolRateTable, Sr22000::Come0);
   SetSymbolRate(other->SymbolRateTable, 9, "30000");
-  SdxImport recoded(*other, {});
+  SdxImport recoded(*other, bouquets);
   recoded.Put(rows.table.rows[0], 1, 1);
   EXPECT_EQ(Get(other->TransponderTable[1].record, TransponderField::SymbolRate), 1U)
       << "27500 where the list has it";
