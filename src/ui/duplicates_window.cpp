@@ -236,8 +236,9 @@ void FinestraCanaliDoppi::Restore(const Rows& earlier) {
     const bool fewer = rows.size() < old.size();
     const bool allTicked = std::all_of(old.begin(), old.end(), isTicked);
     for (std::size_t i = 0; i < rows.size(); ++i) {
+      const int slot = rows[i].slot;
       const auto inSlot =
-          std::find_if(old.begin(), old.end(), [&](const Row& row) { return row.slot == rows[i].slot; });
+          std::find_if(old.begin(), old.end(), [slot](const Row& row) { return row.slot == slot; });
       const auto same = rows.size() == old.size() ? old.begin() + static_cast<std::ptrdiff_t>(i) : inSlot;
       if (fewer ? allTicked : same != old.end() && same->ticked) rows[i].item->setCheckState(0, Qt::Checked);
       if (same != old.end() && same->current) tree_->setCurrentItem(rows[i].item);
