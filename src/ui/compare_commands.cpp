@@ -13,7 +13,9 @@ void CompareCommands::Confronta() {
   const std::string path = PathBytes(
       session_.dialogs.OpenFile({"Selezionare la flash da confrontare", FlashFilters, PathText(folder)}));
   if (path.empty()) return;
-  OtherFlash other(OtherFlash::Kind::Another, path);
+  const auto rates = session_.LoadSymbolRates();
+  if (!rates) return;
+  OtherFlash other(OtherFlash::Kind::Another, path, rates->table);
   if (const auto read = other.Read(session_); !read) {
     session_.Message(read.error());
     return;

@@ -9,7 +9,7 @@ namespace Ui {
 
 using Routines::State;
 
-Base::Outcome OtherFlash::Read(Session& session) {
+Base::Outcome OtherFlash::Read(const Session& session) {
   const State& mine = session.document.Tables();
   const bool output = OnDisk() && path_ == mine.OutputFlash;
   const auto image = Routines::ReadFlash(path_, output ? "Errore FLASH di Output" : "Errore FLASH di Input");
@@ -20,9 +20,8 @@ Base::Outcome OtherFlash::Read(Session& session) {
   const Routines::LoadReport report = Routines::LoadFlash(*list, *image, capacity, 0, {});
   channelsRead_ = report.channelsRead;
   channelsInImage_ = report.channelsInImage;
+  list->SymbolRateTable = symbolRates_;
   list_ = std::move(list);
-  if (OnDisk()) return Base::Done{};
-  if (const auto rates = session.LoadSymbolRates()) list_->SymbolRateTable = rates->table;
   return Base::Done{};
 }
 
@@ -38,7 +37,7 @@ int OtherFlash::Capacity(const Routines::Settings& settings, Base::ByteView imag
 
 QDateTime OtherFlash::Written() const { return QFileInfo(PathText(path_)).lastModified(); }
 
-void OtherFlash::Follow(Session& session) {
+void OtherFlash::Follow(const Session& session) {
   if (!OnDisk()) return;
   const std::string path = PathOnDisk(session.document.Tables());
   if (path == path_ && Written() == written_) return;

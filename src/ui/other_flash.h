@@ -14,16 +14,18 @@ class OtherFlash {
   // from.
   enum class Kind { Another, OnDisk };
 
-  OtherFlash(Kind kind, std::string path) : kind_(kind), path_(std::move(path)) {}
+  // `symbolRates` is the table that another flash is read by; the file on the disk has the list's own.
+  OtherFlash(Kind kind, std::string path, std::string symbolRates = {})
+      : kind_(kind), path_(std::move(path)), symbolRates_(std::move(symbolRates)) {}
 
   // Where a list is on the disk; empty where it is nowhere.
   static std::string PathOnDisk(const Routines::State& state) {
     return state.OutputFlash.empty() ? state.InputFlash : state.OutputFlash;
   }
 
-  Base::Outcome Read(Session& session);
+  Base::Outcome Read(const Session& session);
   // Reads the file on the disk again where it has been written to, or where the list is now in another one.
-  void Follow(Session& session);
+  void Follow(const Session& session);
 
   // The file on the disk is compared byte for byte, as a save would write it.
   Edit::Comparison Compare(const Session& session);
@@ -39,6 +41,7 @@ class OtherFlash {
 
   Kind kind_;
   std::string path_;
+  std::string symbolRates_;
   QDateTime written_;
   int channelsRead_ = 0;
   int channelsInImage_ = 0;
