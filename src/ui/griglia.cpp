@@ -51,10 +51,13 @@ Griglia::Griglia(QWidget* parent)
   frozen_->setFrameShape(NoFrame);
   frozen_->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
   frozen_->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+  frozen_->hide();
   connect(verticalScrollBar(), &QScrollBar::valueChanged, frozen_->verticalScrollBar(),
           &QScrollBar::setValue);
-  connect(frozen_->verticalScrollBar(), &QScrollBar::valueChanged, verticalScrollBar(),
-          &QScrollBar::setValue);
+  connect(frozen_->verticalScrollBar(), &QScrollBar::valueChanged, this, [this](int row) {
+    if (frozen_->isVisible()) verticalScrollBar()->setValue(row);
+  });
+  connect(horizontalScrollBar(), &QScrollBar::valueChanged, this, &Griglia::ShowFrozen);
   viewport()->stackUnder(frozen_);
 }
 
@@ -218,6 +221,17 @@ void Griglia::KeepWidth(int column, int width) {
   widths_[static_cast<std::size_t>(column)] = width;
   frozen_->setColumnWidth(0, columnWidth(0));
   PlaceFrozen();
+}
+
+// It stands over the grid only while the grid's own first column is out of view: the toolkit moves the picture of a
+// view that is scrolled, but paints every cell of one that something stands over.
+void Griglia::ShowFrozen(int sideways) {
+  if (frozen_->isHidden() == (sideways == 0)) return;
+  frozen_->setVisible(sideways != 0);
+  if (sideways == 0) return;
+  // Hidden, it had no rows to scroll by.
+  frozen_->doItemsLayout();
+  frozen_->verticalScrollBar()->setValue(verticalScrollBar()->value());
 }
 
 void Griglia::PlaceFrozen() {

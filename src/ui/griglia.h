@@ -54,6 +54,7 @@ class Griglia : public QTableView {
   void ShowDropLine(QPoint place);
   void FitColumns();
   void KeepWidth(int column, int width);
+  void ShowFrozen(int sideways);
   void PlaceFrozen();
 
   QTableView* frozen_;       // the first column, on the same model
