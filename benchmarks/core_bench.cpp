@@ -192,7 +192,7 @@ void SnapshotAndRestore(benchmark::State& run) {
   Edit::History history;
   const auto work = [&] {
     history.Push("Modifica", Edit::History::Kind::Edit, std::make_unique<State>(*state));
-    history.Undo(*state);
+    history.Undo(state);
   };
   RunBeside(run, 1.5, {work, CopyOf(*state)});
 }
