@@ -1,6 +1,7 @@
 #include "windows.h"
 
 #include "base/file.h"
+#include "support/pos_ini.h"
 #include "full_list.h"
 
 #include <QAbstractButton>
@@ -109,6 +110,8 @@ ListWindow::ListWindow(int channels) {
   }
   const std::string flash = folder + "/lista.dat";
   if (!Base::ReplaceFile(flash, Image(channels))) std::abort();
+  // As where the last flash came from the same folder.
+  Support::RememberFolderOf(folder, Support::FolderKind::Input, flash);
   window_ = std::make_unique<Ui::CopiaTCSTPT>(folder, std::make_unique<Answers>(Ui::PathText(flash)));
   window_->show();
   if (!window_->Start()) std::abort();
