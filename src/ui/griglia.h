@@ -60,7 +60,6 @@ class Griglia : public QTableView {
   QTableView* frozen_;       // the first column, on the same model
   QWidget* dropLine_;        // where dragged rows would land, across all columns
   std::vector<int> widths_;  // of the columns without the spare width
-  bool fitting_ = false;
 };
 
 }  // namespace Ui
