@@ -26,11 +26,10 @@ std::uint32_t SortKey(const State& state, const ChannelRecord& channel) {
          static_cast<std::uint32_t>(static_cast<unsigned char>(code[1])) << 8U | transponder;
 }
 
-// The slots of one sort key. In their order, as far as it is known, `first` is the first of them.
+// The slots of one sort key, in a ring that begins at `first`.
 struct Ring {
   std::vector<int> slots;
   std::size_t first = 0;
-  std::size_t turns = 0;  // that it has made since
 };
 
 // The order that a plain exchange sort leaves, equal ones included, without its n * n comparisons. Taken one channel
@@ -42,22 +41,25 @@ std::vector<int> ExchangeSorted(const std::vector<std::uint32_t>& keys, const st
   different.erase(std::unique(different.begin(), different.end()), different.end());
 
   std::vector<Ring> rings(different.size());
-  const auto settle = [](Ring& ring) {
-    if (!ring.slots.empty()) ring.first = (ring.first + ring.turns) % ring.slots.size();
-    ring.turns = 0;
+  std::vector<unsigned> turns(rings.size());  // that each has made and its `first` does not tell yet
+  const auto settled = [&](std::size_t place) -> Ring& {
+    Ring& ring = rings[place];
+    if (!ring.slots.empty()) ring.first = (ring.first + turns[place]) % ring.slots.size();
+    turns[place] = 0;
+    return ring;
   };
   for (std::size_t i = 0; i < keys.size(); ++i) {
-    const auto place = std::lower_bound(different.begin(), different.end(), keys[i]) - different.begin();
-    Ring& ring = rings[static_cast<std::size_t>(place)];
-    settle(ring);
+    const auto place = static_cast<std::size_t>(
+        std::lower_bound(different.begin(), different.end(), keys[i]) - different.begin());
+    Ring& ring = settled(place);
     ring.slots.insert(ring.slots.begin() + static_cast<std::ptrdiff_t>(ring.first), slots[i]);
     ++ring.first;
-    for (auto larger = rings.begin() + place + 1; larger != rings.end(); ++larger) ++larger->turns;
+    for (std::size_t larger = place + 1; larger < turns.size(); ++larger) ++turns[larger];
   }
 
   std::vector<int> sorted;
-  for (Ring& ring : rings) {
-    settle(ring);
+  for (std::size_t place = 0; place < rings.size(); ++place) {
+    const Ring& ring = settled(place);
     std::rotate_copy(ring.slots.begin(), ring.slots.begin() + static_cast<std::ptrdiff_t>(ring.first),
                      ring.slots.end(), std::back_inserter(sorted));
   }
