@@ -3,6 +3,7 @@
 
 #include <algorithm>
 #include <cstddef>
+#include <cstdint>
 #include <string>
 #include <string_view>
 
@@ -20,13 +21,26 @@ inline std::string_view Cut(std::string_view line, const Column& column) {
   return line.substr(std::min(column.first - 1, line.size()), column.width);
 }
 
-// Puts `text` into its column, cut or filled up with blanks to the width; the line grows as far as it must.
+// Puts `text` into its column of a line that has room for it, cut or filled up with blanks to the width.
+inline void Put(char* line, const Column& column, std::string_view text) {
+  char* const field = line + column.first - 1;
+  text = text.substr(0, column.width);
+  std::fill(std::copy(text.begin(), text.end(), field), field + column.width, ' ');
+}
+
+// Does so with the last digits of a number, zeros in front.
+inline void PutNumber(char* line, const Column& column, std::uint32_t value) {
+  char* const field = line + column.first - 1;
+  for (std::size_t digit = column.width; digit-- > 0; value /= 10) {
+    field[digit] = static_cast<char>('0' + value % 10);
+  }
+}
+
+// The line grows as far as it must.
 inline void Put(std::string& line, const Column& column, std::string_view text) {
   const std::size_t width = column.width == ToLineEnd ? text.size() : column.width;
   if (line.size() < column.first - 1 + width) line.resize(column.first - 1 + width, ' ');
-  std::string field(text.substr(0, width));
-  field.resize(width, ' ');
-  line.replace(column.first - 1, width, field);
+  Put(line.data(), {column.first, width}, text);
 }
 
 }  // namespace Base

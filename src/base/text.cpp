@@ -4,34 +4,10 @@
 
 namespace Base {
 
-std::string_view TrimmedLeft(std::string_view text) {
-  text.remove_prefix(std::min(text.find_first_not_of(' '), text.size()));
-  return text;
-}
-
-std::string_view TrimmedRight(std::string_view text) {
-  return text.substr(0, text.find_last_not_of(' ') + 1);
-}
-
-std::string_view Trimmed(std::string_view text) { return TrimmedRight(TrimmedLeft(text)); }
-
-std::string_view TakeLine(std::string_view& text) {
-  const std::size_t end = std::min(text.find('\n'), text.size());
-  std::string_view line = text.substr(0, end);
-  if (line.ends_with('\r')) line.remove_suffix(1);
-  text.remove_prefix(std::min(end + 1, text.size()));
-  return line;
-}
-
 std::vector<std::string_view> Lines(std::string_view text) {
   std::vector<std::string_view> lines;
   while (!text.empty()) lines.push_back(TakeLine(text));
   return lines;
-}
-
-std::string_view LeadingDigits(std::string_view text) {
-  text = TrimmedLeft(text);
-  return text.substr(0, text.find_first_not_of("0123456789"));
 }
 
 int LeadingNumber(std::string_view text) {

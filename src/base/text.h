@@ -1,6 +1,7 @@
 // The few text habits that every plain file of the program shares. Texts here are bytes of the code page.
 #pragma once
 
+#include <algorithm>
 #include <cstddef>
 #include <string>
 #include <string_view>
@@ -9,19 +10,35 @@
 namespace Base {
 
 // Blanks only: tabs and other white space belong to the text.
-std::string_view TrimmedLeft(std::string_view text);
-std::string_view TrimmedRight(std::string_view text);
-std::string_view Trimmed(std::string_view text);
+inline std::string_view TrimmedLeft(std::string_view text) {
+  text.remove_prefix(std::min(text.find_first_not_of(' '), text.size()));
+  return text;
+}
+inline std::string_view TrimmedRight(std::string_view text) {
+  return text.substr(0, text.find_last_not_of(' ') + 1);
+}
+inline std::string_view Trimmed(std::string_view text) { return TrimmedRight(TrimmedLeft(text)); }
 
 // Takes the line at the front off `text`, with its end: CR LF or LF alone. `text` must not be empty.
-std::string_view TakeLine(std::string_view& text);
+inline std::string_view TakeLine(std::string_view& text) {
+  const std::size_t end = std::min(text.find('\n'), text.size());
+  std::string_view line = text.substr(0, end);
+  if (line.ends_with('\r')) line.remove_suffix(1);
+  text.remove_prefix(std::min(end + 1, text.size()));
+  return line;
+}
 
 // Lines without their ends, CR LF or LF alone; what follows the last line end is a line only if it is not
 // empty.
 std::vector<std::string_view> Lines(std::string_view text);
 
 // The decimal digits at the front, blanks before them left out.
-std::string_view LeadingDigits(std::string_view text);
+inline std::string_view LeadingDigits(std::string_view text) {
+  text = TrimmedLeft(text);
+  std::size_t digits = 0;
+  while (digits < text.size() && text[digits] >= '0' && text[digits] <= '9') ++digits;
+  return text.substr(0, digits);
+}
 
 // Their value, 0 where there are none; a value above 65535 is 0, as it fits no field.
 int LeadingNumber(std::string_view text);

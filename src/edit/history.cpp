@@ -12,23 +12,23 @@ void History::Push(std::string label, Kind kind, std::unique_ptr<State> before) 
   done_ = steps_.size();
 }
 
-bool History::Undo(State& state) {
+bool History::Undo(std::unique_ptr<State>& state) {
   if (done_ == 0) return false;
   Exchange(steps_[--done_], state);
   return true;
 }
 
-bool History::Redo(State& state) {
+bool History::Redo(std::unique_ptr<State>& state) {
   if (done_ == steps_.size()) return false;
   Exchange(steps_[done_++], state);
   return true;
 }
 
-void History::Exchange(Step& step, State& state) {
-  std::swap(*step.other, state);
+void History::Exchange(Step& step, std::unique_ptr<State>& state) {
+  std::swap(step.other, state);
   if (step.kind == Kind::List) return;
-  state.MaxChannels = step.other->MaxChannels;
-  state.OutputFlash = step.other->OutputFlash;
+  state->MaxChannels = step.other->MaxChannels;
+  state->OutputFlash = step.other->OutputFlash;
 }
 
 }  // namespace Edit

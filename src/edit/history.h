@@ -25,9 +25,10 @@ class History {
   [[nodiscard]] std::string UndoLabel() const { return done_ == 0 ? "" : steps_[done_ - 1].label; }
   [[nodiscard]] std::string RedoLabel() const { return done_ == steps_.size() ? "" : steps_[done_].label; }
 
-  // Exchanges `state` with the other side of a step. False when there is none.
-  bool Undo(Routines::State& state);
-  bool Redo(Routines::State& state);
+  // Exchanges `state` with the other side of a step: the two values change hands, neither is copied. False when there
+  // is none.
+  bool Undo(std::unique_ptr<Routines::State>& state);
+  bool Redo(std::unique_ptr<Routines::State>& state);
 
  private:
   struct Step {
@@ -36,7 +37,7 @@ class History {
     std::unique_ptr<Routines::State> other;
   };
 
-  static void Exchange(Step& step, Routines::State& state);
+  static void Exchange(Step& step, std::unique_ptr<Routines::State>& state);
 
   std::deque<Step> steps_;
   std::size_t done_ = 0;  // steps from here on are taken back

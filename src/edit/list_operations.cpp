@@ -3,6 +3,8 @@
 #include "base/text.h"
 #include "edit/names.h"
 
+#include <algorithm>
+#include <iterator>
 #include <numeric>
 
 namespace Edit {
@@ -24,17 +26,44 @@ std::uint32_t SortKey(const State& state, const ChannelRecord& channel) {
          static_cast<std::uint32_t>(static_cast<unsigned char>(code[1])) << 8U | transponder;
 }
 
-struct Sorted {
-  std::uint32_t key;
-  int slot;
+// The slots of one sort key, in a ring that begins at `first`.
+struct Ring {
+  std::vector<int> slots;
+  std::size_t first = 0;
 };
 
-void ExchangeSort(std::vector<Sorted>& channels) {
-  for (std::size_t i = 0; i + 1 < channels.size(); ++i) {
-    for (std::size_t j = i + 1; j < channels.size(); ++j) {
-      if (channels[j].key < channels[i].key) std::swap(channels[i], channels[j]);
-    }
+// The order that a plain exchange sort leaves, equal ones included, without its n * n comparisons. Taken one channel
+// at a time, that sort puts each behind the others of its key; to make room, the first of every larger key moves
+// behind the last of its own. So each key is a ring, which a channel of a smaller key turns by one.
+std::vector<int> ExchangeSorted(const std::vector<std::uint32_t>& keys, const std::vector<int>& slots) {
+  std::vector<std::uint32_t> different = keys;
+  std::sort(different.begin(), different.end());
+  different.erase(std::unique(different.begin(), different.end()), different.end());
+
+  std::vector<Ring> rings(different.size());
+  std::vector<unsigned> turns(rings.size());  // that each has made and its `first` does not tell yet
+  const auto settled = [&](std::size_t place) -> Ring& {
+    Ring& ring = rings[place];
+    if (!ring.slots.empty()) ring.first = (ring.first + turns[place]) % ring.slots.size();
+    turns[place] = 0;
+    return ring;
+  };
+  for (std::size_t i = 0; i < keys.size(); ++i) {
+    const auto place = static_cast<std::size_t>(
+        std::lower_bound(different.begin(), different.end(), keys[i]) - different.begin());
+    Ring& ring = settled(place);
+    ring.slots.insert(ring.slots.begin() + static_cast<std::ptrdiff_t>(ring.first), slots[i]);
+    ++ring.first;
+    for (std::size_t larger = place + 1; larger < turns.size(); ++larger) ++turns[larger];
   }
+
+  std::vector<int> sorted;
+  for (std::size_t place = 0; place < rings.size(); ++place) {
+    const Ring& ring = settled(place);
+    std::rotate_copy(ring.slots.begin(), ring.slots.begin() + static_cast<std::ptrdiff_t>(ring.first),
+                     ring.slots.end(), std::back_inserter(sorted));
+  }
+  return sorted;
 }
 
 // An empty slot, or a channel whose name begins with five blanks.
@@ -112,22 +141,22 @@ void MoveChannels(State& state, Slots slots, int to) {
 
 std::vector<LostFavourite> OrdinaPerBouquet(State& state, int start) {
   const int last = LastOccupied(state);
-  std::vector<Sorted> channels;
+  std::vector<std::uint32_t> keys;
   std::vector<int> places;
   SlotMap map = SameSlots();
   for (int slot = start; slot <= last; ++slot) {
     const std::uint32_t key = SortKey(state, state.ChannelTable[At(slot)]);
     map[At(slot)] = 0;
     if (state.ChannelTable[At(slot)].Empty() || key == NoKey) continue;
-    channels.push_back({key, slot});
+    keys.push_back(key);
     places.push_back(slot);
   }
-  ExchangeSort(channels);
+  const std::vector<int> sorted = ExchangeSorted(keys, places);
 
   // What stands in each slot after the sort; the gaps are then closed over it.
   std::vector<int> order(At(last + 1));
   std::iota(order.begin(), order.end(), 0);
-  for (std::size_t i = 0; i < places.size(); ++i) order[At(places[i])] = channels[i].slot;
+  for (std::size_t i = 0; i < places.size(); ++i) order[At(places[i])] = sorted[i];
   int next = start;
   for (int slot = start; slot <= last; ++slot) {
     const int from = order[At(slot)];

@@ -50,6 +50,7 @@ class Loader {
   explicit Loader(const SdxOptions& options) : options_(options) {}
 
   SdxTable Run(std::string_view text) {
+    table_.rows.reserve(MostSdxRows);
     while (!text.empty()) {
       const std::string_view line = Base::TakeLine(text);
       // A download leaves every second line blank: those are no services that were dropped.
@@ -60,7 +61,7 @@ class Loader {
         table_.full = true;
         break;
       }
-      table_.rows.push_back(RowOf(line));
+      Fill(table_.rows.emplace_back(), line);
     }
     return std::move(table_);
   }
@@ -69,13 +70,13 @@ class Loader {
   bool Passes(std::string_view line) {
     // As texts, character by character: "5632 " passes and "05632" does not.
     if (Cut(line, SdxLine::SymbolRate) <= "17999") return Dropped(table_.droppedByRate);
-    const std::string_view type = Cut(line, SdxLine::Type);
-    const bool wanted = (type == "T" && options_.television) || (type == "R" && options_.radio) ||
-                        (type == "D" && options_.data);
+    const char type = Cut(line, SdxLine::Type).front();  // a line with a symbol rate has one
+    const bool wanted = (type == 'T' && options_.television) || (type == 'R' && options_.radio) ||
+                        (type == 'D' && options_.data);
     if (!wanted) return Dropped(table_.droppedByType);
-    if (type != "D") {
+    if (type != 'D') {
       if (Cut(line, SdxLine::Format) != "MPG2") return Dropped(table_.droppedByFormat);
-      if (Value(Cut(line, type == "T" ? SdxLine::Vpid : SdxLine::Apid)) == 0)
+      if (Value(Cut(line, type == 'T' ? SdxLine::Vpid : SdxLine::Apid)) == 0)
         return Dropped(table_.droppedByPid);
     }
     return PassesFilters(line);
@@ -100,11 +101,11 @@ class Loader {
     return false;
   }
 
-  [[nodiscard]] SdxRow RowOf(std::string_view line) const {
+  void Fill(SdxRow& row, std::string_view line) const {
     const auto number = [line](const Column& column) { return std::to_string(Value(Cut(line, column))); };
-    SdxRow row;
     const char type = Cut(line, SdxLine::Type)[0];
-    row.name = std::string(Cut(line, SdxLine::NameStart)).append(Cut(line, SdxLine::NameEnd));
+    row.name.reserve(SdxLine::NameStart.width + SdxLine::NameEnd.width);
+    row.name.append(Cut(line, SdxLine::NameStart)).append(Cut(line, SdxLine::NameEnd));
     row.type = type == 'D' ? 'S' : type;
     row.satellite = options_.satellite;
     row.frequency = Cut(line, SdxLine::Frequency);
@@ -121,7 +122,6 @@ class Loader {
     row.nid = number(SdxLine::Nid);
     row.tid = Base::ZeroPadded(Value(Cut(line, SdxLine::Tid)), 5);
     row.codifica = CodificaOf(Cut(line, SdxLine::Code));
-    return row;
   }
 
   const SdxOptions& options_;

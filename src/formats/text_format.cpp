@@ -20,6 +20,7 @@ using Base::Cut;
 // The columns of each kind of line, for the writer and the reader alike.
 namespace ChannelLine {
 constexpr Column Slot{1, 4}, Name{6, 16}, Transponder{23, 3}, Coding{63, 2}, Active{66, 1};
+constexpr std::size_t Width = 66;
 constexpr struct {
   Column column;
   Field<ChannelRecord> field;
@@ -45,6 +46,8 @@ constexpr Column List{1, 2}, Name{5, Base::ToLineEnd}, Slot{1, 4};
 constexpr Column ChannelCountColumn{10, Base::ToLineEnd};
 constexpr Column TransponderCountColumn{16, Base::ToLineEnd};
 constexpr const char* LineEnd = "\r\n";
+// More than a line takes, as a rule: the text is put together without being moved.
+constexpr std::size_t LineRoom = 72;
 
 // What a favourites block measures after an import: the receivers' first kind had no more.
 constexpr std::size_t ImportedFavouritesSize = 2291;
@@ -66,18 +69,18 @@ std::string ControlBytes() {
   return bytes;
 }
 
-std::string ChannelText(const ChannelRecord& channel, int slot) {
-  std::string line;
-  Base::Put(line, ChannelLine::Slot, Base::ZeroPadded(slot, 4));
+void AddChannel(std::string& text, const ChannelRecord& channel, int slot) {
+  const std::size_t start = text.size();
+  text.append(ChannelLine::Width, ' ').append(LineEnd);
+  char* const line = text.data() + start;
+  Base::PutNumber(line, ChannelLine::Slot, static_cast<std::uint32_t>(slot));
   Base::Put(line, ChannelLine::Name, Harmless(channel.Name(), ""));
-  Base::Put(line, ChannelLine::Transponder,
-            Base::ZeroPadded(static_cast<int>(Get(channel, ChannelField::Transponder)), 3));
+  Base::PutNumber(line, ChannelLine::Transponder, Get(channel, ChannelField::Transponder));
   for (const auto& number : ChannelLine::Numbers) {
-    Base::Put(line, number.column, Base::ZeroPadded(static_cast<int>(Get(channel, number.field)), 5));
+    Base::PutNumber(line, number.column, Get(channel, number.field));
   }
   Base::Put(line, ChannelLine::Coding, Base::HexByte(static_cast<int>(Get(channel, ChannelField::Flags))));
   Base::Put(line, ChannelLine::Active, Get(channel, ChannelField::Active) != 0 ? "S" : "N");
-  return line + LineEnd;
 }
 
 std::string TransponderText(const State& state, const TransponderRow& row, int number) {
@@ -120,14 +123,15 @@ bool Blank(const Base::Bytes& block) {
   return std::all_of(block.begin(), block.end(), [](Base::Byte byte) { return byte == 0 || byte == ' '; });
 }
 
-// The leading digits of a column; nothing when the number is larger than `most`.
+// The leading digits of a column, which has no more than five; nothing when the number is larger than `most`.
 std::optional<std::uint32_t> NumberIn(std::string_view text, std::uint32_t most) {
-  std::uint64_t value = 0;
-  for (const char digit : Base::LeadingDigits(text)) {
-    value = value * 10 + static_cast<std::uint64_t>(digit - '0');
-    if (value > most) return std::nullopt;
+  std::uint32_t value = 0;
+  for (const char character : Base::TrimmedLeft(text)) {
+    const auto digit = static_cast<std::uint32_t>(character - '0');
+    if (digit > 9) break;
+    value = value * 10 + digit;
   }
-  return static_cast<std::uint32_t>(value);
+  return value > most ? std::nullopt : std::optional(value);
 }
 
 // A field whose number is too large keeps what it has.
@@ -317,12 +321,15 @@ class Reader {
 std::string WriteText(const State& state) {
   const std::string channels = Base::ZeroPadded(state.ChannelCount, 4) + LineEnd;
   const std::string transponders = Base::ZeroPadded(state.TransponderCount, 4) + LineEnd;
-  std::string text = "[CANALI] " + channels;
+  std::string text;
+  text.reserve(LineRoom *
+               (UsedChannels(state) + UsedTransponders(state) + FavouriteLists * FavouriteEntries));
+  text = "[CANALI] " + channels;
   for (int slot = 1; slot <= state.ChannelCount; ++slot) {
     const ChannelRecord& channel = state.ChannelTable[static_cast<std::size_t>(slot)];
     const auto nameEnd = channel.bytes.begin() + ChannelRecord::NameSize;
     if (std::any_of(channel.bytes.begin(), nameEnd, [](Base::Byte byte) { return byte != 0; })) {
-      text += ChannelText(channel, slot);
+      AddChannel(text, channel, slot);
     }
   }
   text += "[END CANALI] " + channels + "[TRANSPONDERS] " + transponders;
@@ -331,7 +338,8 @@ std::string WriteText(const State& state) {
     if (!IsFree(row.record)) text += TransponderText(state, row, number);
   }
   text += "[END TRANSPONDERS] " + transponders;
-  return Blank(state.FavouritesBlock) ? text : text + FavouritesText(state);
+  if (!Blank(state.FavouritesBlock)) text += FavouritesText(state);
+  return text;
 }
 
 ImportReport ReadText(State& state, std::string_view text, const std::string& fileName,

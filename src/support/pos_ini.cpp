@@ -48,7 +48,10 @@ std::string RememberedFolder(const std::string& programFolder, FolderKind kind) 
 
 void RememberFolderOf(const std::string& programFolder, FolderKind kind, const std::string& path) {
   Folders folders = ReadFolders(programFolder);
+  const Folders before = folders;
   SetFolderOf(folders, kind, path);
+  // Most files come from where the last one did, and a flush to the disk is what a user would wait for.
+  if (folders == before) return;
   // Nothing to be done where it cannot be written: the next dialog opens in its default folder.
   static_cast<void>(Base::ReplaceFile(PathIn(programFolder), Base::AsBytes(PosIniOf(folders))));
 }

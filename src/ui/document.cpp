@@ -30,11 +30,11 @@ bool Document::Unsaved() const {
 }
 
 void Document::Undo() {
-  if (history_.Undo(*state_)) Tell();
+  if (history_.Undo(state_)) Tell();
 }
 
 void Document::Redo() {
-  if (history_.Redo(*state_)) Tell();
+  if (history_.Redo(state_)) Tell();
 }
 
 void Document::MarkSaved(const std::string& path) {

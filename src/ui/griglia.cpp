@@ -8,6 +8,7 @@
 #include <QMouseEvent>
 #include <QPainter>
 #include <QScrollBar>
+#include <QSignalBlocker>
 
 #include <algorithm>
 #include <memory>
@@ -51,10 +52,13 @@ Griglia::Griglia(QWidget* parent)
   frozen_->setFrameShape(NoFrame);
   frozen_->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
   frozen_->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+  frozen_->hide();
   connect(verticalScrollBar(), &QScrollBar::valueChanged, frozen_->verticalScrollBar(),
           &QScrollBar::setValue);
-  connect(frozen_->verticalScrollBar(), &QScrollBar::valueChanged, verticalScrollBar(),
-          &QScrollBar::setValue);
+  connect(frozen_->verticalScrollBar(), &QScrollBar::valueChanged, this, [this](int row) {
+    if (frozen_->isVisible()) verticalScrollBar()->setValue(row);
+  });
+  connect(horizontalScrollBar(), &QScrollBar::valueChanged, this, &Griglia::ShowFrozen);
   viewport()->stackUnder(frozen_);
 }
 
@@ -78,11 +82,8 @@ void Griglia::ShowList(TableModel* list) {
   if (list != model()) {
     const std::unique_ptr<QItemSelectionModel> oldSelection(selectionModel());
     setModel(list);
-    frozen_->setModel(list);
-    const std::unique_ptr<QItemSelectionModel> unused(frozen_->selectionModel());
-    frozen_->setSelectionModel(selectionModel());
+    frozen_->setModel(nullptr);  // until it is shown
   }
-  for (int column = 0; column < list->columnCount(); ++column) frozen_->setColumnHidden(column, column != 0);
   widths_.clear();
   for (const HeaderColumn& column : list->Header()) {
     widths_.push_back(fontMetrics().horizontalAdvance(column.widthText) + CellMargin);
@@ -205,19 +206,41 @@ void Griglia::FitColumns() {
   std::vector<int> widths = widths_;
   const int spare = viewport()->width() - std::accumulate(widths.begin(), widths.end(), 0);
   *std::max_element(widths.begin(), widths.end()) += std::max(spare, 0);
-  fitting_ = true;
-  for (std::size_t i = 0; i < widths.size(); ++i) setColumnWidth(static_cast<int>(i), widths[i]);
-  fitting_ = false;
+  {
+    // Told of each width, the view would paint once before and once after it has taken them in.
+    const QSignalBlocker quiet(horizontalHeader());
+    for (std::size_t i = 0; i < widths.size(); ++i) setColumnWidth(static_cast<int>(i), widths[i]);
+  }
+  updateGeometries();
+  viewport()->update();
   frozen_->setColumnWidth(0, widths[0]);
   PlaceFrozen();
 }
 
 // A column that the user has made wider or narrower keeps that width when the window changes its own.
 void Griglia::KeepWidth(int column, int width) {
-  if (fitting_ || static_cast<std::size_t>(column) >= widths_.size()) return;
+  if (static_cast<std::size_t>(column) >= widths_.size()) return;
   widths_[static_cast<std::size_t>(column)] = width;
   frozen_->setColumnWidth(0, columnWidth(0));
   PlaceFrozen();
+}
+
+// It stands over the grid only while the grid's own first column is out of view: the toolkit moves the picture of a
+// view that is scrolled, but paints every cell of one that something stands over.
+void Griglia::ShowFrozen(int sideways) {
+  if (frozen_->isHidden() == (sideways == 0)) return;
+  frozen_->setVisible(sideways != 0);
+  if (sideways == 0) return;
+  if (frozen_->model() != model()) {
+    frozen_->setModel(model());
+    const std::unique_ptr<QItemSelectionModel> unused(frozen_->selectionModel());
+    frozen_->setSelectionModel(selectionModel());
+    for (int column = 1; column < model()->columnCount(); ++column) frozen_->setColumnHidden(column, true);
+    frozen_->setColumnWidth(0, columnWidth(0));
+  }
+  // Hidden, it had no rows to scroll by.
+  frozen_->doItemsLayout();
+  frozen_->verticalScrollBar()->setValue(verticalScrollBar()->value());
 }
 
 void Griglia::PlaceFrozen() {

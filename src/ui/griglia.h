@@ -54,12 +54,12 @@ class Griglia : public QTableView {
   void ShowDropLine(QPoint place);
   void FitColumns();
   void KeepWidth(int column, int width);
+  void ShowFrozen(int sideways);
   void PlaceFrozen();
 
   QTableView* frozen_;       // the first column, on the same model
   QWidget* dropLine_;        // where dragged rows would land, across all columns
   std::vector<int> widths_;  // of the columns without the spare width
-  bool fitting_ = false;
 };
 
 }  // namespace Ui

@@ -337,30 +337,30 @@ TEST(History, ALongSequenceGoesBackToTheStartAndForthToTheEnd) {
     ++steps;
   }
   const State last = *state;
-  while (history.Undo(*state)) --steps;
+  while (history.Undo(state)) --steps;
   EXPECT_EQ(steps, 0);
   EXPECT_TRUE(*state == first);
-  while (history.Redo(*state)) ++steps;
+  while (history.Redo(state)) ++steps;
   EXPECT_TRUE(*state == last);
-  history.Undo(*state);
+  history.Undo(state);
   history.Push("altro", History::Kind::Edit, std::make_unique<State>(*state));
   EXPECT_EQ(history.RedoLabel(), "") << "a new step forgets what was undone";
 }
 
 TEST(History, UndoingAnEditKeepsTheOutputAndUndoingALoadGivesItBack) {
   History history;
-  State state;
-  history.Push("apri", History::Kind::List, std::make_unique<State>(state));
-  state.MaxChannels = 999;
-  history.Push("elimina", History::Kind::Edit, std::make_unique<State>(state));
-  state.ChannelCount = 5;
-  state.OutputFlash = "scelta.dat";
-  state.MaxChannels = 0;
+  auto state = std::make_unique<State>();
+  history.Push("apri", History::Kind::List, std::make_unique<State>(*state));
+  state->MaxChannels = 999;
+  history.Push("elimina", History::Kind::Edit, std::make_unique<State>(*state));
+  state->ChannelCount = 5;
+  state->OutputFlash = "scelta.dat";
+  state->MaxChannels = 0;
   history.Undo(state);
-  EXPECT_EQ(state.OutputFlash, "scelta.dat");
-  EXPECT_EQ(state.MaxChannels, 0);
+  EXPECT_EQ(state->OutputFlash, "scelta.dat");
+  EXPECT_EQ(state->MaxChannels, 0);
   history.Undo(state);
-  EXPECT_EQ(state.OutputFlash, "");
+  EXPECT_EQ(state->OutputFlash, "");
 }
 
 }  // namespace Edit

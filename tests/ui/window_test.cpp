@@ -113,7 +113,12 @@ TEST_F(Window, TheFirstColumnStaysAndTheSpareWidthIsUsed) {
   }
   window_->resize(700, 700);
   QTest::qWait(20);
+  // Scrolled down before the column is fixed, and while it is.
+  grid->verticalScrollBar()->setValue(200);
   grid->horizontalScrollBar()->setValue(grid->horizontalScrollBar()->maximum());
+  EXPECT_TRUE(fixed->isVisible());
+  EXPECT_EQ(grid->rowAt(5), 200);
+  EXPECT_EQ(fixed->indexAt(QPoint(5, 5)), grid->model()->index(200, 0));
   grid->verticalScrollBar()->setValue(300);
   EXPECT_EQ(fixed->indexAt(QPoint(5, 5)), grid->model()->index(300, 0));
 }

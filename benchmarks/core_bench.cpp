@@ -1,0 +1,242 @@
+// The work of the core on a full list.
+#include "base/file.h"
+#include "beside.h"
+#include "edit/history.h"
+#include "edit/list_operations.h"
+#include "edit/recovery.h"
+#include "formats/satcodx.h"
+#include "formats/text_format.h"
+#include "full_list.h"
+#include "groups.h"
+#include "model/flash_file.h"
+#include "model/flash_loader.h"
+#include "model/flash_writer.h"
+
+#include <algorithm>
+#include <cstdio>
+#include <cstdlib>
+#include <cstring>
+#include <fcntl.h>
+#include <unistd.h>
+
+namespace Bench {
+namespace {
+
+using namespace Routines;
+
+// Copies bytes once, into memory that is there already.
+class Copy {
+ public:
+  explicit Copy(Base::ByteView from) : from_(from), to_(from.size()) {}
+
+  void operator()() {
+    std::memcpy(to_.data(), from_.data(), from_.size());
+    benchmark::DoNotOptimize(to_.data());
+  }
+
+ private:
+  Base::ByteView from_;
+  Base::Bytes to_;
+};
+
+Copy CopyOf(const State& state) { return Copy({reinterpret_cast<const Base::Byte*>(&state), sizeof(State)}); }
+
+const WritePlan& FullPlan() {
+  static const WritePlan plan{FlashType::Two, Channels, ""};
+  return plan;
+}
+
+void Load(benchmark::State& run) {
+  const Base::Bytes image = Image();
+  const auto state = List();
+  RunBeside(run, 5, {[&] { LoadFlash(*state, image, Channels, 0, Bouquets()); }, Copy(image)});
+}
+
+void Patch(benchmark::State& run) {
+  const Base::Bytes image = Image();
+  const auto state = List();
+  const auto patch = [&] {
+    auto patched = PatchFlash(*state, image, FullPlan());
+    benchmark::DoNotOptimize(patched.image.data());
+  };
+  RunBeside(run, 5, {patch, Copy(image)});
+}
+
+// A folder beside the results, which is on a disk where a temporary one may be in memory.
+std::string ScratchFolder() {
+  std::string folder = "salva-XXXXXX";
+  return ::mkdtemp(folder.data()) == nullptr ? "." : folder;
+}
+
+bool WriteAndCompare(int file, const Base::Bytes& bytes) {
+  Base::Bytes back(bytes.size());
+  const auto whole = static_cast<ssize_t>(bytes.size());
+  return ::write(file, bytes.data(), bytes.size()) == whole && ::fsync(file) == 0 &&
+         ::pread(file, back.data(), back.size(), 0) == whole &&
+         std::memcmp(back.data(), bytes.data(), bytes.size()) == 0;
+}
+
+// Temporary file, flush, read-back, rename and flush of the folder, with bytes that are ready.
+void ReplaceReadyFile(const std::string& folder, const Base::Bytes& bytes) {
+  const std::string temporary = folder + "/pronto.tmp";
+  const int file = ::open(temporary.c_str(), O_RDWR | O_CREAT | O_TRUNC | O_CLOEXEC, 0600);
+  const bool good = WriteAndCompare(file, bytes);
+  ::close(file);
+  if (!good || ::rename(temporary.c_str(), (folder + "/pronto.dat").c_str()) != 0) std::abort();
+  const int opened = ::open(folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
+  ::fsync(opened);
+  ::close(opened);
+}
+
+// All that "Salva" does with an image that was saved before in this session.
+void SaveWhole(const State& state, const std::string& path, Backups& backups) {
+  const auto original = ReadFlash(path, "");
+  if (!original) std::abort();
+  const PatchedFlash patched = PatchFlash(state, *original, FullPlan());
+  if (!DiffersOnlyInSections(*original, patched.image)) std::abort();
+  if (!SaveFlash(path, *original, patched.image, backups)) std::abort();
+  if (!FindUnwritten(state, patched.image, FullPlan()).Nothing()) std::abort();
+}
+
+void Save(benchmark::State& run) {
+  const Base::Bytes image = Image();
+  const auto state = List();
+  const std::string folder = ScratchFolder();
+  const std::string path = folder + "/lista.dat";
+  if (!Base::ReplaceFile(path, image)) std::abort();
+  Backups backups{folder, {}};
+  SaveWhole(*state, path, backups);  // which leaves the copy that is made once
+  RunBeside(run, 1.3, {[&] { SaveWhole(*state, path, backups); }, [&] { ReplaceReadyFile(folder, image); }});
+  for (const char* name : {"/lista.dat", "/lista.dat.bak", "/pronto.dat"}) {
+    ::unlink((folder + name).c_str());
+  }
+  ::rmdir(folder.c_str());
+}
+
+void ExportText(benchmark::State& run) {
+  const auto state = List();
+  const std::string text = Formats::WriteText(*state);
+  const auto write = [&] {
+    const std::string written = Formats::WriteText(*state);
+    benchmark::DoNotOptimize(written.data());
+  };
+  RunBeside(run, 40, {write, Copy(Base::AsBytes(text))});
+}
+
+void ImportText(benchmark::State& run) {
+  const auto state = List();
+  const std::string text = Formats::WriteText(*state);
+  const auto read = [&] {
+    if (!Formats::ReadText(*state, text, "lista.txt", Bouquets()).listRead) std::abort();
+  };
+  RunBeside(run, 40, {read, Copy(Base::AsBytes(text))});
+}
+
+std::size_t SplitLines(std::string_view text) {
+  std::size_t lines = 0;
+  const char* at = text.data();
+  const char* const end = at + text.size();
+  while (const void* found = std::memchr(at, '\n', static_cast<std::size_t>(end - at))) {
+    at = static_cast<const char*>(found) + 1;
+    ++lines;
+  }
+  return lines;
+}
+
+void ReadSdx(benchmark::State& run) {
+  constexpr int Taken = static_cast<int>(Formats::MostSdxRows);
+  const std::string text = SatcodxText(100000, Taken);
+  Formats::SdxOptions options;
+  options.codes = {"____"};
+  const auto read = [&] {
+    if (Formats::ReadSatcodx(text, options).rows.size() != Formats::MostSdxRows) std::abort();
+  };
+  RunBeside(run, 3, {read, [&] { benchmark::DoNotOptimize(SplitLines(text)); }});
+}
+
+// Every pair of channels on different transponders is in the wrong order.
+std::unique_ptr<State> WorstToSort() {
+  auto state = List();
+  for (int slot = 1; slot <= Channels; ++slot) {
+    Set(state->ChannelTable[static_cast<std::size_t>(slot)], ChannelField::Transponder,
+        static_cast<std::uint32_t>(Transponders - (slot - 1) * Transponders / Channels));
+  }
+  for (int number = 1; number <= Transponders; ++number) {
+    state->TransponderTable[static_cast<std::size_t>(number)].SetBouquet(
+        "Bouquet", std::to_string(10 + number * 80 / Transponders));
+  }
+  return state;
+}
+
+void Sort(benchmark::State& run) {
+  const auto worst = WorstToSort();
+  std::vector<std::pair<std::uint32_t, int>> keys;
+  for (int slot = 1; slot <= Channels; ++slot) {
+    const auto number = Get(worst->ChannelTable[static_cast<std::size_t>(slot)], ChannelField::Transponder);
+    keys.emplace_back(number, slot);
+  }
+  const auto state = std::make_unique<State>();
+  auto sorted = keys;
+  const auto byKey = [](const auto& one, const auto& other) { return one.first < other.first; };
+  RunBeside(run, 10,
+            {[&] { Edit::OrdinaPerBouquet(*state, 1); },
+             [&] { std::stable_sort(sorted.begin(), sorted.end(), byKey); },
+             [&] {
+               *state = *worst;
+               sorted = keys;
+             }});
+}
+
+void SnapshotAndRestore(benchmark::State& run) {
+  auto state = List();
+  Edit::History history;
+  const auto work = [&] {
+    history.Push("Modifica", Edit::History::Kind::Edit, std::make_unique<State>(*state));
+    history.Undo(state);
+  };
+  RunBeside(run, 1.5, {work, CopyOf(*state)});
+}
+
+void DeleteInTheMiddle(benchmark::State& run) {
+  constexpr int Deleted = 100;
+  const auto full = List();
+  const auto state = std::make_unique<State>(*full);
+  const auto limit = [&] {
+    ChannelRecord* table = state->ChannelTable.data();
+    std::memmove(table, table + Deleted, (state->ChannelTable.size() - Deleted) * sizeof(ChannelRecord));
+  };
+  RunBeside(run, 20,
+            {[&] {
+               Edit::DeleteChannels(*state, {1950, 1950 + Deleted - 1});
+             },
+             limit, [&] { *state = *full; }});
+}
+
+// What the window does itself each time it puts unsaved work aside; the disk is another thread's business.
+void EncodeUnsavedWork(benchmark::State& run) {
+  const auto state = List();
+  const auto encode = [&] {
+    auto file = Edit::EncodeRecovery(*state, {}, {});
+    benchmark::DoNotOptimize(file.data());
+  };
+  RunBeside(run, NoAim, {encode, CopyOf(*state)});
+}
+
+}  // namespace
+
+void RegisterCore() {
+  const std::pair<const char*, void (*)(benchmark::State&)> rows[] = {
+      {"caricare un'immagine", Load},
+      {"scrivere le tabelle nell'immagine", Patch},
+      {"\"Salva\" per intero", Save},
+      {"esportare come testo", ExportText},
+      {"importare da testo", ImportText},
+      {".sdx di 100.000 righe, 4000 prese", ReadSdx},
+      {"ordinare per bouquet, caso peggiore", Sort},
+      {"copia per Annulla e ritorno", SnapshotAndRestore},
+      {"eliminare 100 canali nel mezzo", DeleteInTheMiddle},
+      {"mettere da parte il lavoro non salvato", EncodeUnsavedWork}};
+  for (const auto& [name, function] : rows) benchmark::RegisterBenchmark(name, function)->UseManualTime();
+}
+
+}  // namespace Bench

@@ -1,0 +1,96 @@
+#include "full_list.h"
+
+#include "base/columns.h"
+#include "base/text.h"
+#include "image_builder.h"
+#include "model/favourites.h"
+#include "model/flash_loader.h"
+#include "support/bouquets_txt.h"
+#include "support/sr_ini.h"
+
+namespace Bench {
+
+using namespace Routines;
+
+namespace {
+
+constexpr int FirstSection = 2182;  // as many as a sector has room for
+
+// Services of every kind, some switched off, on all transponders.
+std::vector<ChannelRecord> ChannelRecords(int first, int last) {
+  std::vector<ChannelRecord> records;
+  for (int number = first; number <= last; ++number) {
+    const int vpid = number % 5 == 0 ? static_cast<int>(AbsentPid) : 100 + number % 4000;
+    records.push_back(Samples::MakeChannel("Canale " + Base::ZeroPadded(number, 4), number % Transponders + 1,
+                                           number, vpid, 200 + number % 4000, number % 7 == 0 ? 0 : 4));
+  }
+  return records;
+}
+
+Base::Bytes FavouritesBlock(int channels) {
+  Base::Bytes block(NormalFavouritesSize);
+  for (std::size_t list = 0; list < FavouriteLists; ++list) {
+    std::vector<int> slots;
+    for (int entry = 0; entry < static_cast<int>(FavouriteEntries); ++entry) {
+      slots.push_back((entry * 31 + static_cast<int>(list)) % channels + 1);
+    }
+    SetFavouriteEntries(block, list, std::move(slots));
+    SetFavouriteName(block, list, "Lista " + std::to_string(list + 1));
+  }
+  return block;
+}
+
+}  // namespace
+
+Base::Bytes Image(int channels) {
+  std::vector<TransponderRecord> transponders;
+  for (int i = 0; i < Transponders; ++i) {
+    transponders.push_back(Samples::MakeTransponder(10700 + i * 8, i % 2 == 0, i % 3, 1, 2, i, i));
+  }
+  const int first = std::min(channels, FirstSection);
+  Samples::ImageBuilder builder(1);
+  builder.PutRecords(1, 0, 16, "TCS", ChannelRecords(1, first));
+  if (channels > first) builder.PutRecords(2, 0, 16, "TCS", ChannelRecords(first + 1, channels));
+  builder.PutRecords(3, 0, 16, "TPT", transponders);
+  builder.PutFavourites(4, 0, 16, FavouritesBlock(channels), 0);
+  return builder.Image();
+}
+
+const BouquetTables& Bouquets() {
+  static const BouquetTables tables = Support::LoadBouquets(SAMPLES_FOLDER).tables;
+  return tables;
+}
+
+std::unique_ptr<State> List(int channels) {
+  auto state = std::make_unique<State>();
+  state->SymbolRateTable = Support::CaricaTabelleSR(SAMPLES_FOLDER, Sr22000::Come2)->table;
+  LoadFlash(*state, Image(channels), channels, 0, Bouquets());
+  return state;
+}
+
+std::string SatcodxText(int lines, int taken) {
+  using Base::Column;
+  std::string text;
+  const int every = lines / taken;
+  for (int number = 0; number < lines; ++number) {
+    std::string line = "SATCODX103HOT BIRD 13E     ";
+    // A service that is not taken is of a kind, a rate or a code that nobody asked for.
+    const int reason = number % every == 0 && number / every < taken ? 0 : number % 3 + 1;
+    Base::Put(line, Column{29, 1}, reason == 1 ? "D" : "T");
+    Base::Put(line, Column{30, 4}, "MPG2");
+    Base::Put(line, Column{34, 9}, "0" + std::to_string(10700 + number % Transponders * 8) + "000");
+    Base::Put(line, Column{43, 1}, number % 2 == 0 ? "1" : "0");
+    Base::Put(line, Column{44, 8}, "Canale " + std::to_string(number % 10));
+    Base::Put(line, Column{70, 5}, reason == 2 ? "05632" : "27500");
+    Base::Put(line, Column{75, 1}, "3");
+    Base::Put(line, Column{76, 12}, "016000800160");
+    Base::Put(line, Column{88, 5}, Base::ZeroPadded(number % 65535, 5));
+    Base::Put(line, Column{93, 10}, "0031800200");
+    Base::Put(line, Column{112, 4}, reason == 3 ? "IRDT" : "____");
+    Base::Put(line, Column{116, 12}, "seconda");
+    text += line + "\r\n";
+  }
+  return text;
+}
+
+}  // namespace Bench

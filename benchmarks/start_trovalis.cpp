@@ -1,0 +1,14 @@
+// The program as it starts, up to its first picture.
+#include "first_paint.h"
+#include "ui/main_window.h"
+#include "ui/program_folder.h"
+#include "ui/toolkit.h"
+
+int main(int argc, char** argv) {
+  QApplication application(argc, argv);
+  Bench::FirstPaint first(application);
+  Ui::SetUpToolkit(application);
+  Ui::CopiaTCSTPT window(Ui::ProgramFolder());
+  window.show();
+  return window.Start() ? QApplication::exec() : 1;
+}
