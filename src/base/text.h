@@ -19,7 +19,7 @@ inline std::string_view TrimmedRight(std::string_view text) {
 }
 inline std::string_view Trimmed(std::string_view text) { return TrimmedRight(TrimmedLeft(text)); }
 
-// Takes the line at the front off `text`, with its end: CR LF or LF alone. `text` must not be empty.
+// Takes the line at the front off `text`, with its end: CR LF or LF alone.
 inline std::string_view TakeLine(std::string_view& text) {
   const std::size_t end = std::min(text.find('\n'), text.size());
   std::string_view line = text.substr(0, end);

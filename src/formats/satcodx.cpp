@@ -2,6 +2,8 @@
 
 #include "base/text.h"
 
+#include <algorithm>
+
 namespace Formats {
 namespace {
 
@@ -21,9 +23,20 @@ constexpr int SidWithoutPid = 4435;
 
 // The leading decimal digits of a column of at most six, else 0.
 int Value(std::string_view text) {
-  int value = 0;
-  for (const char digit : Base::LeadingDigits(text)) value = value * 10 + (digit - '0');
-  return value;
+  std::uint32_t value = 0;
+  for (const char character : Base::TrimmedLeft(text)) {
+    const auto digit = static_cast<std::uint32_t>(character - '0');
+    if (digit > 9) break;
+    value = value * 10 + digit;
+  }
+  return static_cast<int>(value);
+}
+
+// Those digits as a number is written, without zeros in front.
+std::string_view Number(std::string_view text) {
+  const std::string_view digits = Base::LeadingDigits(text);
+  const std::size_t zeros = digits.find_first_not_of('0');
+  return zeros == std::string_view::npos ? "0" : digits.substr(zeros);
 }
 
 struct CodeGroup {
@@ -43,6 +56,13 @@ int CodificaOf(std::string_view code) {
   return 0x04;
 }
 
+// As texts, character by character: "5632 " is above "17999" and "05632" is not. The first place settles it for nearly
+// every line, and takes no call.
+inline bool Above(std::string_view text, std::string_view limit) {
+  return std::lexicographical_compare(limit.begin(), limit.end(), text.begin(), text.end(),
+                                      [](unsigned char one, unsigned char other) { return one < other; });
+}
+
 std::string PidText(std::string_view text) { return Value(text) == 0 ? Absent : std::string(text); }
 
 class Loader {
@@ -54,7 +74,7 @@ class Loader {
     while (!text.empty()) {
       const std::string_view line = Base::TakeLine(text);
       // A download leaves every second line blank: those are no services that were dropped.
-      if (table_.lines > 0 && Base::Trimmed(line).empty()) continue;
+      if (table_.lines > 0 && Base::TrimmedLeft(line).empty()) continue;
       if (table_.lines++ == 0) table_.satelliteName = Cut(line, SdxLine::SatelliteName);
       if (!Passes(line)) continue;
       if (table_.rows.size() == MostSdxRows) {
@@ -68,8 +88,7 @@ class Loader {
 
  private:
   bool Passes(std::string_view line) {
-    // As texts, character by character: "5632 " passes and "05632" does not.
-    if (Cut(line, SdxLine::SymbolRate) <= "17999") return Dropped(table_.droppedByRate);
+    if (!Above(Cut(line, SdxLine::SymbolRate), "17999")) return Dropped(table_.droppedByRate);
     const char type = Cut(line, SdxLine::Type).front();  // a line with a symbol rate has one
     const bool wanted = (type == 'T' && options_.television) || (type == 'R' && options_.radio) ||
                         (type == 'D' && options_.data);
@@ -102,7 +121,6 @@ class Loader {
   }
 
   void Fill(SdxRow& row, std::string_view line) const {
-    const auto number = [line](const Column& column) { return std::to_string(Value(Cut(line, column))); };
     const char type = Cut(line, SdxLine::Type)[0];
     row.name.reserve(SdxLine::NameStart.width + SdxLine::NameEnd.width);
     row.name.append(Cut(line, SdxLine::NameStart)).append(Cut(line, SdxLine::NameEnd));
@@ -117,10 +135,12 @@ class Loader {
     // Whatever a radio line says of video, the channel has none.
     row.vpid = type == 'R' ? Absent : PidText(Cut(line, SdxLine::Vpid));
     row.apid = PidText(Cut(line, SdxLine::Apid));
-    row.pcr = number(SdxLine::Pcr);
-    row.sid = number(SdxLine::Sid);
-    row.nid = number(SdxLine::Nid);
-    row.tid = Base::ZeroPadded(Value(Cut(line, SdxLine::Tid)), 5);
+    row.pcr = Number(Cut(line, SdxLine::Pcr));
+    row.sid = Number(Cut(line, SdxLine::Sid));
+    row.nid = Number(Cut(line, SdxLine::Nid));
+    row.tid.resize(SdxLine::Tid.width);
+    Base::PutNumber(row.tid.data(), {1, SdxLine::Tid.width},
+                    static_cast<std::uint32_t>(Value(Cut(line, SdxLine::Tid))));
     row.codifica = CodificaOf(Cut(line, SdxLine::Code));
   }
 
