@@ -202,7 +202,7 @@ void Griglia::selectionChanged(const QItemSelection& selected, const QItemSelect
 }
 
 void Griglia::FitColumns() {
-  if (widths_.empty()) return;
+  if (widths_.empty() || !isVisible()) return;
   std::vector<int> widths = widths_;
   const int spare = viewport()->width() - std::accumulate(widths.begin(), widths.end(), 0);
   *std::max_element(widths.begin(), widths.end()) += std::max(spare, 0);
@@ -251,6 +251,11 @@ void Griglia::PlaceFrozen() {
 
 void Griglia::resizeEvent(QResizeEvent* event) {
   QTableView::resizeEvent(event);
+  FitColumns();
+}
+
+void Griglia::showEvent(QShowEvent* event) {
+  QTableView::showEvent(event);
   FitColumns();
 }
 

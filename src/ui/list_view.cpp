@@ -88,14 +88,16 @@ void ListView::ShowFromStart(View view) {
     grid_->setAccessibleName(marker_->text());
     channels_.ClearMarks();
     grid_->ShowList(channels ? &channels_ : &transponders_);
-    stack_->setCurrentWidget(grid_);
-    grid_->setFocus();
   }
   MarkMatches();
   marker_->setVisible(view != View::None);
   map_->setVisible(channels);
   RestoreTicks();
   Q_EMIT Shown(view);
+  if (view == View::None) return;
+  // Last of all, with everything that takes room beside it in its place: the grid is laid out once.
+  stack_->setCurrentWidget(grid_);
+  grid_->setFocus();
 }
 
 void ListView::StartWith(QWidget* page) {

@@ -12,6 +12,7 @@ namespace {
 
 constexpr int Most = 8;
 constexpr int LongestPath = 420;  // pixels
+constexpr int WriteAfter = 300;   // milliseconds
 constexpr const char* Key = "FileRecenti/Percorsi";
 
 }  // namespace
@@ -33,31 +34,47 @@ RecentFiles::RecentFiles(QString settingsFile, QMainWindow& window)
   auto* file = qobject_cast<QMenu*>(open_.associatedObjects().value(0));
   const QList<QAction*> commands = file->actions();
   file->insertMenu(commands.value(commands.indexOf(&open_) + 1), menu_);
+  write_.setSingleShot(true);
+  write_.setInterval(WriteAfter);
+  connect(&write_, &QTimer::timeout, this, &RecentFiles::Write);
   connect(this, &RecentFiles::Changed, this, &RecentFiles::FillMenu);
   connect(&open_, &QAction::changed, this, &RecentFiles::FillMenu);
   FillMenu();
 }
 
+RecentFiles::~RecentFiles() { Write(); }
+
 QStringList RecentFiles::Paths() const {
-  return QSettings(settingsFile_, QSettings::IniFormat).value(Key).toStringList().mid(0, Most);
+  QStringList paths = QSettings(settingsFile_, QSettings::IniFormat).value(Key).toStringList();
+  if (!unwritten_.isEmpty()) {
+    paths.removeAll(unwritten_);
+    paths.prepend(unwritten_);
+  }
+  return paths.mid(0, Most);
 }
 
 void RecentFiles::Add(const QString& path) {
-  QStringList paths = Paths();
-  paths.removeAll(path);
-  paths.prepend(path);
-  Store(paths.mid(0, Most));
+  Write();
+  unwritten_ = path;
+  write_.start();
+  Q_EMIT Changed();
 }
 
 void RecentFiles::Remove(const QString& path) {
   QStringList paths = Paths();
   paths.removeAll(path);
   Store(paths);
+  Q_EMIT Changed();
+}
+
+void RecentFiles::Write() {
+  if (!unwritten_.isEmpty()) Store(Paths());
 }
 
 void RecentFiles::Store(const QStringList& paths) {
+  write_.stop();
+  unwritten_.clear();
   QSettings(settingsFile_, QSettings::IniFormat).setValue(Key, paths);
-  Q_EMIT Changed();
 }
 
 void RecentFiles::FillMenu() {

@@ -3,6 +3,7 @@
 
 #include <QObject>
 #include <QStringList>
+#include <QTimer>
 
 #include <vector>
 
@@ -18,9 +19,11 @@ class RecentFiles : public QObject {
  public:
   // Puts the submenu `FileRecenti` behind the commands of the menu File that open a flash.
   RecentFiles(QString settingsFile, QMainWindow& window);
+  ~RecentFiles() override;
 
   // The latest first, at most 8.
   [[nodiscard]] QStringList Paths() const;
+  // Its writing waits for the disk, and therefore until the list that was opened is on the screen.
   void Add(const QString& path);
   void Remove(const QString& path);
 
@@ -30,10 +33,13 @@ class RecentFiles : public QObject {
   void Chosen(const QString& path);
 
  private:
+  void Write();
   void Store(const QStringList& paths);
   void FillMenu();
 
   QString settingsFile_;
+  QString unwritten_;
+  QTimer write_;
   QAction& open_;  // ApriFlashInput
   QMenu* menu_;
   std::vector<QAction*> items_;

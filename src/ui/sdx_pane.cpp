@@ -16,7 +16,6 @@ SdxPane::SdxPane(const Formats::SdxTable& table, QWidget* parent)
   grid_->setObjectName("GrigliaSDX");
   grid_->setAccessibleName("Canali SDX");
   grid_->setAcceptDrops(false);
-  grid_->ShowList(&model_);
   grid_->installEventFilter(this);
   connect(grid_, &QTableView::doubleClicked, this,
           [this](const QModelIndex& index) { Q_EMIT Chosen(index.row() + 1); });
@@ -33,6 +32,12 @@ void SdxPane::Refresh(const QString& name) {
   model_.Refresh();
   grid_->ShowList(&model_);
   caption_->setText(name.isEmpty() ? QString("SDX") : "SDX: " + name);
+}
+
+// Most of the time the pane is never looked at.
+void SdxPane::showEvent(QShowEvent* event) {
+  if (grid_->model() == nullptr) grid_->ShowList(&model_);
+  QWidget::showEvent(event);
 }
 
 bool SdxPane::eventFilter(QObject* watched, QEvent* event) {

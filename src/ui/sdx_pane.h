@@ -28,6 +28,7 @@ class SdxPane : public QWidget {
   void CopyWanted();
 
  protected:
+  void showEvent(QShowEvent* event) override;
   bool eventFilter(QObject* watched, QEvent* event) override;
 
  private:

@@ -34,6 +34,8 @@ class Window : public testing::Test {
   ~Window() override { EXPECT_EQ(driver_->Failures().join("\n").toStdString(), ""); }
 
   void Start() {
+    driver_.reset();
+    window_.reset();  // a program ends before it is started again
     window_ = std::make_unique<CopiaTCSTPT>(folder_.Path());
     driver_ = std::make_unique<Demo::WindowDriver>(*window_);
     window_->show();
