@@ -38,7 +38,8 @@ class KeptWork : public QObject {
   [[nodiscard]] std::string PathOf(int number) const;
   // Nothing where another running program has that number.
   [[nodiscard]] std::optional<Place> Claim(int number) const;
-  bool HasPlace();
+  // Sees to it that there is a file to write to.
+  Base::Outcome FindPlace();
   bool Take(const std::string& path);
   void Restore(Edit::Recovery& recovery);
 

@@ -94,6 +94,15 @@ TEST_F(KeptWorkWindow, ARefusedOrDamagedOrReplacedFileIsSetAside) {
   EXPECT_FALSE(List().Loaded);
   EXPECT_EQ(Contents(file_ + ".old"), kept);
 
+  for (int number = 2; number <= 99; ++number)
+    folder_.Write("trovalis.recupero.old" + std::to_string(number), "altra");
+  const std::string oldest = file_ + ".old50";
+  std::filesystem::last_write_time(oldest,
+                                   std::filesystem::last_write_time(file_ + ".old") - std::chrono::hours(1));
+  folder_.Write("trovalis.recupero", kept);
+  StartAndAnswer(false);
+  EXPECT_EQ(Contents(oldest), kept) << "the oldest gives way";
+
   folder_.Write("trovalis.recupero", Base::ByteView(kept).first(kept.size() - 1));
   folder_.Write("trovalis-2.recupero", kept);
   StartAndAnswer(true);
