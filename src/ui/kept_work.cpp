@@ -181,12 +181,17 @@ void KeptWork::Write() {
   });
 }
 
-// A failure is told once, until a write has succeeded again.
+// A failure is told once, until a write has succeeded again; that it lasts stands beside the list's figures.
 void KeptWork::Written(const Base::Outcome& outcome) {
-  if (!outcome && !failureTold_) {
+  const bool failed = !outcome;
+  if (failed && !failed_) {
     session_.status.ShowResult("Modifiche non conservate per il recupero: " + Text(outcome.error().message));
   }
-  failureTold_ = !outcome;
+  if (failed == failed_) return;
+  failed_ = failed;
+  session_.status.SetKept(!failed);
+  session_.status.ShowList(session_.document.Tables(), session_.document.Unsaved(),
+                           session_.clipboard.Count());
 }
 
 Base::Outcome KeptWork::Flush() {

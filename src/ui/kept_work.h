@@ -55,9 +55,9 @@ class KeptWork : public QObject {
   QElapsedTimer sinceWrite_;
   QThreadPool writer_;
   bool writing_ = false;
-  bool failureTold_ = false;
-  Place own_;         // without a path until a file is needed
-  int keptList_ = 0;  // ListNumber of what the file holds
+  bool failed_ = false;  // the last write
+  Place own_;            // without a path until a file is needed
+  int keptList_ = 0;     // ListNumber of what the file holds
 };
 
 }  // namespace Ui

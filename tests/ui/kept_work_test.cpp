@@ -158,6 +158,9 @@ TEST_F(KeptWorkWindow, WhatCannotBeKeptIsToldAndAskedAboutOnlyAtTheEnd) {
     const std::string told =
         "Modifiche non conservate per il recupero: Impossibile scrivere trovalis.recupero: ";
     EXPECT_TRUE(QTest::qWaitFor([&] { return Said() == told + "permesso negato"; }, 3000)) << Said();
+    DeleteFirst();
+    EXPECT_EQ(driver_->TextOf("ModificheNonSalvate"), "Modifiche non salvate né conservate")
+        << "as long as it lasts";
     const QString question =
         "Impossibile scrivere trovalis.recupero: permesso negato\n\nLe modifiche non salvate andrebbero "
         "perse. Si "
@@ -168,6 +171,8 @@ TEST_F(KeptWorkWindow, WhatCannotBeKeptIsToldAndAskedAboutOnlyAtTheEnd) {
   ::chmod(folder_.Path().c_str(), 0777);
   DeleteFirst();
   EXPECT_TRUE(FileIs(true)) << "the next change tries again";
+  EXPECT_TRUE(
+      QTest::qWaitFor([&] { return driver_->TextOf("ModificheNonSalvate") == "Modifiche non salvate"; }));
 }
 
 TEST_F(KeptWorkWindow, AMalformedSrIniEndsTheProgramWithTheWorkKept) {
