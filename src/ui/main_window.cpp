@@ -408,8 +408,9 @@ void CopiaTCSTPT::closeEvent(QCloseEvent* event) {
   if (QWidget* editor = QApplication::focusWidget()) editor->clearFocus();
   session_->view.FinishEditing();
   const auto kept = kept_->Flush();
-  if (!kept && !dialogs_->YesNo(Text(kept.error().message) +
-                                "\n\nLe modifiche non salvate andrebbero perse. Si desidera chiudere?")) {
+  if (!kept &&
+      !dialogs_->FinalYesNo(Text(kept.error().message) +
+                            "\n\nLe modifiche non salvate andrebbero perse. Si desidera chiudere?")) {
     event->ignore();
     return;
   }

@@ -167,6 +167,8 @@ TEST_F(KeptWorkWindow, WhatCannotBeKeptIsToldAndAskedAboutOnlyAtTheEnd) {
         "desidera chiudere?";
     driver_->ExpectQuestion(question, false);
     EXPECT_FALSE(window_->close());
+    driver_->ExpectDialog("Trovalis", [](QDialog& box) { QTest::keyClick(&box, Qt::Key_Return); });
+    EXPECT_FALSE(window_->close()) << "Enter loses nothing";
   }
   ::chmod(folder_.Path().c_str(), 0777);
   DeleteFirst();

@@ -46,6 +46,7 @@ class RandomAnswers : public Dialogs {
 
   void Message(const QString&, const QString&, Tone) override {}
   bool YesNo(const QString&) override { return yes = random_.Chance(50), ++questions, yes; }
+  bool FinalYesNo(const QString&) override { return random_.Chance(50); }
   Answer YesNoCancel(const QString&) override {
     return random_.Pick(std::vector{Answer::Yes, Answer::No, Answer::Cancel});
   }
