@@ -1,8 +1,8 @@
 #include "windows.h"
 
 #include "base/file.h"
-#include "support/pos_ini.h"
 #include "full_list.h"
+#include "support/pos_ini.h"
 
 #include <QAbstractButton>
 #include <QAction>
@@ -24,6 +24,7 @@ class Answers : public Ui::Dialogs {
 
   void Message(const QString&, const QString&, Ui::Tone) override {}
   bool YesNo(const QString&) override { return false; }
+  bool FinalYesNo(const QString&) override { return false; }
   Ui::Answer YesNoCancel(const QString&) override { return Ui::Answer::Cancel; }
   bool OkCancel(const QString&) override { return false; }
   std::optional<QString> AskLine(const QString&) override { return std::nullopt; }

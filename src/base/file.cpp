@@ -10,6 +10,7 @@
 #include <filesystem>
 #include <sys/file.h>
 #include <sys/stat.h>
+#include <sys/xattr.h>
 #include <unistd.h>
 #include <utility>
 
@@ -22,6 +23,7 @@ constexpr uid_t NoOwner = static_cast<uid_t>(-1);  // leaves the owner as it is
 constexpr std::string_view TemporaryPrefix = ".trovalis-";
 constexpr std::size_t TemporaryDigits = 6;
 constexpr int MostTemporaries = 1000;
+constexpr std::size_t LongestAccessList = 65536;
 
 class Descriptor {
  public:
@@ -49,7 +51,8 @@ Error WriteFailure(const std::string& path, int code) { return Failure("Impossib
 bool WriteAll(int file, ByteView bytes) {
   while (!bytes.empty()) {
     const ssize_t written = ::write(file, bytes.data(), bytes.size());
-    if (written < 0 && errno != EINTR) return false;
+    if (written == 0) errno = EIO;
+    if (written == 0 || (written < 0 && errno != EINTR)) return false;
     if (written > 0) bytes = bytes.subspan(static_cast<std::size_t>(written));
   }
   return true;
@@ -80,11 +83,22 @@ void FlushFolder(const std::string& folder) {
   if (opened.Valid()) ::fsync(opened.Number());
 }
 
-// Owner and permissions of `old`. Ownership follows as far as the system lets it.
-int TakeOver(int file, const struct stat& old) {
+// The access list of the file at `path`, or none in the place of what the folder has given to `file`.
+bool TakeOverAccessList(int file, const std::string& path) {
+  constexpr const char* Name = "system.posix_acl_access";
+  Bytes list(LongestAccessList);
+  const ssize_t size = ::getxattr(path.c_str(), Name, list.data(), list.size());
+  if (size > 0) return ::fsetxattr(file, Name, list.data(), static_cast<std::size_t>(size), 0) == 0;
+  return ::fremovexattr(file, Name) == 0 || ::fgetxattr(file, Name, nullptr, 0) <= 0;
+}
+
+// Owner and permissions of `old`, the file at `path`. Ownership follows as far as the system lets it.
+int TakeOver(int file, const std::string& path, const struct stat& old) {
   const bool owned = ::fchown(file, old.st_uid, old.st_gid) == 0 || ::fchown(file, NoOwner, old.st_gid) == 0;
-  // A group that could not follow must not be given the rights of another one.
-  const mode_t mode = old.st_mode & (owned ? 07777U : 07707U);
+  // A group that could not follow must not be given the rights of another one, nor, without its access list, those
+  // that the list only bounds.
+  const bool listed = TakeOverAccessList(file, path);
+  const mode_t mode = old.st_mode & (owned && listed ? 07777U : 07707U);
   return ::fchmod(file, mode) == 0 ? 0 : errno;
 }
 
@@ -229,7 +243,7 @@ Outcome ReplaceFile(const std::string& path, ByteView bytes, const std::string& 
   std::string temporary;
   const Descriptor file(OpenTemporary(folder, hasModel ? 0600 : 0666, temporary));
   if (!file.Valid()) return WriteFailure(path, errno);
-  int code = hasModel ? TakeOver(file.Number(), exists ? old : model) : 0;
+  int code = hasModel ? TakeOver(file.Number(), exists ? target : like, exists ? old : model) : 0;
   if (code == 0) code = WriteFlushCompare(file.Number(), bytes);
   if (code == 0 && ::rename(temporary.c_str(), target.c_str()) != 0) code = errno;
   if (code != 0) {

@@ -32,8 +32,8 @@ Result<std::uint64_t> FileSize(const std::string& path);
 Result<Bytes> ReadFile(const std::string& path, std::size_t limit);
 
 // Writes a file beside `path`, flushes it, reads it back, and puts it in the place of `path` in one step. Follows
-// a symbolic link and keeps the permissions of an existing file; a new one takes those of the file `like`, if it
-// is given. After an error the old file is as it was. What a save that was killed has left in the folder goes away.
+// a symbolic link and keeps the permissions of an existing file, its access list too; a new one takes those of the file
+// `like`, if it is given. After an error the old file is as it was. What a save that was killed has left in the folder goes away.
 Outcome ReplaceFile(const std::string& path, ByteView bytes, const std::string& like = {});
 
 // For a folder that takes no new file: overwrites an existing file of the same size where it lies, flushes it

@@ -38,6 +38,8 @@ class Dialogs {
   // An empty title stands for the program's name.
   virtual void Message(const QString& text, const QString& title, Tone tone = Tone::Warning) = 0;
   virtual bool YesNo(const QString& question) = 0;
+  // Where a Yes cannot be taken back: Enter says No.
+  virtual bool FinalYesNo(const QString& question) = 0;
   virtual Answer YesNoCancel(const QString& question) = 0;
   virtual bool OkCancel(const QString& question) = 0;
   // The line typed, nothing when the user cancels.

@@ -1,5 +1,7 @@
 #include "ui/document.h"
 
+#include "base/file.h"
+
 namespace Ui {
 
 using Routines::State;
@@ -38,13 +40,14 @@ void Document::Redo() {
 }
 
 void Document::MarkSaved(const std::string& path) {
-  saved_[state_->ListNumber] = {path, std::make_unique<State>(*state_)};
+  saved_[state_->ListNumber] = {Base::ResolvedPath(path), std::make_unique<State>(*state_)};
   if (saved_.size() > MostSavedLists) saved_.erase(saved_.begin());
   Tell();
 }
 
 void Document::ForgetSaved(const std::string& path) {
-  std::erase_if(saved_, [&path](const auto& entry) { return entry.second.path == path; });
+  std::erase_if(
+      saved_, [target = Base::ResolvedPath(path)](const auto& entry) { return entry.second.path == target; });
 }
 
 void Document::MarkUnsaved() {

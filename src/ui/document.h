@@ -68,7 +68,7 @@ class Document : public QObject {
 
   std::unique_ptr<Routines::State> state_;
   struct Saved {
-    std::string path;
+    std::string path;  // resolved, as one image may have many names
     std::unique_ptr<Routines::State> state;
   };
   std::map<int, Saved> saved_;  // of each list, by number, what the disk has

@@ -2,22 +2,45 @@
 
 #include <QNetworkReply>
 #include <QNetworkRequest>
+#include <QSslError>
 #include <QUrl>
 
 namespace Ui {
+namespace {
+
+// Why a transfer has failed; empty where it has not.
+QString ReasonOf(const QNetworkReply& reply) {
+  switch (reply.error()) {
+    case QNetworkReply::NoError:
+      return {};
+    case QNetworkReply::OperationCanceledError:
+      return "il server non risponde";
+    case QNetworkReply::InsecureRedirectError:
+      return "il server rimanda a un indirizzo meno sicuro";
+    case QNetworkReply::ProtocolUnknownError:
+      return "il server rimanda a un indirizzo che non è http o https";
+    default:
+      break;
+  }
+  const int status = reply.attribute(QNetworkRequest::HttpStatusCodeAttribute).toInt();
+  return status >= 400 ? "il server risponde " + QString::number(status) : reply.errorString();
+}
+
+}  // namespace
 
 Download::Download(QObject* parent) : Download(Limits{}, parent) {}
 
 Download::Download(const Limits& limits, QObject* parent) : QObject(parent), limits_(limits) {
   wholeTime_.setSingleShot(true);
-  connect(&wholeTime_, &QTimer::timeout, this, &Download::Stop);
+  connect(&wholeTime_, &QTimer::timeout, this, [this] { Stop("il server ci mette troppo"); });
 }
 
 void Download::Start(const QString& address) {
   const QUrl url(address.trimmed(), QUrl::StrictMode);
   bytes_.clear();
-  stopped_ = false;
+  reason_.clear();
   if (!url.isValid() || (url.scheme() != "http" && url.scheme() != "https")) {
+    reason_ = "si scarica solo da indirizzi http e https";
     Q_EMIT Finished(false, {});
     return;
   }
@@ -28,6 +51,9 @@ void Download::Start(const QString& address) {
   wholeTime_.start(limits_.whole);
   connect(reply_, &QNetworkReply::readyRead, this, &Download::Take);
   connect(reply_, &QNetworkReply::downloadProgress, this, &Download::Progress);
+  connect(reply_, &QNetworkReply::sslErrors, this, [this](const QList<QSslError>& errors) {
+    reason_ = "certificato del server non valido: " + errors.value(0).errorString();
+  });
   connect(reply_, &QNetworkReply::finished, this, &Download::End);
 }
 
@@ -42,11 +68,11 @@ void Download::Cancel() {
 
 void Download::Take() {
   bytes_ += reply_->readAll();
-  if (bytes_.size() > limits_.bytes) Stop();
+  if (bytes_.size() > limits_.bytes) Stop("la risposta è troppo grande");
 }
 
-void Download::Stop() {
-  stopped_ = true;
+void Download::Stop(const QString& reason) {
+  reason_ = reason;
   reply_->abort();
 }
 
@@ -55,9 +81,9 @@ void Download::End() {
   reply_ = nullptr;
   wholeTime_.stop();
   if (reply->isOpen()) bytes_ += reply->readAll();
-  const bool good = reply->error() == QNetworkReply::NoError && !stopped_;
+  if (reason_.isEmpty()) reason_ = ReasonOf(*reply);
   reply->deleteLater();
-  Q_EMIT Finished(good, bytes_);
+  Q_EMIT Finished(reason_.isEmpty(), bytes_);
 }
 
 }  // namespace Ui

@@ -27,16 +27,18 @@ class Download : public QObject {
   // Begins a GET of an http or https address, following redirects that are no less safe. Not while one is running.
   void Start(const QString& address);
   void Cancel();
+  [[nodiscard]] const QString& Reason() const { return reason_; }
 
  Q_SIGNALS:
   // Bytes so far, and in all where the server says so, else -1.
   void Progress(qint64 received, qint64 total);
-  // The end of every transfer but a cancelled one. `good` means that the whole reply came without an error.
+  // The end of every transfer but a cancelled one. `good` means that the whole reply came without an error; else
+  // Reason() says what went wrong.
   void Finished(bool good, const QByteArray& reply);
 
  private:
   void Take();
-  void Stop();
+  void Stop(const QString& reason);
   void End();
 
   Limits limits_;
@@ -44,7 +46,7 @@ class Download : public QObject {
   QTimer wholeTime_;
   QNetworkReply* reply_ = nullptr;
   QByteArray bytes_;
-  bool stopped_ = false;  // by one of the limits
+  QString reason_;  // empty while nothing has gone wrong
 };
 
 }  // namespace Ui

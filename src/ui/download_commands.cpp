@@ -87,6 +87,8 @@ void DownloadCommands::Take(bool good, const QByteArray& reply) {
   }
   const std::string_view text(reply.constData(), static_cast<std::size_t>(reply.size()));
   if (!good || !Formats::LooksLikeSatcodx(text)) {
+    session_.status.ShowResult("Scaricamento non riuscito: " +
+                               (good ? "la risposta non è una lista SatcoDX" : download_.Reason()));
     session_.dialogs.Message("Errore di connessione a : " + address_ + CodePageText(text.substr(0, 80)), {});
     return;
   }

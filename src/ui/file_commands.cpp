@@ -5,6 +5,7 @@
 #include "model/flash_writer.h"
 #include "model/symbol_rates.h"
 #include "support/pos_ini.h"
+#include "ui/toolkit.h"
 
 #include <cerrno>
 
@@ -24,6 +25,17 @@ QString ShortName(const std::string& path) {
   constexpr qsizetype Longest = 60;
   const QString name = PathText(Base::FileName(path));
   return name.size() <= Longest ? name : name.left(Longest / 2) + "…" + name.right(Longest / 2);
+}
+
+Base::Result<Base::Bytes> ReadWaiting(const std::string& path, const char* title) {
+  const WaitCursor wait;
+  return Routines::ReadFlash(path, title);
+}
+
+Base::Outcome SaveWaiting(const std::string& path, Base::ByteView before, Base::ByteView after,
+                          Routines::Backups& backups) {
+  const WaitCursor wait;
+  return Routines::SaveFlash(path, before, after, backups);
 }
 
 QString LoadResult(const State& state, const Routines::LoadReport& report, bool appended) {
@@ -67,7 +79,7 @@ void FileCommands::ApriFlashInput(std::string path) {
   if (!appendStart) return;
   if (path.empty()) path = AskFlash("Selezionare la flash di input", FolderKind::Input);
   if (path.empty()) return;
-  const auto image = Routines::ReadFlash(path, InputTitle);
+  const auto image = ReadWaiting(path, InputTitle);
   if (!image) {
     session_.Message(image.error());
     return;
@@ -136,7 +148,7 @@ void FileCommands::Salva() {
     AskAndWrite(*preparation);
     return;
   }
-  const auto original = Routines::ReadFlash(path, OutputTitle);
+  const auto original = ReadWaiting(path, OutputTitle);
   if (!original) {
     session_.Message(original.error());
     return;
@@ -147,7 +159,7 @@ void FileCommands::Salva() {
 void FileCommands::AskAndWrite(const Preparation& preparation) {
   const std::string path = AskFlash("Selezionare la flash di output", FolderKind::Output);
   if (path.empty()) return;
-  const auto original = Routines::ReadFlash(path, OutputTitle);
+  const auto original = ReadWaiting(path, OutputTitle);
   if (!original) {
     const bool vanished = original.error().systemCode == ENOENT;
     session_.Message(vanished ? Routines::WrongFlashSize(0, OutputTitle) : original.error());
@@ -165,7 +177,7 @@ void FileCommands::Write(const std::string& path, const Base::Bytes& original,
   const Routines::PatchedFlash patched = Routines::PatchFlash(state, original, preparation.plan);
   status.ShowProgress(30);
   const auto saved = Routines::DiffersOnlyInSections(original, patched.image)
-                         ? Routines::SaveFlash(path, original, patched.image, session_.backups)
+                         ? SaveWaiting(path, original, patched.image, session_.backups)
                          : Base::Error{"Impossibile scrivere " + Base::FileName(path) +
                                        ": la modifica esce dalle sezioni conosciute"};
   status.ShowProgress(100);

@@ -23,13 +23,20 @@ bool Exists(const std::string& path) {
   return std::filesystem::exists(path, error);
 }
 
-// Beside what was set aside before, as far as a few names go. Returns the name it has now, empty where it stayed.
+// Beside what was set aside before; where no name is free in the place of the oldest. Returns the name it has now, empty
+// where it stayed.
 std::string SetAside(const std::string& path, const std::string& ending) {
-  constexpr int MostSetAside = 9;
-  std::string aside = path + ending;
-  for (int number = 2; Exists(aside) && number <= MostSetAside; ++number)
-    aside = path + ending + std::to_string(number);
+  constexpr int MostSetAside = 99;
   std::error_code error;
+  std::string aside;
+  auto oldest = std::filesystem::file_time_type::max();
+  for (int number = 1; number <= MostSetAside && (aside.empty() || Exists(aside)); ++number) {
+    const std::string name = path + ending + (number == 1 ? "" : std::to_string(number));
+    const auto time = std::filesystem::last_write_time(name, error);  // before any other for a free name
+    if (time >= oldest) continue;
+    oldest = time;
+    aside = name;
+  }
   std::filesystem::rename(path, aside, error);
   return error ? std::string() : aside;
 }
@@ -71,12 +78,13 @@ std::optional<KeptWork::Place> KeptWork::Claim(int number) const {
 }
 
 // Files that nobody has been asked about yet are left for the next start.
-bool KeptWork::HasPlace() {
+Base::Outcome KeptWork::FindPlace() {
   for (int number = 1; own_.path.empty() && number <= MostPrograms; ++number) {
     if (Exists(PathOf(number))) continue;
     if (auto place = Claim(number)) own_ = std::move(*place);
   }
-  return !own_.path.empty();
+  if (own_.path.empty()) return Base::Error{"Troppi file di recupero in " + session_.programFolder};
+  return Base::Done{};
 }
 
 void KeptWork::Offer() {
@@ -155,7 +163,10 @@ void KeptWork::Write() {
     Discard();
     return;
   }
-  if (!HasPlace()) return;
+  if (const auto place = FindPlace(); !place) {
+    Written(place);
+    return;
+  }
   SetReplacedAside();
   writing_ = true;
   writer_.start([this, path = own_.path, bytes = Contents()] {
@@ -170,12 +181,17 @@ void KeptWork::Write() {
   });
 }
 
-// A failure is told once, until a write has succeeded again.
+// A failure is told once, until a write has succeeded again; that it lasts stands beside the list's figures.
 void KeptWork::Written(const Base::Outcome& outcome) {
-  if (!outcome && !failureTold_) {
+  const bool failed = !outcome;
+  if (failed && !failed_) {
     session_.status.ShowResult("Modifiche non conservate per il recupero: " + Text(outcome.error().message));
   }
-  failureTold_ = !outcome;
+  if (failed == failed_) return;
+  failed_ = failed;
+  session_.status.SetKept(!failed);
+  session_.status.ShowList(session_.document.Tables(), session_.document.Unsaved(),
+                           session_.clipboard.Count());
 }
 
 Base::Outcome KeptWork::Flush() {
@@ -185,7 +201,7 @@ Base::Outcome KeptWork::Flush() {
     Discard();
     return Base::Done{};
   }
-  if (!HasPlace()) return Base::Error{"Troppi file di recupero in " + session_.programFolder};
+  if (auto place = FindPlace(); !place) return place;
   SetReplacedAside();
   return Base::ReplaceFile(own_.path, Contents());
 }

@@ -38,7 +38,8 @@ class KeptWork : public QObject {
   [[nodiscard]] std::string PathOf(int number) const;
   // Nothing where another running program has that number.
   [[nodiscard]] std::optional<Place> Claim(int number) const;
-  bool HasPlace();
+  // Sees to it that there is a file to write to.
+  Base::Outcome FindPlace();
   bool Take(const std::string& path);
   void Restore(Edit::Recovery& recovery);
 
@@ -54,9 +55,9 @@ class KeptWork : public QObject {
   QElapsedTimer sinceWrite_;
   QThreadPool writer_;
   bool writing_ = false;
-  bool failureTold_ = false;
-  Place own_;         // without a path until a file is needed
-  int keptList_ = 0;  // ListNumber of what the file holds
+  bool failed_ = false;  // the last write
+  Place own_;            // without a path until a file is needed
+  int keptList_ = 0;     // ListNumber of what the file holds
 };
 
 }  // namespace Ui

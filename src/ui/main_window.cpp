@@ -404,16 +404,17 @@ void CopiaTCSTPT::dropEvent(QDropEvent* event) {
 
 // Nothing is asked on the way out, as unsaved work is kept; only where it cannot be kept the user decides.
 void CopiaTCSTPT::closeEvent(QCloseEvent* event) {
-  // A cell that is being edited takes what has been typed.
+  // What is being typed counts, in a cell also while the focus is elsewhere.
   if (QWidget* editor = QApplication::focusWidget()) editor->clearFocus();
+  session_->view.FinishEditing();
   const auto kept = kept_->Flush();
-  if (!kept && !dialogs_->YesNo(Text(kept.error().message) +
-                                "\n\nLe modifiche non salvate andrebbero perse. Si desidera chiudere?")) {
+  if (!kept &&
+      !dialogs_->FinalYesNo(Text(kept.error().message) +
+                            "\n\nLe modifiche non salvate andrebbero perse. Si desidera chiudere?")) {
     event->ignore();
     return;
   }
   QSettings(SettingsFile(), QSettings::IniFormat).setValue("Finestra/Geometria", saveGeometry());
-  session_->view.FinishEditing();
   favourites_->CloseWindow();
   compare_->CloseWindow();
   event->accept();

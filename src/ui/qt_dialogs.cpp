@@ -35,8 +35,10 @@ QString Breakable(QString text) {
 }
 
 QMessageBox::StandardButton Show(QWidget* parent, QMessageBox::Icon icon, const QString& text,
-                                 const QString& title, QMessageBox::StandardButtons buttons) {
+                                 const QString& title, QMessageBox::StandardButtons buttons,
+                                 QMessageBox::StandardButton onEnter = QMessageBox::NoButton) {
   QMessageBox box(icon, title.isEmpty() ? QString("Trovalis") : title, Breakable(text), buttons, parent);
+  box.setDefaultButton(onEnter);
   box.setTextFormat(Qt::PlainText);
   return static_cast<QMessageBox::StandardButton>(box.exec());
 }
@@ -67,6 +69,11 @@ void QtDialogs::Message(const QString& text, const QString& title, Tone tone) {
 bool QtDialogs::YesNo(const QString& question) {
   return Show(parent_, QMessageBox::Question, question, {}, QMessageBox::Yes | QMessageBox::No) ==
          QMessageBox::Yes;
+}
+
+bool QtDialogs::FinalYesNo(const QString& question) {
+  return Show(parent_, QMessageBox::Warning, question, {}, QMessageBox::Yes | QMessageBox::No,
+              QMessageBox::No) == QMessageBox::Yes;
 }
 
 Answer QtDialogs::YesNoCancel(const QString& question) {

@@ -15,6 +15,7 @@ class QtDialogs : public Dialogs {
 
   void Message(const QString& text, const QString& title, Tone tone) override;
   bool YesNo(const QString& question) override;
+  bool FinalYesNo(const QString& question) override;
   Answer YesNoCancel(const QString& question) override;
   bool OkCancel(const QString& question) override;
   std::optional<QString> AskLine(const QString& question) override;

@@ -62,7 +62,7 @@ void StatusLine::ShowList(const Routines::State& state, bool unsaved, int clipbo
   transponders_->setVisible(state.Loaded);
   clipboard_->setText(QString("Appunti %1").arg(clipboard));
   clipboard_->setVisible(clipboard > 0);
-  unsaved_->setText(unsaved ? "Modifiche non salvate" : "");
+  unsaved_->setText(!unsaved ? "" : kept_ ? "Modifiche non salvate" : "Modifiche non salvate né conservate");
   unsaved_->setVisible(unsaved);
   const QString name = state.OutputFlash.empty() ? "nessuna" : PathText(Base::FileName(state.OutputFlash));
   output_->Show("Flash di output : " + name, PathText(state.OutputFlash));

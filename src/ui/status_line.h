@@ -23,6 +23,8 @@ class StatusLine : public QObject {
 
   void ShowResult(const QString& text);
   void ShowList(const Routines::State& state, bool unsaved, int clipboard);
+  // Whether unsaved work is put aside against a crash, from the next list shown on.
+  void SetKept(bool kept) { kept_ = kept; }
   // 0..100 while a command runs; 100 hides the bar again.
   void ShowProgress(int percent);
 
@@ -40,6 +42,7 @@ class StatusLine : public QObject {
   QLabel* unsaved_;
   ElidedLabel* output_;
   QProgressBar* progress_;
+  bool kept_ = true;
 };
 
 }  // namespace Ui

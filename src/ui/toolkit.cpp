@@ -26,4 +26,8 @@ void SetUpToolkit(QApplication& application) {
   std::signal(SIGXFSZ, SIG_IGN);
 }
 
+WaitCursor::WaitCursor() { QApplication::setOverrideCursor(Qt::WaitCursor); }
+
+WaitCursor::~WaitCursor() { QApplication::restoreOverrideCursor(); }
+
 }  // namespace Ui

@@ -6,6 +6,7 @@
 
 #include <cerrno>
 #include <sys/stat.h>
+#include <sys/xattr.h>
 #include <unistd.h>
 
 namespace Base {
@@ -36,6 +37,29 @@ TEST(File, ReplacingFollowsLinksAndKeepsPermissions) {
   EXPECT_EQ(status.st_mode & 07777U, 0640U);
   EXPECT_EQ(Contents(path), New);
   EXPECT_EQ(folder.Files(), 2) << "no temporary file is left";
+}
+
+// An access list goes along; one that only the folder would give to a new file does not.
+TEST(File, ReplacingKeepsTheAccessList) {
+  constexpr const char* List = "system.posix_acl_access";
+  // Version 2; the owner, user 1234, the owning group, what others may get at most, everybody else.
+  const std::string user(
+      "\2\0\0\0\1\0\6\0\xFF\xFF\xFF\xFF\2\0\6\0\xD2\4\0\0\4\0\0\0\xFF\xFF\xFF\xFF"
+      "\20\0\6\0\xFF\xFF\xFF\xFF\40\0\0\0\xFF\xFF\xFF\xFF",
+      44);
+  const TestFolder folder;
+  const std::string listed = folder.Write("listed.dat", Old);
+  if (::setxattr(listed.c_str(), List, user.data(), user.size(), 0) != 0)
+    GTEST_SKIP() << "no access lists here";
+  const std::string plain = folder.Write("plain.dat", Old);
+  ASSERT_EQ(::setxattr(folder.Path().c_str(), "system.posix_acl_default", user.data(), user.size(), 0), 0);
+
+  ASSERT_TRUE(ReplaceFile(listed, New));
+  ASSERT_TRUE(ReplaceFile(plain, New));
+  std::string found(100, ' ');
+  ASSERT_EQ(::getxattr(listed.c_str(), List, found.data(), found.size()), 44);
+  EXPECT_EQ(found.substr(0, 44), user);
+  EXPECT_LT(::getxattr(plain.c_str(), List, nullptr, 0), 0);
 }
 
 TEST(File, AFullDiskLeavesTheOldFile) {

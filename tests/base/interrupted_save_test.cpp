@@ -22,6 +22,7 @@ namespace {
 
 int callsLeft = -1;  // before one fails; below 0 none does
 int failure = 0;
+bool lying = false;  // a disk that tells nobody what it got wrong, for one write
 bool tracing = false;
 std::string trace;  // a letter for each call
 
@@ -51,6 +52,11 @@ int WrappedOpen(const char* path, int flags, mode_t mode) {
 
 // A failing write leaves a part behind first, as a full disk does.
 ssize_t WrappedWrite(int file, const void* bytes, std::size_t count) {
+  if (lying) {
+    lying = false;
+    const std::string wrong(count, 'x');
+    return RealWrite(file, wrong.data(), count);
+  }
   if (!Fails('w')) return RealWrite(file, bytes, count);
   const ssize_t part = RealWrite(file, bytes, count / 3);
   errno = failure;
@@ -159,6 +165,28 @@ TEST(InterruptedSave, FileAndFolderAreFlushedInTheirTurn) {
   ASSERT_TRUE(Base::ReplaceFile(path, New));
   tracing = false;
   EXPECT_EQ(trace, "owfrof");
+}
+
+// In place too: there the old bytes are written again.
+TEST(InterruptedSave, WhatTheDiskDoesNotGiveBackIsNotSaved) {
+  const TestFolder folder;
+  const std::string path = folder.Write("a.dat", Old);
+  const auto refused = [&path](const Base::Outcome& saved) {
+    return !saved &&
+           saved.error().message == "Impossibile scrivere a.dat: errore di lettura o scrittura del disco" &&
+           Contents(path) == Old;
+  };
+  lying = true;
+  EXPECT_TRUE(refused(Base::ReplaceFile(path, New)));
+  lying = true;
+  EXPECT_TRUE(refused(Base::OverwriteInPlace(path, Old, New)));
+  failure = EIO;
+  for (callsLeft = 2; callsLeft >= 0;) {
+    const int call = callsLeft;
+    EXPECT_TRUE(refused(Base::OverwriteInPlace(path, Old, New))) << call;
+    callsLeft = call - 1;
+  }
+  callsLeft = -1;
 }
 
 TEST(InterruptedSave, WhicheverCallFailsTheOldImageStaysAndTheErrorIsTold) {

@@ -89,6 +89,7 @@ struct RandomImage {
         image.Put(sector, slot, offset, "Suppor", Base::Bytes(junk.Below(3000), 'u'));
         return;
     }
+    if (junk.Below(4) == 0) image.SetLength(sector, offset, 65535);
     Allow(In(sector, offset + EntryHeaderSize), next - offset - EntryHeaderSize);
   }
 

@@ -87,14 +87,16 @@ std::unique_ptr<QTcpServer> SafeServer() {
   return server;
 }
 
-// The reply where it came whole, nothing where the transfer ended otherwise.
-std::optional<QByteArray> Fetch(const QString& address, const Download::Limits& limits = {}) {
+// The reply where it came whole; nothing where the transfer ended otherwise, for the reason given.
+std::optional<QByteArray> Fetch(const QString& address, const Download::Limits& limits = {},
+                                std::string* reason = nullptr) {
   Download download(limits, nullptr);
   std::optional<QByteArray> whole;
   bool ended = false;
   QObject::connect(&download, &Download::Finished, [&](bool good, const QByteArray& reply) {
     ended = true;
     if (good) whole = reply;
+    if (reason != nullptr) *reason = download.Reason().toStdString();
   });
   download.Start(address);
   EXPECT_TRUE(QTest::qWaitFor([&ended] { return ended; }, 5000)) << address.toStdString();
@@ -131,7 +133,9 @@ TEST(DownloadLimits, ARedirectNeverLeadsFromASafeServerToAnUnsafeOne) {
   EXPECT_EQ(open.asked, 1) << "not even asked for";
 
   QSslConfiguration::setDefaultConfiguration(before);
-  EXPECT_FALSE(Fetch(safe.Address())) << "a server that nobody vouches for";
+  std::string reason;
+  EXPECT_FALSE(Fetch(safe.Address(), {}, &reason)) << "a server that nobody vouches for";
+  EXPECT_TRUE(reason.starts_with("certificato del server non valido: ")) << reason;
 }
 
 TEST(DownloadLimits, SizeAndTimeAreBounded) {
@@ -157,6 +161,7 @@ TEST_F(Window, AnAddressIsFetchedOnlyWhenTheUserAsksForIt) {
   window_->findChild<QAbstractButton*>("Scarica")->click();
   EXPECT_TRUE(QTest::qWaitFor([this] { return driver_->Idle(); }, 5000));
   EXPECT_EQ(server.asked, 1);
+  EXPECT_EQ(Said(), "Scaricamento non riuscito: il server risponde 404");
 }
 
 }  // namespace Ui

@@ -88,6 +88,25 @@ TEST_F(Window, AFolderThatVanishesBehindTheDialogLosesNothing) {
   EXPECT_EQ(driver_->TextOf("ModificheNonSalvate"), "Modifiche non salvate");
 }
 
+TEST_F(Window, WhatIsWrittenOverByAnotherNameIsSavedNoLonger) {
+  OpenDemo();
+  const std::string image = folder_.Write("a.dat", Contents(flash_));
+  const std::string link = folder_.Path("b.dat");
+  std::filesystem::create_symlink("a.dat", link);
+  driver_->SelectRows(1, 3);
+  ASSERT_TRUE(driver_->Press("Toolbar1_Delete"));
+  driver_->ExpectFile(OutputDialog, PathText(image));
+  Summary(*driver_, 2, 644, true);
+  ASSERT_TRUE(driver_->Choose("ApriFlashOutput"));
+  Open(flash_);
+  driver_->ExpectFile(OutputDialog, PathText(link));
+  Summary(*driver_, 2, 647, true);
+  ASSERT_TRUE(driver_->Choose("ApriFlashOutput"));
+  EXPECT_EQ(driver_->TextOf("ModificheNonSalvate"), "");
+  ASSERT_TRUE(driver_->Choose("Annulla"));
+  EXPECT_EQ(driver_->TextOf("ModificheNonSalvate"), "Modifiche non salvate");
+}
+
 TEST_F(Window, AnImageInALockedFolderIsSavedWhereItLies) {
   OpenDemo();
   const std::string place = folder_.Path("bloccata");

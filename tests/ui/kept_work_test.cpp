@@ -94,6 +94,15 @@ TEST_F(KeptWorkWindow, ARefusedOrDamagedOrReplacedFileIsSetAside) {
   EXPECT_FALSE(List().Loaded);
   EXPECT_EQ(Contents(file_ + ".old"), kept);
 
+  for (int number = 2; number <= 99; ++number)
+    folder_.Write("trovalis.recupero.old" + std::to_string(number), "altra");
+  const std::string oldest = file_ + ".old50";
+  std::filesystem::last_write_time(oldest,
+                                   std::filesystem::last_write_time(file_ + ".old") - std::chrono::hours(1));
+  folder_.Write("trovalis.recupero", kept);
+  StartAndAnswer(false);
+  EXPECT_EQ(Contents(oldest), kept) << "the oldest gives way";
+
   folder_.Write("trovalis.recupero", Base::ByteView(kept).first(kept.size() - 1));
   folder_.Write("trovalis-2.recupero", kept);
   StartAndAnswer(true);
@@ -149,16 +158,23 @@ TEST_F(KeptWorkWindow, WhatCannotBeKeptIsToldAndAskedAboutOnlyAtTheEnd) {
     const std::string told =
         "Modifiche non conservate per il recupero: Impossibile scrivere trovalis.recupero: ";
     EXPECT_TRUE(QTest::qWaitFor([&] { return Said() == told + "permesso negato"; }, 3000)) << Said();
+    DeleteFirst();
+    EXPECT_EQ(driver_->TextOf("ModificheNonSalvate"), "Modifiche non salvate né conservate")
+        << "as long as it lasts";
     const QString question =
         "Impossibile scrivere trovalis.recupero: permesso negato\n\nLe modifiche non salvate andrebbero "
         "perse. Si "
         "desidera chiudere?";
     driver_->ExpectQuestion(question, false);
     EXPECT_FALSE(window_->close());
+    driver_->ExpectDialog("Trovalis", [](QDialog& box) { QTest::keyClick(&box, Qt::Key_Return); });
+    EXPECT_FALSE(window_->close()) << "Enter loses nothing";
   }
   ::chmod(folder_.Path().c_str(), 0777);
   DeleteFirst();
   EXPECT_TRUE(FileIs(true)) << "the next change tries again";
+  EXPECT_TRUE(
+      QTest::qWaitFor([&] { return driver_->TextOf("ModificheNonSalvate") == "Modifiche non salvate"; }));
 }
 
 TEST_F(KeptWorkWindow, AMalformedSrIniEndsTheProgramWithTheWorkKept) {

@@ -4,19 +4,16 @@
 // as short as it goes before it is told.
 //   TROVALIS_MODEL_SECONDS=600                          goes on with new seeds for that long
 //   TROVALIS_MODEL_SEED=7 TROVALIS_MODEL_STEPS=3,17,44  plays one sequence and tells its steps; "1-200" stands for all
-#include "base/file.h"
-#include "base/text.h"
 #include "demo_flash.h"
 #include "demo_sdx.h"
-#include "image_builder.h"
-#include "model/favourites.h"
-#include "model/flash_loader.h"
-#include "model/list_tree.h"
 #include "support/bouquets_txt.h"
+#include "support/sr_ini.h"
 #include "support/test_folder.h"
 #include "ui/commands.h"
 #include "ui/griglia.h"
 #include "ui/main_window.h"
+#include "ui/random_input.h"
+#include "ui/window_faults.h"
 
 #include <QAbstractButton>
 #include <QApplication>
@@ -35,148 +32,17 @@
 #include <filesystem>
 #include <iostream>
 #include <numeric>
-#include <random>
 
 namespace Ui {
 namespace {
 
-using Routines::ListTree;
 using Routines::State;
-
-class Random {
- public:
-  void Seed(unsigned sequence, int step) { engine_.seed(sequence * 100003U + static_cast<unsigned>(step)); }
-  unsigned Next() { return static_cast<unsigned>(engine_()); }
-  int Below(int bound) { return bound > 0 ? static_cast<int>(Next() % static_cast<unsigned>(bound)) : 0; }
-  bool Chance(int percent) { return Below(100) < percent; }
-  template <class List>
-  const auto& Pick(const List& list) {
-    return list[static_cast<decltype(list.size())>(Below(static_cast<int>(list.size())))];
-  }
-  QString Number(int last) {
-    const QStringList odd = {"", "0", "-3", "x", " 7", "65536", "99999999999", QString::number(last)};
-    return Chance(25) ? Pick(odd) : QString::number(1 + Below(last));
-  }
-  QString Words() {
-    static const QStringList texts = {"Città", "a",  "ARTE|x", "<b>", "",      "中",
-                                      "A4",    "12", "S",      "H",   "11766", "Nome lunghissimo"};
-    return Pick(texts);
-  }
-  template <class Record>
-  void Fill(Record& record) {
-    for (auto& byte : record.bytes) byte = static_cast<Base::Byte>(Next());
-  }
-
- private:
-  std::mt19937 engine_;
-};
-
-// Sections of any size at any place, good records among junk; now and then a directory or a length that is wrong.
-Base::Bytes RandomImage(Random& random) {
-  Samples::ImageBuilder image(random.Next());
-  std::vector<Routines::TransponderRecord> transponders;
-  for (int i = random.Below(300); i > 0; --i) {
-    auto& record = transponders.emplace_back(
-        Samples::MakeTransponder(10600 + random.Below(2300), random.Chance(50), random.Below(4),
-                                 random.Below(16), random.Below(7), random.Below(65536), random.Below(400)));
-    if (random.Chance(5)) random.Fill(record);
-  }
-  image.PutRecords(1, 1, 16 + static_cast<std::size_t>(random.Below(3000)), "TPT", transponders);
-  const int most = random.Chance(30) ? 2000 : 60;
-  for (std::size_t sector = 2; sector < 5; ++sector) {
-    std::vector<Routines::ChannelRecord> channels;
-    for (int i = random.Below(most); i > 0; --i) {
-      auto& record = channels.emplace_back(Samples::MakeChannel(
-          "C" + std::to_string(random.Below(200)), random.Below(256), random.Below(500),
-          random.Chance(30) ? 65535 : random.Below(9000), random.Chance(20) ? 65535 : random.Below(9000)));
-      if (random.Chance(5)) random.Fill(record);
-      if (random.Chance(10)) record = {};
-    }
-    image.PutRecords(sector, 0, 16 + static_cast<std::size_t>(random.Below(4000)), "TCS", channels);
-  }
-  Base::Bytes block(random.Chance(80) ? Routines::NormalFavouritesSize
-                                      : static_cast<std::size_t>(random.Below(6000)));
-  for (std::size_t at = 0; at + 1 < block.size(); at += 2) {
-    if (random.Chance(20)) continue;
-    const int slot = random.Below(random.Chance(90) ? 3 * most : 65536);
-    block[at] = static_cast<Base::Byte>(slot >> 8);
-    block[at + 1] = static_cast<Base::Byte>(slot & 255);
-  }
-  if (random.Chance(85)) image.PutFavourites(5, 2, 100, block, static_cast<std::size_t>(random.Below(500)));
-  if (random.Chance(20))
-    image.SetDirectory(1 + static_cast<std::size_t>(random.Below(8)), 5, random.Next() & 65535U);
-  if (random.Chance(20)) image.SetLength(2, 16, random.Next() & 65535U);
-  return image.Image();
-}
-
-class RandomAnswers : public Dialogs {
- public:
-  RandomAnswers(Random& random, const Tests::TestFolder& folder) : random_(random), folder_(folder) {}
-
-  void Message(const QString&, const QString&, Tone) override {}
-  bool YesNo(const QString&) override { return yes = random_.Chance(50), ++questions, yes; }
-  Answer YesNoCancel(const QString&) override {
-    return random_.Pick(std::vector{Answer::Yes, Answer::No, Answer::Cancel});
-  }
-  bool OkCancel(const QString&) override { return random_.Chance(50); }
-  std::optional<QString> AskLine(const QString&) override {
-    if (random_.Chance(10)) return std::nullopt;
-    return random_.Chance(80) ? random_.Number(random_.Chance(50) ? 60 : 4000) : random_.Words();
-  }
-  std::optional<int> Choose(const QString&, const QStringList& choices, int) override {
-    return random_.Chance(10) ? std::nullopt : std::optional(random_.Below(static_cast<int>(choices.size())));
-  }
-  QString OpenFile(const FileQuestion& question) override {
-    if (random_.Chance(10)) return {};
-    for (const QString ending : {"dat", "sdx", "txt", "fls"}) {
-      if (question.filters.contains("*." + ending)) return File(ending);
-    }
-    return File("dat");
-  }
-  QString SaveFile(const FileQuestion& question) override {
-    if (random_.Chance(10)) return {};
-    return File(question.filters.contains("*.pdf")   ? "pdf"
-                : question.filters.contains("*.fls") ? "fls"
-                                                     : "txt");
-  }
-
-  int questions = 0;
-  bool yes = false;
-
- private:
-  QString File(const QString& ending) {
-    static const QStringList names = {"1", "2", "3", "1", "2", "odd"};
-    return PathText(folder_.Path((random_.Pick(names) + "." + ending).toStdString()));
-  }
-
-  Random& random_;
-  const Tests::TestFolder& folder_;
-};
 
 // What a step holds: a save sets the other two outside of every step.
 bool SameTables(const State& one, State other) {
   other.MaxChannels = one.MaxChannels;
   other.OutputFlash = one.OutputFlash;
   return one == other;
-}
-
-std::string TreeFault(const QAbstractItemModel& model, const ListTree& tree, const QModelIndex& at,
-                      int number) {
-  const ListTree::Group& group = tree.Groups()[static_cast<std::size_t>(number)];
-  const auto channels = tree.Channels(number);
-  const int rows = group.groups > 0 ? group.groups : static_cast<int>(channels.size());
-  if (model.rowCount(at) != rows)
-    return "rows below \"" + at.data().toString().toStdString() + "\" in the tree";
-  for (int row = 0; row < rows; ++row) {
-    const QModelIndex index = model.index(row, 0, at);
-    const int child = group.firstGroup + row;
-    const std::string text = group.groups > 0 ? TreeText(tree.Groups()[static_cast<std::size_t>(child)])
-                                              : TreeText(channels[static_cast<std::size_t>(row)]);
-    if (index.data().toString() != CodePageText(text)) return "node \"" + text + "\" of the tree";
-    if (group.groups == 0) continue;
-    if (std::string fault = TreeFault(model, tree, index, child); !fault.empty()) return fault;
-  }
-  return {};
 }
 
 // One sequence, from the start of the program on.
@@ -338,34 +204,16 @@ class Play {
   }
 
   void PressKey() {
-    static const std::vector<std::pair<Qt::Key, Qt::KeyboardModifiers>> keys = {
-        {Qt::Key_Up, {}},
-        {Qt::Key_Down, {}},
-        {Qt::Key_PageDown, {}},
-        {Qt::Key_Home, Qt::ControlModifier},
-        {Qt::Key_End, Qt::ControlModifier},
-        {Qt::Key_Down, Qt::ShiftModifier},
-        {Qt::Key_Left, {}},
-        {Qt::Key_Right, {}},
-        {Qt::Key_Delete, {}},
-        {Qt::Key_C, Qt::ControlModifier},
-        {Qt::Key_X, Qt::ControlModifier},
-        {Qt::Key_V, Qt::ControlModifier},
-        {Qt::Key_Up, Qt::AltModifier},
-        {Qt::Key_Down, Qt::AltModifier},
-        {Qt::Key_F2, {}},
-        {Qt::Key_F3, {}},
-        {Qt::Key_A, {}},
-        {Qt::Key_Escape, {}},
-        {Qt::Key_Return, {}},
-        {Qt::Key_1, Qt::ControlModifier},
-        {Qt::Key_8, Qt::ControlModifier},
-        {Qt::Key_A, Qt::ControlModifier}};
+    static const QStringList keys =
+        QString(
+            "Up Down PgDown Ctrl+Home Ctrl+End Shift+Down Left Right Del Ctrl+C Ctrl+X Ctrl+V Alt+Up "
+            "Alt+Down F2 F3 A Esc Return Ctrl+1 Ctrl+8 Ctrl+A")
+            .split(' ');
     window_->activateWindow();
     if (random_.Chance(70)) Grid().setFocus();
     QWidget* focus = QApplication::focusWidget();
-    const auto& [key, modifiers] = random_.Pick(keys);
-    QTest::keyClick(focus == nullptr ? &Grid() : focus, key, modifiers);
+    const QKeyCombination key = QKeySequence(random_.Pick(keys))[0];
+    QTest::keyClick(focus == nullptr ? &Grid() : focus, key.key(), key.keyboardModifiers());
   }
 
   void ChooseInPopup() {
@@ -373,14 +221,11 @@ class Play {
     Q_EMIT Grid().MenuWanted(QPoint(100, 100));
     auto* menu = window_->findChild<QMenu*>("MenuCanali");
     while (menu != nullptr && menu->isVisible()) {
-      QAction* action = random_.Pick(menu->actions());
-      const bool deeper = action->menu() != nullptr && action->isEnabled();
-      for (QAction* chosen = deeper ? random_.Pick(action->menu()->actions()) : action; chosen != nullptr;
-           chosen = nullptr) {
-        name_ += " " + chosen->objectName().toStdString();
-        menu->close();
-        chosen->trigger();
-      }
+      QAction* chosen = random_.Pick(menu->actions());
+      if (chosen->menu() != nullptr && chosen->isEnabled()) chosen = random_.Pick(chosen->menu()->actions());
+      name_ += " " + chosen->objectName().toStdString();
+      menu->close();
+      chosen->trigger();
     }
   }
 
@@ -407,10 +252,10 @@ class Play {
   }
 
   void ChooseOption() {
-    static const QStringList names = {"QuantiCanali_0",   "QuantiCanali_1",   "QuantiCanali_2",
-                                      "FlashScrittura_0", "FlashScrittura_1", "FlashScrittura_2",
-                                      "SRDef_0",          "SRDef_1"};
-    window_->findChild<QAbstractButton*>(random_.Pick(names))->click();
+    static const std::vector<std::pair<QString, int>> groups = {
+        {"QuantiCanali_", 3}, {"FlashScrittura_", 3}, {"SRDef_", 2}};
+    const auto& [group, options] = random_.Pick(groups);
+    window_->findChild<QAbstractButton*>(group + QString::number(random_.Below(options)))->click();
   }
 
   void ClickTree() {
@@ -501,110 +346,15 @@ class Play {
     if (fault_.empty()) fault_ = Fault();
   }
 
-  [[nodiscard]] std::string Fault() const {
-    for (const auto& fault : {TablesFault(), GridFault(), TreesFault(), FavouritesFault(), FiguresFault()})
-      if (!fault.empty()) return fault;
-    return {};
-  }
-
-  [[nodiscard]] std::string TablesFault() const {
-    const State& state = Tables();
-    const auto within = [](int value, int last) { return value >= 0 && value <= last; };
-    if (!within(state.MaxChannels, Routines::LastChannelSlot) ||
-        !within(state.ChannelCount, Routines::LastChannelSlot) ||
-        !within(state.TransponderCount, Routines::LastTransponderSlot))
-      return "a count is past its table";
-    if (!state.ChannelTable[0].Empty()) return "slot 0 is in use";
-    if (state.FavouritesBlock.size() > 65536 ||
-        state.SymbolRateTable.size() != Routines::EmptySymbolRateTable().size())
-      return "a block has a wrong size";
-    return {};
-  }
-
-  [[nodiscard]] std::string GridFault() const {
-    const bool channels = Label("Text1") == "Canali";
-    const bool ticks =
-        CommandAction(*window_, "VisualizzaCanali").isChecked() == channels &&
-        CommandAction(*window_, "VisualizzaTransponder").isChecked() == (Label("Text1") == "Transponders");
-    if (!ticks) return "marker and ticks differ";
-    if (!Grid().isVisible()) return {};
-    const QAbstractItemModel& model = *Grid().model();
-    if (model.rowCount() != (channels ? Tables().ChannelCount : Tables().TransponderCount))
-      return "rows of the grid";
-    if (const auto rows = Grid().Selected(); rows && (rows->first < 1 || rows->last > model.rowCount()))
-      return "selection";
-    const int last = Grid().rowAt(Grid().viewport()->height() - 1);
-    for (int row = std::max(Grid().rowAt(0), 0); row <= (last < 0 ? model.rowCount() - 1 : last); ++row) {
-      for (int column = 0; column < model.columnCount(); ++column) {
-        const std::string cell =
-            channels ? ChannelCell(Tables(), row + 1, column) : TransponderCell(Tables(), row + 1, column);
-        if (model.index(row, column).data().toString() != CodePageText(Base::TrimmedRight(cell)))
-          return "cell " + std::to_string(row + 1) + "," + std::to_string(column);
-      }
-    }
-    return {};
-  }
-
-  [[nodiscard]] std::string TreesFault() const {
-    for (const auto& [name, shape] : {std::pair{"TreeView1", ListTree::Shape::Bouquets},
-                                      std::pair{"TreeView2", ListTree::Shape::Transponders}}) {
-      const auto* tree = window_->findChild<QTreeView*>(name);
-      if (!tree->isVisible()) continue;
-      std::string fault =
-          TreeFault(*tree->model(), ListTree(Tables(), bouquets_.tables.satellites, shape), {}, 0);
-      if (!fault.empty()) return name + (": " + fault);
-    }
-    return {};
-  }
-
-  [[nodiscard]] std::string FavouritesFault() const {
-    const auto* lists = window_->findChild<QDialog*>("ListePreferiti");
-    for (std::size_t list = 0; list < Routines::FavouriteLists; ++list) {
-      const auto entries = Routines::FavouriteEntriesOf(Tables().FavouritesBlock, list);
-      const std::size_t room = Routines::FavouriteRoom(Tables().FavouritesBlock, list);
-      if (entries.size() > room || room > Routines::FavouriteEntries) return "favourites past their list";
-      if (lists == nullptr || !lists->isVisible()) continue;
-      const QString number = QString::number(list + 1);
-      const auto* model = lists->findChild<QListView*>("Preferiti_" + number)->model();
-      const QString count = lists->findChild<QLabel*>("ContaPreferiti_" + number)->text();
-      if (count != QString("%1 di %2").arg(entries.size()).arg(room)) return "count of a favourites list";
-      for (std::size_t i = 0; i < entries.size(); ++i) {
-        const QString text = model->index(static_cast<int>(i), 0).data().toString();
-        if (text.section(' ', 0, 0).toInt() != entries[i]) return "entry of a favourites list";
-      }
-      if (model->rowCount() != static_cast<int>(entries.size())) return "rows of a favourites list";
-    }
-    return {};
-  }
-
-  [[nodiscard]] std::string FiguresFault() const {
-    const State& state = Tables();
-    const QString channels =
-        QString("Canali %1 di %2").arg(Routines::UsedChannels(state)).arg(state.ChannelCount);
-    if (Label("CanaliUsati") != (state.Loaded ? channels : QString("Nessuna flash caricata")))
-      return "channel figures";
-    const QString transponders =
-        QString("Transponder %1 di %2").arg(Routines::UsedTransponders(state)).arg(state.TransponderCount);
-    if (Label("TransponderUsati") != transponders) return "transponder figures";
-    if (Label("ModificheNonSalvate").isEmpty() == window_->List().Unsaved())
-      return "unsaved changes are not told";
-    if (!state.InputFlash.empty() && !window_->windowTitle().contains(PathText(state.InputFlash)))
-      return "the title";
-    const bool undo = !window_->List().Steps().UndoLabel().empty();
-    if (CommandAction(*window_, "Annulla").isEnabled() != undo) return "undo is offered wrongly";
-    if (CommandAction(*window_, "Salva").isEnabled() != state.Loaded) return "saving is offered wrongly";
-    if (QApplication::activeModalWidget() != nullptr || QApplication::overrideCursor() != nullptr)
-      return "a box is left";
-    return {};
-  }
+  [[nodiscard]] std::string Fault() const { return FaultOf(*window_, bouquets_.tables.satellites); }
 
   unsigned seed_;
   Tests::TestFolder folder_;
   Random random_;
   Support::BouquetDefinitions bouquets_;
-  std::unique_ptr<CopiaTCSTPT> window_;
   RandomAnswers* answers_ = nullptr;
   std::unique_ptr<State> last_;
+  std::unique_ptr<CopiaTCSTPT> window_;  // behind what it tells its changes to
   int changes_ = 0;
   int boxTicks_ = 0;
   QTimer boxes_;
