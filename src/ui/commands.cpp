@@ -56,7 +56,8 @@ void BuildToolbar(QMainWindow& window) {
   toolbar->setObjectName("Toolbar1");
   toolbar->setMovable(false);
   toolbar->setContextMenuPolicy(Qt::PreventContextMenu);
-  toolbar->setIconSize(QSize(24, 24));
+  const int icon = std::max(24, window.fontMetrics().height() * 3 / 2);
+  toolbar->setIconSize(QSize(icon, icon));
   for (const ToolbarButton& button : ToolbarButtons) {
     if (button.startsGroup) toolbar->addSeparator();
     auto* action = toolbar->addAction(button.hidden ? QIcon() : IconNamed(button.icon), button.tip);

@@ -1,6 +1,7 @@
 #include "ui/print_commands.h"
 
 #include "base/file.h"
+#include "ui/screen_fit.h"
 
 #include <QAction>
 #include <QIcon>
@@ -83,7 +84,7 @@ void PrintCommands::Preview(const PrintReport& report) {
   QPrintPreviewDialog dialog(&printer, &window_);
   dialog.setObjectName("AnteprimaStampa");
   dialog.setWindowTitle(report.heading);
-  dialog.resize(900, 660);
+  ResizeOnScreen(dialog, {900, 660});
   QString result;
   QObject::connect(&dialog, &QPrintPreviewDialog::paintRequested, &dialog, [&](QPrinter* to) {
     if (!to->outputFileName().isEmpty()) {

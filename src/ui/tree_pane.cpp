@@ -1,6 +1,7 @@
 #include "ui/tree_pane.h"
 
 #include "ui/elided_label.h"
+#include "ui/screen_fit.h"
 
 #include <QStyledItemDelegate>
 #include <QToolButton>
@@ -70,7 +71,9 @@ TreePane::TreePane(const Document& document, const std::vector<Routines::Satelli
   column->addWidget(tree_, 1);
 }
 
-QSize TreePane::sizeHint() const { return {240, 400}; }
+QSize TreePane::sizeHint() const {
+  return {std::max({240, layout()->sizeHint().width(), Letters(*this, 26)}), 400};
+}
 
 void TreePane::Refresh() {
   stale_ = isHidden();
