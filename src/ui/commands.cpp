@@ -1,6 +1,7 @@
 #include "ui/commands.h"
 
 #include "ui/command_tips.h"
+#include "ui/themed_icon.h"
 
 #include <QAction>
 #include <QIcon>
@@ -15,8 +16,6 @@
 
 namespace Ui {
 namespace {
-
-QIcon IconNamed(const char* name) { return QIcon(QString(":/icons/%1.svg").arg(name)); }
 
 QString ButtonName(const char* key) { return "Toolbar1_" + QString(key).replace(' ', '_'); }
 
