@@ -59,6 +59,11 @@ void ReadableStyle::polish(QPalette& palette) {
   }
 }
 
+int ReadableStyle::styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
+                             QStyleHintReturn* data) const {
+  return hint == SH_Menu_Scrollable ? 1 : QProxyStyle::styleHint(hint, option, widget, data);
+}
+
 void ReadableStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,
                                   const QWidget* widget) const {
   const bool dark = option != nullptr && option->palette.color(QPalette::Base).lightness() < 128;

@@ -16,6 +16,9 @@ class ReadableStyle : public QProxyStyle {
   // the current cell a frame instead of a veil over its text.
   void drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,
                      const QWidget* widget) const override;
+  // A menu that is higher than the screen scrolls; in columns it may be wider than the screen.
+  int styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
+                QStyleHintReturn* data) const override;
 };
 
 // From 1 for colours that cannot be told apart to 21 for black on white; text wants 4.5.
