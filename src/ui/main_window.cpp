@@ -104,6 +104,7 @@ CopiaTCSTPT::CopiaTCSTPT(const std::string& programFolder, std::unique_ptr<Dialo
   auto* scroll = new QScrollArea(this);  // for a screen that is too small for them
   scroll->setFrameShape(QFrame::NoFrame);
   scroll->setFocusPolicy(Qt::NoFocus);
+  scroll->setMinimumSize(320, 200);
   scroll->setWidgetResizable(true);
   scroll->setWidget(contents);
   setCentralWidget(scroll);

@@ -72,7 +72,7 @@ TreePane::TreePane(const Document& document, const std::vector<Routines::Satelli
 }
 
 QSize TreePane::sizeHint() const {
-  return {std::max({240, layout()->sizeHint().width(), Letters(*this, 26)}), 400};
+  return {std::max({240, layout()->sizeHint().width(), Letters(*this, 28)}), 400};
 }
 
 void TreePane::Refresh() {
