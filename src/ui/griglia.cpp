@@ -211,7 +211,7 @@ std::vector<int> Griglia::SharedWidths() const {
   // Each takes its part of what those before it have left, so that no pixel is.
   for (std::size_t i = 0; i < widths.size(); ++i) {
     if (own_.contains(i)) continue;
-    const int share = spare * widths[i] / sharing;
+    const int share = spare * widths[i] / std::max(sharing, 1);
     sharing -= widths[i];
     widths[i] += share;
     spare -= share;

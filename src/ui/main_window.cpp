@@ -22,7 +22,6 @@
 #include <QFileInfo>
 #include <QIcon>
 #include <QMimeData>
-#include <QScrollArea>
 #include <QSettings>
 #include <QSplitter>
 #include <QStatusBar>
@@ -101,13 +100,7 @@ CopiaTCSTPT::CopiaTCSTPT(const std::string& programFolder, std::unique_ptr<Dialo
   column->addWidget(lists, 1);
   column->addWidget(new ErrorPane(session_->bouquets.errors, contents));
   column->addWidget(status->ResultLine());
-  auto* scroll = new QScrollArea(this);  // for a screen that is too small for them
-  scroll->setFrameShape(QFrame::NoFrame);
-  scroll->setFocusPolicy(Qt::NoFocus);
-  scroll->setMinimumSize(320, 200);
-  scroll->setWidgetResizable(true);
-  scroll->setWidget(contents);
-  setCentralWidget(scroll);
+  setCentralWidget(InScrollArea(contents, this));
 
   ConnectFileCommands();
   ConnectExchangeCommands();

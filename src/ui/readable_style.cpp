@@ -66,7 +66,8 @@ int ReadableStyle::styleHint(StyleHint hint, const QStyleOption* option, const Q
 
 void ReadableStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,
                                   const QWidget* widget) const {
-  const bool dark = option != nullptr && option->palette.color(QPalette::Base).lightness() < 128;
+  if (option == nullptr) return QProxyStyle::drawPrimitive(element, option, painter, widget);
+  const bool dark = option->palette.color(QPalette::Base).lightness() < 128;
   if (dark && (element == PE_IndicatorCheckBox || element == PE_IndicatorRadioButton)) {
     const auto edged = WithEdge<QStyleOptionButton>(*option);
     QProxyStyle::drawPrimitive(element, &edged, painter, widget);

@@ -4,11 +4,26 @@
 #include <QScrollBar>
 
 namespace Ui {
+namespace {
+
+void SetUp(QScrollArea& area) {
+  area.setFrameShape(QFrame::NoFrame);
+  area.setFocusPolicy(Qt::NoFocus);
+  area.setWidgetResizable(true);
+}
+
+}  // namespace
+
+QScrollArea* InScrollArea(QWidget* contents, QWidget* parent) {
+  auto* area = new QScrollArea(parent);
+  SetUp(*area);
+  area->setMinimumSize(320, 200);
+  area->setWidget(contents);
+  return area;
+}
 
 ScrollStrip::ScrollStrip(QWidget* row, QWidget* parent) : QScrollArea(parent) {
-  setFrameShape(NoFrame);
-  setFocusPolicy(Qt::NoFocus);
-  setWidgetResizable(true);
+  SetUp(*this);
   setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
   setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
   setWidget(row);  // which is watched from now on

@@ -1,10 +1,13 @@
-// A row of controls as high as it needs to be, which is scrolled sideways where the window is too narrow for it.
+// What is scrolled only where the window is too small for it: a whole window's contents, or a row of controls.
 #pragma once
 
 #include <QScrollArea>
 
 namespace Ui {
 
+QScrollArea* InScrollArea(QWidget* contents, QWidget* parent);
+
+// A row of controls as high as it needs to be, which is scrolled sideways.
 class ScrollStrip : public QScrollArea {
  public:
   // Takes the row over.

@@ -21,6 +21,7 @@ namespace Ui {
 void SetUpToolkit(QApplication& application) {
   KeepResources();
   QApplication::setApplicationName("Trovalis");
+  // The styles of desktops see to their colours themselves.
   if (QApplication::style()->name() == "fusion") QApplication::setStyle(new ReadableStyle("fusion"));
   QLocale::setDefault(QLocale(QLocale::Italian, QLocale::Italy));
   auto* italian = new QTranslator(&application);
