@@ -1,7 +1,6 @@
 #include "ui/tree_pane.h"
 
 #include "ui/elided_label.h"
-#include "ui/screen_fit.h"
 
 #include <QStyledItemDelegate>
 #include <QToolButton>
@@ -72,7 +71,8 @@ TreePane::TreePane(const Document& document, const std::vector<Routines::Satelli
 }
 
 QSize TreePane::sizeHint() const {
-  return {std::max({240, layout()->sizeHint().width(), Letters(*this, 28)}), 400};
+  const int row = fontMetrics().horizontalAdvance("SAT A  Un satellite (0000)") + 4 * tree_->indentation();
+  return {std::max(240, row), 400};
 }
 
 void TreePane::Refresh() {
