@@ -48,6 +48,7 @@ class Session {
     LookAtTransponders();
     LookAtOverview();
     BrowseTrees();
+    TurnDark();
     MoveRows();
     EditCells();
     ArrangeFavourites();
@@ -164,6 +165,21 @@ class Session {
              tree->currentIndex().data().toString() == "0007 " + driver_->Cell(7, 1),
          tree->currentIndex().parent().data().toString() + " > " + tree->currentIndex().data().toString());
     driver_->Choose("VisualizzaBouquet");
+  }
+
+  // The same window on a desktop with dark colours.
+  void TurnDark() {
+    const QColor ground(45, 45, 45);
+    QPalette dark(ground);
+    dark.setColor(QPalette::Base, ground.darker(150));
+    dark.setColor(QPalette::Highlight, QColor(42, 105, 170));
+    dark.setColor(QPalette::HighlightedText, Qt::white);
+    QApplication::setPalette(dark);
+    driver_->SelectRows(7, 9);
+    QTest::qWait(250);  // until the windows have heard of it and the grid has scrolled to the pointer
+    Step("dark colours", window_->palette().color(QPalette::Window) == ground, "rows 7 to 9 selected");
+    QApplication::setPalette(QPalette());
+    driver_->Grid().clearSelection();
   }
 
   void MoveRows() {

@@ -1,11 +1,14 @@
 #include "ui/about_dialog.h"
 
+#include "ui/screen_fit.h"
+
 #include <QDialogButtonBox>
 #include <QGridLayout>
 #include <QIcon>
 #include <QLabel>
 #include <QMessageBox>
 #include <QPushButton>
+#include <QScreen>
 
 namespace Ui {
 
@@ -53,7 +56,8 @@ FinestraAbout::FinestraAbout(QWidget* parent) : QDialog(parent) {
   grid->addWidget(text, 2, 1);
   grid->setRowStretch(2, 1);
   grid->addWidget(buttons, 3, 0, 1, 2);
-  text->setFixedWidth(420);
+  const int room = screen()->availableGeometry().width() - icon->sizeHint().width() - 3 * 18;
+  text->setFixedWidth(std::min(std::max(420, Letters(*text, 50)), room));
   setFixedSize(sizeHint());
 }
 

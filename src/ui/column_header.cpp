@@ -17,7 +17,7 @@ constexpr int Margin = 3;
 ColumnHeader::ColumnHeader(QWidget* parent) : QHeaderView(Qt::Horizontal, parent) {
   setObjectName("Contenuti");
   setSectionsClickable(false);
-  setDefaultAlignment(Qt::AlignHCenter | Qt::AlignBottom);
+  setDefaultAlignment(Qt::AlignLeft | Qt::AlignBottom);
   connect(this, &QHeaderView::sectionResized, this, &ColumnHeader::Place);
 }
 

@@ -1,7 +1,7 @@
 #include "ui/commands.h"
 
 #include "ui/command_tips.h"
-#include "ui/late_icon.h"
+#include "ui/themed_icon.h"
 
 #include <QAction>
 #include <QIcon>
@@ -16,8 +16,6 @@
 
 namespace Ui {
 namespace {
-
-QIcon IconNamed(const char* name) { return LateIcon(QString(":/icons/%1.svg").arg(name)); }
 
 QString ButtonName(const char* key) { return "Toolbar1_" + QString(key).replace(' ', '_'); }
 
@@ -57,7 +55,8 @@ void BuildToolbar(QMainWindow& window) {
   toolbar->setObjectName("Toolbar1");
   toolbar->setMovable(false);
   toolbar->setContextMenuPolicy(Qt::PreventContextMenu);
-  toolbar->setIconSize(QSize(24, 24));
+  const int icon = std::max(24, window.fontMetrics().height() * 3 / 2);
+  toolbar->setIconSize(QSize(icon, icon));
   for (const ToolbarButton& button : ToolbarButtons) {
     if (button.startsGroup) toolbar->addSeparator();
     auto* action = toolbar->addAction(button.hidden ? QIcon() : IconNamed(button.icon), button.tip);

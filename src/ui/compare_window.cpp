@@ -3,6 +3,8 @@
 #include "base/file.h"
 #include "ui/commands.h"
 #include "ui/elided_label.h"
+#include "ui/flow_layout.h"
+#include "ui/screen_fit.h"
 
 #include <QAction>
 #include <QCheckBox>
@@ -73,7 +75,7 @@ FinestraConfronto::FinestraConfronto(Session& session, OtherFlash other, QMainWi
   column->addWidget(rest_);
   column->addWidget(result_);
   column->addLayout(Buttons());
-  resize(900, 600);
+  ResizeOnScreen(*this, {900, 600});
 
   connect(&session.document, &Document::Changed, this, &FinestraConfronto::Refresh);
   connect(&session.settings, &SettingsPanel::Clicked, this, &FinestraConfronto::Refresh);
@@ -85,7 +87,7 @@ FinestraConfronto::FinestraConfronto(Session& session, OtherFlash other, QMainWi
 }
 
 QLayout* FinestraConfronto::KindBoxes() {
-  auto* row = new QHBoxLayout;
+  auto* row = new FlowLayout;
   for (std::size_t kind = 0; kind < kinds_.size(); ++kind) {
     kinds_[kind] = new QCheckBox(this);
     kinds_[kind]->setObjectName(QString("Mostra_%1").arg(kind));
@@ -93,7 +95,6 @@ QLayout* FinestraConfronto::KindBoxes() {
     connect(kinds_[kind], &QCheckBox::toggled, this, [this] { Fill(model_->Found()); });
     row->addWidget(kinds_[kind]);
   }
-  row->addStretch();
   return row;
 }
 
@@ -108,11 +109,11 @@ void FinestraConfronto::SetUpTable() {
   QHeaderView& header = *table_->horizontalHeader();
   header.setHighlightSections(false);
   header.setStretchLastSection(true);
-  constexpr std::pair<int, int> Widths[] = {{CompareModel::Tick, 28},
-                                            {CompareModel::Kind, 190},
-                                            {CompareModel::Here, 175},
-                                            {CompareModel::There, 175}};
-  for (const auto& [column, width] : Widths) table_->setColumnWidth(column, width);
+  table_->setColumnWidth(CompareModel::Tick,
+                         style()->pixelMetric(QStyle::PM_IndicatorWidth, nullptr, table_) + 14);
+  constexpr std::pair<int, int> Widths[] = {
+      {CompareModel::Kind, 27}, {CompareModel::Here, 25}, {CompareModel::There, 25}};
+  for (const auto& [column, letters] : Widths) table_->setColumnWidth(column, Letters(*table_, letters));
   table_->installEventFilter(this);
   connect(table_, &QTableView::clicked, this, [this](const QModelIndex& index) {
     if (index.column() != CompareModel::Tick) GoTo(index);
@@ -125,23 +126,26 @@ void FinestraConfronto::SetUpTable() {
 
 QLayout* FinestraConfronto::Buttons() {
   auto* row = new QHBoxLayout;
-  goTo_ = AddButton(*row, "VaiAlDiverso", "Vai al canale");
+  auto* left = new FlowLayout;
+  row->addLayout(left, 1);
+  goTo_ = AddButton(*left, "VaiAlDiverso", "Vai al canale");
   connect(goTo_, &QPushButton::clicked, this, [this] { GoTo(table_->currentIndex()); });
-  connect(AddButton(*row, "SegnaTutti", "Segna tutti"), &QPushButton::clicked, this,
+  connect(AddButton(*left, "SegnaTutti", "Segna tutti"), &QPushButton::clicked, this,
           [this] { TickAll(true); });
-  connect(AddButton(*row, "TogliSegni", "Togli i segni"), &QPushButton::clicked, this,
+  connect(AddButton(*left, "TogliSegni", "Togli i segni"), &QPushButton::clicked, this,
           [this] { TickAll(false); });
-  apply_ = AddButton(*row, "ApplicaSegnati", "Applica i segnati");
+  apply_ = AddButton(*left, "ApplicaSegnati", "Applica i segnati");
   connect(apply_, &QPushButton::clicked, this, &FinestraConfronto::Apply);
-  order_ = AddButton(*row, "PrendiOrdine",
+  order_ = AddButton(*left, "PrendiOrdine",
                      other_.OnDisk() ? "Prendi l'ordine del disco" : "Prendi l'ordine dell'altra");
   connect(order_, &QPushButton::clicked, this, &FinestraConfronto::TakeOrder);
-  row->addStretch();
-  connect(AddButton(*row, "ChiudiConfronto", "Chiudi"), &QPushButton::clicked, this, &QDialog::close);
+  QPushButton* close = AddButton(*row, "ChiudiConfronto", "Chiudi");
+  row->setAlignment(close, Qt::AlignBottom);
+  connect(close, &QPushButton::clicked, this, &QDialog::close);
   return row;
 }
 
-QPushButton* FinestraConfronto::AddButton(QBoxLayout& row, const char* name, const QString& caption) {
+QPushButton* FinestraConfronto::AddButton(QLayout& row, const char* name, const QString& caption) {
   auto* button = new QPushButton(caption, this);
   button->setObjectName(name);
   button->setAutoDefault(false);

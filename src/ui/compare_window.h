@@ -8,7 +8,6 @@
 
 #include <QDialog>
 
-class QBoxLayout;
 class QCheckBox;
 class QLabel;
 class QMainWindow;
@@ -32,7 +31,7 @@ class FinestraConfronto : public QDialog {
   QLayout* KindBoxes();
   void SetUpTable();
   QLayout* Buttons();
-  QPushButton* AddButton(QBoxLayout& row, const char* name, const QString& caption);
+  QPushButton* AddButton(QLayout& row, const char* name, const QString& caption);
 
   // Compares anew; `Fill` shows the same differences by other boxes.
   void Refresh();

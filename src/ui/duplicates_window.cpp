@@ -5,6 +5,8 @@
 #include "model/cells.h"
 #include "model/favourites.h"
 #include "ui/commands.h"
+#include "ui/flow_layout.h"
+#include "ui/screen_fit.h"
 
 #include <QAction>
 #include <QCheckBox>
@@ -95,7 +97,7 @@ FinestraCanaliDoppi::FinestraCanaliDoppi(Session& session, const Edit::Duplicate
   column->addWidget(tree_, 1);
   column->addWidget(counts_);
   column->addWidget(Buttons());
-  resize(760, 480);
+  ResizeOnScreen(*this, {760, 480});
 
   connect(&session.document, &Document::Changed, this, &FinestraCanaliDoppi::Refresh);
   Refresh();
@@ -104,7 +106,7 @@ FinestraCanaliDoppi::FinestraCanaliDoppi(Session& session, const Edit::Duplicate
 
 QWidget* FinestraCanaliDoppi::RuleBoxes(const Edit::DuplicateRules& rules) {
   auto* box = new QWidget(this);
-  auto* row = new QHBoxLayout(box);
+  auto* row = new FlowLayout(box);
   row->setContentsMargins(0, 0, 0, 0);
   const auto add = [&](const char* name, const char* caption, bool on) {
     auto* check = new QCheckBox(caption, box);
@@ -117,7 +119,6 @@ QWidget* FinestraCanaliDoppi::RuleBoxes(const Edit::DuplicateRules& rules) {
   service_ = add("StessoServizio", "Stesso servizio (satellite, TID, NID, SID)", rules.service);
   streams_ = add("StessiPID", "Stesso transponder, SID e PID", rules.streams);
   name_ = add("StessoNome", "Stesso nome", rules.name);
-  row->addStretch();
   return box;
 }
 
@@ -125,20 +126,21 @@ QWidget* FinestraCanaliDoppi::Buttons() {
   auto* box = new QWidget(this);
   auto* row = new QHBoxLayout(box);
   row->setContentsMargins(0, 0, 0, 0);
-  const auto add = [&](const char* name, const char* caption, const auto& run) {
+  auto* left = new FlowLayout;
+  row->addLayout(left, 1);
+  const auto add = [&](QLayout& place, const char* name, const char* caption, const auto& run) {
     auto* button = new QPushButton(caption, box);
     button->setObjectName(name);
     button->setAutoDefault(false);  // Enter goes to the channel
     connect(button, &QPushButton::clicked, this, run);
-    row->addWidget(button);
+    place.addWidget(button);
     return button;
   };
-  goTo_ = add("VaiAlDoppio", "Vai al canale", [this] { GoTo(tree_->currentItem()); });
-  deleteChosen_ = add("EliminaScelti", "Elimina scelti", [this] { Delete(Chosen()); });
-  deleteOthers_ = add("EliminaTranneIlPrimo", "Elimina tutti tranne il primo",
+  goTo_ = add(*left, "VaiAlDoppio", "Vai al canale", [this] { GoTo(tree_->currentItem()); });
+  deleteChosen_ = add(*left, "EliminaScelti", "Elimina scelti", [this] { Delete(Chosen()); });
+  deleteOthers_ = add(*left, "EliminaTranneIlPrimo", "Elimina tutti tranne il primo",
                       [this] { Delete(Edit::Surplus(session_.document.Tables(), Rules(), groups_)); });
-  row->addStretch();
-  add("ChiudiDoppi", "Chiudi", [this] { close(); });
+  row->setAlignment(add(*row, "ChiudiDoppi", "Chiudi", [this] { close(); }), Qt::AlignBottom);
   return box;
 }
 
@@ -204,6 +206,7 @@ void FinestraCanaliDoppi::Rebuild() {
   for (QTreeWidgetItem* head : items) {
     head->setFirstColumnSpanned(true);
     head->setFont(0, bold);
+    head->setSizeHint(0, {0, tree_->fontMetrics().height() + 6});  // of every row
   }
   tree_->expandAll();
   if (!items.isEmpty()) tree_->setCurrentItem(items.front()->child(0));

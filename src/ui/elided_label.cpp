@@ -26,7 +26,7 @@ QSize ElidedLabel::sizeHint() const {
 }
 
 QSize ElidedLabel::minimumSizeHint() const {
-  return {fontMetrics().averageCharWidth() * 12, sizeHint().height()};
+  return sizeHint().boundedTo({fontMetrics().averageCharWidth() * 12, sizeHint().height()});
 }
 
 void ElidedLabel::paintEvent(QPaintEvent*) {

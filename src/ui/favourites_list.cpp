@@ -7,9 +7,23 @@
 #include <QKeyEvent>
 #include <QLabel>
 #include <QListView>
+#include <QStyledItemDelegate>
 #include <QVBoxLayout>
 
 namespace Ui {
+namespace {
+
+// As wide as the list is, so that a long name is cut with dots.
+class NarrowRows : public QStyledItemDelegate {
+ public:
+  using QStyledItemDelegate::QStyledItemDelegate;
+
+  [[nodiscard]] QSize sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const override {
+    return {0, QStyledItemDelegate::sizeHint(option, index).height()};
+  }
+};
+
+}  // namespace
 
 FavouritesList::FavouritesList(const Document& document, FavouritesCommands& commands, std::size_t list,
                                QWidget* parent)
@@ -51,6 +65,7 @@ void FavouritesList::BuildEntries() {
   entries_->setAccessibleName("Preferiti, lista " + number);
   entries_->setModel(&model_);
   entries_->setUniformItemSizes(true);
+  entries_->setItemDelegate(new NarrowRows(entries_));
   entries_->setSelectionMode(QAbstractItemView::ExtendedSelection);
   entries_->setEditTriggers(QAbstractItemView::NoEditTriggers);
   entries_->setDragDropMode(QAbstractItemView::DragDrop);
@@ -74,7 +89,10 @@ QString FavouritesList::StoredName() const {
 void FavouritesList::Refresh() {
   const Base::Bytes& block = document_.Tables().FavouritesBlock;
   const QString name = StoredName();
-  if (!name_->isModified() && name_->text() != name) name_->setText(name);
+  if (!name_->isModified() && name_->text() != name) {
+    name_->setText(name);
+    name_->setCursorPosition(0);
+  }
   count_->setText(QString("%1 di %2").arg(model_.rowCount()).arg(Routines::FavouriteRoom(block, list_)));
 }
 

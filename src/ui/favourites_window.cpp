@@ -3,6 +3,8 @@
 #include "model/favourites.h"
 #include "ui/commands.h"
 #include "ui/elided_label.h"
+#include "ui/flow_layout.h"
+#include "ui/screen_fit.h"
 
 #include <QGridLayout>
 #include <QListView>
@@ -38,7 +40,7 @@ ListePreferiti::ListePreferiti(const Document& document, FavouritesCommands& com
   ShowResult(
       "Trascinare qui i canali dalla griglia; Canc toglie, Alt+Su e Alt+Giù spostano, Invio va al canale.");
   lists_.front()->Entries().setFocus();
-  resize(900, 620);
+  ResizeOnScreen(*this, {900, 620});
 }
 
 void ListePreferiti::AddLists(const Document& document, QWidget& place) {
@@ -57,12 +59,15 @@ void ListePreferiti::AddLists(const Document& document, QWidget& place) {
 
 QLayout* ListePreferiti::Buttons() {
   auto* row = new QHBoxLayout;
+  auto* buttons = new FlowLayout;
+  target_->setMinimumWidth(Letters(*target_, 14));
   row->addWidget(target_, 1);
-  connect(AddButton(*row, "AggiungiSelezionati", "Aggiungi i canali selezionati"), &QPushButton::clicked,
+  row->addLayout(buttons);
+  connect(AddButton(*buttons, "AggiungiSelezionati", "Aggiungi i canali selezionati"), &QPushButton::clicked,
           this, [this] { commands_.AddSelected(current_); });
-  connect(AddButton(*row, "TogliPreferiti", "Togli"), &QPushButton::clicked, this,
+  connect(AddButton(*buttons, "TogliPreferiti", "Togli"), &QPushButton::clicked, this,
           [this] { Current().RemoveSelected(); });
-  move_ = AddButton(*row, "SpostaPreferiti", "Sposta in");
+  move_ = AddButton(*buttons, "SpostaPreferiti", "Sposta in");
   move_->setMenu(new QMenu(move_));
   connect(move_->menu(), &QMenu::aboutToShow, this, &ListePreferiti::FillMoveMenu);
   auto* orders = new QMenu(this);
@@ -70,12 +75,12 @@ QLayout* ListePreferiti::Buttons() {
       ->setObjectName("OrdinaPerNumero");
   orders->addAction("Per nome", this, [this] { commands_.Sort(current_, Edit::FavouriteOrder::ByName); })
       ->setObjectName("OrdinaPerNome");
-  AddButton(*row, "OrdinaPreferiti", "Ordina")->setMenu(orders);
-  connect(AddButton(*row, "ChiudiPreferiti", "Chiudi"), &QPushButton::clicked, this, &QDialog::close);
+  AddButton(*buttons, "OrdinaPreferiti", "Ordina")->setMenu(orders);
+  connect(AddButton(*buttons, "ChiudiPreferiti", "Chiudi"), &QPushButton::clicked, this, &QDialog::close);
   return row;
 }
 
-QPushButton* ListePreferiti::AddButton(QBoxLayout& row, const char* name, const QString& caption) {
+QPushButton* ListePreferiti::AddButton(QLayout& row, const char* name, const QString& caption) {
   auto* button = new QPushButton(caption, this);
   button->setObjectName(name);
   button->setAutoDefault(false);

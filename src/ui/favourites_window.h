@@ -5,7 +5,6 @@
 
 #include <QDialog>
 
-class QBoxLayout;
 class QMainWindow;
 class QPushButton;
 
@@ -26,7 +25,7 @@ class ListePreferiti : public QDialog {
  private:
   void AddLists(const Document& document, QWidget& place);
   QLayout* Buttons();
-  QPushButton* AddButton(QBoxLayout& row, const char* name, const QString& caption);
+  QPushButton* AddButton(QLayout& row, const char* name, const QString& caption);
   void FillMoveMenu();
   void ShowCurrent();
   [[nodiscard]] FavouritesList& Current() const { return *lists_[current_]; }

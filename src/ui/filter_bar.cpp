@@ -2,6 +2,7 @@
 
 #include "base/code_page.h"
 #include "edit/list_operations.h"
+#include "ui/screen_fit.h"
 
 #include <QHBoxLayout>
 #include <QKeyEvent>
@@ -16,13 +17,16 @@ FilterBar::FilterBar(const Document& document, QWidget* parent)
   field_->setAccessibleName("Filtro");
   field_->setPlaceholderText("Nome, SID o transponder (Ctrl+Shift+F)");
   field_->setClearButtonEnabled(true);
-  field_->setMinimumWidth(field_->fontMetrics().horizontalAdvance(field_->placeholderText()) + 40);
+  field_->setMinimumWidth(Letters(*field_, 14));
+  field_->setMaximumWidth(field_->fontMetrics().horizontalAdvance(field_->placeholderText()) + 40);
   field_->installEventFilter(this);
   count_->setObjectName("FiltroTrovati");
+  count_->setSizePolicy(QSizePolicy::Maximum, QSizePolicy::Preferred);
   auto* row = new QHBoxLayout(this);
   row->setContentsMargins(0, 0, 0, 0);
+  row->addStretch(1);
   row->addWidget(count_);
-  row->addWidget(field_);
+  row->addWidget(field_, 1000);  // up to the width that it wants
   connect(field_, &QLineEdit::textChanged, this, [this] {
     rows_ = {};
     Refresh();

@@ -2,6 +2,8 @@
 
 #include "base/text.h"
 #include "formats/foreign_list.h"
+#include "ui/flow_layout.h"
+#include "ui/screen_fit.h"
 #include "ui/sdx_dialogs.h"
 
 #include <QCheckBox>
@@ -27,7 +29,7 @@ namespace {
 constexpr const char* Separators[] = {"Tabulazione", "Punto e virgola ;",     "Virgola ,", "Barra |",
                                       "Spazi",       "Nessuno: colonne fisse"};
 constexpr std::size_t PreviewLines = 50;
-constexpr int WidestColumn = 260;
+constexpr int WidestColumn = 40;  // letters
 // What is counted while the user chooses; the import itself reads on.
 constexpr int CountedLines = 100000;
 
@@ -73,7 +75,7 @@ ImportazioneTesto::ImportazioneTesto(const QString& caption, const QString& file
   Build(recognised, satellites);
   ConnectChoices();
   ShowLayout();
-  resize(920, 600);
+  ResizeOnScreen(*this, {920, 600});
 }
 
 void ImportazioneTesto::Build(const QString& recognised, const std::vector<Routines::Satellite>& satellites) {
@@ -116,15 +118,13 @@ void ImportazioneTesto::Build(const QString& recognised, const std::vector<Routi
   connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
 
   form_ = new QFormLayout;
-  form_->setFieldGrowthPolicy(QFormLayout::FieldsStayAtSizeHint);
-  starts_->setMinimumWidth(560);
+  form_->setFieldGrowthPolicy(QFormLayout::ExpandingFieldsGrow);
   form_->addRow("Satellite da assegnare", satellite_);
   form_->addRow("Separatore", separator_);
   form_->addRow("Inizio delle colonne", starts_);
-  auto* ticks = new QHBoxLayout;
+  auto* ticks = new FlowLayout;
   ticks->addWidget(quotes_);
   ticks->addWidget(header_);
-  ticks->addStretch();
   form_->addRow("", ticks);
   auto* column = new QVBoxLayout(this);
   column->addWidget(title);
@@ -214,8 +214,9 @@ void ImportazioneTesto::ShowPreview() {
   preview_->setHorizontalHeaderLabels(titles);
   columns_->ShowColumns(layout_.columns);
   preview_->resizeColumnsToContents();
+  const int widest = std::max(Letters(*preview_, WidestColumn), columns_->ChooserWidth());
   for (int i = 0; i < columns; ++i) {
-    preview_->setColumnWidth(i, std::clamp(preview_->columnWidth(i), columns_->ChooserWidth(), WidestColumn));
+    preview_->setColumnWidth(i, std::clamp(preview_->columnWidth(i), columns_->ChooserWidth(), widest));
   }
 }
 

@@ -85,6 +85,7 @@ void Griglia::ShowList(TableModel* list) {
     frozen_->setModel(nullptr);  // until it is shown
   }
   widths_.clear();
+  own_ = {0};
   for (const HeaderColumn& column : list->Header()) {
     widths_.push_back(fontMetrics().horizontalAdvance(column.widthText) + CellMargin);
   }
@@ -201,11 +202,26 @@ void Griglia::selectionChanged(const QItemSelection& selected, const QItemSelect
   Q_EMIT SelectionMoved();
 }
 
+std::vector<int> Griglia::SharedWidths() const {
+  std::vector<int> widths = widths_;
+  int spare = viewport()->width() - std::accumulate(widths.begin(), widths.end(), 0);
+  if (spare <= 0) return widths;
+  int sharing = 0;
+  for (std::size_t i = 0; i < widths.size(); ++i) sharing += own_.contains(i) ? 0 : widths[i];
+  // Each takes its part of what those before it have left, so that no pixel is.
+  for (std::size_t i = 0; i < widths.size(); ++i) {
+    if (own_.contains(i)) continue;
+    const int share = spare * widths[i] / std::max(sharing, 1);
+    sharing -= widths[i];
+    widths[i] += share;
+    spare -= share;
+  }
+  return widths;
+}
+
 void Griglia::FitColumns() {
   if (widths_.empty() || !isVisible()) return;
-  std::vector<int> widths = widths_;
-  const int spare = viewport()->width() - std::accumulate(widths.begin(), widths.end(), 0);
-  *std::max_element(widths.begin(), widths.end()) += std::max(spare, 0);
+  const std::vector<int> widths = SharedWidths();
   {
     // Told of each width, the view would paint once before and once after it has taken them in.
     const QSignalBlocker quiet(horizontalHeader());
@@ -221,6 +237,7 @@ void Griglia::FitColumns() {
 void Griglia::KeepWidth(int column, int width) {
   if (static_cast<std::size_t>(column) >= widths_.size()) return;
   widths_[static_cast<std::size_t>(column)] = width;
+  own_.insert(static_cast<std::size_t>(column));
   frozen_->setColumnWidth(0, columnWidth(0));
   PlaceFrozen();
 }

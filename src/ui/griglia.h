@@ -1,5 +1,5 @@
-// A grid whose first column stays in view when it is scrolled sideways, and whose spare width goes to one
-// column.
+// A grid whose first column stays in view when it is scrolled sideways, and whose columns
+// share the spare width.
 #pragma once
 
 #include "edit/list_operations.h"
@@ -8,6 +8,7 @@
 #include <QTableView>
 
 #include <optional>
+#include <set>
 
 namespace Ui {
 
@@ -17,8 +18,8 @@ class Griglia : public QTableView {
  public:
   explicit Griglia(QWidget* parent);
 
-  // Shows a list from its first row on: row 1 is current, nothing is selected. The spare width of the window
-  // goes to the column that its header makes widest.
+  // Shows a list from its first row on: row 1 is current, nothing is selected. Its columns share the
+  // spare width of the window by the widths that the header gives them, all but the first one.
   void ShowList(TableModel* list);
 
   // The rows of the selection, from slot 1 on; nothing when none is selected.
@@ -53,14 +54,16 @@ class Griglia : public QTableView {
  private:
   void SetUp(QTableView& view);
   void ShowDropLine(QPoint place);
+  [[nodiscard]] std::vector<int> SharedWidths() const;
   void FitColumns();
   void KeepWidth(int column, int width);
   void ShowFrozen(int sideways);
   void PlaceFrozen();
 
-  QTableView* frozen_;       // the first column, on the same model
-  QWidget* dropLine_;        // where dragged rows would land, across all columns
-  std::vector<int> widths_;  // of the columns without the spare width
+  QTableView* frozen_;               // the first column, on the same model
+  QWidget* dropLine_;                // where dragged rows would land, across all columns
+  std::vector<int> widths_;          // of the columns without the spare width
+  std::set<std::size_t> own_ = {0};  // columns that take no part of it
 };
 
 }  // namespace Ui

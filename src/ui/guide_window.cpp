@@ -1,5 +1,7 @@
 #include "ui/guide_window.h"
 
+#include "ui/screen_fit.h"
+
 #include <QHBoxLayout>
 #include <QLineEdit>
 #include <QListWidget>
@@ -46,6 +48,9 @@ FinestraGuida::FinestraGuida(QWidget* parent)
   page_->setSource(QUrl(GuidePage), QTextDocument::MarkdownResource);
   sections_->setObjectName("SezioniGuida");
   sections_->setAccessibleName("Sezioni della guida");
+  sections_->setWordWrap(true);
+  sections_->setResizeMode(QListView::Adjust);
+  sections_->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
   page_->setOpenExternalLinks(true);
   ListSections();
   connect(sections_, &QListWidget::currentRowChanged, this, &FinestraGuida::GoToSection);
@@ -66,14 +71,17 @@ FinestraGuida::FinestraGuida(QWidget* parent)
   parts->addWidget(sections_);
   parts->addWidget(page_);
   parts->setStretchFactor(1, 1);
-  parts->setSizes({220, 700});
   auto* bottom = new QHBoxLayout;
   bottom->addWidget(field_, 1);
   bottom->addWidget(close);
   auto* column = new QVBoxLayout(this);
   column->addWidget(parts, 1);
   column->addLayout(bottom);
-  resize(940, 640);
+  ResizeOnScreen(*this, {940, 640});
+  const int widest = sections_->sizeHintForColumn(0) + 2 * sections_->frameWidth() +
+                     sections_->verticalScrollBar()->sizeHint().width();
+  const int left = std::min(widest, width() * 3 / 10);
+  parts->setSizes({left, width() - left});
 }
 
 void FinestraGuida::ListSections() {

@@ -25,6 +25,7 @@ ListView::ListView(const Document& document, QAction& showChannels, QAction& sho
   QFont bold = marker_->font();
   bold.setBold(true);
   marker_->setFont(bold);
+  marker_->setMinimumHeight(filter_->sizeHint().height());  // the grid stays where it is without the filter
   hint_->setObjectName("Suggerimento");
   hint_->setAlignment(Qt::AlignCenter);
   hint_->setWordWrap(true);
@@ -54,8 +55,7 @@ void ListView::LayOut() {
   stack_->addWidget(grid_);
   auto* head = new QHBoxLayout;
   head->addWidget(marker_);
-  head->addStretch();
-  head->addWidget(filter_);
+  head->addWidget(filter_, 1);
   auto* body = new QHBoxLayout;
   body->setSpacing(3);
   body->addWidget(stack_, 1);

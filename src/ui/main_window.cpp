@@ -10,6 +10,8 @@
 #include "ui/guide_window.h"
 #include "ui/qt_dialogs.h"
 #include "ui/riepilogo_window.h"
+#include "ui/screen_fit.h"
+#include "ui/scroll_strip.h"
 #include "ui/start_page.h"
 
 #include <QAction>
@@ -78,7 +80,7 @@ CopiaTCSTPT::CopiaTCSTPT(const std::string& programFolder, std::unique_ptr<Dialo
 
   auto* column = new QVBoxLayout(contents);
   column->setContentsMargins(8, 6, 8, 4);
-  column->addWidget(settings);
+  column->addWidget(new ScrollStrip(settings, contents));
   auto* pane = new SdxPane(session_->sdx, contents);
   pane->hide();
   sdx_ = std::make_unique<SdxCommands>(*session_, *pane, *this);
@@ -98,7 +100,7 @@ CopiaTCSTPT::CopiaTCSTPT(const std::string& programFolder, std::unique_ptr<Dialo
   column->addWidget(lists, 1);
   column->addWidget(new ErrorPane(session_->bouquets.errors, contents));
   column->addWidget(status->ResultLine());
-  setCentralWidget(contents);
+  setCentralWidget(InScrollArea(contents, this));
 
   ConnectFileCommands();
   ConnectExchangeCommands();
@@ -116,7 +118,7 @@ CopiaTCSTPT::CopiaTCSTPT(const std::string& programFolder, std::unique_ptr<Dialo
   connect(document_, &Document::Changed, this, &CopiaTCSTPT::ShowList);
   ShowList();
   setAcceptDrops(true);
-  resize(1024, 700);
+  ResizeOnScreen(*this, {1024, 700});
   restoreGeometry(QSettings(SettingsFile(), QSettings::IniFormat).value("Finestra/Geometria").toByteArray());
 }
 

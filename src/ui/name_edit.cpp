@@ -24,7 +24,20 @@ QString NameEdit::Hint() const {
   return left == 1 ? "resta 1" : QString("restano %1").arg(left);
 }
 
-void NameEdit::MakeRoom() { setTextMargins(0, 0, fontMetrics().horizontalAdvance(Hint()) + HintMargin, 0); }
+// For the hint, while it is shown.
+void NameEdit::MakeRoom() {
+  setTextMargins(0, 0, hasFocus() ? fontMetrics().horizontalAdvance(Hint()) + HintMargin : 0, 0);
+}
+
+void NameEdit::focusInEvent(QFocusEvent* event) {
+  QLineEdit::focusInEvent(event);
+  MakeRoom();
+}
+
+void NameEdit::focusOutEvent(QFocusEvent* event) {
+  QLineEdit::focusOutEvent(event);
+  MakeRoom();
+}
 
 void NameEdit::paintEvent(QPaintEvent* event) {
   QLineEdit::paintEvent(event);

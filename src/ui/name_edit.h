@@ -14,6 +14,8 @@ class NameEdit : public QLineEdit {
 
  protected:
   void paintEvent(QPaintEvent* event) override;
+  void focusInEvent(QFocusEvent* event) override;
+  void focusOutEvent(QFocusEvent* event) override;
 
  private:
   [[nodiscard]] QString Hint() const;

@@ -1,9 +1,10 @@
 #include "ui/print_commands.h"
 
 #include "base/file.h"
+#include "ui/screen_fit.h"
+#include "ui/themed_icon.h"
 
 #include <QAction>
-#include <QIcon>
 #include <QPrintPreviewDialog>
 #include <QPrinter>
 #include <QToolBar>
@@ -83,7 +84,7 @@ void PrintCommands::Preview(const PrintReport& report) {
   QPrintPreviewDialog dialog(&printer, &window_);
   dialog.setObjectName("AnteprimaStampa");
   dialog.setWindowTitle(report.heading);
-  dialog.resize(900, 660);
+  ResizeOnScreen(dialog, {900, 660});
   QString result;
   QObject::connect(&dialog, &QPrintPreviewDialog::paintRequested, &dialog, [&](QPrinter* to) {
     if (!to->outputFileName().isEmpty()) {
@@ -93,7 +94,7 @@ void PrintCommands::Preview(const PrintReport& report) {
     const auto pages = PrintPages(*to, report);
     result = pages ? report.heading + ": " + PagesText(*pages) : QString("La stampa non è riuscita");
   });
-  auto* save = dialog.findChild<QToolBar*>()->addAction(QIcon(":/icons/export.svg"), "Salva come PDF");
+  auto* save = dialog.findChild<QToolBar*>()->addAction(IconNamed("export"), "Salva come PDF");
   save->setObjectName("SalvaPdf");
   QObject::connect(save, &QAction::triggered, &dialog, [&] {
     const QString path =

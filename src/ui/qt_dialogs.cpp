@@ -1,6 +1,7 @@
 #include "ui/qt_dialogs.h"
 
 #include "base/code_page.h"
+#include "ui/screen_fit.h"
 
 #include <QDir>
 #include <QFile>
@@ -50,7 +51,7 @@ void SetUp(QInputDialog& dialog, const QString& question) {
     label->setTextFormat(Qt::PlainText);
     label->setWordWrap(true);
   }
-  dialog.resize(420, dialog.sizeHint().height());
+  ResizeOnScreen(dialog, {420, 0});
 }
 
 }  // namespace
@@ -124,7 +125,7 @@ QString QtDialogs::AskFile(const FileQuestion& question, bool save) {
     dialog.setAcceptMode(QFileDialog::AcceptSave);
     dialog.setDefaultSuffix(question.filters.section("*.", 1).section(QRegularExpression("[)|]"), 0, 0));
   }
-  dialog.resize(860, 560);
+  ResizeOnScreen(dialog, {860, 560});
   if (auto* details = dialog.findChild<QTreeView*>("treeView")) {
     details->header()->setSectionResizeMode(QHeaderView::ResizeToContents);
   }

@@ -1,6 +1,7 @@
 #include "ui/riepilogo_window.h"
 
 #include "ui/commands.h"
+#include "ui/screen_fit.h"
 
 #include <QAction>
 #include <QHeaderView>
@@ -130,7 +131,7 @@ FinestraRiepilogo::FinestraRiepilogo(Session& session, QWidget* parent)
   column->addWidget(totals_);
   column->addWidget(tree_, 1);
   column->addWidget(Bottom());
-  resize(600, 560);
+  ResizeOnScreen(*this, {600, 560});
   connect(&session.document, &Document::Changed, this, &FinestraRiepilogo::Refresh);
   Refresh();
   if (!items_.empty()) tree_->setCurrentItem(items_.front());
@@ -145,8 +146,7 @@ void FinestraRiepilogo::SetUpTree() {
   tree_->header()->setStretchLastSection(false);
   tree_->header()->setSectionResizeMode(QHeaderView::Fixed);
   tree_->header()->setSectionResizeMode(Bar, QHeaderView::Stretch);
-  tree_->setColumnWidth(Count, 64);
-  tree_->setColumnWidth(Share, 64);
+  for (const int column : {Count, Share}) tree_->setColumnWidth(column, Letters(*tree_, 10));
   tree_->setItemDelegateForColumn(Bar, new BarDelegate(tree_));
   tree_->setUniformRowHeights(true);
   tree_->setAllColumnsShowFocus(true);
@@ -165,7 +165,9 @@ QWidget* FinestraRiepilogo::Bottom() {
   auto* box = new QWidget(this);
   auto* row = new QHBoxLayout(box);
   row->setContentsMargins(0, 0, 0, 0);
-  row->addWidget(new QLabel("Un clic o Invio mostra le righe; F3 va alla prossima."), 1);
+  auto* hint = new QLabel("Un clic o Invio mostra le righe; F3 va alla prossima.");
+  hint->setWordWrap(true);
+  row->addWidget(hint, 1);
   auto* close = new QPushButton("Chiudi", box);
   close->setObjectName("ChiudiRiepilogo");
   goTo_->setObjectName("VaiAlleRighe");

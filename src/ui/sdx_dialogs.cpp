@@ -2,6 +2,7 @@
 
 #include "base/code_page.h"
 #include "base/file.h"
+#include "ui/screen_fit.h"
 
 #include <QApplication>
 #include <QCheckBox>
@@ -125,6 +126,7 @@ ImportazioneSDX::ImportazioneSDX(QWidget* parent) : QDialog(parent) {
   connect(fromChannel, &QRadioButton::toggled, start_, &QWidget::setEnabled);
 
   auto* form = new QFormLayout(this);
+  form->setRowWrapPolicy(QFormLayout::WrapLongRows);
   form->addRow(fromStart_);
   form->addRow(fromChannel);
   form->addRow("Canale di partenza per importare SDX", start_);
@@ -159,7 +161,7 @@ ElencoNonInSDX::ElencoNonInSDX(const QString& text, Dialogs& dialogs, QWidget* p
   auto* column = new QVBoxLayout(this);
   column->addWidget(lines);
   column->addWidget(buttons);
-  resize(420, 480);
+  ResizeOnScreen(*this, {420, 480});
 }
 
 }  // namespace Ui

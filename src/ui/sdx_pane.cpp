@@ -2,6 +2,7 @@
 
 #include <QKeyEvent>
 #include <QLabel>
+#include <QLineEdit>
 #include <QVBoxLayout>
 
 namespace Ui {
@@ -23,6 +24,8 @@ SdxPane::SdxPane(const Formats::SdxTable& table, QWidget* parent)
   auto* column = new QVBoxLayout(this);
   column->setContentsMargins(0, 0, 0, 0);
   column->setSpacing(3);
+  caption_->setMinimumHeight(
+      QLineEdit().sizeHint().height());  // as high as the filter above the list beside it
   column->addWidget(caption_);
   column->addWidget(grid_, 1);
 }

@@ -1,18 +1,21 @@
 #include "ui/start_page.h"
 
 #include "ui/recent_files.h"
+#include "ui/screen_fit.h"
 
 #include <QAction>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QPushButton>
+#include <QStyle>
 #include <QVBoxLayout>
 
 namespace Ui {
 namespace {
 
-constexpr int PageWidth = 660;
-constexpr int DiscSize = 28;
+int PageWidth(const QWidget& page) { return std::max(660, Letters(page, 90)); }
+
+int DiscSize(const QWidget& page) { return std::max(28, page.fontMetrics().height() * 7 / 4); }
 
 // Enlarges the font that a label has.
 void Enlarge(QLabel& label, double factor) {
@@ -45,7 +48,7 @@ StartPage::StartPage(const SettingsPanel& settings, RecentFiles& recent, QAction
   connect(&open, &QAction::changed, button, [button, &open] { button->setEnabled(open.isEnabled()); });
 
   auto* page = new QWidget;
-  page->setMaximumWidth(PageWidth);
+  page->setMaximumWidth(PageWidth(*this));
   auto* column = new QVBoxLayout(page);
   column->setSpacing(14);
   column->addStretch(1);
@@ -76,7 +79,7 @@ void StartPage::AddStep(QVBoxLayout& column, const char* name, const QString& te
   auto* disc = new QLabel;
   disc->setObjectName(name);
   disc->setAlignment(Qt::AlignCenter);
-  disc->setFixedSize(DiscSize, DiscSize);
+  disc->setFixedSize(DiscSize(*this), DiscSize(*this));
   auto* what = new QLabel(text);
   what->setWordWrap(true);
   auto* row = new QHBoxLayout;
@@ -96,8 +99,8 @@ void StartPage::ShowSteps() {
     disc.setText(done ? QString("✓") : QString::number(step));
     disc.setAccessibleName(QString(done ? "Passo %1, fatto" : "Passo %1").arg(step));
     disc.setStyleSheet(QString("border-radius: %1px; font-weight: bold; color: white; background: %2")
-                           .arg(DiscSize / 2)
-                           .arg(done ? "#2e8b57" : "#3d6fa8"));
+                           .arg(DiscSize(*this) / 2)
+                           .arg(done ? "#27764a" : "#3d6fa8"));
   }
 }
 
@@ -116,13 +119,26 @@ void StartPage::ShowRecent() {
     button->setFlat(true);
     button->setCursor(Qt::PointingHandCursor);
     button->setStyleSheet("text-align: left; padding: 3px 6px");
-    button->setText(
-        button->fontMetrics().elidedText(path, Qt::ElideMiddle, PageWidth - 40).replace('&', "&&"));
     button->setAccessibleName(path);
     button->setToolTip("<span>" + path.toHtmlEscaped() + "</span>");
     connect(button, &QPushButton::clicked, &recent_, [this, path] { Q_EMIT recent_.Chosen(path); });
     recentList_->addWidget(button);
   }
+  CutPaths();
+}
+
+void StartPage::CutPaths() {
+  const int room =
+      std::min(PageWidth(*this), viewport()->width()) - 4 * style()->pixelMetric(QStyle::PM_LayoutLeftMargin);
+  for (auto* button : recentBox_->findChildren<QPushButton*>()) {
+    const QString path = button->accessibleName();
+    button->setText(button->fontMetrics().elidedText(path, Qt::ElideMiddle, room).replace('&', "&&"));
+  }
+}
+
+void StartPage::resizeEvent(QResizeEvent* event) {
+  QScrollArea::resizeEvent(event);
+  CutPaths();
 }
 
 void StartPage::showEvent(QShowEvent* event) {

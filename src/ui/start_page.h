@@ -28,11 +28,14 @@ class StartPage : public QScrollArea {
 
  protected:
   void showEvent(QShowEvent* event) override;
+  void resizeEvent(QResizeEvent* event) override;
 
  private:
   // A step is a number in a disc, which becomes a tick, and what to do.
   void AddStep(QVBoxLayout& column, const char* name, const QString& text, QWidget* button = nullptr);
   void ShowRecent();
+  // Cuts the paths to the room that there is.
+  void CutPaths();
 
   const SettingsPanel& settings_;
   RecentFiles& recent_;

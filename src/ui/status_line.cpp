@@ -21,7 +21,6 @@ StatusLine::StatusLine(QStatusBar& bar)
       progress_(new QProgressBar(line_)) {
   result_->setObjectName("UltimoRisultato");
   output_->setObjectName("FlashOutput");
-  output_->setMinimumWidth(output_->fontMetrics().horizontalAdvance("Flash di output : nessuna...."));
   bar.addPermanentWidget(output_, 1);
 
   progress_->setObjectName("ProgressBar1");
@@ -39,10 +38,9 @@ StatusLine::StatusLine(QStatusBar& bar)
   row->addWidget(progress_);
 }
 
-QLabel* StatusLine::AddFigure(QStatusBar& bar, const char* name) {
-  auto* label = new QLabel(&bar);
+ElidedLabel* StatusLine::AddFigure(QStatusBar& bar, const char* name) {
+  auto* label = new ElidedLabel(Qt::ElideRight, &bar);
   label->setObjectName(name);
-  label->setTextFormat(Qt::PlainText);
   label->setContentsMargins(4, 0, 8, 0);
   bar.addPermanentWidget(label);
   return label;
@@ -54,15 +52,14 @@ void StatusLine::ShowResult(const QString& text) {
 }
 
 void StatusLine::ShowList(const Routines::State& state, bool unsaved, int clipboard) {
-  channels_->setText(state.Loaded
-                         ? QString("Canali %1 di %2").arg(UsedChannels(state)).arg(state.ChannelCount)
-                         : QString("Nessuna flash caricata"));
-  transponders_->setText(
+  channels_->Show(state.Loaded ? QString("Canali %1 di %2").arg(UsedChannels(state)).arg(state.ChannelCount)
+                               : QString("Nessuna flash caricata"));
+  transponders_->Show(
       QString("Transponder %1 di %2").arg(UsedTransponders(state)).arg(state.TransponderCount));
   transponders_->setVisible(state.Loaded);
-  clipboard_->setText(QString("Appunti %1").arg(clipboard));
+  clipboard_->Show(QString("Appunti %1").arg(clipboard));
   clipboard_->setVisible(clipboard > 0);
-  unsaved_->setText(!unsaved ? "" : kept_ ? "Modifiche non salvate" : "Modifiche non salvate né conservate");
+  unsaved_->Show(!unsaved ? "" : kept_ ? "Modifiche non salvate" : "Modifiche non salvate né conservate");
   unsaved_->setVisible(unsaved);
   const QString name = state.OutputFlash.empty() ? "nessuna" : PathText(Base::FileName(state.OutputFlash));
   output_->Show("Flash di output : " + name, PathText(state.OutputFlash));

@@ -32,14 +32,14 @@ class StatusLine : public QObject {
   void ResultShown(const QString& text);
 
  private:
-  QLabel* AddFigure(QStatusBar& bar, const char* name);
+  ElidedLabel* AddFigure(QStatusBar& bar, const char* name);
 
   QWidget* line_;
   ElidedLabel* result_;
-  QLabel* channels_;
-  QLabel* transponders_;
-  QLabel* clipboard_;
-  QLabel* unsaved_;
+  ElidedLabel* channels_;
+  ElidedLabel* transponders_;
+  ElidedLabel* clipboard_;
+  ElidedLabel* unsaved_;
   ElidedLabel* output_;
   QProgressBar* progress_;
   bool kept_ = true;

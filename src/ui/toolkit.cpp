@@ -1,8 +1,11 @@
 #include "ui/toolkit.h"
 
+#include "ui/readable_style.h"
+
 #include <QApplication>
 #include <QLibraryInfo>
 #include <QLocale>
+#include <QStyle>
 #include <QTranslator>
 
 #include <csignal>
@@ -18,6 +21,8 @@ namespace Ui {
 void SetUpToolkit(QApplication& application) {
   KeepResources();
   QApplication::setApplicationName("Trovalis");
+  // The styles of desktops see to their colours themselves.
+  if (QApplication::style()->name() == "fusion") QApplication::setStyle(new ReadableStyle("fusion"));
   QLocale::setDefault(QLocale(QLocale::Italian, QLocale::Italy));
   auto* italian = new QTranslator(&application);
   if (italian->load("qtbase_it", QLibraryInfo::path(QLibraryInfo::TranslationsPath))) {

@@ -70,7 +70,10 @@ TreePane::TreePane(const Document& document, const std::vector<Routines::Satelli
   column->addWidget(tree_, 1);
 }
 
-QSize TreePane::sizeHint() const { return {240, 400}; }
+QSize TreePane::sizeHint() const {
+  const int row = fontMetrics().horizontalAdvance("SAT A  Un satellite (0000)") + 4 * tree_->indentation();
+  return {std::max(240, row), 400};
+}
 
 void TreePane::Refresh() {
   stale_ = isHidden();

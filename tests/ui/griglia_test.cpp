@@ -57,5 +57,23 @@ TEST(Griglia, OnlyTheRowsInViewAreAskedForHoweverLongTheList) {
   EXPECT_LE(painted(), 5 * list.columnCount()) << "a turn of the wheel paints the rows that come into view";
 }
 
+TEST(Griglia, ColumnsShareTheSpareWidthExceptThoseThatTheUserHasSet) {
+  CountedRows list(10);
+  Griglia grid(nullptr);
+  grid.resize(500, 400);
+  grid.show();
+  grid.ShowList(&list);
+  const std::vector<int> before = {grid.columnWidth(0), grid.columnWidth(1), grid.columnWidth(2)};
+  grid.resize(1500, 400);
+  EXPECT_EQ(grid.columnWidth(0), before[0]) << "the number needs no more";
+  EXPECT_GT(grid.columnWidth(1) - before[1], grid.columnWidth(2) - before[2]);
+  EXPECT_GT(grid.columnWidth(2), before[2]);
+  EXPECT_EQ(grid.horizontalHeader()->length(), grid.viewport()->width());
+  grid.horizontalHeader()->resizeSection(2, 90);
+  grid.resize(1700, 400);
+  EXPECT_EQ(grid.columnWidth(2), 90);
+  EXPECT_EQ(grid.horizontalHeader()->length(), grid.viewport()->width());
+}
+
 }  // namespace
 }  // namespace Ui

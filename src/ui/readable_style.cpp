@@ -1,0 +1,87 @@
+#include "ui/readable_style.h"
+
+#include <QAbstractItemView>
+#include <QPainter>
+#include <QStyleOption>
+
+#include <cmath>
+
+namespace Ui {
+namespace {
+
+constexpr double ReadableContrast = 4.5;
+
+double Luminance(const QColor& colour) {
+  const auto linear = [](double part) {
+    return part <= 0.03928 ? part / 12.92 : std::pow((part + 0.055) / 1.055, 2.4);
+  };
+  return 0.2126 * linear(colour.redF()) + 0.7152 * linear(colour.greenF()) + 0.0722 * linear(colour.blueF());
+}
+
+QColor Between(const QColor& one, const QColor& other) {
+  return QColor((one.red() + other.red()) / 2, (one.green() + other.green()) / 2,
+                (one.blue() + other.blue()) / 2);
+}
+
+// The style draws edges in a darker shade of the window's colour.
+template <class Option>
+Option WithEdge(const QStyleOption& given) {
+  constexpr int AgainstShade = 145;
+  Option option;
+  if (const auto* whole = qstyleoption_cast<const Option*>(&given)) {
+    option = *whole;
+  } else {
+    option.QStyleOption::operator=(given);
+  }
+  const QColor edge = Between(option.palette.color(QPalette::Text), option.palette.color(QPalette::Base));
+  option.palette.setColor(QPalette::Window, edge.lighter(AgainstShade));
+  return option;
+}
+
+}  // namespace
+
+double Contrast(const QColor& one, const QColor& other) {
+  const double first = Luminance(one);
+  const double second = Luminance(other);
+  return (std::max(first, second) + 0.05) / (std::min(first, second) + 0.05);
+}
+
+void ReadableStyle::polish(QPalette& palette) {
+  QProxyStyle::polish(palette);
+  constexpr int Step = 104;  // per cent
+  for (const auto group : {QPalette::Active, QPalette::Inactive}) {
+    const QColor text = palette.color(group, QPalette::HighlightedText);
+    QColor ground = palette.color(group, QPalette::Highlight);
+    const bool lightText = Luminance(text) > Luminance(ground);
+    for (int i = 0; i < 40 && Contrast(text, ground) < ReadableContrast; ++i)
+      ground = lightText ? ground.darker(Step) : ground.lighter(Step);
+    palette.setColor(group, QPalette::Highlight, ground);
+  }
+}
+
+int ReadableStyle::styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
+                             QStyleHintReturn* data) const {
+  return hint == SH_Menu_Scrollable ? 1 : QProxyStyle::styleHint(hint, option, widget, data);
+}
+
+void ReadableStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,
+                                  const QWidget* widget) const {
+  if (option == nullptr) return QProxyStyle::drawPrimitive(element, option, painter, widget);
+  const bool dark = option->palette.color(QPalette::Base).lightness() < 128;
+  if (dark && (element == PE_IndicatorCheckBox || element == PE_IndicatorRadioButton)) {
+    const auto edged = WithEdge<QStyleOptionButton>(*option);
+    QProxyStyle::drawPrimitive(element, &edged, painter, widget);
+  } else if (dark && element == PE_FrameLineEdit) {
+    const auto edged = WithEdge<QStyleOptionFrame>(*option);
+    QProxyStyle::drawPrimitive(element, &edged, painter, widget);
+  } else if (element == PE_FrameFocusRect && qobject_cast<const QAbstractItemView*>(widget) != nullptr) {
+    const bool selected = (option->state & State_Selected) != 0;
+    painter->setPen(option->palette.color(selected ? QPalette::HighlightedText : QPalette::Text));
+    painter->setBrush(Qt::NoBrush);
+    painter->drawRect(option->rect.adjusted(0, 0, -1, -1));
+  } else {
+    QProxyStyle::drawPrimitive(element, option, painter, widget);
+  }
+}
+
+}  // namespace Ui

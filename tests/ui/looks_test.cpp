@@ -1,0 +1,134 @@
+// What can be said of the windows' looks by rule: colours that can be told apart, and room for every text.
+#include "ui/readable_style.h"
+#include "ui/window_fixture.h"
+
+#include <QCheckBox>
+#include <QDialog>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QScreen>
+#include <QTest>
+#include <QToolButton>
+
+namespace Ui {
+namespace {
+
+// The letters of the whole program, and its colours, until the end of a test.
+class Looks : public Window {
+ protected:
+  ~Looks() override {
+    window_.reset();
+    QApplication::setFont(font_);
+    QApplication::setPalette(QPalette());
+  }
+
+  static void EnlargeLetters() {
+    QFont large = QApplication::font();
+    large.setPointSize(16);
+    QApplication::setFont(large);
+  }
+
+  // In the room that the window gives it, or that can be scrolled to.
+  static bool IsInSight(const QWidget& control) {
+    const QWidget* at = control.parentWidget();
+    while (!at->isWindow() && qobject_cast<const QAbstractScrollArea*>(at) == nullptr)
+      at = at->parentWidget();
+    const bool scrolls = !at->isWindow();
+    return scrolls || at->rect().contains(QRect(control.mapTo(at, QPoint(0, 0)), control.size()));
+  }
+
+  static void ExpectRoom(const QWidget& window) {
+    const QSize screen = window.screen()->availableGeometry().size();
+    EXPECT_EQ(window.size().boundedTo(screen), window.size()) << window.objectName().toStdString();
+    for (const QWidget* control : window.findChildren<QWidget*>()) {
+      const auto* button = qobject_cast<const QAbstractButton*>(control);
+      const auto* label = qobject_cast<const QLabel*>(control);
+      const bool elided = label != nullptr && (label->wordWrap() || label->inherits("Ui::ElidedLabel"));
+      if (!control->isVisible() || control->window() != &window || (button == nullptr && label == nullptr))
+        continue;
+      const std::string name = (window.objectName() + '/' + control->objectName()).toStdString();
+      EXPECT_GE(control->width(), elided ? 0 : control->sizeHint().width()) << name;
+      EXPECT_TRUE(IsInSight(*control)) << name;
+    }
+  }
+
+ private:
+  QFont font_ = QApplication::font();
+};
+
+}  // namespace
+
+TEST_F(Looks, NothingIsCutWithLargeLetters) {
+  EnlargeLetters();
+  OpenDemo();
+  QTest::qWait(50);
+  ExpectRoom(*window_);
+  driver_->SelectRows(34, 35);
+  driver_->Press("Toolbar1_Copy");
+  driver_->ExpectLine("Inserire il numero di canale da cui inserire", "60");
+  driver_->ExpectQuestion(
+      "Sposto o sovrascrivo i canali a partire dal 60 per 2 Canali?\nRispondere SI per spostare NO per "
+      "sovrascrivere",
+      true);
+  driver_->Press("Toolbar1_Paste");
+  for (const auto& [command, name] :
+       {std::pair{"CanaliDoppi", "FinestraCanaliDoppi"}, std::pair{"ConfrontaDisco", "FinestraConfronto"},
+        std::pair{"VisualizzaPreferiti", "ListePreferiti"}, std::pair{"Riepilogo", "FinestraRiepilogo"},
+        std::pair{"Guida", "FinestraGuida"}}) {
+    Action(command).trigger();
+    auto* window = window_->findChild<QDialog*>(name);
+    ASSERT_NE(window, nullptr) << name;
+    QTest::qWait(50);
+    ExpectRoom(*window);
+    window->close();
+  }
+}
+
+TEST_F(Looks, EveryRowCanBeRead) {
+  OpenDemo();
+  window_->findChild<QLineEdit*>("Filtro")->setText("HD");
+  for (const char* view : {"VisualizzaCanali", "VisualizzaTransponder"}) {
+    if (!Action(view).isChecked()) Action(view).trigger();
+    const QAbstractItemModel& list = *driver_->Grid().model();
+    for (int row = 0; row < list.rowCount(); ++row) {
+      for (int column = 0; column < 2; ++column) {
+        const QModelIndex cell = list.index(row, column);
+        EXPECT_GE(Contrast(cell.data(Qt::ForegroundRole).value<QBrush>().color(),
+                           cell.data(Qt::BackgroundRole).value<QBrush>().color()),
+                  4.5)
+            << view << " row " << row << " column " << column;
+      }
+    }
+  }
+  for (const auto& [text, ground] : {std::pair{Qt::white, Qt::cyan}, std::pair{Qt::black, Qt::darkBlue}}) {
+    QPalette colours;
+    colours.setColor(QPalette::HighlightedText, text);
+    colours.setColor(QPalette::Highlight, ground);
+    ReadableStyle("fusion").polish(colours);
+    EXPECT_GE(Contrast(colours.color(QPalette::HighlightedText), colours.color(QPalette::Highlight)), 4.5);
+  }
+}
+
+TEST_F(Looks, ADarkGroundShowsUntickedBoxesAndIcons) {
+  const QColor ground(45, 45, 45);
+  QApplication::setPalette(QPalette(ground));
+  const auto strongest = [](const QImage& picture, const QColor& on) {
+    double most = 1;
+    for (int y = 0; y < picture.height(); ++y) {
+      for (int x = 0; x < picture.width(); ++x) {
+        if (picture.pixelColor(x, y).alpha() > 128)
+          most = std::max(most, Contrast(picture.pixelColor(x, y), on));
+      }
+    }
+    return most;
+  };
+  EXPECT_GE(strongest(QCheckBox().grab().toImage(), ground), 3);
+  Start();
+  for (const char* key : {"Open", "Canali", "Delete", "Find", "Fine_Programma"}) {
+    const auto* button = window_->findChild<QToolButton*>(QString("Toolbar1_") + key);
+    EXPECT_GE(strongest(button->icon().pixmap(24, 24).toImage(), ground), 4.5) << key;
+  }
+}
+
+}  // namespace Ui
