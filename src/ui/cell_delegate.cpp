@@ -85,6 +85,7 @@ QWidget* CellDelegate::createEditor(QWidget* parent, const QStyleOptionViewItem&
   }
   editor->setObjectName(CellEditorName);
   editor->setAccessibleName(index.model()->headerData(index.column(), Qt::Horizontal).toString());
+  editor->setAccessibleDescription(editor->accessibleName());
   editor->setAutoFillBackground(true);
   editor->setProperty(CellProperty, QVariant::fromValue(QPersistentModelIndex(index)));
   return editor;

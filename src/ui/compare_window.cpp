@@ -73,6 +73,8 @@ FinestraConfronto::FinestraConfronto(Session& session, OtherFlash other, QMainWi
   column->addWidget(rest_);
   column->addWidget(result_);
   column->addLayout(Buttons());
+  setTabOrder(kinds_.back(), table_);
+  setTabOrder(table_, goTo_);
   resize(900, 600);
 
   connect(&session.document, &Document::Changed, this, &FinestraConfronto::Refresh);
@@ -103,6 +105,7 @@ void FinestraConfronto::SetUpTable() {
   table_->setModel(model_);
   table_->setSelectionBehavior(QAbstractItemView::SelectRows);
   table_->setWordWrap(false);
+  table_->setTabKeyNavigation(false);
   table_->verticalHeader()->hide();
   table_->verticalHeader()->setDefaultSectionSize(table_->fontMetrics().height() + 6);
   QHeaderView& header = *table_->horizontalHeader();

@@ -95,6 +95,8 @@ FinestraCanaliDoppi::FinestraCanaliDoppi(Session& session, const Edit::Duplicate
   column->addWidget(tree_, 1);
   column->addWidget(counts_);
   column->addWidget(Buttons());
+  setTabOrder(name_, tree_);
+  setTabOrder(tree_, goTo_);
   resize(760, 480);
 
   connect(&session.document, &Document::Changed, this, &FinestraCanaliDoppi::Refresh);
