@@ -217,6 +217,14 @@ TEST(TakeOver, AllDifferencesOfRandomListsLeaveTheOtherListInItsOrder) {
       ASSERT_EQ(Channel(*ordered, wanted), Channel(*here, slot)) << round;
     }
 
+    auto all = std::make_unique<State>(*here);
+    TakeOver(*all, *there, found, found.differences, {});
+    TakeOrder(*all, *there, Compare(*all, *there));
+    const Comparison last = Compare(*all, *there);
+    ASSERT_TRUE(last.differences.empty())
+        << round << ": " << DetailsOf(*all, *there, last.differences.front());
+    ASSERT_EQ(last.shifted, 0) << round;
+
     // Whatever was ticked is no difference any more, and nothing else went away.
     std::vector<Difference> chosen;
     for (const Difference& difference : found.differences) {
