@@ -119,6 +119,7 @@ void StartPage::ShowRecent() {
     button->setText(
         button->fontMetrics().elidedText(path, Qt::ElideMiddle, PageWidth - 40).replace('&', "&&"));
     button->setAccessibleName(path);
+    button->setAccessibleDescription("Apre la flash");
     button->setToolTip("<span>" + path.toHtmlEscaped() + "</span>");
     connect(button, &QPushButton::clicked, &recent_, [this, path] { Q_EMIT recent_.Chosen(path); });
     recentList_->addWidget(button);

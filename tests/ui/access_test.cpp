@@ -7,6 +7,7 @@
 #include <QComboBox>
 #include <QDialog>
 #include <QGroupBox>
+#include <QHeaderView>
 #include <QLabel>
 #include <QListWidget>
 #include <QMenu>
@@ -32,6 +33,13 @@ bool IsNamed(QWidget& widget) {
   return !told.relations(QAccessible::Label).isEmpty() || !told.text(QAccessible::Description).isEmpty();
 }
 
+bool HasTitle(const QHeaderView& header, int column) {
+  const auto title = [&](int role) {
+    return header.model()->headerData(column, header.orientation(), role).toString();
+  };
+  return !title(Qt::AccessibleTextRole).isEmpty() || !title(Qt::DisplayRole).isEmpty();
+}
+
 // The letter after "&", "&&" left out.
 QChar Letter(QString text) {
   const qsizetype at = text.replace("&&", "").indexOf('&');
@@ -49,6 +57,10 @@ class Access : public Window {
     const std::set<QWidget*> controls = Controls(shown);
     for (QWidget* control : controls) {
       EXPECT_TRUE(IsNamed(*control)) << Told(*control).toStdString();
+    }
+    for (const auto* header : shown.findChildren<QHeaderView*>()) {
+      for (int column = 0; column < header->count() && header->isVisible(); ++column)
+        EXPECT_TRUE(HasTitle(*header, column)) << Told(*header->parentWidget()).toStdString() << column;
     }
     CheckLetters(shown);
     CheckTab(shown, controls);
