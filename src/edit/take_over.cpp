@@ -40,8 +40,10 @@ class Taker {
   std::optional<ChannelRecord> Linked(int there, int current) {
     ChannelRecord channel = other_.ChannelTable[At(there)];
     if (!HasTransponder(other_, channel)) {
-      // It must not come upon a transponder that it never had.
-      if (HasTransponder(state_, channel)) Set(channel, ChannelField::Transponder, 0);
+      // It must not come upon a transponder that it never had, or on one that takes a free slot later.
+      const bool inTable =
+          static_cast<int>(Get(channel, ChannelField::Transponder)) <= state_.TransponderCount;
+      if (inTable) Set(channel, ChannelField::Transponder, 0);
       return channel;
     }
     const TransponderRecord wanted = Wanted(channel);

@@ -188,7 +188,7 @@ void FinestraConfronto::ShowCounts() {
     const int count = model_->Count(static_cast<Mark>(kind));
     const QString text = model_->KindText(static_cast<Mark>(kind));
     kinds_[kind]->setText(QString("%1 (%2)").arg(text).arg(count));
-    kinds_[kind]->setAccessibleName("Mostra: " + text);
+    kinds_[kind]->setAccessibleName("Mostra: " + kinds_[kind]->text());
     kinds_[kind]->setEnabled(count > 0);
   }
   const bool nothing = model_->Found().Nothing();

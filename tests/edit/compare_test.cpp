@@ -285,6 +285,18 @@ TEST(TakeOver, WhatHasNoPlaceIsLeftAndTold) {
   EXPECT_EQ(here.ChannelTable, before);
 }
 
+TEST(TakeOver, AChannelWithoutATransponderGetsNoneByChance) {
+  State here = SmallList();
+  State there = here;
+  Channel(there, 7) = Samples::MakeChannel("lost", 4, 7, 1, 1);
+  Channel(there, 8) = Samples::MakeChannel("new", 5, 8, 1, 1);
+  Transponder(there, 5) = Samples::MakeTransponder(12640, true, 0, 3, 2, 50, 318);
+  const Comparison found = Compare(here, there);
+  TakeOver(here, there, found, found.differences, {});
+  EXPECT_EQ(Get(Channel(here, 8), ChannelField::Transponder), 4U) << "the first free slot";
+  EXPECT_FALSE(HasTransponder(here, Channel(here, 7)));
+}
+
 TEST(CapacityOf, StopsWhereAReceiverRepeatsItsList) {
   std::vector<ChannelRecord> list;
   for (int i = 1; i <= 999; ++i) list.push_back(Samples::MakeChannel("c" + std::to_string(i), 1, i, 1, 1));
