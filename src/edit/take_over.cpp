@@ -23,6 +23,10 @@ class Taker {
         Change(difference);
     }
     report_.lost = Arrange(chosen);
+    for (int slot = 1; slot <= state_.ChannelCount; ++slot) {
+      const ChannelRecord& channel = state_.ChannelTable[At(slot)];
+      if (!channel.Empty()) occupied_.set(Get(channel, ChannelField::Transponder));
+    }
     for (const Difference& difference : chosen) {
       if (difference.Has(Mark::OnlyThere)) Add(difference.there);
     }
@@ -36,8 +40,10 @@ class Taker {
   std::optional<ChannelRecord> Linked(int there, int current) {
     ChannelRecord channel = other_.ChannelTable[At(there)];
     if (!HasTransponder(other_, channel)) {
-      // It must not come upon a transponder that it never had.
-      if (HasTransponder(state_, channel)) Set(channel, ChannelField::Transponder, 0);
+      // It must not come upon a transponder that it never had, or on one that takes a free slot later.
+      const bool inTable =
+          static_cast<int>(Get(channel, ChannelField::Transponder)) <= state_.TransponderCount;
+      if (inTable) Set(channel, ChannelField::Transponder, 0);
       return channel;
     }
     const TransponderRecord wanted = Wanted(channel);
@@ -92,6 +98,13 @@ class Taker {
     ++report_.updated;
   }
 
+  // The data of a transponder that no channel was on are nobody's: they may be long out of date.
+  void UpdateUnoccupied(int there, std::size_t slot) {
+    const ChannelRecord& theirs = other_.ChannelTable[At(there)];
+    if (HasTransponder(other_, theirs) && !occupied_[slot]) Update(slot, Wanted(theirs));
+    occupied_.set(slot);
+  }
+
   // Takes the chosen channels out that are only here, and puts each moved one behind the channel that it follows in the
   // other list, the moved ones left out.
   std::vector<LostFavourite> Arrange(const std::vector<Difference>& chosen) {
@@ -143,6 +156,7 @@ class Taker {
     } else if (const auto channel = Linked(there, 0)) {
       state_.ChannelTable[At(slot)] = *channel;
       ++report_.added;
+      UpdateUnoccupied(there, Get(*channel, ChannelField::Transponder));
     } else {
       ++report_.noTransponder;
     }
@@ -153,6 +167,7 @@ class Taker {
   const Comparison& comparison_;
   const BouquetTables& bouquets_;
   std::bitset<LastTransponderSlot + 1> updated_;
+  std::bitset<256> occupied_;  // with channels on it, by the number that they have
   TakeOverReport report_;
 };
 

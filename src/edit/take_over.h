@@ -19,7 +19,8 @@ struct TakeOverReport {
 
 // `chosen` are some of the differences between `state` and `other`. Channels only there go behind the last one, and into
 // the empty slots from the front on when that is full; channels only here are deleted; changed ones become the other's
-// channel; moved ones go behind the channel that they follow there. Counts of the transponders are brought up to date.
+// channel; moved ones go behind the channel that they follow there. A transponder gets the other's data with a changed
+// channel, and with a new one where no other channel is on it. Counts of the transponders are brought up to date.
 TakeOverReport TakeOver(State& state, const State& other, const Comparison& comparison,
                         const std::vector<Difference>& chosen, const Routines::BouquetTables& bouquets);
 

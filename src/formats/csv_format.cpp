@@ -41,6 +41,15 @@ std::vector<std::string> Titles(std::string_view header) {
   }
 }
 
+// "24/7" and "1-2" would become dates, "10.30" a time, "1E5" a large number.
+bool LooksLikeDate(std::string_view text) {
+  constexpr std::string_view Digits = "0123456789";
+  const auto divider = text.find_first_not_of(Digits);
+  return divider != 0 && divider + 1 < text.size() &&
+         std::string_view("/-.,:eE").find(text[divider]) != std::string_view::npos &&
+         text.find_first_not_of("0123456789/-.,: ", divider + 1) == std::string_view::npos;
+}
+
 // `bytes` of the code page as one field. Lists come from strangers: a name must not be run as a formula.
 std::string Field(std::string_view bytes) {
   std::string text(Base::TrimmedRight(bytes));
@@ -48,7 +57,8 @@ std::string Field(std::string_view bytes) {
     if (static_cast<unsigned char>(c) < ' ') c = ' ';
   }
   const std::size_t begin = text.find_first_not_of(' ');
-  if (begin != std::string::npos && std::string_view("=+-@").find(text[begin]) != std::string_view::npos)
+  if (begin != std::string::npos && (std::string_view("=+-@").find(text[begin]) != std::string_view::npos ||
+                                     LooksLikeDate(std::string_view(text).substr(begin))))
     text.insert(0, "'");
   text = Base::ToUtf8(text);
   if (text.find_first_of(";\"") == std::string::npos) return text;
@@ -64,9 +74,10 @@ std::string Line(const std::vector<std::string>& fields) {
 }
 
 std::string TransponderText(const State& state, int slot, int column) {
-  std::string text = Field(TransponderCell(state, slot, column));
-  // "3/4" would become a date.
-  if (column == TransponderColumn::Fec && text.size() == 3) text.replace(1, 1, FractionSlash);
+  std::string text = TransponderCell(state, slot, column);
+  if (column != TransponderColumn::Fec) return Field(text);
+  // A number with a fraction needs no apostrophe.
+  if (text.size() == 3) text.replace(1, 1, FractionSlash);
   return text;
 }
 

@@ -3,6 +3,7 @@
 #include "edit/cell_edit.h"
 #include "model/favourites.h"
 #include "ui/commands.h"
+#include "ui/menu_letters.h"
 
 #include <QAction>
 #include <QMainWindow>
@@ -17,6 +18,7 @@ ChannelMenu::ChannelMenu(Session& session, CellCommands& cells, FavouritesComman
                          QMainWindow& window)
     : QObject(&window), session_(session), cells_(cells), menu_(new QMenu(&window)) {
   menu_->setObjectName("MenuCanali");
+  MenuLetters::Follow(*menu_);
   for (const char* name : {"Copia", "Taglia", "Incolla", "Elimina"})
     menu_->addAction(&CommandAction(window, name));
   menu_->addSeparator();

@@ -2,7 +2,9 @@
 
 #include <QCheckBox>
 #include <QComboBox>
+#include <QEvent>
 #include <QSignalBlocker>
+#include <QTableView>
 
 namespace Ui {
 namespace {
@@ -38,11 +40,15 @@ ColumnHeader::Chooser ColumnHeader::MakeChooser(int column) {
   auto* meaning = new QComboBox(viewport());
   for (const char* caption : Captions) meaning->addItem(caption);
   meaning->setObjectName(QString("Contenuto_%1").arg(column));
+  // The name of a list without a label is what it shows, so it is described as well.
   meaning->setAccessibleName(QString("Contenuto della colonna %1").arg(column + 1));
+  meaning->setAccessibleDescription(meaning->accessibleName());
   meaning->setMaxVisibleItems(static_cast<int>(Captions.size()));
   auto* hexadecimal = new QCheckBox("esadecimale", viewport());
   hexadecimal->setObjectName(QString("Esadecimale_%1").arg(column));
   hexadecimal->setAccessibleName(QString("Colonna %1 in esadecimale").arg(column + 1));
+  for (QWidget* control : {static_cast<QWidget*>(meaning), static_cast<QWidget*>(hexadecimal)})
+    control->installEventFilter(this);
   connect(meaning, &QComboBox::currentIndexChanged, this,
           [this, column](int index) { Choose(column, index); });
   connect(hexadecimal, &QCheckBox::toggled, this, [this, column](bool on) {
@@ -50,6 +56,27 @@ ColumnHeader::Chooser ColumnHeader::MakeChooser(int column) {
     Q_EMIT Changed();
   });
   return {meaning, hexadecimal};
+}
+
+void ColumnHeader::ComeAfter(QWidget& control) {
+  QWidget* before = &control;
+  for (const auto& [meaning, hexadecimal] : choosers_) {
+    setTabOrder(before, meaning);
+    setTabOrder(meaning, hexadecimal);
+    before = hexadecimal;
+  }
+}
+
+// A chooser that gets the focus by the keyboard comes into view.
+bool ColumnHeader::eventFilter(QObject* watched, QEvent* event) {
+  if (event->type() == QEvent::FocusIn) {
+    auto& table = *qobject_cast<QTableView*>(parentWidget());
+    const auto at = std::find_if(choosers_.begin(), choosers_.end(), [watched](const Chooser& chooser) {
+      return chooser.meaning == watched || chooser.hexadecimal == watched;
+    });
+    table.scrollTo(table.model()->index(table.rowAt(0), static_cast<int>(at - choosers_.begin())));
+  }
+  return QHeaderView::eventFilter(watched, event);
 }
 
 // A field of the channel stands in one column: it leaves the one that it was in.

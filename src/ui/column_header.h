@@ -20,6 +20,9 @@ class ColumnHeader : public QHeaderView {
   void ShowColumns(const std::vector<Formats::ForeignColumn>& columns);
   [[nodiscard]] const std::vector<Formats::ForeignColumn>& Columns() const { return columns_; }
 
+  // Puts the choosers behind a control on the way of the Tab key, column by column.
+  void ComeAfter(QWidget& control);
+
   // What the choosers of a column need.
   [[nodiscard]] int ChooserWidth() const;
   [[nodiscard]] QSize sizeHint() const override;
@@ -29,6 +32,7 @@ class ColumnHeader : public QHeaderView {
 
  protected:
   void updateGeometries() override;
+  bool eventFilter(QObject* watched, QEvent* event) override;
 
  private:
   struct Chooser {

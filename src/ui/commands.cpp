@@ -1,6 +1,7 @@
 #include "ui/commands.h"
 
 #include "ui/command_tips.h"
+#include "ui/menu_letters.h"
 #include "ui/themed_icon.h"
 
 #include <QAction>
@@ -45,6 +46,7 @@ void BuildMenus(QMainWindow& window) {
   QMenu* exports = exchange->addMenu("Esporta");
   QMenu* about = bar.addMenu("&About");
   const std::array menus = {file, utilities, sdx, import, exports, about};
+  for (QMenu* menu : menus) MenuLetters::Follow(*menu);
   for (const Command& command : Commands) {
     AddCommand(window, *menus[static_cast<std::size_t>(command.menu)], command);
   }
@@ -68,6 +70,12 @@ void BuildToolbar(QMainWindow& window) {
     widget->setObjectName(ButtonName(button.key));
     widget->setAccessibleName(button.tip);
   }
+  // The recount is a button only; the keyboard has it in the menu, behind the commands for the whole list.
+  const QAction& last = CommandAction(window, "ConvertiSR");
+  auto* utilities = qobject_cast<QMenu*>(last.associatedObjects().value(0));
+  const QList<QAction*> commands = utilities->actions();
+  utilities->insertAction(commands.value(commands.indexOf(&last) + 1),
+                          &ButtonAction(window, "CanaliXTransponder"));
 }
 
 QString CommandTip(std::string_view name) {

@@ -102,6 +102,7 @@ int CompareModel::columnCount(const QModelIndex& parent) const { return parent.i
 QVariant CompareModel::headerData(int section, Qt::Orientation orientation, int role) const {
   if (orientation != Qt::Horizontal) return {};
   if (role == Qt::TextAlignmentRole) return int{Qt::AlignLeft | Qt::AlignVCenter};
+  if (role == Qt::AccessibleTextRole && section == Tick) return "Segno";
   if (role != Qt::DisplayRole) return {};
   switch (section) {
     case Kind:

@@ -76,6 +76,8 @@ FinestraConfronto::FinestraConfronto(Session& session, OtherFlash other, QMainWi
   column->addWidget(result_);
   column->addLayout(Buttons());
   ResizeOnScreen(*this, {900, 600});
+  setTabOrder(kinds_.back(), table_);
+  setTabOrder(table_, goTo_);
 
   connect(&session.document, &Document::Changed, this, &FinestraConfronto::Refresh);
   connect(&session.settings, &SettingsPanel::Clicked, this, &FinestraConfronto::Refresh);
@@ -104,6 +106,7 @@ void FinestraConfronto::SetUpTable() {
   table_->setModel(model_);
   table_->setSelectionBehavior(QAbstractItemView::SelectRows);
   table_->setWordWrap(false);
+  table_->setTabKeyNavigation(false);
   table_->verticalHeader()->hide();
   table_->verticalHeader()->setDefaultSectionSize(table_->fontMetrics().height() + 6);
   QHeaderView& header = *table_->horizontalHeader();
@@ -189,7 +192,7 @@ void FinestraConfronto::ShowCounts() {
     const int count = model_->Count(static_cast<Mark>(kind));
     const QString text = model_->KindText(static_cast<Mark>(kind));
     kinds_[kind]->setText(QString("%1 (%2)").arg(text).arg(count));
-    kinds_[kind]->setAccessibleName("Mostra: " + text);
+    kinds_[kind]->setAccessibleName("Mostra: " + kinds_[kind]->text());
     kinds_[kind]->setEnabled(count > 0);
   }
   const bool nothing = model_->Found().Nothing();

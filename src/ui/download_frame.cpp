@@ -2,7 +2,9 @@
 
 #include <QComboBox>
 #include <QHBoxLayout>
+#include <QLineEdit>
 #include <QPushButton>
+#include <QShortcut>
 
 namespace Ui {
 
@@ -11,6 +13,7 @@ DownloadFrame::DownloadFrame(QWidget* parent) : QGroupBox("File SDX da scaricare
   addresses_ = new QComboBox(this);
   addresses_->setObjectName("Combo3");
   addresses_->setAccessibleName(title());
+  addresses_->setAccessibleDescription(title());
   addresses_->setEditable(true);
   addresses_->setInsertPolicy(QComboBox::NoInsert);
   auto* fetch = new QPushButton("Scarica", this);
@@ -19,6 +22,10 @@ DownloadFrame::DownloadFrame(QWidget* parent) : QGroupBox("File SDX da scaricare
   cancel->setObjectName("Annulla2");
   connect(fetch, &QPushButton::clicked, this, [this] { Q_EMIT Chosen(addresses_->currentText()); });
   connect(cancel, &QPushButton::clicked, this, &QWidget::hide);
+  connect(addresses_->lineEdit(), &QLineEdit::returnPressed, fetch, &QPushButton::click);
+  auto* leave = new QShortcut(QKeySequence(Qt::Key_Escape), this);
+  leave->setContext(Qt::WidgetWithChildrenShortcut);
+  connect(leave, &QShortcut::activated, cancel, &QPushButton::click);
   auto* row = new QHBoxLayout(this);
   row->addWidget(addresses_, 1);
   row->addWidget(fetch);

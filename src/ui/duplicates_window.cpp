@@ -98,6 +98,8 @@ FinestraCanaliDoppi::FinestraCanaliDoppi(Session& session, const Edit::Duplicate
   column->addWidget(counts_);
   column->addWidget(Buttons());
   ResizeOnScreen(*this, {760, 480});
+  setTabOrder(name_, tree_);
+  setTabOrder(tree_, goTo_);
 
   connect(&session.document, &Document::Changed, this, &FinestraCanaliDoppi::Refresh);
   Refresh();

@@ -18,6 +18,7 @@ void ElidedLabel::Show(const QString& text, const QString& tip) {
   setText(line);
   // A tip without a tag would show its escapes.
   setToolTip("<span>" + (tip.isEmpty() ? text : tip).toHtmlEscaped() + "</span>");
+  setAccessibleDescription(tip.isEmpty() ? line : tip);  // it would be the tool tip, tags and all
 }
 
 QSize ElidedLabel::sizeHint() const {

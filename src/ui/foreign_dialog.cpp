@@ -83,6 +83,10 @@ void ImportazioneTesto::Build(const QString& recognised, const std::vector<Routi
   title->setObjectName("Riconosciuto");
   title->setTextFormat(Qt::PlainText);
   title->setWordWrap(true);
+  satellite_ = new QComboBox(this);
+  satellite_->setObjectName("Combo1");
+  FillSatellites(*satellite_, satellites);
+  satellite_->setPlaceholderText("da scegliere");
   separator_ = new QComboBox(this);
   separator_->setObjectName("Separatore");
   for (const char* caption : Separators) separator_->addItem(caption);
@@ -92,16 +96,14 @@ void ImportazioneTesto::Build(const QString& recognised, const std::vector<Routi
   quotes_->setObjectName("Virgolette");
   header_ = new QCheckBox("La prima riga contiene i titoli", this);
   header_->setObjectName("Intestazione");
-  satellite_ = new QComboBox(this);
-  satellite_->setObjectName("Combo1");
-  FillSatellites(*satellite_, satellites);
-  satellite_->setPlaceholderText("da scegliere");
 
   preview_ = new QTableWidget(this);
   preview_->setObjectName("Anteprima");
   preview_->setAccessibleName("Prime righe del file");
   preview_->setEditTriggers(QAbstractItemView::NoEditTriggers);
   preview_->setSelectionMode(QAbstractItemView::NoSelection);
+  preview_->setTabKeyNavigation(false);
+  preview_->setCornerButtonEnabled(false);
   preview_->verticalHeader()->setDefaultSectionSize(fontMetrics().lineSpacing() + 6);
   preview_->setHorizontalScrollMode(QAbstractItemView::ScrollPerPixel);
   columns_ = new ColumnHeader(preview_);
@@ -213,6 +215,7 @@ void ImportazioneTesto::ShowPreview() {
   }
   preview_->setHorizontalHeaderLabels(titles);
   columns_->ShowColumns(layout_.columns);
+  columns_->ComeAfter(*header_);
   preview_->resizeColumnsToContents();
   const int widest = std::max(Letters(*preview_, WidestColumn), columns_->ChooserWidth());
   for (int i = 0; i < columns; ++i) {

@@ -8,6 +8,7 @@
 #include <QMouseEvent>
 #include <QPainter>
 #include <QScrollBar>
+#include <QShortcut>
 #include <QSignalBlocker>
 
 #include <algorithm>
@@ -36,6 +37,13 @@ Griglia::Griglia(QWidget* parent)
   horizontalHeader()->setSectionResizeMode(QHeaderView::Interactive);
   connect(horizontalHeader(), &QHeaderView::sectionResized, this,
           [this](int column, int, int width) { KeepWidth(column, width); });
+  // Many keyboards have no menu key.
+  auto* menu = new QShortcut(QKeySequence(Qt::SHIFT | Qt::Key_F10), this);
+  menu->setContext(Qt::WidgetShortcut);
+  connect(menu, &QShortcut::activated, this, [this] {
+    QContextMenuEvent wanted(QContextMenuEvent::Keyboard, {}, {});
+    contextMenuEvent(&wanted);
+  });
   setAcceptDrops(true);
   setDropIndicatorShown(false);
   dropLine_->setObjectName("LineaRilascio");

@@ -4,10 +4,19 @@
 #include "ui/dialogs.h"
 
 #include <QMimeData>
+#include <QStringList>
+
+#include <map>
 
 namespace Ui {
 
 using Routines::State;
+
+namespace {
+
+constexpr int NameColumn = 1;  // of a transponder, its frequency
+
+}  // namespace
 
 const ListModel::Kind ListModel::Channels = {
     Routines::ChannelHeader, [](const State& state) { return state.ChannelCount; }, Routines::ChannelCell,
@@ -26,6 +35,30 @@ int ListModel::rowCount(const QModelIndex& parent) const { return parent.isValid
 
 QString ListModel::CellText(int slot, int column) const {
   return CodePageText(Base::TrimmedRight(kind_.cell(document_.Tables(), slot, column)));
+}
+
+// What the colours say, for those who do not see them.
+QString ListModel::SpokenColour(int slot) const {
+  using namespace Routines;
+  static const std::map<Colour, QString> Told = {{Colours::Tv, "TV"},
+                                                 {Colours::Radio, "Radio"},
+                                                 {Colours::Service, "Servizio"},
+                                                 {Colours::Inactive, "Non attivo"},
+                                                 {Colours::EmptySlot, "Posto vuoto"},
+                                                 {Colours::DoubtfulTransponder, "Fuori banda o senza SR"},
+                                                 {Colours::NoFrequency, "Posto libero"}};
+  const auto row = Told.find(kind_.colour(document_.Tables(), slot, NameColumn));
+  QStringList parts;
+  if (row != Told.end()) parts += row->second;
+  if (!marks_.empty() && marks_[static_cast<std::size_t>(slot)] != Mark::None) parts += "trovato";
+  return parts.join(", ");
+}
+
+// Once a row, with its name or frequency.
+QVariant ListModel::data(const QModelIndex& index, int role) const {
+  if (role == Qt::AccessibleDescriptionRole && index.isValid())
+    return index.column() == NameColumn ? SpokenColour(index.row() + 1) : QString();
+  return TableModel::data(index, role);
 }
 
 Routines::Colour ListModel::CellColour(int slot, int column) const {

@@ -31,6 +31,7 @@ class ListModel : public TableModel {
   void SetMark(int slot, Mark mark);
   void ClearMarks();
 
+  [[nodiscard]] QVariant data(const QModelIndex& index, int role) const override;
   [[nodiscard]] int rowCount(const QModelIndex& parent = {}) const override;
   [[nodiscard]] Qt::ItemFlags flags(const QModelIndex& index) const override;
   [[nodiscard]] Qt::DropActions supportedDropActions() const override;
@@ -52,6 +53,7 @@ class ListModel : public TableModel {
 
  private:
   void Refresh();
+  [[nodiscard]] QString SpokenColour(int slot) const;
 
   const Document& document_;
   const Kind& kind_;

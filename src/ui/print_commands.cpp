@@ -5,9 +5,14 @@
 #include "ui/themed_icon.h"
 
 #include <QAction>
+#include <QComboBox>
+#include <QGraphicsView>
+#include <QIcon>
+#include <QLineEdit>
 #include <QPrintPreviewDialog>
 #include <QPrinter>
 #include <QToolBar>
+#include <QToolButton>
 
 namespace Ui {
 
@@ -23,6 +28,14 @@ int LastUsedTransponder(const State& state) {
 
 QString WithSource(const QString& heading, const QString& source) {
   return source.isEmpty() ? heading : heading + " - " + source;
+}
+
+// The toolkit's preview leaves its buttons to the mouse and two controls without a name.
+void MakeReachable(QPrintPreviewDialog& dialog) {
+  for (auto* button : dialog.findChildren<QToolButton*>()) button->setFocusPolicy(Qt::TabFocus);
+  for (auto* page : dialog.findChildren<QGraphicsView*>()) page->setAccessibleName(dialog.windowTitle());
+  for (auto* scale : dialog.findChildren<QComboBox*>()) scale->setAccessibleDescription("Ingrandimento");
+  for (auto* number : dialog.findChildren<QLineEdit*>()) number->setAccessibleName("Pagina");
 }
 
 QString PagesText(int pages) { return pages == 1 ? QString("1 pagina") : QString("%1 pagine").arg(pages); }
@@ -103,6 +116,7 @@ void PrintCommands::Preview(const PrintReport& report) {
     result = Save(report, PathBytes(path), printer);
     if (!result.isEmpty()) dialog.accept();
   });
+  MakeReachable(dialog);
   if (dialog.exec() == QDialog::Accepted && !result.isEmpty()) session_.status.ShowResult(result);
 }
 

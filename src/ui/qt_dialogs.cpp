@@ -129,6 +129,12 @@ QString QtDialogs::AskFile(const FileQuestion& question, bool save) {
   if (auto* details = dialog.findChild<QTreeView*>("treeView")) {
     details->header()->setSectionResizeMode(QHeaderView::ResizeToContents);
   }
+  // The toolkit's labels do not say what they are the labels of.
+  for (const QString name : {"lookIn", "fileType"}) {
+    auto* label = dialog.findChild<QLabel*>(name + "Label");
+    auto* list = dialog.findChild<QWidget*>(name + "Combo");
+    if (label != nullptr && list != nullptr) list->setAccessibleDescription(label->text());
+  }
   return dialog.exec() == QDialog::Accepted ? dialog.selectedFiles().value(0) : QString();
 }
 

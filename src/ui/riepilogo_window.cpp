@@ -142,6 +142,7 @@ void FinestraRiepilogo::SetUpTree() {
   tree_->setObjectName("RiepilogoVoci");
   tree_->setAccessibleName("Riepilogo");
   tree_->setHeaderLabels({"Voce", "", "Quanti", "%"});
+  tree_->headerItem()->setData(Bar, Qt::AccessibleTextRole, "Barra");
   for (const int column : {Count, Share}) tree_->headerItem()->setTextAlignment(column, Qt::AlignRight);
   tree_->header()->setStretchLastSection(false);
   tree_->header()->setSectionResizeMode(QHeaderView::Fixed);

@@ -65,6 +65,7 @@ OpzioniImportSDX::OpzioniImportSDX(const std::vector<Routines::Satellite>& satel
   form->addRow("", filterList_);
   form->addRow("", skipKnown_);
   list_ = Named<QListWidget>("List1", this);
+  list_->setAccessibleName("Codifiche da importare");
   list_->setSelectionMode(QAbstractItemView::MultiSelection);
   for (const std::string& code : codes_) list_->addItem(CodePageText(code));
   list_->addItem(AllCodes);
@@ -143,7 +144,10 @@ ElencoNonInSDX::ElencoNonInSDX(const QString& text, Dialogs& dialogs, QWidget* p
   setWindowTitle("Elenco canali Non in SDX");
   setAttribute(Qt::WA_DeleteOnClose);
   auto* lines = new QPlainTextEdit(text, this);
-  lines->setReadOnly(true);
+  lines->setObjectName("RigheNonInSDX");
+  lines->setAccessibleName(windowTitle());
+  // Not to be changed, but with a cursor, by which keys and screen readers go from line to line.
+  lines->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
   auto* buttons = new QDialogButtonBox(this);
   auto* copy = buttons->addButton("Copia", QDialogButtonBox::ActionRole);
   auto* save = buttons->addButton("Salva come testo…", QDialogButtonBox::ActionRole);

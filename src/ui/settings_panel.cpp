@@ -108,7 +108,12 @@ QButtonGroup* SettingsPanel::AddGroup(const char* name, const QString& title,
     group->addButton(button, static_cast<int>(i));
   }
   connect(group, &QButtonGroup::idClicked, this, &SettingsPanel::Clicked);
-  connect(group, &QButtonGroup::idToggled, box, [box] { box->StandOut(false); });
+  connect(group, &QButtonGroup::idToggled, box, [box, group] {
+    box->StandOut(false);
+    // The Tab key comes to the option that is chosen, however it was.
+    for (QAbstractButton* button : group->buttons())
+      button->setFocusPolicy(button->isChecked() ? Qt::StrongFocus : Qt::ClickFocus);
+  });
   column->addStretch();
   static_cast<QHBoxLayout*>(layout())->addWidget(box, 1);
   return group;

@@ -120,6 +120,7 @@ void StartPage::ShowRecent() {
     button->setCursor(Qt::PointingHandCursor);
     button->setStyleSheet("text-align: left; padding: 3px 6px");
     button->setAccessibleName(path);
+    button->setAccessibleDescription("Apre la flash");
     button->setToolTip("<span>" + path.toHtmlEscaped() + "</span>");
     connect(button, &QPushButton::clicked, &recent_, [this, path] { Q_EMIT recent_.Chosen(path); });
     recentList_->addWidget(button);

@@ -217,6 +217,14 @@ TEST(TakeOver, AllDifferencesOfRandomListsLeaveTheOtherListInItsOrder) {
       ASSERT_EQ(Channel(*ordered, wanted), Channel(*here, slot)) << round;
     }
 
+    auto all = std::make_unique<State>(*here);
+    TakeOver(*all, *there, found, found.differences, {});
+    TakeOrder(*all, *there, Compare(*all, *there));
+    const Comparison last = Compare(*all, *there);
+    ASSERT_TRUE(last.differences.empty())
+        << round << ": " << DetailsOf(*all, *there, last.differences.front());
+    ASSERT_EQ(last.shifted, 0) << round;
+
     // Whatever was ticked is no difference any more, and nothing else went away.
     std::vector<Difference> chosen;
     for (const Difference& difference : found.differences) {
@@ -275,6 +283,18 @@ TEST(TakeOver, WhatHasNoPlaceIsLeftAndTold) {
   report = TakeOver(here, there, found, {found.differences.back()}, {});
   EXPECT_EQ(report.noRoom, 1);
   EXPECT_EQ(here.ChannelTable, before);
+}
+
+TEST(TakeOver, AChannelWithoutATransponderGetsNoneByChance) {
+  State here = SmallList();
+  State there = here;
+  Channel(there, 7) = Samples::MakeChannel("lost", 4, 7, 1, 1);
+  Channel(there, 8) = Samples::MakeChannel("new", 5, 8, 1, 1);
+  Transponder(there, 5) = Samples::MakeTransponder(12640, true, 0, 3, 2, 50, 318);
+  const Comparison found = Compare(here, there);
+  TakeOver(here, there, found, found.differences, {});
+  EXPECT_EQ(Get(Channel(here, 8), ChannelField::Transponder), 4U) << "the first free slot";
+  EXPECT_FALSE(HasTransponder(here, Channel(here, 7)));
 }
 
 TEST(CapacityOf, StopsWhereAReceiverRepeatsItsList) {

@@ -58,6 +58,30 @@ TEST_F(Overview, TheStartPageLeadsToTheFirstListAndTicksItsSteps) {
   EXPECT_TRUE(window_->findChild<QWidget*>("InizioRecente_1")->isVisible());
 }
 
+// From an empty home folder: nine clicks and keys, two of them on the boxes' own buttons.
+TEST_F(Overview, AFirstSessionMovesAChannelOfTheDemoAndSavesIt) {
+  const std::string home = folder_.Path("home");
+  FillProgramFolder(folder_.Path(), home);
+  window_ = std::make_unique<CopiaTCSTPT>(home);
+  driver_ = std::make_unique<Demo::WindowDriver>(*window_);
+  window_->show();
+  ASSERT_TRUE(window_->Start());
+  ASSERT_TRUE(driver_->Pick("QuantiCanali_2"));
+  driver_->ExpectFile(InputDialog, "demo.dat");
+  window_->findChild<QPushButton*>("InizioApri")->click();
+  const QString name = driver_->Cell(3, 1);
+  driver_->SelectRows(3, 3);
+  driver_->Key(Qt::Key_Down, Qt::AltModifier);
+  EXPECT_EQ(driver_->Cell(4, 1), name);
+  ASSERT_TRUE(driver_->Pick("FlashScrittura_1"));
+  driver_->ExpectFile(OutputDialog, "demo.dat");
+  Summary(*driver_, 2, 647, true);
+  driver_->Key(Qt::Key_S, Qt::ControlModifier);
+  EXPECT_EQ(Said(), "Scritta demo.dat");
+  EXPECT_NE(Contents(home + "/demo.dat"), Contents(flash_));
+  EXPECT_EQ(Contents(home + "/demo.dat.bak"), Contents(flash_));
+}
+
 TEST_F(Overview, RecentFilesAreTheLastEightAndVanishedOnesGo) {
   std::vector<std::string> copies;
   for (int i = 0; i < 9; ++i)
