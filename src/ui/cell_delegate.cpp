@@ -7,7 +7,6 @@
 #include <QComboBox>
 #include <QCompleter>
 #include <QKeyEvent>
-#include <QPainter>
 #include <QPersistentModelIndex>
 #include <QTimer>
 #include <QToolTip>
@@ -61,17 +60,6 @@ QComboBox* CellDelegate::MakeList(QWidget* parent, const QModelIndex& index, boo
   }
   connect(list, &QComboBox::activated, self, [self, list] { self->Finish(*list); });
   return list;
-}
-
-// The style's own frame is hardly seen in a selected row, and F2 edits the cell that has it.
-void CellDelegate::paint(QPainter* painter, const QStyleOptionViewItem& option,
-                         const QModelIndex& index) const {
-  QStyledItemDelegate::paint(painter, option, index);
-  if ((option.state & QStyle::State_HasFocus) == 0) return;
-  const bool selected = (option.state & QStyle::State_Selected) != 0;
-  painter->setPen(selected ? option.palette.color(QPalette::HighlightedText) : QColor(Qt::black));
-  painter->setBrush(Qt::NoBrush);
-  painter->drawRect(option.rect.adjusted(1, 1, -2, -2));
 }
 
 QWidget* CellDelegate::createEditor(QWidget* parent, const QStyleOptionViewItem&,

@@ -30,7 +30,6 @@ class CellDelegate : public QStyledItemDelegate {
  public:
   CellDelegate(CellEdits& edits, QAbstractItemView* view);
 
-  void paint(QPainter* painter, const QStyleOptionViewItem& option, const QModelIndex& index) const override;
   QWidget* createEditor(QWidget* parent, const QStyleOptionViewItem& option,
                         const QModelIndex& index) const override;
   void setEditorData(QWidget* editor, const QModelIndex& index) const override;
