@@ -10,7 +10,7 @@ namespace Base {
 struct Error {
   std::string message;     // UTF-8, shown as it stands
   std::string title = {};  // of the box; empty for the program's usual one
-  int systemCode = 0;      // errno where the system refused something, else 0
+  int systemCode = 0;      // an errno value where the system refused something, else 0
 };
 
 template <class T>

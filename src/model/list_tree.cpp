@@ -115,7 +115,7 @@ void ListTree::AddGroups(const State& state, const std::vector<Satellite>& satel
         added.number = static_cast<int>(SatelliteOf(state, transponder));
         added.text = SatelliteText(RowOf(state, transponder).record, satellites);
       } else if (level == Kind::Bouquet) {
-        added.code = RowOf(state, transponder).BouquetCode();
+        added.code = std::string(RowOf(state, transponder).BouquetCode());
         added.text = BouquetOf(state, transponder);
       } else {
         added.number = transponder;

@@ -18,9 +18,13 @@ constexpr std::size_t LargestFile = 8U << 20U;
 constexpr int SettleTime = 300;      // milliseconds behind a change, as one seldom comes alone
 constexpr qint64 LeastPause = 1000;  // between two writes
 
+std::filesystem::path SystemPath(const std::string& path) {
+  return QFileInfo(PathText(path)).filesystemFilePath();
+}
+
 bool Exists(const std::string& path) {
   std::error_code error;
-  return std::filesystem::exists(path, error);
+  return std::filesystem::exists(SystemPath(path), error);
 }
 
 // Beside what was set aside before; where no name is free in the place of the oldest. Returns the name it has now, empty
@@ -32,12 +36,12 @@ std::string SetAside(const std::string& path, const std::string& ending) {
   auto oldest = std::filesystem::file_time_type::max();
   for (int number = 1; number <= MostSetAside && (aside.empty() || Exists(aside)); ++number) {
     const std::string name = path + ending + (number == 1 ? "" : std::to_string(number));
-    const auto time = std::filesystem::last_write_time(name, error);  // before any other for a free name
+    const auto time = std::filesystem::last_write_time(SystemPath(name), error);  // before any other for a free name
     if (time >= oldest) continue;
     oldest = time;
     aside = name;
   }
-  std::filesystem::rename(path, aside, error);
+  std::filesystem::rename(SystemPath(path), SystemPath(aside), error);
   return error ? std::string() : aside;
 }
 
@@ -216,7 +220,7 @@ void KeptWork::Discard() {
   if (own_.path.empty()) return;
   SetReplacedAside();
   std::error_code error;
-  std::filesystem::remove(own_.path, error);
+  std::filesystem::remove(SystemPath(own_.path), error);
 }
 
 }  // namespace Ui

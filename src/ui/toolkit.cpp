@@ -25,10 +25,14 @@ void SetUpToolkit(QApplication& application) {
   if (QApplication::style()->name() == "fusion") QApplication::setStyle(new ReadableStyle("fusion"));
   QLocale::setDefault(QLocale(QLocale::Italian, QLocale::Italy));
   auto* italian = new QTranslator(&application);
-  if (italian->load("qtbase_it", QLibraryInfo::path(QLibraryInfo::TranslationsPath))) {
+  // The second name is the one of the file that goes beside a program on Windows.
+  const QString folder = QLibraryInfo::path(QLibraryInfo::TranslationsPath);
+  if (italian->load("qtbase_it", folder) || italian->load("qt_it", folder)) {
     QApplication::installTranslator(italian);
   }
+#ifdef SIGXFSZ
   std::signal(SIGXFSZ, SIG_IGN);
+#endif
 }
 
 WaitCursor::WaitCursor() { QApplication::setOverrideCursor(Qt::WaitCursor); }

@@ -151,7 +151,7 @@ TEST(FlashWriter, AShortFavouritesBlockIsFilledUpAndALongOneCut) {
   const Base::Bytes original = Template().Image();
   const auto state = ListOf(3, 3);
   const std::size_t area = In(6, 16 + EntryHeaderSize + 5 + 20);
-  for (const std::size_t size : {2291UL, 4000UL, 1UL}) {
+  for (const std::size_t size : std::initializer_list<std::size_t>{2291, 4000, 1}) {
     state->FavouritesBlock.assign(size, 3);
     const Base::Bytes patched = PatchFlash(*state, original, {FlashType::Two, 3, ""}).image;
     Base::Bytes expected(std::min(size, NormalFavouritesSize), 3);

@@ -1,28 +1,23 @@
 #include "support/test_folder.h"
 
-#include <csignal>
 #include <filesystem>
 #include <fstream>
 #include <iterator>
-#include <sys/resource.h>
-#include <sys/stat.h>
-#include <unistd.h>
+#include <random>
 
 namespace Tests {
-namespace {
 
-constexpr uid_t Nobody = 65534;
-
-}  // namespace
+using std::filesystem::perms;
 
 TestFolder::TestFolder() {
-  std::string name = std::filesystem::temp_directory_path() / "trovalis-test-XXXXXX";
-  path_ = ::mkdtemp(name.data());
-  ::chmod(path_.c_str(), 0777);
+  const std::string name = "trovalis-test-" + std::to_string(std::random_device()());
+  path_ = (std::filesystem::temp_directory_path() / name).string();
+  if (!std::filesystem::create_directory(path_)) std::abort();
+  std::filesystem::permissions(path_, perms::all);
 }
 
 TestFolder::~TestFolder() {
-  ::chmod(path_.c_str(), 0777);
+  std::filesystem::permissions(path_, perms::all);
   std::filesystem::remove_all(path_);
 }
 
@@ -35,7 +30,9 @@ std::string TestFolder::Write(std::string_view name, Base::ByteView bytes) const
   std::ofstream file(path, std::ios::binary);
   file.write(reinterpret_cast<const char*>(bytes.data()), static_cast<std::streamsize>(bytes.size()));
   file.close();
-  ::chmod(path.c_str(), 0666);
+  constexpr perms ForReading = perms::owner_read | perms::group_read | perms::others_read;
+  std::filesystem::permissions(path,
+                               ForReading | perms::owner_write | perms::group_write | perms::others_write);
   return path;
 }
 
@@ -51,30 +48,6 @@ int TestFolder::Files() const {
 Base::Bytes Contents(const std::string& path) {
   std::ifstream file(path, std::ios::binary);
   return {std::istreambuf_iterator<char>(file), {}};
-}
-
-OrdinaryUser::OrdinaryUser() : before_(::geteuid()) {
-  if (before_ == 0 && ::seteuid(Nobody) != 0) std::abort();
-}
-
-OrdinaryUser::~OrdinaryUser() {
-  if (::seteuid(before_) != 0) std::abort();
-}
-
-FileSizeLimit::FileSizeLimit(std::size_t mostBytes) {
-  std::signal(SIGXFSZ, SIG_IGN);
-  rlimit limit{};
-  ::getrlimit(RLIMIT_FSIZE, &limit);
-  before_ = limit.rlim_cur;
-  limit.rlim_cur = mostBytes;
-  ::setrlimit(RLIMIT_FSIZE, &limit);
-}
-
-FileSizeLimit::~FileSizeLimit() {
-  rlimit limit{};
-  ::getrlimit(RLIMIT_FSIZE, &limit);
-  limit.rlim_cur = before_;
-  ::setrlimit(RLIMIT_FSIZE, &limit);
 }
 
 }  // namespace Tests

@@ -30,7 +30,7 @@ class TestFolder {
 Base::Bytes Contents(const std::string& path);
 
 // While it lives, permissions count even for an administrator's test run, and a file takes `mostBytes` at
-// most.
+// most. Not for Windows.
 class OrdinaryUser {
  public:
   OrdinaryUser();

@@ -1,0 +1,63 @@
+// What whole files need of the operating system: system_file_posix.cpp and system_file_windows.cpp are the same
+// functions for two of them. Paths are UTF-8; codes are errno values on both, 0 where nothing went wrong.
+#pragma once
+
+#include "base/bytes.h"
+
+#include <cstddef>
+#include <cstdint>
+#include <string>
+
+namespace Base {
+
+enum class FileKind { File, Folder, Other };
+
+struct FileStatus {
+  int code = 0;
+  FileKind kind = FileKind::Other;
+  std::uint64_t size = 0;
+};
+
+// Of what a path leads to, symbolic links followed.
+FileStatus StatusOf(const std::string& path);
+
+// 0 where an existing file can be written to.
+int WriteRefusal(const std::string& path);
+
+// Removes a file unless a running program holds it.
+void RemoveUnlessHeld(const std::string& path);
+
+// A number that differs between running programs.
+unsigned ProgramNumber();
+
+// One open file.
+class SystemFile {
+ public:
+  enum class Access { Read, Change };
+  enum class Rights { Usual, OnlyTheOwners };
+
+  SystemFile() = default;
+  ~SystemFile();
+  SystemFile(const SystemFile&) = delete;
+  SystemFile& operator=(const SystemFile&) = delete;
+
+  int Open(const std::string& path, Access access);
+  // A new file, held until it is closed. EEXIST where the name is taken.
+  int Create(const std::string& path, Rights rights);
+  // Owner and permissions of another file, as far as the system lets a program give them.
+  int TakeOver(const std::string& model) const;
+  // Appends up to `limit` bytes from the start of the file.
+  int Read(std::size_t limit, Bytes& bytes) const;
+  // Writes from the start of the file and flushes it to the disk.
+  int Write(ByteView bytes) const;
+  // Puts a created file in the place of `target` in one step, and its name on the disk.
+  int MoveTo(const std::string& target) const;
+  // Takes a created file away.
+  void Remove() const;
+
+ private:
+  std::intptr_t handle_ = -1;
+  std::string path_;
+};
+
+}  // namespace Base

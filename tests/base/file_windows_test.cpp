@@ -1,0 +1,97 @@
+// The same promises as on Linux, where Windows keeps them in another way.
+#include "base/file.h"
+#include "base/system_file.h"
+#include "support/test_folder.h"
+
+#include <gtest/gtest.h>
+
+#include <cerrno>
+#include <filesystem>
+#include <windows.h>
+#undef ReplaceFile  // the system has one too
+
+namespace Base {
+
+using Tests::Contents;
+using Tests::TestFolder;
+
+namespace {
+
+const Bytes Old(3000, 'o');
+const Bytes New(200000, 'n');
+
+}  // namespace
+
+TEST(File, ReplacingKeepsAttributesAndLeavesNothingBehind) {
+  const TestFolder folder;
+  const std::string path = folder.Write("flash.dat", Old);
+  ASSERT_NE(::SetFileAttributesA(path.c_str(), FILE_ATTRIBUTE_HIDDEN), 0);
+  const Outcome result = ReplaceFile(path, New);
+  ASSERT_TRUE(result) << result.error().message;
+  EXPECT_EQ(Contents(path), New);
+  EXPECT_NE(::GetFileAttributesA(path.c_str()) & FILE_ATTRIBUTE_HIDDEN, 0U);
+  EXPECT_EQ(folder.Files(), 1);
+}
+
+TEST(File, NamesOfAnyAlphabet) {
+  const TestFolder folder;
+  const std::string path = folder.Path("città 漢 😀.dat");
+  ASSERT_TRUE(ReplaceFile(path, Old));
+  ASSERT_TRUE(ReplaceFile(path, New));
+  EXPECT_EQ(*ReadFile(path, New.size()), New);
+  EXPECT_EQ(FileName(ResolvedPath(path)), "città 漢 😀.dat");
+  EXPECT_TRUE(
+      std::filesystem::exists(std::filesystem::path(folder.Path()) / L"citt\u00E0 \u6F22 \U0001F600.dat"));
+}
+
+TEST(File, AHeldTemporaryStaysAndAnAbandonedOneGoes) {
+  const TestFolder folder;
+  folder.Write(".trovalis-00000a", Old);
+  const std::string held = folder.Path(".trovalis-00000b");
+  SystemFile running;
+  ASSERT_EQ(running.Create(held, SystemFile::Rights::Usual), 0);
+  ASSERT_TRUE(ReplaceFile(folder.Path("flash.dat"), New));
+  EXPECT_EQ(folder.Files(), 2) << "the new file and the one that another save holds";
+  EXPECT_EQ(StatusOf(held).code, 0);
+}
+
+TEST(File, WhatIsNoFileToWriteIsRefused) {
+  const TestFolder folder;
+  const std::string locked = folder.Write("locked.dat", Old);
+  ASSERT_NE(::SetFileAttributesA(locked.c_str(), FILE_ATTRIBUTE_READONLY), 0);
+  const std::string open = folder.Write("open.dat", Old);
+  const HANDLE other = ::CreateFileA(open.c_str(), GENERIC_READ, 0, nullptr, OPEN_EXISTING, 0, nullptr);
+  const struct {
+    std::string path;
+    int code;
+  } cases[] = {{locked, EACCES},
+               {folder.Path(), EISDIR},
+               {folder.Path("none/flash.dat"), ENOENT},
+               {open, EBUSY},
+               {"NUL", NotAFile}};
+  for (const auto& c : cases) {
+    const Outcome result = ReplaceFile(c.path, New);
+    ASSERT_FALSE(result) << c.path;
+    EXPECT_EQ(result.error().systemCode, c.code) << c.path << ": " << result.error().message;
+  }
+  ::CloseHandle(other);
+  EXPECT_EQ(Contents(open), Old);
+  EXPECT_EQ(Contents(locked), Old);
+  ::SetFileAttributesA(locked.c_str(), FILE_ATTRIBUTE_NORMAL);
+  EXPECT_EQ(folder.Files(), 2);
+}
+
+TEST(File, BothSeparatorsEndAFolder) {
+  EXPECT_EQ(FileName("C:\\liste\\a/b.dat"), "b.dat");
+  EXPECT_EQ(FolderOf("C:/liste\\b.dat"), "C:/liste\\");
+}
+
+TEST(File, AFileIsWrittenWhereItLies) {
+  const TestFolder folder;
+  const std::string path = folder.Write("flash.dat", Old);
+  const Bytes other(Old.size(), 'x');
+  EXPECT_TRUE(OverwriteInPlace(path, Old, other));
+  EXPECT_EQ(Contents(path), other);
+}
+
+}  // namespace Base
