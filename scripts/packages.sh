@@ -3,7 +3,7 @@
 BUILD_PACKAGES="build-essential cmake ninja-build qt6-base-dev qt6-svg-dev qt6-translations-l10n fonts-dejavu-core"
 SHOW_PACKAGES="xvfb xauth qt6-wayland"
 TEST_PACKAGES="libgtest-dev libbenchmark-dev poppler-utils"
-PACKAGE_CHECK_PACKAGES="lintian desktop-file-utils appstream xdotool procps"
+PACKAGE_CHECK_PACKAGES="lintian desktop-file-utils appstream xdotool"
 CHECK_PACKAGES="clang libclang-rt-dev clang-format clang-tidy git"
 
 # need_packages NAME... - installs those that are missing, as root or through sudo; else says what to type.
