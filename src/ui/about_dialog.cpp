@@ -37,6 +37,11 @@ FinestraAbout::FinestraAbout(QWidget* parent) : QDialog(parent) {
   text->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
 
   auto* buttons = new QDialogButtonBox(this);
+  auto* guide = buttons->addButton("Apri la guida", QDialogButtonBox::AcceptRole);
+  guide->setObjectName("ApriGuida");
+  guide->setToolTip("Apre la guida del programma (F1)");
+  guide->setAutoDefault(false);
+  connect(buttons, &QDialogButtonBox::accepted, this, &QDialog::accept);
   auto* toolkit = buttons->addButton("Informazioni su Qt", QDialogButtonBox::ActionRole);
   toolkit->setObjectName("InformazioniQt");
   connect(toolkit, &QPushButton::clicked, this, [this] { QMessageBox::aboutQt(this); });

@@ -1,4 +1,4 @@
-// `FinestraAbout`: what the program is, its licence and its thanks.
+// `FinestraAbout`: what the program is, its licence and its thanks. Accepted where the user wants the guide.
 #pragma once
 
 #include <QDialog>

@@ -46,6 +46,7 @@ ColumnHeader::Chooser ColumnHeader::MakeChooser(int column) {
   meaning->setMaxVisibleItems(static_cast<int>(Captions.size()));
   auto* hexadecimal = new QCheckBox("esadecimale", viewport());
   hexadecimal->setObjectName(QString("Esadecimale_%1").arg(column));
+  hexadecimal->setToolTip("I numeri della colonna sono esadecimali");
   hexadecimal->setAccessibleName(QString("Colonna %1 in esadecimale").arg(column + 1));
   for (QWidget* control : {static_cast<QWidget*>(meaning), static_cast<QWidget*>(hexadecimal)})
     control->installEventFilter(this);

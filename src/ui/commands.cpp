@@ -28,6 +28,7 @@ void AddCommand(QMainWindow& window, QMenu& menu, const Command& command) {
   if (*command.key != '\0') action->setShortcut(QKeySequence(command.key));
   if (command.forRows) action->setShortcutContext(Qt::WidgetShortcut);
   action->setStatusTip(CommandTip(command.name));
+  action->setToolTip(CommandTip(command.name));
   action->setCheckable(command.checkable);
   if (command.checkable) action->setIconVisibleInMenu(false);  // it would hide the tick
   action->setEnabled(false);
@@ -64,6 +65,7 @@ void BuildToolbar(QMainWindow& window) {
     auto* action = toolbar->addAction(button.hidden ? QIcon() : IconNamed(button.icon), button.tip);
     action->setObjectName(ButtonName(button.key));
     action->setToolTip(button.tip);
+    action->setStatusTip(button.tip);
     action->setEnabled(false);
     action->setVisible(!button.hidden);
     auto* widget = qobject_cast<QToolButton*>(toolbar->widgetForAction(action));

@@ -2,6 +2,7 @@
 
 #include "base/file.h"
 #include "ui/commands.h"
+#include "ui/control_tips.h"
 #include "ui/elided_label.h"
 #include "ui/flow_layout.h"
 #include "ui/screen_fit.h"
@@ -85,6 +86,7 @@ FinestraConfronto::FinestraConfronto(Session& session, OtherFlash other, QMainWi
   Refresh();
   if (model_->rowCount() > 0) table_->selectRow(0);
   Tell("Un clic porta al canale; la barra spaziatrice segna le righe selezionate.");
+  ShowTips(*this);
   table_->setFocus();
 }
 

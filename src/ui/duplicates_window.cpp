@@ -5,6 +5,7 @@
 #include "model/cells.h"
 #include "model/favourites.h"
 #include "ui/commands.h"
+#include "ui/control_tips.h"
 #include "ui/flow_layout.h"
 #include "ui/screen_fit.h"
 
@@ -103,6 +104,7 @@ FinestraCanaliDoppi::FinestraCanaliDoppi(Session& session, const Edit::Duplicate
 
   connect(&session.document, &Document::Changed, this, &FinestraCanaliDoppi::Refresh);
   Refresh();
+  ShowTips(*this);
   tree_->setFocus();
 }
 

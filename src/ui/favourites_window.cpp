@@ -2,6 +2,7 @@
 
 #include "model/favourites.h"
 #include "ui/commands.h"
+#include "ui/control_tips.h"
 #include "ui/elided_label.h"
 #include "ui/flow_layout.h"
 #include "ui/screen_fit.h"
@@ -39,6 +40,7 @@ ListePreferiti::ListePreferiti(const Document& document, FavouritesCommands& com
   ShowCurrent();
   ShowResult(
       "Trascinare qui i canali dalla griglia; Canc toglie, Alt+Su e Alt+Giù spostano, Invio va al canale.");
+  ShowTips(*this);
   lists_.front()->Entries().setFocus();
   ResizeOnScreen(*this, {900, 620});
 }

@@ -2,6 +2,7 @@
 
 #include "base/text.h"
 #include "formats/foreign_list.h"
+#include "ui/control_tips.h"
 #include "ui/flow_layout.h"
 #include "ui/screen_fit.h"
 #include "ui/sdx_dialogs.h"
@@ -75,6 +76,7 @@ ImportazioneTesto::ImportazioneTesto(const QString& caption, const QString& file
   Build(recognised, satellites);
   ConnectChoices();
   ShowLayout();
+  ShowTips(*this);
   ResizeOnScreen(*this, {920, 600});
 }
 

@@ -1,10 +1,9 @@
 #include "ui/main_window.h"
 
-#include "base/file.h"
 #include "ui/about_dialog.h"
 #include "ui/channel_menu.h"
 #include "ui/commands.h"
-#include "ui/dropped_file.h"
+#include "ui/control_tips.h"
 #include "ui/duplicates_window.h"
 #include "ui/error_pane.h"
 #include "ui/guide_window.h"
@@ -19,13 +18,11 @@
 #include <QCloseEvent>
 #include <QDialog>
 #include <QDropEvent>
-#include <QFileInfo>
 #include <QIcon>
 #include <QMimeData>
 #include <QSettings>
 #include <QSplitter>
 #include <QStatusBar>
-#include <QTimer>
 #include <QVBoxLayout>
 
 namespace Ui {
@@ -117,6 +114,7 @@ CopiaTCSTPT::CopiaTCSTPT(const std::string& programFolder, std::unique_ptr<Dialo
   ConnectToolbar();
   connect(document_, &Document::Changed, this, &CopiaTCSTPT::ShowList);
   ShowList();
+  ShowTips(*this);
   setAcceptDrops(true);
   ResizeOnScreen(*this, {1024, 700});
   restoreGeometry(QSettings(SettingsFile(), QSettings::IniFormat).value("Finestra/Geometria").toByteArray());
@@ -137,20 +135,7 @@ bool CopiaTCSTPT::Start() {
 
 void CopiaTCSTPT::OfferKeptWork() { kept_->Offer(); }
 
-void CopiaTCSTPT::OpenWhenChosen(const std::string& path) {
-  const auto open = [this, path] {
-    if (session_->settings.Chosen().quantiCanali) files_->ApriFlashInput(path);
-    return session_->settings.Chosen().quantiCanali.has_value();
-  };
-  if (open()) return;
-  session_->status.ShowResult("Scegliere in \"Canali da copiare\" quanti canali ha il ricevitore: " +
-                              PathText(Base::FileName(path)) + " si apre subito dopo");
-  auto* waiting = new QObject(this);
-  connect(&session_->settings, &SettingsPanel::Clicked, waiting, [open, waiting] {
-    if (!open()) return;
-    waiting->deleteLater();
-  });
-}
+void CopiaTCSTPT::OpenWhenChosen(const std::string& path) { opening_->OpenWhenChosen(path); }
 
 template <class Slot>
 void CopiaTCSTPT::Connect(const char* command, Slot slot) {
@@ -177,7 +162,9 @@ void CopiaTCSTPT::ConnectFileCommands() {
   Connect("VisualizzaTransponder", [this] { ToggleView(View::Transponders); });
   Connect("Fine", [this] { close(); });
   Connect("Guida", [this] { ShowGuide(); });
-  Connect("About", [this] { FinestraAbout(this).exec(); });
+  Connect("About", [this] {
+    if (FinestraAbout(this).exec() == QDialog::Accepted) ShowGuide();
+  });
 }
 
 void CopiaTCSTPT::ConnectExchangeCommands() {
@@ -286,30 +273,10 @@ void CopiaTCSTPT::ConnectOverview() {
 }
 
 void CopiaTCSTPT::ConnectFirstMinutes() {
-  recent_ = new RecentFiles(SettingsFile(), *this);
-  connect(recent_, &RecentFiles::Chosen, this, &CopiaTCSTPT::OpenRecent);
-  files_->onOpened = [this](const std::string& path) { recent_->Add(PathText(path)); };
-  session_->view.StartWith(
-      new StartPage(session_->settings, *recent_, CommandAction(*this, "ApriFlashInput"), &session_->view));
-}
-
-void CopiaTCSTPT::OpenRecent(const QString& path) {
-  if (session_->settings.Chosen().quantiCanali && !QFileInfo::exists(path)) {
-    dialogs_->Message("Flash non trovata: " + path + "\nViene tolta dai file recenti", {});
-    recent_->Remove(path);
-    return;
-  }
-  OpenFlash(PathBytes(path));
-}
-
-// The button stays enabled while the command is not, and says why nothing is opened; so do dropped files.
-void CopiaTCSTPT::OpenFlash(const std::string& path) {
-  const QAction& open = CommandAction(*this, "ApriFlashInput");
-  if (open.isEnabled()) {
-    files_->ApriFlashInput(path);
-  } else {
-    session_->status.ShowResult(open.statusTip());
-  }
+  QAction& open = CommandAction(*this, "ApriFlashInput");
+  auto* recent = new RecentFiles(SettingsFile(), *this);
+  opening_ = new FileOpening(*session_, *files_, *exchange_, *sdx_, *recent, open, this);
+  session_->view.StartWith(new StartPage(session_->settings, *recent, open, &session_->view));
 }
 
 // Every press comes here with its button's key; the keys are told apart in this order.
@@ -322,7 +289,7 @@ void CopiaTCSTPT::ConnectToolbar() {
       {"Rectangle", [this] { dialogs_->Message("Add 'Rectangle' button code.", {}); }},
       {"New", [this] { dialogs_->Message("Add 'New' button code.", {}); }},
       {"Fine Programma", [this] { close(); }},
-      {"Open", [this] { OpenFlash(); }},
+      {"Open", [this] { opening_->OpenFlash(); }},
       {"Save", [this] { files_->ApriFlashOutput(); }},
       {"Copy", [this] { edit_->Copy(); }},
       {"Paste", [this] { edit_->Paste(); }},
@@ -385,23 +352,8 @@ void CopiaTCSTPT::dragEnterEvent(QDragEnterEvent* event) {
 }
 
 void CopiaTCSTPT::dropEvent(QDropEvent* event) {
-  const DroppedFile file = FileIn(*event->mimeData());
   event->acceptProposedAction();
-  // The drag's source waits for the drop; the questions come after it.
-  QTimer::singleShot(0, this, [this, file] {
-    const std::string path = PathBytes(file.path);
-    if (file.ending == "dat") {
-      OpenFlash(path);
-    } else if (file.ending == "sdx") {
-      sdx_->Carica(path);
-    } else if (file.ending == "txt") {
-      exchange_->DaEsportatoTesto(path);
-    } else if (file.ending == "fls") {
-      exchange_->DaEsportato(path);
-    } else {
-      session_->status.ShowResult(file.refusal);
-    }
-  });
+  opening_->Drop(*event->mimeData());
 }
 
 // Nothing is asked on the way out, as unsaved work is kept; only where it cannot be kept the user decides.

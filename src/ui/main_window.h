@@ -9,11 +9,11 @@
 #include "ui/exchange_commands.h"
 #include "ui/favourites_commands.h"
 #include "ui/file_commands.h"
+#include "ui/file_opening.h"
 #include "ui/foreign_commands.h"
 #include "ui/kept_work.h"
 #include "ui/list_commands.h"
 #include "ui/print_commands.h"
-#include "ui/recent_files.h"
 #include "ui/sdx_commands.h"
 #include "ui/session.h"
 #include "ui/tree_commands.h"
@@ -62,8 +62,6 @@ class CopiaTCSTPT : public QMainWindow {
   void ConnectToolbar();
   void ConnectFirstMinutes();
   void ConnectOverview();
-  void OpenFlash(const std::string& path = {});
-  void OpenRecent(const QString& path);
   // Runs `slot` when the command is chosen, and enables it.
   template <class Slot>
   void Connect(const char* command, Slot slot);
@@ -90,7 +88,7 @@ class CopiaTCSTPT : public QMainWindow {
   std::unique_ptr<TreeCommands> trees_;
   std::unique_ptr<ForeignCommands> foreign_;
   std::unique_ptr<KeptWork> kept_;
-  RecentFiles* recent_ = nullptr;
+  FileOpening* opening_ = nullptr;
   bool sdxShownSinceFls_ = false;
 };
 

@@ -1,6 +1,7 @@
 #include "ui/riepilogo_window.h"
 
 #include "ui/commands.h"
+#include "ui/control_tips.h"
 #include "ui/screen_fit.h"
 
 #include <QAction>
@@ -135,6 +136,7 @@ FinestraRiepilogo::FinestraRiepilogo(Session& session, QWidget* parent)
   connect(&session.document, &Document::Changed, this, &FinestraRiepilogo::Refresh);
   Refresh();
   if (!items_.empty()) tree_->setCurrentItem(items_.front());
+  ShowTips(*this);
   tree_->setFocus();
 }
 

@@ -2,6 +2,7 @@
 
 #include "base/code_page.h"
 #include "base/file.h"
+#include "ui/control_tips.h"
 #include "ui/screen_fit.h"
 
 #include <QApplication>
@@ -79,6 +80,7 @@ OpzioniImportSDX::OpzioniImportSDX(const std::vector<Routines::Satellite>& satel
   connect(confirm, &QPushButton::clicked, this, &OpzioniImportSDX::Confirm);
   connect(cancel, &QPushButton::clicked, this, &QDialog::reject);
   form->addRow(buttons);
+  ShowTips(*this);
 }
 
 void OpzioniImportSDX::Confirm() {
@@ -135,6 +137,7 @@ ImportazioneSDX::ImportazioneSDX(QWidget* parent) : QDialog(parent) {
   connect(buttons, &QDialogButtonBox::accepted, this, &QDialog::accept);
   connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
   form->addRow(buttons);
+  ShowTips(*this);
 }
 
 QString ImportazioneSDX::Start() const { return fromStart_->isChecked() ? QString("1") : start_->text(); }

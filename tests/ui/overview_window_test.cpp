@@ -3,6 +3,7 @@
 #include "ui/program_folder.h"
 #include "ui/window_fixture.h"
 
+#include <QAbstractButton>
 #include <QDialog>
 #include <QDropEvent>
 #include <QGroupBox>
@@ -176,6 +177,24 @@ TEST_F(Overview, TheRiepilogoFollowsTheListAndLeadsToItsRows) {
   while (Action("Annulla").isEnabled()) Action("Annulla").trigger();
   EXPECT_EQ(tree->topLevelItemCount(), 0);
   EXPECT_EQ(driver_->TextOf("RiepilogoTotali"), "Nessuna flash caricata");
+}
+
+TEST_F(Overview, EveryCommandSaysWhatItDoesAndTheAboutBoxOpensTheGuide) {
+  OpenDemo();
+  for (const QAction* action : window_->findChildren<QAction*>()) {
+    const QString name = action->objectName();
+    if (name.isEmpty() || name.startsWith("_q_") || name.startsWith("FileRecenti_")) continue;
+    EXPECT_FALSE(action->toolTip().isEmpty()) << name.toStdString();
+    EXPECT_FALSE(action->statusTip().isEmpty()) << name.toStdString();
+  }
+  for (const QAbstractButton* button : window_->findChildren<QAbstractButton*>()) {
+    const QString name = button->objectName();
+    if (name.isEmpty() || name.startsWith("qt_") || button->text() == "Chiudi") continue;
+    EXPECT_FALSE(button->toolTip().isEmpty()) << name.toStdString();
+  }
+  driver_->ExpectDialog("About", [](QDialog& box) { box.findChild<QPushButton*>("ApriGuida")->click(); });
+  ASSERT_TRUE(driver_->Choose("About"));
+  EXPECT_NE(window_->findChild<QDialog*>("FinestraGuida"), nullptr);
 }
 
 TEST_F(Overview, SpreadsheetsGetTheListShownOrItsSelectedRows) {
