@@ -83,7 +83,8 @@ SystemFile::~SystemFile() {
 }
 
 int SystemFile::Open(const std::string& path, Access access) {
-  handle_ = ::open(path.c_str(), (access == Access::Read ? O_RDONLY : O_RDWR) | O_CLOEXEC);
+  handle_ = access == Access::Read ? ::open(path.c_str(), O_RDONLY | O_CLOEXEC)
+                                   : ::open(path.c_str(), O_RDWR | O_CLOEXEC);
   path_ = path;
   return handle_ >= 0 ? 0 : errno;
 }

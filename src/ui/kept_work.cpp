@@ -36,7 +36,8 @@ std::string SetAside(const std::string& path, const std::string& ending) {
   auto oldest = std::filesystem::file_time_type::max();
   for (int number = 1; number <= MostSetAside && (aside.empty() || Exists(aside)); ++number) {
     const std::string name = path + ending + (number == 1 ? "" : std::to_string(number));
-    const auto time = std::filesystem::last_write_time(SystemPath(name), error);  // before any other for a free name
+    const auto time =
+        std::filesystem::last_write_time(SystemPath(name), error);  // before any other for a free name
     if (time >= oldest) continue;
     oldest = time;
     aside = name;
