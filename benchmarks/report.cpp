@@ -61,8 +61,6 @@ bool Report::ReportContext(const Context&) {
 
 void Report::ReportRuns(const std::vector<Run>& runs) {
   for (const Run& run : runs) {
-    if (run.error_occurred)
-      std::fprintf(stderr, "%s: %s\n", run.benchmark_name().c_str(), run.error_message.c_str());
     const bool median = run.run_type == Run::RT_Aggregate && run.aggregate_name == "median";
     if (!median && run.repetitions > 1) continue;
     const std::string& name = run.run_name.function_name;

@@ -10,5 +10,7 @@ int main(int argc, char** argv) {
   Ui::SetUpToolkit(application);
   Ui::CopiaTCSTPT window(Ui::ProgramFolder());
   window.show();
-  return window.Start() ? QApplication::exec() : 1;
+  if (!window.Start()) return 1;
+  window.OfferKeptWork();
+  return QApplication::exec();
 }

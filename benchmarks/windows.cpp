@@ -114,6 +114,7 @@ ListWindow::ListWindow(int channels) {
   // As where the last flash came from the same folder.
   Support::RememberFolderOf(folder, Support::FolderKind::Input, flash);
   window_ = std::make_unique<Ui::CopiaTCSTPT>(folder, std::make_unique<Answers>(Ui::PathText(flash)));
+  window_->resize(1280, 800);  // where every column is in view, for ours as for the plain table
   window_->show();
   if (!window_->Start()) std::abort();
   for (const char* option : {"QuantiCanali_2", "FlashScrittura_1"}) {

@@ -70,6 +70,8 @@ TEST(TextFormat, WritesEachLineToItsColumns) {
 
 TEST(TextFormat, ReadsBackWithTheKnownLosses) {
   const auto written = SmallList();
+  written->ChannelTable[4] = MakeChannel("[END CANALI] 1", 1, 1, 1, 1);
+  written->ChannelTable[5] = MakeChannel("The [END", 1, 1, 1, 1);
   auto read = std::make_unique<State>();
   read->SymbolRateTable = written->SymbolRateTable;
   read->ChannelTable[2] = MakeChannel("sparisce", 1, 1, 1, 1);
@@ -79,6 +81,8 @@ TEST(TextFormat, ReadsBackWithTheKnownLosses) {
   EXPECT_TRUE(report.listRead);
   EXPECT_EQ(read->ChannelCount, 5);
   EXPECT_TRUE(read->ChannelTable[2].Empty());
+  EXPECT_EQ(read->ChannelTable[4].Name(), " END CANALI] 1  ") << "a name does not end its section";
+  EXPECT_EQ(read->ChannelTable[5].Name(), "The [END        ");
   EXPECT_EQ(read->ChannelTable[9].Name(), "resta") << "slots past the header's count keep their content";
   EXPECT_EQ(Get(read->ChannelTable[1], ChannelField::Flags), 0xA4U);
   EXPECT_EQ(Get(read->ChannelTable[1], ChannelField::Sid), 300U);
