@@ -131,10 +131,12 @@ void Report::DrawCurve(QPainter& painter, const Curve& curve, const QRectF& plot
 }
 
 bool Report::Draw(const QString& path) const {
+  if (curves_.empty()) return true;
   constexpr int Width = 460;
   constexpr int Height = 300;
+  constexpr int Legend = 30;
   const int rows = (static_cast<int>(curves_.size()) + 1) / 2;
-  QImage picture(2 * Width, std::max(rows, 1) * Height, QImage::Format_RGB32);
+  QImage picture(2 * Width, rows * Height + Legend, QImage::Format_RGB32);
   picture.fill(Qt::white);
   QPainter painter(&picture);
   painter.setRenderHint(QPainter::Antialiasing);
@@ -143,6 +145,9 @@ bool Report::Draw(const QString& path) const {
     DrawCurve(painter, curve, QRectF(at % 2 * Width + 80, at / 2 * Height + 44, Width - 120, Height - 90));
     ++at;
   }
+  painter.setPen(Qt::black);
+  painter.drawText(QRect(0, rows * Height, 2 * Width, Legend), Qt::AlignCenter,
+                   "Linea tratteggiata: un tempo in proporzione alla quantità");
   painter.end();
   return picture.save(path);
 }

@@ -20,7 +20,7 @@ class Report : public benchmark::BenchmarkReporter {
   void ReportRuns(const std::vector<Run>& runs) override;
   void Finalize() override;
 
-  // Draws the curves; false where the file cannot be written.
+  // Draws the curves, if any were measured; false where the file cannot be written.
   [[nodiscard]] bool Draw(const QString& path) const;
 
  private:
