@@ -142,7 +142,8 @@ bool Report::Draw(const QString& path) const {
   painter.setRenderHint(QPainter::Antialiasing);
   int at = 0;
   for (const auto& [place, curve] : curves_) {
-    DrawCurve(painter, curve, QRectF(at % 2 * Width + 80, at / 2 * Height + 44, Width - 120, Height - 90));
+    const QRect cell(at % 2 * Width, at / 2 * Height, Width, Height);
+    DrawCurve(painter, curve, QRectF(cell.adjusted(80, 44, -40, -46)));
     ++at;
   }
   painter.setPen(Qt::black);
