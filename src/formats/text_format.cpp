@@ -87,8 +87,8 @@ void AddChannel(std::string& text, const ChannelRecord& channel, int slot) {
   Base::PutNumber(line, ChannelLine::Slot, static_cast<std::uint32_t>(slot));
   const std::string_view name = channel.Name();
   Base::Put(line, ChannelLine::Name, name);
-  BlankOut({line + ChannelLine::Name.first - 1, name.size()},
-           EndsLine);  // the blanks behind it end no section
+  // Only the name: the blanks behind it end no section.
+  BlankOut({line + ChannelLine::Name.first - 1, name.size()}, EndsLine);
   Base::PutNumber(line, ChannelLine::Transponder, Get(channel, ChannelField::Transponder));
   ForEach<ChannelLine::Numbers>(
       [&](const auto& number) { Base::PutNumber(line, number.column, Get(channel, number.field)); });

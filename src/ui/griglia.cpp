@@ -257,8 +257,6 @@ void Griglia::ShowFrozen(int sideways) {
   frozen_->setVisible(sideways != 0);
   if (sideways == 0) return;
   if (frozen_->model() != model()) {
-    // A view never gives up the selections that it makes for itself, of no model and of each new one.
-    const std::unique_ptr<QItemSelectionModel> none(frozen_->selectionModel());
     frozen_->setModel(model());
     const std::unique_ptr<QItemSelectionModel> unused(frozen_->selectionModel());
     frozen_->setSelectionModel(selectionModel());
