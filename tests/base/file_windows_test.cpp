@@ -12,15 +12,10 @@
 
 namespace Base {
 
-using Tests::Contents;
-using Tests::TestFolder;
-
-namespace {
+using namespace Tests;
 
 const Bytes Old(3000, 'o');
 const Bytes New(200000, 'n');
-
-}  // namespace
 
 TEST(File, ReplacingKeepsAttributesAndLeavesNothingBehind) {
   const TestFolder folder;
@@ -61,18 +56,15 @@ TEST(File, WhatIsNoFileToWriteIsRefused) {
   ASSERT_NE(::SetFileAttributesA(locked.c_str(), FILE_ATTRIBUTE_READONLY), 0);
   const std::string open = folder.Write("open.dat", Old);
   const HANDLE other = ::CreateFileA(open.c_str(), GENERIC_READ, 0, nullptr, OPEN_EXISTING, 0, nullptr);
-  const struct {
-    std::string path;
-    int code;
-  } cases[] = {{locked, EACCES},
-               {folder.Path(), EISDIR},
-               {folder.Path("none/flash.dat"), ENOENT},
-               {open, EBUSY},
-               {"NUL", NotAFile}};
-  for (const auto& c : cases) {
-    const Outcome result = ReplaceFile(c.path, New);
-    ASSERT_FALSE(result) << c.path;
-    EXPECT_EQ(result.error().systemCode, c.code) << c.path << ": " << result.error().message;
+  const std::pair<std::string, int> cases[] = {{locked, EACCES},
+                                               {folder.Path(), EISDIR},
+                                               {folder.Path("none/flash.dat"), ENOENT},
+                                               {open, EBUSY},
+                                               {"NUL", NotAFile}};
+  for (const auto& [place, code] : cases) {
+    const Outcome result = ReplaceFile(place, New);
+    ASSERT_FALSE(result) << place;
+    EXPECT_EQ(result.error().systemCode, code) << place << ": " << result.error().message;
   }
   ::CloseHandle(other);
   EXPECT_EQ(Contents(open), Old);

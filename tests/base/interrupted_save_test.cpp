@@ -1,4 +1,4 @@
-// Saves that are killed, and saves whose system calls fail one after the other.
+// Saves that are killed, whose system calls fail one after the other, and that are not allowed.
 #include "base/file.h"
 #include "model/flash_file.h"
 #include "model/flash_image.h"
@@ -68,8 +68,7 @@ int WrappedRename(const char* from, const char* to) { return Fails('r') ? -1 : R
 
 namespace Routines {
 
-using Tests::Contents;
-using Tests::TestFolder;
+using namespace Tests;
 
 namespace {
 
@@ -218,6 +217,35 @@ TEST(InterruptedSave, WhicheverCallFailsTheOldImageStaysAndTheErrorIsTold) {
     }
   }
   std::printf("%d failing calls\n", failures);
+}
+
+TEST(FlashFile, InALockedFolderNothingIsWrittenWithoutACopyElsewhere) {
+  const TestFolder folder;
+  const std::string path = folder.Write("a.dat", Old);
+  ::chmod(folder.Path().c_str(), 0555);
+  const OrdinaryUser user;
+  Backups none{folder.Path("missing"), {}};
+  EXPECT_FALSE(SaveFlash(path, Old, New, none));
+  EXPECT_EQ(Contents(path), Old);
+}
+
+// The copy of a failed attempt is not the copy of what the file holds by the next one.
+TEST(FlashFile, AFailedOverwritingDoesNotUseUpTheCopy) {
+  const TestFolder folder;
+  const std::string path = folder.Write("a.dat", Old);
+  Backups session{folder.Path(), {}};
+  ::chmod(path.c_str(), 0400);
+  {
+    const OrdinaryUser user;
+    EXPECT_FALSE(SaveFlash(path, Old, New, session));
+  }
+  const Base::Bytes other(FlashSize, '7');
+  folder.Write("a.dat", other);
+  ASSERT_TRUE(SaveFlash(path, other, New, session));
+  EXPECT_EQ(Contents(path + ".bak2"), other);
+  struct stat status {};
+  ASSERT_EQ(::stat((path + ".bak2").c_str(), &status), 0);
+  EXPECT_EQ(status.st_mode & 0777U, 0666U) << "a copy is as open or closed as its image";
 }
 
 }  // namespace Routines

@@ -9,6 +9,7 @@ namespace Edit {
 namespace {
 
 using namespace Routines;
+using namespace Samples;
 using Groups = std::vector<std::vector<int>>;
 
 TEST(CanaliDoppi, EachRuleFindsItsOwnAndGroupsThatShareAChannelAreOne) {
@@ -20,7 +21,7 @@ TEST(CanaliDoppi, EachRuleFindsItsOwnAndGroupsThatShareAChannelAreOne) {
   } transponders[] = {{0, 1, 2}, {0, 1, 2}, {1, 1, 2}, {0, 0, 0}, {0, 0, 0}};
   for (std::size_t i = 0; i < 5; ++i) {
     const auto& [satellite, tid, nid] = transponders[i];
-    state.TransponderTable[i + 1].record = Samples::MakeTransponder(11000, true, satellite, 1, 2, tid, nid);
+    state.TransponderTable[i + 1].record = MakeTransponder(11000, true, satellite, 1, 2, tid, nid);
   }
   constexpr int None = 65535;
   const struct {
@@ -52,7 +53,7 @@ TEST(CanaliDoppi, EachRuleFindsItsOwnAndGroupsThatShareAChannelAreOne) {
                   {26, "q", 1, 100, 10, 20}};  // behind the list's end
   for (const auto& c : channels)
     state.ChannelTable[static_cast<std::size_t>(c.slot)] =
-        Samples::MakeChannel(c.name, c.transponder, c.sid, c.vpid, c.apid);
+        MakeChannel(c.name, c.transponder, c.sid, c.vpid, c.apid);
 
   const auto found = [&](bool service, bool streams, bool name) {
     return CanaliDoppi(state, {service, streams, name});
@@ -68,12 +69,12 @@ TEST(CanaliDoppi, WhatIsLikeNoChannelThatStaysStays) {
   State state;
   state.ChannelCount = 5;
   state.TransponderCount = 1;
-  state.TransponderTable[1].record = Samples::MakeTransponder(11000, true, 0, 1, 2, 1, 2);
-  state.ChannelTable[1] = Samples::MakeChannel("AAA", 1, 1, 10, 20);
-  state.ChannelTable[2] = Samples::MakeChannel("AAA", 1, 2, 11, 21);
-  state.ChannelTable[3] = Samples::MakeChannel("BBB", 1, 2, 12, 22);
-  state.ChannelTable[4] = Samples::MakeChannel("Radio", 1, 0, 0, 30);
-  state.ChannelTable[5] = Samples::MakeChannel("Radio 2", 1, 0, 65535, 30);
+  state.TransponderTable[1].record = MakeTransponder(11000, true, 0, 1, 2, 1, 2);
+  state.ChannelTable[1] = MakeChannel("AAA", 1, 1, 10, 20);
+  state.ChannelTable[2] = MakeChannel("AAA", 1, 2, 11, 21);
+  state.ChannelTable[3] = MakeChannel("BBB", 1, 2, 12, 22);
+  state.ChannelTable[4] = MakeChannel("Radio", 1, 0, 0, 30);
+  state.ChannelTable[5] = MakeChannel("Radio 2", 1, 0, 65535, 30);
   const DuplicateRules rules{true, true, true};
   const Groups groups = CanaliDoppi(state, rules);
   EXPECT_EQ(groups, Groups({{1, 2, 3}, {4, 5}}));

@@ -16,7 +16,7 @@ namespace Edit {
 namespace {
 
 using namespace Routines;
-using Samples::Junk;
+using namespace Samples;
 
 ChannelRecord& Channel(State& state, int slot) { return state.ChannelTable[static_cast<std::size_t>(slot)]; }
 TransponderRecord& Transponder(State& state, int slot) {
@@ -31,12 +31,11 @@ State SmallList() {
   state.TransponderCount = 5;
   state.SymbolRateTable = EmptySymbolRateTable();
   PlaceUsualRates(state.SymbolRateTable, Sr22000::Come2);
-  Transponder(state, 1) = Samples::MakeTransponder(11766, false, 0, 3, 2, 10, 318);
-  Transponder(state, 2) = Samples::MakeTransponder(11804, false, 0, 3, 2, 20, 318);
-  Transponder(state, 3) = Samples::MakeTransponder(11766, false, 1, 3, 2, 10, 1);
+  Transponder(state, 1) = MakeTransponder(11766, false, 0, 3, 2, 10, 318);
+  Transponder(state, 2) = MakeTransponder(11804, false, 0, 3, 2, 20, 318);
+  Transponder(state, 3) = MakeTransponder(11766, false, 1, 3, 2, 10, 1);
   for (int slot = 1; slot <= 6; ++slot)
-    Channel(state, slot) =
-        Samples::MakeChannel("c" + std::to_string(slot), (slot + 1) / 2, 100 + slot, 500, 600);
+    Channel(state, slot) = MakeChannel("c" + std::to_string(slot), (slot + 1) / 2, 100 + slot, 500, 600);
   CanaliXTransponder(state);
   state.FavouritesBlock.assign(NormalFavouritesSize, 0);
   SetFavouriteEntries(state.FavouritesBlock, 0, {2, 5});
@@ -93,7 +92,7 @@ TEST(Compare, TellsEachKindOfDifferenceByServiceAndNeverByName) {
        [](State& s) {
          DeleteSlots(s, {4});
          SetFavouriteEntries(s.FavouritesBlock, 1, {2});
-         Channel(s, 8) = Samples::MakeChannel("c4", 1, 999, 1, 1);
+         Channel(s, 8) = MakeChannel("c4", 1, 999, 1, 1);
          CanaliXTransponder(s);
        },
        "4>0 OnlyHere: 11804 V SAT A, SID 104; 0>8 OnlyThere: 11766 V SAT A, SID 999; "
@@ -104,11 +103,11 @@ TEST(Compare, TellsEachKindOfDifferenceByServiceAndNeverByName) {
        [](State& s) { Set(Channel(s, 1), ChannelField::Transponder, 3); },
        "1>0 OnlyHere: 11766 V SAT A, SID 101; 0>1 OnlyThere: 11766 V SAT B, SID 101; "},
       {"a service that has changed its frequency",
-       [](State& s) { Transponder(s, 2) = Samples::MakeTransponder(12500, true, 0, 1, 2, 20, 318); },
+       [](State& s) { Transponder(s, 2) = MakeTransponder(12500, true, 0, 1, 2, 20, 318); },
        "3>3 Retuned: 11804 V → 12500 H, SR 27500 → 22000; 4>4 Retuned: 11804 V → 12500 H, SR 27500 → 22000; "
        "Transponder: 1 solo in questa lista, 1 solo di là"},
       {"a frequency 1 MHz aside whose TID was corrected",
-       [](State& s) { Transponder(s, 2) = Samples::MakeTransponder(11805, false, 0, 3, 2, 0, 0); },
+       [](State& s) { Transponder(s, 2) = MakeTransponder(11805, false, 0, 3, 2, 0, 0); },
        "3>3 Modified: TID 20 → 0, NID 318 → 0; 4>4 Modified: TID 20 → 0, NID 318 → 0; "
        "Transponder: 1 con altri dati"},
       {"transponders in other slots",
@@ -122,7 +121,7 @@ TEST(Compare, TellsEachKindOfDifferenceByServiceAndNeverByName) {
        [](State& s) {
          std::vector<LostFavourite> lost;
          MakeRoom(s, 1, 1, lost);
-         Channel(s, 1) = Samples::MakeChannel("double", 1, 102, 7, 7);
+         Channel(s, 1) = MakeChannel("double", 1, 102, 7, 7);
        },
        "0>1 OnlyThere: 11766 V SAT A, SID 102; 6 canali hanno un altro numero nello stesso ordine"},
   };
@@ -136,7 +135,7 @@ TEST(Compare, TellsEachKindOfDifferenceByServiceAndNeverByName) {
 
 TEST(Compare, DoublesOnBothSidesArePairedInOrder) {
   State here = SmallList();
-  for (const int slot : {3, 4, 5}) Channel(here, slot) = Samples::MakeChannel("same", 1, 7, slot, 1);
+  for (const int slot : {3, 4, 5}) Channel(here, slot) = MakeChannel("same", 1, 7, slot, 1);
   State there = here;
   DeleteSlots(there, {3});
   EXPECT_EQ(Told(here, there).substr(0, 12), "3>0 OnlyHere");
@@ -159,8 +158,8 @@ std::unique_ptr<State> RandomList(Junk& junk, int count, int slots) {
   for (int i = 0; i < 40; ++i) {
     const int tid = i % 7 == 0 ? 0 : i;
     Transponder(*state, place(i)) =
-        Samples::MakeTransponder(10700 + 20 * i, i % 2 == 0, i % 3, 1 + 2 * static_cast<int>(junk.Below(2)),
-                                 2, tid, tid == 0 ? 0 : 318);
+        MakeTransponder(10700 + 20 * i, i % 2 == 0, i % 3, 1 + 2 * static_cast<int>(junk.Below(2)), 2, tid,
+                        tid == 0 ? 0 : 318);
   }
   for (int i = 0; i < count; ++i) {
     int slot = 0;
@@ -169,7 +168,7 @@ std::unique_ptr<State> RandomList(Junk& junk, int count, int slots) {
     const int service = static_cast<int>(junk.Below(400));
     const std::string name = junk.Below(4) == 0 ? "new name" : "s" + std::to_string(service);
     Channel(*state, slot) =
-        Samples::MakeChannel(name, place(service % 40), 1 + service, 1 + static_cast<int>(junk.Below(2)), 1);
+        MakeChannel(name, place(service % 40), 1 + service, 1 + static_cast<int>(junk.Below(2)), 1);
   }
   std::vector<int> favourites;
   for (int slot = 3; slot < slots; slot += 9) favourites.push_back(slot);
@@ -258,12 +257,12 @@ TEST(TakeOver, WhatHasNoPlaceIsLeftAndTold) {
   PlaceUsualRates(there.SymbolRateTable, Sr22000::Come0);
   for (int slot = 1; slot <= 3; ++slot)
     Set(Transponder(there, slot), TransponderField::SymbolRate, 1);  // 27500, as here
-  Transponder(there, 4) = Samples::MakeTransponder(12600, true, 0, 3, 2, 40, 318);
-  Transponder(there, 5) = Samples::MakeTransponder(12640, true, 0, 3, 2, 50, 318);
-  Channel(there, 7) = Samples::MakeChannel("n1", 4, 7, 1, 1);
-  Channel(there, 8) = Samples::MakeChannel("n2", 5, 8, 1, 1);
-  Transponder(there, 2) = Samples::MakeTransponder(12500, false, 0, 1, 2, 20, 318);
-  Transponder(here, 4) = Samples::MakeTransponder(12700, true, 0, 3, 2, 60, 318);
+  Transponder(there, 4) = MakeTransponder(12600, true, 0, 3, 2, 40, 318);
+  Transponder(there, 5) = MakeTransponder(12640, true, 0, 3, 2, 50, 318);
+  Channel(there, 7) = MakeChannel("n1", 4, 7, 1, 1);
+  Channel(there, 8) = MakeChannel("n2", 5, 8, 1, 1);
+  Transponder(there, 2) = MakeTransponder(12500, false, 0, 1, 2, 20, 318);
+  Transponder(here, 4) = MakeTransponder(12700, true, 0, 3, 2, 60, 318);
 
   Comparison found = Compare(here, there);
   found.differences.erase(found.differences.begin(), found.differences.end() - 2);  // the two new ones
@@ -288,9 +287,9 @@ TEST(TakeOver, WhatHasNoPlaceIsLeftAndTold) {
 TEST(TakeOver, AChannelWithoutATransponderGetsNoneByChance) {
   State here = SmallList();
   State there = here;
-  Channel(there, 7) = Samples::MakeChannel("lost", 4, 7, 1, 1);
-  Channel(there, 8) = Samples::MakeChannel("new", 5, 8, 1, 1);
-  Transponder(there, 5) = Samples::MakeTransponder(12640, true, 0, 3, 2, 50, 318);
+  Channel(there, 7) = MakeChannel("lost", 4, 7, 1, 1);
+  Channel(there, 8) = MakeChannel("new", 5, 8, 1, 1);
+  Transponder(there, 5) = MakeTransponder(12640, true, 0, 3, 2, 50, 318);
   const Comparison found = Compare(here, there);
   TakeOver(here, there, found, found.differences, {});
   EXPECT_EQ(Get(Channel(here, 8), ChannelField::Transponder), 4U) << "the first free slot";
@@ -299,9 +298,9 @@ TEST(TakeOver, AChannelWithoutATransponderGetsNoneByChance) {
 
 TEST(CapacityOf, StopsWhereAReceiverRepeatsItsList) {
   std::vector<ChannelRecord> list;
-  for (int i = 1; i <= 999; ++i) list.push_back(Samples::MakeChannel("c" + std::to_string(i), 1, i, 1, 1));
+  for (int i = 1; i <= 999; ++i) list.push_back(MakeChannel("c" + std::to_string(i), 1, i, 1, 1));
   std::vector<ChannelRecord> copy(list.begin() + 1, list.end());
-  Samples::ImageBuilder builder(1);
+  ImageBuilder builder(1);
   builder.PutRecords(1, 0, 16, "TCS", list);
   EXPECT_EQ(CapacityOf(builder.Image()), 3996);
   builder.PutRecords(2, 0, 16, "TCS", copy);

@@ -13,15 +13,9 @@ namespace Edit {
 namespace {
 
 using namespace Routines;
-using Samples::Junk;
+using namespace Samples;
 
 ChannelRecord& Channel(State& state, int slot) { return state.ChannelTable[static_cast<std::size_t>(slot)]; }
-
-void PutEntry(State& state, std::size_t list, std::size_t place, int slot) {
-  const std::size_t at = list * FavouriteListSize + 2 * place;
-  state.FavouritesBlock[at] = static_cast<Base::Byte>(slot >> 8);
-  state.FavouritesBlock[at + 1] = static_cast<Base::Byte>(slot & 255);
-}
 
 // `limit` slots, most of them filled with channels of SIDs of their own on transponders 0 to 255; favourites on some of
 // the channels, the last list full.
@@ -35,23 +29,21 @@ std::unique_ptr<State> RandomList(Junk& junk, int limit) {
     if (junk.Below(8) == 0) continue;
     const int transponder =
         junk.Below(5) == 0 ? static_cast<int>(junk.Below(2) * 255) : static_cast<int>(junk.Below(12));
-    Channel(*state, slot) = Samples::MakeChannel("c" + std::to_string(slot), transponder, slot, 1, 1);
+    Channel(*state, slot) = MakeChannel("c" + std::to_string(slot), transponder, slot, 1, 1);
     if (junk.Below(30) == 0) std::fill_n(Channel(*state, slot).bytes.begin(), 16, Base::Byte{' '});
   }
   for (std::size_t i = 1; i < 20; ++i) {
     const std::string digit(1, static_cast<char>('0' + junk.Below(3)));
-    state->TransponderTable[i].record =
-        Samples::MakeTransponder(10700 + static_cast<int>(i) * 20, true, 0, 1, 2);
+    state->TransponderTable[i].record = MakeTransponder(10700 + static_cast<int>(i) * 20, true, 0, 1, 2);
     state->TransponderTable[i].SetBouquet("B", "0" + digit);
   }
   for (std::size_t list = 0; list < FavouriteLists; ++list) {
-    const std::size_t count = list == 7 ? FavouriteEntries : junk.Below(60);
-    for (std::size_t place = 0; place < count; ++place) {
-      int slot = 0;
+    std::vector<int> entries(list == 7 ? FavouriteEntries : junk.Below(60));
+    for (int& slot : entries) {
       while (slot == 0 || Channel(*state, slot).Empty())
         slot = 1 + static_cast<int>(junk.Below(static_cast<std::size_t>(limit)));
-      PutEntry(*state, list, place, slot);
     }
+    SetFavouriteEntries(state->FavouritesBlock, list, entries);
   }
   return state;
 }
@@ -66,6 +58,19 @@ std::vector<int> Named(const State& state, std::size_t list) {
   return sids;
 }
 
+void ExpectSameFavourites(const State& before, const State& after) {
+  std::array<bool, 400> present{};
+  for (const ChannelRecord& c : after.ChannelTable) present[Get(c, ChannelField::Sid)] = true;
+  for (std::size_t list = 0; list < FavouriteLists; ++list) {
+    std::vector<int> expected = Named(before, list);
+    std::erase_if(expected, [&](int sid) { return sid == 0 || !present[static_cast<std::size_t>(sid)]; });
+    std::vector<int> named = Named(after, list);
+    // What a cut took out comes back with the paste; a gap that was closed takes its entry along.
+    std::erase_if(named, [&](int sid) { return std::ranges::count(expected, sid) == 0; });
+    EXPECT_EQ(named, expected) << "list " << list;
+  }
+}
+
 Slots RandomSlots(Junk& junk, const State& state) {
   const int first = 1 + static_cast<int>(junk.Below(static_cast<std::size_t>(state.ChannelCount)));
   return {first, std::min(first + static_cast<int>(junk.Below(9)), state.ChannelCount)};
@@ -75,43 +80,23 @@ Slots RandomSlots(Junk& junk, const State& state) {
 void RandomCommand(Junk& junk, State& state, Clipboard& clipboard) {
   const Slots slots = RandomSlots(junk, state);
   std::vector<LostFavourite> lost;
-  switch (junk.Below(10)) {
-    case 0:
-      DeleteChannels(state, slots);
-      break;
-    case 1:
-      clipboard = CopyChannels(state, slots);
-      CutChannels(state, slots, clipboard);
-      break;
-    case 2:
-      if (IsPosition(state, slots.first, clipboard.Count())) {
-        static_cast<void>(Paste(state, clipboard, slots.first, PasteWay::Move, {}));
-        clipboard = {};
-      }
-      break;
-    case 3:
-      MoveChannels(state, slots,
-                   1 + static_cast<int>(junk.Below(static_cast<std::size_t>(state.ChannelCount))));
-      break;
-    case 4:
-      OrdinaPerBouquet(state, slots.first);
-      break;
-    case 5:
-      MakeRoom(state, slots.first, 2, lost);
-      break;
-    case 6:
-      InvertiSatelliti(state);
-      break;
-    case 7:
-      SpostaRadio(state, slots.first);
-      break;
-    case 8:
-      if (slots.last > 1) DeleteSlots(state, {slots.last, 1});
-      break;
-    default:
-      CanaliXTransponder(state);
-      break;
+  const std::size_t command = junk.Below(10);
+  if (command == 0) DeleteChannels(state, slots);
+  if (command == 1) {
+    clipboard = CopyChannels(state, slots);
+    CutChannels(state, slots, clipboard);
   }
+  if (command == 2 && IsPosition(state, slots.first, clipboard.Count())) {
+    static_cast<void>(Paste(state, clipboard, slots.first, PasteWay::Move, {}));
+    clipboard = {};
+  }
+  if (command == 3) MoveChannels(state, slots, RandomSlots(junk, state).first);
+  if (command == 4) OrdinaPerBouquet(state, slots.first);
+  if (command == 5) MakeRoom(state, slots.first, 2, lost);
+  if (command == 6) InvertiSatelliti(state);
+  if (command == 7) SpostaRadio(state, slots.first);
+  if (command == 8 && slots.last > 1) DeleteSlots(state, {slots.last, 1});
+  if (command == 9) CanaliXTransponder(state);
 }
 
 // The sort as it is described: a plain exchange sort over the table's slots, then the gaps.
@@ -142,30 +127,25 @@ void PlainSort(State& state, int start) {
 
 }  // namespace
 
-TEST(Editing, FavouritesGoOnNamingTheSameChannels) {
+TEST(Editing, FavouritesGoOnNamingTheSameChannelsAndEveryStepCanBeTakenBack) {
   Junk junk(5);
-  Clipboard clipboard;
-  auto state = RandomList(junk, 300);
-  for (int step = 0; step < 400; ++step) {
-    if (step % 40 == 0) {
-      state = RandomList(junk, 300);
-      clipboard = {};
+  for (int round = 0; round < 10; ++round) {
+    History history;
+    Clipboard clipboard;
+    auto state = RandomList(junk, 300);
+    const State first = *state;
+    for (int step = 0; step < 40; ++step) {
+      auto before = std::make_unique<State>(*state);
+      RandomCommand(junk, *state, clipboard);
+      ExpectSameFavourites(*before, *state);
+      if (*before == *state) continue;
+      history.Push("passo", History::Kind::Edit, std::move(before));
     }
-    State before = *state;
-    RandomCommand(junk, *state, clipboard);
-    std::array<bool, 400> present{};
-    for (const ChannelRecord& c : state->ChannelTable) present[Get(c, ChannelField::Sid)] = true;
-    for (std::size_t list = 0; list < FavouriteLists; ++list) {
-      std::vector<int> expected = Named(before, list);
-      std::erase_if(expected, [&](int sid) { return sid != 0 && !present[static_cast<std::size_t>(sid)]; });
-      std::vector<int> named = Named(*state, list);
-      // What a cut took out comes back with the paste; a gap that was closed takes its entry along.
-      std::erase_if(
-          named, [&](int sid) { return std::find(expected.begin(), expected.end(), sid) == expected.end(); });
-      std::erase(expected, 0);
-      std::erase(named, 0);
-      ASSERT_EQ(named, expected) << "step " << step << " list " << list;
-    }
+    const State last = *state;
+    while (history.Undo(state)) continue;
+    ASSERT_TRUE(*state == first) << round;
+    while (history.Redo(state)) continue;
+    ASSERT_TRUE(*state == last) << round;
   }
 }
 
@@ -173,10 +153,9 @@ TEST(Editing, DeletingClosesTheListAndItsFavourites) {
   Junk junk(1);
   auto state = RandomList(junk, 40);
   state->FavouritesBlock.assign(NormalFavouritesSize, 0);
-  for (int slot = 1; slot <= 20; ++slot) Channel(*state, slot) = Samples::MakeChannel("x", 3, slot, 1, 1);
+  for (int slot = 1; slot <= 20; ++slot) Channel(*state, slot) = MakeChannel("x", 3, slot, 1, 1);
   Channel(*state, 6) = {};
-  const int entries[] = {5, 9, 4000, 6, 20, 7};
-  for (std::size_t i = 0; i < 6; ++i) PutEntry(*state, 0, i, entries[i]);
+  SetFavouriteEntries(state->FavouritesBlock, 0, {5, 9, 4000, 6, 20, 7});
   Set(state->TransponderTable[3].record, TransponderField::ChannelCount, 1);
   const auto lost = DeleteChannels(*state, {5, 7});
   EXPECT_EQ(FavouriteEntriesOf(state->FavouritesBlock, 0), std::vector<int>({6, 4000, 17}));
@@ -210,10 +189,8 @@ TEST(Editing, CutAndPasteGivesFavouritesBack) {
 TEST(Editing, PastingKeepsToTheLimit) {
   Junk junk(3);
   auto state = RandomList(junk, 100);
-  EXPECT_FALSE(IsPosition(*state, 0, 5));
-  EXPECT_TRUE(IsPosition(*state, 95, 5));
-  EXPECT_FALSE(IsPosition(*state, 96, 5));
-  Channel(*state, 97) = Samples::MakeChannel("ultimo", 1, 97, 1, 1);
+  EXPECT_TRUE(IsPosition(*state, 95, 5) && !IsPosition(*state, 96, 5) && !IsPosition(*state, 0, 5));
+  Channel(*state, 97) = MakeChannel("ultimo", 1, 97, 1, 1);
   const State before = *state;
   const Clipboard clipboard = CopyChannels(*state, {1, 4});
   const auto refused = Paste(*state, clipboard, 50, PasteWay::Move, {});
@@ -230,14 +207,14 @@ TEST(Editing, ChannelsOfAnotherListFindTheirTransponders) {
   Junk junk(4);
   auto from = RandomList(junk, 50);
   const int numbers[] = {1, 2, 3};
-  for (int i = 0; i < 3; ++i) Channel(*from, i + 1) = Samples::MakeChannel("x", numbers[i], i, 1, 1);
+  for (int i = 0; i < 3; ++i) Channel(*from, i + 1) = MakeChannel("x", numbers[i], i, 1, 1);
   const Clipboard clipboard = CopyChannels(*from, {1, 3});
   auto to = std::make_unique<State>();
   to->ListNumber = 9;
   to->ChannelCount = 50;
   to->TransponderCount = 3;
-  to->TransponderTable[1].record = Samples::MakeTransponder(12500, true, 0, 1, 2);
-  to->TransponderTable[3].record = Samples::MakeTransponder(10742, true, 0, 9, 9);
+  to->TransponderTable[1].record = MakeTransponder(12500, true, 0, 1, 2);
+  to->TransponderTable[3].record = MakeTransponder(10742, true, 0, 9, 9);
   const auto pasted = Paste(*to, clipboard, 5, PasteWay::Overwrite, {});
   ASSERT_TRUE(pasted);
   EXPECT_EQ(pasted->withoutTransponder, 1);
@@ -269,14 +246,11 @@ TEST(Editing, TelevisionComesBeforeRadioAndServices) {
     int slot, sid, vpid, apid;
   } channels[] = {{2, 2, 0, 7},   {4, 4, None, 7},      {5, 0, 8, 9},   {6, 6, 8, 9},   {9, 9, 0, None},
                   {10, 10, 0, 0}, {11, 11, None, None}, {12, 12, 0, 7}, {13, 13, 8, 0}, {14, 0, 0, 7}};
-  for (const auto& c : channels) Channel(state, c.slot) = Samples::MakeChannel("x", 1, c.sid, c.vpid, c.apid);
+  for (const auto& c : channels) Channel(state, c.slot) = MakeChannel("x", 1, c.sid, c.vpid, c.apid);
   std::fill_n(Channel(state, 6).bytes.begin(), 16, Base::Byte{' '});
-  const int entries[] = {2, 1, 8, 14, 6, 30};
-  for (std::size_t i = 0; i < 6; ++i) PutEntry(state, 0, i, entries[i]);
+  SetFavouriteEntries(state.FavouritesBlock, 0, {2, 1, 8, 14, 6, 30});
   const Regrouped done = SpostaRadio(state, 4);
-  EXPECT_EQ(done.television, 2);
-  EXPECT_EQ(done.radio, 2);
-  EXPECT_EQ(done.services, 5);
+  EXPECT_EQ((std::vector{done.television, done.radio, done.services}), (std::vector{2, 2, 5}));
   std::vector<int> sids;
   for (int slot = 1; slot <= 13; ++slot)
     sids.push_back(
@@ -299,7 +273,7 @@ TEST(Editing, WholeListCommands) {
   RiportaAB(*state);
   EXPECT_EQ(state->TransponderTable[1].record.bytes[11], 0x07);
   EXPECT_EQ(state->TransponderTable[2].record.bytes[11], 0x0F);
-  for (int slot = 1; slot <= 290; ++slot) Channel(*state, slot) = Samples::MakeChannel("x", 7, slot, 1, 1);
+  for (int slot = 1; slot <= 290; ++slot) Channel(*state, slot) = MakeChannel("x", 7, slot, 1, 1);
   CanaliXTransponder(*state);
   EXPECT_EQ(Get(state->TransponderTable[7].record, TransponderField::ChannelCount), 255U);
   EXPECT_EQ(Azzera(*state), 290);
@@ -312,39 +286,14 @@ TEST(Editing, WholeListCommands) {
 TEST(Editing, NamesAreFoundWhateverTheirCase) {
   State state;
   state.ChannelCount = 5;
-  Channel(state, 2) = Samples::MakeChannel("Citt\xE0 \x9C", 12, 300, 1, 1);
-  Channel(state, 4) = Samples::MakeChannel("12 stelle", 3, 12, 1, 1);
+  Channel(state, 2) = MakeChannel("Citt\xE0 \x9C", 12, 300, 1, 1);
+  Channel(state, 4) = MakeChannel("12 stelle", 3, 12, 1, 1);
   EXPECT_EQ(FindName(state, "TT\xC0 \x8C", 1), 2);
   EXPECT_EQ(FindName(state, "tt\xE0", 3), 0);
   EXPECT_EQ(MatchingSlots(state, "12"), std::vector<int>({2, 4}));
   EXPECT_EQ(MatchingSlots(state, "300"), std::vector<int>({2}));
   EXPECT_EQ(MatchingSlots(state, "30"), std::vector<int>());
   EXPECT_EQ(MatchingSlots(state, "70000"), std::vector<int>());
-}
-
-TEST(History, ALongSequenceGoesBackToTheStartAndForthToTheEnd) {
-  Junk junk(9);
-  History history;
-  Clipboard clipboard;
-  auto state = RandomList(junk, 300);
-  const State first = *state;
-  int steps = 0;
-  for (int i = 0; i < 150; ++i) {
-    auto before = std::make_unique<State>(*state);
-    RandomCommand(junk, *state, clipboard);
-    if (*before == *state) continue;
-    history.Push("passo", History::Kind::Edit, std::move(before));
-    ++steps;
-  }
-  const State last = *state;
-  while (history.Undo(state)) --steps;
-  EXPECT_EQ(steps, 0);
-  EXPECT_TRUE(*state == first);
-  while (history.Redo(state)) ++steps;
-  EXPECT_TRUE(*state == last);
-  history.Undo(state);
-  history.Push("altro", History::Kind::Edit, std::make_unique<State>(*state));
-  EXPECT_EQ(history.RedoLabel(), "") << "a new step forgets what was undone";
 }
 
 TEST(History, UndoingAnEditKeepsTheOutputAndUndoingALoadGivesItBack) {
@@ -361,6 +310,8 @@ TEST(History, UndoingAnEditKeepsTheOutputAndUndoingALoadGivesItBack) {
   EXPECT_EQ(state->MaxChannels, 0);
   history.Undo(state);
   EXPECT_EQ(state->OutputFlash, "");
+  history.Push("altro", History::Kind::Edit, std::make_unique<State>(*state));
+  EXPECT_EQ(history.RedoLabel(), "") << "a new step forgets what was undone";
 }
 
 }  // namespace Edit

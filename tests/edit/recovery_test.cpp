@@ -92,20 +92,6 @@ TEST(Recovery, NumbersStayWithinTheirTables) {
   EXPECT_FALSE(back->settings.quantiCanali || back->settings.flashScrittura || back->settings.srDef);
 }
 
-// Every count in the contents made as large as it can be, one place after the other, under a right checksum.
-TEST(Recovery, NoCountIsBelieved) {
-  const Base::Bytes file = Encode(*Work());
-  const std::size_t header = 21 + 8;
-  for (std::size_t at = file.size() - 500; at + 4 <= file.size(); ++at) {
-    Base::Bytes spoilt = file;
-    std::fill_n(spoilt.begin() + static_cast<std::ptrdiff_t>(at), 4, Base::Byte{255});
-    const std::uint32_t sum = Base::Crc32(Base::ByteView(spoilt).subspan(header));
-    for (std::size_t i = 0; i < 4; ++i) spoilt[25 + i] = static_cast<Base::Byte>(sum >> (24 - 8 * i));
-    const auto back = DecodeRecovery(spoilt);
-    EXPECT_TRUE(!back || back->clipboard.Count() <= 2) << at;
-  }
-}
-
 TEST(Recovery, OnlyWhatACutHoldsAloneWouldBeLost) {
   const auto work = Work();
   State& state = work->state;

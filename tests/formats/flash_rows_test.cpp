@@ -12,6 +12,7 @@ namespace Formats {
 namespace {
 
 using namespace Routines;
+using namespace Samples;
 
 std::string Rates() {
   std::string table = EmptySymbolRateTable();
@@ -22,22 +23,22 @@ std::string Rates() {
 }
 
 std::vector<TransponderRecord> Transponders() {
-  std::vector<TransponderRecord> records = {Samples::MakeTransponder(11766, false, 1, 9, 2, 1200, 1),
-                                            Samples::MakeTransponder(12092, true, 0, 12, 7, 5400, 318),
+  std::vector<TransponderRecord> records = {MakeTransponder(11766, false, 1, 9, 2, 1200, 1),
+                                            MakeTransponder(12092, true, 0, 12, 7, 5400, 318),
                                             {},
-                                            Samples::MakeTransponder(10719, true, 25, 4, 0, 60000, 65535)};
+                                            MakeTransponder(10719, true, 25, 4, 0, 60000, 65535)};
   Set(records[0], TransponderField::Frequency, 1166521234);  // no whole number of MHz
   records[1].bytes[11] |= 4;                                 // a bit that only the receiver knows
   return records;
 }
 
 std::vector<ChannelRecord> Channels() {
-  std::vector<ChannelRecord> records = {Samples::MakeChannel("Uno             ", 1, 8001, 512, 650, 0xA6),
-                                        Samples::MakeChannel("Sedici caratteri", 2, 65535, 65535, 700),
+  std::vector<ChannelRecord> records = {MakeChannel("Uno             ", 1, 8001, 512, 650, 0xA6),
+                                        MakeChannel("Sedici caratteri", 2, 65535, 65535, 700),
                                         {},
-                                        Samples::MakeChannel("Perso", 3, 1, 1, 1),
-                                        Samples::MakeChannel("Oltre", 5, 1, 1, 1),
-                                        Samples::MakeChannel("Quattro", 4, 0, 0, 65535, 0x00)};
+                                        MakeChannel("Perso", 3, 1, 1, 1),
+                                        MakeChannel("Oltre", 5, 1, 1, 1),
+                                        MakeChannel("Quattro", 4, 0, 0, 65535, 0x00)};
   Set(records[0], ChannelField::Aecm, 0x1234);
   Set(records[0], ChannelField::Vecm, 0x1235);
   return records;
@@ -46,7 +47,7 @@ std::vector<ChannelRecord> Channels() {
 }  // namespace
 
 TEST(FlashRows, CarriedOverTheyAreTheChannelsOfTheirFlash) {
-  Samples::ImageBuilder builder(7);
+  ImageBuilder builder(7);
   builder.PutRecords(1, 0, 16, "TCS", Channels()).PutRecords(2, 0, 16, "TPT", Transponders());
   builder.PutRecords(3, 0, 16, "TCS", Channels());
   const FlashRows rows = ReadFlashRows(builder.Image(), Rates(), {});

@@ -10,6 +10,8 @@
 namespace Routines {
 namespace {
 
+using namespace Samples;
+
 std::string Row(std::string (*cell)(const State&, int, int), const State& state, int columns) {
   std::string row;
   for (int column = 0; column < columns; ++column) row += (column > 0 ? "|" : "") + cell(state, 1, column);
@@ -28,7 +30,7 @@ TEST(Cells, ChannelRowsByKind) {
                {65535, 650, 0x04, 0xFFFF80, "04|S"}, {65535, 65535, 0x04, 0xFF80FF, "04|S"},
                {0, 0, 0xF4, 0xFF80FF, "F4|S"},       {0, 650, 0x20, 0xC0C0C0, "20|N"}};
   for (const auto& c : cases) {
-    state->ChannelTable[1] = Samples::MakeChannel("Uno", 7, 300, c.vpid, c.apid, c.flags);
+    state->ChannelTable[1] = MakeChannel("Uno", 7, 300, c.vpid, c.apid, c.flags);
     EXPECT_EQ(ChannelColour(*state, 1), c.colour) << c.vpid << " " << c.apid << " " << c.flags;
     const std::string row = Row(ChannelCell, *state, 11);
     EXPECT_TRUE(row.ends_with(c.ends)) << row;
@@ -44,15 +46,15 @@ TEST(Cells, TransponderRows) {
   state->SymbolRateTable = EmptySymbolRateTable();
   PlaceUsualRates(state->SymbolRateTable, Sr22000::Come2);
   TransponderRow& row = state->TransponderTable[1];
-  row.record = Samples::MakeTransponder(12092, true, 1, 3, 5, 7, 65535);
+  row.record = MakeTransponder(12092, true, 1, 3, 5, 7, 65535);
   EXPECT_EQ(Row(TransponderCell, *state, 10), "001|12092|7|65535|0|27500|Auto|H|On|SAT B");
   EXPECT_EQ(TransponderColour(*state, 1, 1), 0xFFFFFFU);
-  EXPECT_TRUE(SatelliteLabel(Samples::MakeTransponder(11000, false, 31, 0, 0)).ends_with('`'));
+  EXPECT_TRUE(SatelliteLabel(MakeTransponder(11000, false, 31, 0, 0)).ends_with('`'));
 
-  row.record = Samples::MakeTransponder(11000, false, 0, 16, 0);
+  row.record = MakeTransponder(11000, false, 0, 16, 0);
   EXPECT_EQ(TransponderCell(*state, 1, 5), "") << "a code past the table";
   EXPECT_EQ(TransponderColour(*state, 1, 2), 0x8080FFU) << "no symbol rate";
-  row.record = Samples::MakeTransponder(10699, false, 0, 1, 0);
+  row.record = MakeTransponder(10699, false, 0, 1, 0);
   EXPECT_EQ(TransponderColour(*state, 1, 1), 0x8080FFU) << "outside the band";
 
   row.record = {};

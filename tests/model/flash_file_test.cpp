@@ -7,28 +7,11 @@
 
 namespace Routines {
 
-using Tests::Contents;
-using Tests::TestFolder;
-
-namespace {
-
-const Base::Bytes Old(FlashSize, 'o');
-const Base::Bytes New(FlashSize, 'n');
-
-}  // namespace
-
-TEST(FlashFile, OnlyAnImagesSizeIsRead) {
-  const TestFolder folder;
-  for (const std::size_t size : {std::size_t{0}, FlashSize - 1, FlashSize + 1}) {
-    const auto image = ReadFlash(folder.Write("a.dat", Base::Bytes(size, 'x')), "Errore FLASH di Input");
-    ASSERT_FALSE(image);
-    EXPECT_EQ(image.error().message, "Dimensione FLASH selezionata errata " + std::to_string(size));
-    EXPECT_EQ(image.error().title, "Errore FLASH di Input");
-  }
-  EXPECT_EQ(*ReadFlash(folder.Write("a.dat", Old), ""), Old);
-}
+using namespace Tests;
 
 TEST(FlashFile, TheFirstOverwritingOfASessionKeepsTheOldImage) {
+  const Base::Bytes Old(FlashSize, 'o');
+  const Base::Bytes New(FlashSize, 'n');
   const TestFolder folder;
   const std::string path = folder.Write("a.dat", Old);
   Backups session{folder.Path(), {}};

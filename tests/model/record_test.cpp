@@ -10,6 +10,8 @@
 namespace Routines {
 namespace {
 
+using namespace Samples;
+
 // What the receiver's single precision gives, worked out in whole numbers: the value is rounded to 24 binary
 // digits, so is its quotient by a million, and the fraction is dropped.
 std::uint64_t RoundedQuotient(std::uint64_t dividend, std::uint64_t divisor) {
@@ -83,12 +85,12 @@ TEST(Record, FrequenciesAreThoseOfSinglePrecision) {
 }
 
 TEST(Record, TranspondersThreeMegahertzApartAreTwo) {
-  const auto base = Samples::MakeTransponder(10750, true, 1, 0, 0);
-  EXPECT_TRUE(SameTransponder(base, Samples::MakeTransponder(10752, true, 1, 5, 5)));
-  EXPECT_FALSE(SameTransponder(base, Samples::MakeTransponder(10753, true, 1, 0, 0)));
-  EXPECT_FALSE(SameTransponder(base, Samples::MakeTransponder(10747, true, 1, 0, 0)));
-  EXPECT_FALSE(SameTransponder(base, Samples::MakeTransponder(10750, false, 1, 0, 0)));
-  EXPECT_FALSE(SameTransponder(base, Samples::MakeTransponder(10750, true, 0, 0, 0)));
+  const auto base = MakeTransponder(10750, true, 1, 0, 0);
+  EXPECT_TRUE(SameTransponder(base, MakeTransponder(10752, true, 1, 5, 5)));
+  EXPECT_FALSE(SameTransponder(base, MakeTransponder(10753, true, 1, 0, 0)));
+  EXPECT_FALSE(SameTransponder(base, MakeTransponder(10747, true, 1, 0, 0)));
+  EXPECT_FALSE(SameTransponder(base, MakeTransponder(10750, false, 1, 0, 0)));
+  EXPECT_FALSE(SameTransponder(base, MakeTransponder(10750, true, 0, 0, 0)));
 }
 
 }  // namespace Routines

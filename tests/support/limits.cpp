@@ -5,13 +5,9 @@
 #include <unistd.h>
 
 namespace Tests {
-namespace {
-
-constexpr uid_t Nobody = 65534;
-
-}  // namespace
 
 OrdinaryUser::OrdinaryUser() : before_(::geteuid()) {
+  constexpr uid_t Nobody = 65534;
   if (before_ == 0 && ::seteuid(Nobody) != 0) std::abort();
 }
 

@@ -2,20 +2,6 @@
 #include "demo_sdx.h"
 #include "ui/window_fixture.h"
 
-#include <QAbstractButton>
-#include <QAccessible>
-#include <QComboBox>
-#include <QDialog>
-#include <QGroupBox>
-#include <QHeaderView>
-#include <QLabel>
-#include <QListWidget>
-#include <QMenu>
-#include <QMenuBar>
-#include <QPushButton>
-#include <QRadioButton>
-#include <QTest>
-
 #include <map>
 #include <set>
 
@@ -136,8 +122,7 @@ class Access : public Window {
 }  // namespace
 
 TEST_F(Access, TheMainWindowInEveryState) {
-  Start();
-  ASSERT_TRUE(window_->Start());
+  StartEmpty();
   Check(*window_);
   OpenDemo();
   Check(*window_);
@@ -157,6 +142,17 @@ TEST_F(Access, TheMainWindowInEveryState) {
       EXPECT_TRUE(letter.isNull() || !action->isVisible() || letters.insert(letter).second)
           << menu->title().toStdString() << ": " << action->text().toStdString();
     }
+  }
+  for (const QAction* action : window_->findChildren<QAction*>()) {
+    const QString name = action->objectName();
+    if (name.isEmpty() || name.startsWith("_q_") || name.startsWith("FileRecenti_")) continue;
+    EXPECT_FALSE(action->toolTip().isEmpty()) << name.toStdString();
+    EXPECT_FALSE(action->statusTip().isEmpty()) << name.toStdString();
+  }
+  for (const QAbstractButton* button : window_->findChildren<QAbstractButton*>()) {
+    const QString name = button->objectName();
+    if (name.isEmpty() || name.startsWith("qt_") || button->text() == "Chiudi") continue;
+    EXPECT_FALSE(button->toolTip().isEmpty()) << name.toStdString();
   }
 }
 
@@ -180,17 +176,13 @@ TEST_F(Access, MenusAnswerToFirstLettersAndHaveEveryButton) {
 
 TEST_F(Access, EveryDialog) {
   OpenDemo();
-  ChooseAndCheck("Guida", "FinestraGuida");
+  driver_->ExpectDialog("About", [](QDialog& box) { box.findChild<QPushButton*>("ApriGuida")->click(); });
+  ChooseAndCheck("About", "FinestraGuida");
   ChooseAndCheck("Riepilogo", "FinestraRiepilogo");
   ChooseAndCheck("VisualizzaPreferiti", "ListePreferiti");
   driver_->SelectRows(3, 4);
   ASSERT_TRUE(driver_->Press("Toolbar1_Copy"));
-  driver_->ExpectLine("Inserire il numero di canale da cui inserire", "20");
-  driver_->ExpectQuestion(
-      "Sposto o sovrascrivo i canali a partire dal 20 per 2 Canali?\n"
-      "Rispondere SI per spostare NO per sovrascrivere",
-      true);
-  ASSERT_TRUE(driver_->Press("Toolbar1_Paste"));
+  Paste(20, 2);
   ChooseAndCheck("CanaliDoppi", "FinestraCanaliDoppi");
   ChooseAndCheck("ConfrontaDisco", "FinestraConfronto");
 

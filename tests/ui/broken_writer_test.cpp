@@ -5,9 +5,7 @@
 
 namespace {
 
-using Routines::PatchedFlash;
-using Routines::State;
-using Routines::WritePlan;
+using namespace Routines;
 
 std::optional<std::size_t> spoiltByte;
 
@@ -30,19 +28,15 @@ namespace Ui {
 TEST_F(Window, AWriterThatLeavesTheSectionsIsStopped) {
   OpenDemo();
   const std::string copy = folder_.Write("copia.dat", Contents(flash_));
-  driver_->ExpectFile(OutputDialog, PathText(copy));
-  Summary(*driver_, 2, 647, true);
-  ASSERT_TRUE(driver_->Choose("ApriFlashOutput"));
-  driver_->SelectRows(1, 2);
-  ASSERT_TRUE(driver_->Press("Toolbar1_Delete"));
+  SaveAs(copy, 647);
+  Delete(1, 2);
   const Routines::State before = List();
   const Base::Bytes onDisk = Contents(copy);
   // A directory, and the last byte of the image.
   for (const std::size_t place : {std::size_t{2}, Routines::FlashSize - 1}) {
     spoiltByte = place;
-    driver_->ExpectMessage("Impossibile scrivere copia.dat: la modifica esce dalle sezioni conosciute",
-                           "Errore FLASH di Output");
-    ASSERT_TRUE(driver_->Choose("Salva"));
+    Tells("Salva", "Impossibile scrivere copia.dat: la modifica esce dalle sezioni conosciute",
+          "Errore FLASH di Output");
     EXPECT_EQ(Contents(copy), onDisk);
     EXPECT_TRUE(List() == before);
     EXPECT_EQ(driver_->TextOf("ModificheNonSalvate"), "Modifiche non salvate");

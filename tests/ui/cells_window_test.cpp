@@ -2,15 +2,6 @@
 #include "model/favourites.h"
 #include "ui/window_fixture.h"
 
-#include <QApplication>
-#include <QComboBox>
-#include <QInputDialog>
-#include <QLineEdit>
-#include <QListView>
-#include <QMenu>
-#include <QMimeData>
-#include <QTest>
-
 namespace Ui {
 
 class Cells : public Window {
@@ -64,9 +55,7 @@ TEST_F(Cells, TakeWhatIsTypedOrKeepWhatTheyHad) {
   QTest::keyClick(QApplication::focusWidget(), Qt::Key_Return);
   EXPECT_FALSE(Editing()) << "nothing typed, nothing refused";
 
-  const QPoint active = Grid().visualRect(Grid().model()->index(1, 10)).center();
-  QTest::mouseClick(Grid().viewport(), Qt::LeftButton, {}, active);
-  QTest::mouseDClick(Grid().viewport(), Qt::LeftButton, {}, active);
+  Click(Grid(), Grid().model()->index(1, 10), true);
   EXPECT_EQ(driver_->Cell(2, 10), "N");
   const auto transponders = List().TransponderTable;
   ASSERT_TRUE(Type(3, 3, "1234", Qt::Key_End));
@@ -118,13 +107,11 @@ TEST_F(Cells, ThePopupMenuWorksOnAllSelectedRows) {
 }
 
 TEST_F(Cells, FavouritesAreArrangedInTheirWindow) {
-  Start();
-  ASSERT_TRUE(window_->Start());
+  StartEmpty();
   EXPECT_FALSE(Action("VisualizzaPreferiti").isEnabled());
   ASSERT_TRUE(driver_->Pick("QuantiCanali_2"));
   ASSERT_TRUE(driver_->Pick("FlashScrittura_2"));
-  driver_->ExpectMessage(NoFlash);
-  ASSERT_TRUE(driver_->Choose("VisualizzaPreferiti"));
+  Tells("VisualizzaPreferiti", NoFlash);
   ASSERT_TRUE(driver_->Pick("FlashScrittura_0"));
   EXPECT_FALSE(Action("VisualizzaPreferiti").isEnabled()) << "receivers of the first type have none to write";
   ASSERT_TRUE(driver_->Pick("FlashScrittura_1"));
@@ -180,9 +167,7 @@ TEST_F(Cells, FavouritesAreArrangedInTheirWindow) {
   EXPECT_EQ(Entries(1), sports);
   EXPECT_EQ(name->text(), "Sport");
 
-  const QPoint third = second->visualRect(second->model()->index(2, 0)).center();
-  QTest::mouseClick(second->viewport(), Qt::LeftButton, {}, third);
-  QTest::mouseDClick(second->viewport(), Qt::LeftButton, {}, third);
+  Click(*second, second->model()->index(2, 0), true);
   EXPECT_EQ(driver_->Grid().Selected()->first, sports[2]);
   window_->close();
   EXPECT_FALSE(lists->isVisible()) << "it goes with the main window";

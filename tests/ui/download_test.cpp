@@ -3,14 +3,11 @@
 
 #include "ui/window_fixture.h"
 
-#include <QComboBox>
-#include <QPushButton>
 #include <QSslCertificate>
 #include <QSslConfiguration>
 #include <QSslKey>
 #include <QSslServer>
 #include <QTcpSocket>
-#include <QTest>
 
 namespace Ui {
 namespace {
@@ -34,32 +31,27 @@ fv90cLFjchNOga6tYMxhoeA=
 -----END CERTIFICATE-----
 )";
 
-const QByteArray List = "HTTP/1.0 200 OK\r\n\r\nSATCODX1 uno\r\n";
+const QByteArray Good = "HTTP/1.0 200 OK\r\n\r\n";
+const QByteArray List = Good + "SATCODX1 uno\r\n";
 
 QByteArray Redirect(const QString& address) {
   return "HTTP/1.0 302 Found\r\nLocation: " + address.toUtf8() + "\r\n\r\n";
 }
 
-// A web server of this machine: gives every request the same answer.
+// A web server of this machine: gives every request the same answer, or silence where there is none.
 class Server {
  public:
-  // What comes behind the first bytes comes one by one, for ever; no answer at all is silence.
-  enum class Manner { Whole, Dripping };
-
-  explicit Server(const QByteArray& answer, Manner manner = Manner::Whole)
-      : Server(std::make_unique<QTcpServer>(), "http", answer, manner) {}
-
-  Server(std::unique_ptr<QTcpServer> server, const char* scheme, const QByteArray& answer,
-         Manner manner = Manner::Whole)
-      : server_(std::move(server)), scheme_(scheme) {
+  explicit Server(const QByteArray& answer,
+                  std::unique_ptr<QTcpServer> server = std::make_unique<QTcpServer>())
+      : server_(std::move(server)) {
     server_->listen(QHostAddress::LocalHost);
-    QObject::connect(server_.get(), &QTcpServer::pendingConnectionAvailable, [this, answer, manner] {
+    QObject::connect(server_.get(), &QTcpServer::pendingConnectionAvailable, [this, answer] {
       QTcpSocket* socket = server_->nextPendingConnection();
-      QObject::connect(socket, &QTcpSocket::readyRead, [this, socket, answer, manner] {
+      QObject::connect(socket, &QTcpSocket::readyRead, [this, socket, answer] {
         ++asked;
         if (answer.isEmpty()) return;
         socket->write(answer);
-        if (manner == Manner::Whole) return socket->disconnectFromHost();
+        if (!drips) return socket->disconnectFromHost();
         auto* drip = new QTimer(socket);
         QObject::connect(drip, &QTimer::timeout, [socket] { socket->write("x"); });
         drip->start(10);
@@ -68,14 +60,15 @@ class Server {
   }
 
   [[nodiscard]] QString Address() const {
-    return QString("%1://127.0.0.1:%2/lista.sdx").arg(scheme_).arg(server_->serverPort());
+    const bool safe = qobject_cast<QSslServer*>(server_.get()) != nullptr;
+    return QString("%1://127.0.0.1:%2/lista.sdx").arg(safe ? "https" : "http").arg(server_->serverPort());
   }
 
   int asked = 0;
+  bool drips = false;  // bytes behind the answer, one by one and for ever
 
  private:
   std::unique_ptr<QTcpServer> server_;
-  const char* scheme_;
 };
 
 std::unique_ptr<QTcpServer> SafeServer() {
@@ -108,13 +101,11 @@ std::optional<QByteArray> Fetch(const QString& address, const Download::Limits& 
 TEST(DownloadLimits, NothingButTheWebIsFetched) {
   const Tests::TestFolder folder;
   const QString file = "file://" + PathText(folder.Write("lista.sdx", "SATCODX1 uno\r\n"));
-  for (const QString& address :
-       {file, QString("ftp://127.0.0.1/a.sdx"), QString("data:,SATCODX1"), QString("")})
-    EXPECT_FALSE(Fetch(address)) << address.toStdString();
   for (const QString& address : {file, QString("ftp://127.0.0.1/a.sdx"), QString("data:,SATCODX1")}) {
-    const Server server(Redirect(address));
-    EXPECT_FALSE(Fetch(server.Address())) << address.toStdString();
+    EXPECT_FALSE(Fetch(address)) << address.toStdString();
+    EXPECT_FALSE(Fetch(Server(Redirect(address)).Address())) << address.toStdString();
   }
+  EXPECT_FALSE(Fetch(""));
 }
 
 TEST(DownloadLimits, ARedirectNeverLeadsFromASafeServerToAnUnsafeOne) {
@@ -124,12 +115,12 @@ TEST(DownloadLimits, ARedirectNeverLeadsFromASafeServerToAnUnsafeOne) {
   QSslConfiguration::setDefaultConfiguration(trusting);
 
   const Server open(List);
-  const Server safe(SafeServer(), "https", List);
+  const Server safe(List, SafeServer());
   EXPECT_TRUE(Fetch(Server(Redirect(open.Address())).Address()));
   EXPECT_TRUE(Fetch(Server(Redirect(safe.Address())).Address()));
-  EXPECT_TRUE(Fetch(Server(SafeServer(), "https", Redirect(safe.Address())).Address()));
+  EXPECT_TRUE(Fetch(Server(Redirect(safe.Address()), SafeServer()).Address()));
   EXPECT_EQ(open.asked, 1);
-  EXPECT_FALSE(Fetch(Server(SafeServer(), "https", Redirect(open.Address())).Address()));
+  EXPECT_FALSE(Fetch(Server(Redirect(open.Address()), SafeServer()).Address()));
   EXPECT_EQ(open.asked, 1) << "not even asked for";
 
   QSslConfiguration::setDefaultConfiguration(before);
@@ -139,29 +130,57 @@ TEST(DownloadLimits, ARedirectNeverLeadsFromASafeServerToAnUnsafeOne) {
 }
 
 TEST(DownloadLimits, SizeAndTimeAreBounded) {
-  const Server large("HTTP/1.0 200 OK\r\n\r\n" + QByteArray(5000, 'x'));
+  const Server large(Good + QByteArray(5000, 'x'));
   EXPECT_TRUE(Fetch(large.Address(), {.bytes = 5000}));
   EXPECT_FALSE(Fetch(large.Address(), {.bytes = 4999}));
   const Server silent("");
   EXPECT_FALSE(Fetch(silent.Address(), {.silence = 200}));
-  const Server dripping(List, Server::Manner::Dripping);
+  Server dripping(List);
+  dripping.drips = true;
   EXPECT_FALSE(Fetch(dripping.Address(), {.silence = 1000, .whole = 300}));
 }
 
-TEST_F(Window, AnAddressIsFetchedOnlyWhenTheUserAsksForIt) {
+TEST_F(Window, AnAddressIsFetchedOnlyWhenTheUserAsksAndIsLoadedOrToldAndLeftEmpty) {
   OpenDemo();
-  const Server server("HTTP/1.0 404 Not Found\r\n\r\n");
-  folder_.Write("SDX.INI", server.Address().toStdString() + "\r\n");
+  const std::string path = folder_.Path("scaricato.sdx");
+  const auto download = [this] { window_->findChild<QAbstractButton*>("Scarica")->click(); };
+  const auto fetch = [&](const Server& server, const auto& expectEnd) {
+    std::filesystem::remove(path);
+    folder_.Write("SDX.INI", server.Address().toStdString() + "?uno\r\nhttp://127.0.0.1:9/due.sdx\r\n");
+    ASSERT_TRUE(driver_->Choose("ScaricaInternet"));
+    auto* addresses = window_->findChild<QComboBox*>("Combo3");
+    EXPECT_EQ(QString::number(addresses->count()) + addresses->currentText(), "2");
+    addresses->setCurrentIndex(0);
+    QTest::qWait(50);
+    EXPECT_EQ(server.asked, 0);
+    addresses->setEditText(server.Address());
+    driver_->ExpectFile("Selezionare il file SDX di OUTPUT", PathText(path));
+    expectEnd();
+    download();
+    EXPECT_TRUE(QTest::qWaitFor([this] { return driver_->Idle(); }, 5000));
+    EXPECT_EQ(server.asked, 1);
+  };
+  folder_.Write("SDX.INI", "http://127.0.0.1:9/uno.sdx\r\n");
   ASSERT_TRUE(driver_->Choose("ScaricaInternet"));
-  window_->findChild<QComboBox*>("Combo3")->setCurrentIndex(0);
-  QTest::qWait(200);
-  EXPECT_EQ(server.asked, 0);
-  driver_->ExpectFile("Selezionare il file SDX di OUTPUT", PathText(folder_.Path("a.sdx")));
-  driver_->ExpectMessage("Errore di connessione a : " + server.Address());
-  window_->findChild<QAbstractButton*>("Scarica")->click();
-  EXPECT_TRUE(QTest::qWaitFor([this] { return driver_->Idle(); }, 5000));
-  EXPECT_EQ(server.asked, 1);
+  driver_->ExpectMessage("Si deve specificare il file da scaricare");
+  download();
+  const std::pair<QByteArray, QString> bad[] = {
+      {Good + "  SATCODX", "  SATCODX"},
+      {Good + "<html>", "<html>"},
+      {"HTTP/1.0 200 OK\r\nContent-Length: 900\r\n\r\nSATCODX103 cut", "SATCODX103 cut"},
+      {"HTTP/1.0 404 Not Found\r\n\r\nSATCODX103", "SATCODX103"}};
+  for (const auto& [answer, told] : bad) {
+    const Server server(answer);
+    fetch(server, [&] { driver_->ExpectMessage("Errore di connessione a : " + server.Address() + told); });
+    EXPECT_EQ(Contents(path).size(), 0U) << answer.toStdString();
+  }
   EXPECT_EQ(Said(), "Scaricamento non riuscito: il server risponde 404");
+
+  ASSERT_TRUE(driver_->Choose("VisualizzaBouquet"));
+  const Server good(Good + "SATCODX1 uno\r\nSATCODX1 due\r\nsenza fine");
+  fetch(good, [&] { driver_->ExpectDialog("Opzioni importazione SDX", [](QDialog& box) { box.reject(); }); });
+  EXPECT_FALSE(Action("VisualizzaBouquet").isChecked()) << "the tree makes room for the list";
+  EXPECT_EQ(Base::AsText(Contents(path)), "SATCODX1 uno\r\n\nSATCODX1 due\r\n");
 }
 
 }  // namespace Ui

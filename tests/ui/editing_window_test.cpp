@@ -1,13 +1,6 @@
 // Editing the list by keys, toolbar, menus and dropping.
 #include "ui/window_fixture.h"
 
-#include <QApplication>
-#include <QBrush>
-#include <QClipboard>
-#include <QLineEdit>
-#include <QMimeData>
-#include <QTest>
-
 namespace Ui {
 
 TEST_F(Window, CutMovePasteAndUndoByKeysAndToolbar) {
@@ -20,25 +13,20 @@ TEST_F(Window, CutMovePasteAndUndoByKeysAndToolbar) {
   EXPECT_TRUE(QApplication::clipboard()->text().startsWith("0010\tLa Nazionale\t018\t2802\t"));
 
   const QString where = "Inserire il numero di canale da cui inserire";
-  const QString how =
-      "Sposto o sovrascrivo i canali a partire dal %1 per 3 Canali?\nRispondere SI per spostare NO per "
-      "sovrascrivere";
   for (const char* wrong : {"0", "-5", "abc", "3994", "99999"}) {
     driver_->ExpectLine(where, wrong);
-    driver_->ExpectMessage("Posizione di inserimento invalida");
-    ASSERT_TRUE(driver_->Press("Toolbar1_Paste"));
+    Tells("Toolbar1_Paste", "Posizione di inserimento invalida");
   }
   driver_->ExpectLine(where, "5");
-  driver_->ExpectCancelledQuestion(how.arg(5));
+  driver_->ExpectCancelledQuestion(HowToPaste.arg(5).arg(3));
   ASSERT_TRUE(driver_->Press("Toolbar1_Paste"));
   EXPECT_EQ(driver_->TextOf("CanaliCopiati"), "Appunti 3");
   driver_->ExpectLine(where, "10");
-  driver_->ExpectQuestion(how.arg(10), true);
+  driver_->ExpectQuestion(HowToPaste.arg(10).arg(3), true);
   driver_->Key(Qt::Key_V, Qt::ControlModifier);
   EXPECT_EQ(List().ChannelTable, before.ChannelTable);
   EXPECT_EQ(List().FavouritesBlock, before.FavouritesBlock) << "the cut entries are back";
-  driver_->ExpectMessage("Messun canale copiato");
-  ASSERT_TRUE(driver_->Press("Toolbar1_Paste"));
+  Tells("Toolbar1_Paste", "Messun canale copiato");
 
   EXPECT_EQ(Action("Annulla").text(), "Annulla Incolla 3 canali");
   ASSERT_TRUE(driver_->Choose("Annulla"));
@@ -71,8 +59,7 @@ TEST_F(Window, RowsMoveByKeysAndByDropping) {
   EXPECT_EQ(driver_->Cell(1, 1), driver_->Cell(5, 1)) << "a copy is inserted";
   EXPECT_EQ(driver_->TextOf("CanaliUsati"), "Canali 622 di 3996");
   driver_->ExpectLine("Inserire il numero di canale a cui spostare", "3996");
-  driver_->ExpectMessage("Nr. Canale non valido");
-  ASSERT_TRUE(driver_->Choose("SpostaA"));
+  Tells("SpostaA", "Nr. Canale non valido");
 }
 
 TEST_F(Window, RowKeysLeaveTheFilterFieldAlone) {
@@ -107,27 +94,26 @@ TEST_F(Window, SearchingAsksForTheNext) {
   driver_->Key(Qt::Key_F3);
   EXPECT_EQ(driver_->Grid().currentIndex().row(), 8);
   driver_->ExpectLine("Inserire il canale da ricercare", "漢");
-  driver_->ExpectMessage("Canale non trovato");
-  ASSERT_TRUE(driver_->Press("Toolbar1_Find"));
+  Tells("Toolbar1_Find", "Canale non trovato");
   driver_->ExpectLine("Inserire il Nr. del canale su cui posizionarsi", "3997");
-  driver_->ExpectMessage("Nr. Canale non valido");
-  ASSERT_TRUE(driver_->Press("Toolbar1_Goto"));
+  Tells("Toolbar1_Goto", "Nr. Canale non valido");
   ASSERT_TRUE(driver_->Choose("VisualizzaTransponder"));
   for (const char* command : {"CercaCanale", "VaiAlCanale"}) {
-    driver_->ExpectMessage("Funzione valida solo in visualizzazione canali");
-    ASSERT_TRUE(driver_->Choose(command));
+    Tells(command, "Funzione valida solo in visualizzazione canali");
   }
-  driver_->ExpectMessage("Deve essere visibile la lista canali");
-  ASSERT_TRUE(driver_->Press("Toolbar1_Cut"));
+  Tells("Toolbar1_Cut", "Deve essere visibile la lista canali");
 }
 
 TEST_F(Window, WholeListCommandsTellWhatTheyDid) {
   OpenDemo();
-  driver_->ExpectMessage("Nessun canale selezionato");
-  ASSERT_TRUE(driver_->Press("Toolbar1_Delete"));
+  Tells("Toolbar1_Delete", "Nessun canale selezionato");
   const QString from =
       "Inserire il canale dal quale iniziare il raggruppamento; I canali precedenti manterranno la "
       "numerazione";
+  driver_->ExpectLine(from, "7");
+  Tells("SpostaRadio", "Dal canale 7, nell'ordine:\nCanali TV: 461\nCanali radio: 123\nServizi: 30");
+  EXPECT_EQ(Said(), "Canali raggruppati dal 7: TV 461, radio 123, servizi 30");
+  ASSERT_TRUE(driver_->Choose("Annulla"));
   driver_->ExpectLine(from, "648");
   driver_->ExpectMessage("Il numero indicato è maggiore dell' ultimo canale");
   driver_->ExpectLine(from, "15");
@@ -136,8 +122,7 @@ TEST_F(Window, WholeListCommandsTellWhatTheyDid) {
   ASSERT_TRUE(driver_->Choose("InvertiSatelliti"));
   EXPECT_EQ(driver_->TextOf("Text1"), "Transponders");
   EXPECT_EQ(driver_->Cell(1, 9), "SAT B");
-  driver_->ExpectMessage("Sono stati azzerati 620 Canali");
-  ASSERT_TRUE(driver_->Choose("Azzera"));
+  Tells("Azzera", "Sono stati azzerati 620 Canali");
   EXPECT_EQ(driver_->TextOf("CanaliUsati"), "Canali 0 di 3996");
 }
 

@@ -1,15 +1,5 @@
-// Lists that leave the program and come in: texts, raw records, SatcoDX, downloads.
+// Lists that leave the program and come in: texts, raw records, SatcoDX.
 #include "ui/window_fixture.h"
-
-#include <QComboBox>
-#include <QDialog>
-#include <QLineEdit>
-#include <QListWidget>
-#include <QPushButton>
-#include <QRadioButton>
-#include <QTcpServer>
-#include <QTcpSocket>
-#include <QTest>
 
 namespace Ui {
 
@@ -17,8 +7,7 @@ TEST_F(Window, AListLeavesAsTextIsEditedAndComesBack) {
   OpenDemo();
   const Routines::State before = List();
   const std::string path = folder_.Path("lista.txt");
-  driver_->ExpectFile("Selezionare il file di output", PathText(path));
-  ASSERT_TRUE(driver_->Choose("FormatoTesto"));
+  Export("FormatoTesto", path);
   EXPECT_EQ(Said(), "Esportato lista.txt");
   std::string text(Base::AsText(Contents(path)));
   text.replace(text.find("Rete Due "), 9, "Rinomina ");
@@ -34,8 +23,7 @@ TEST_F(Window, AListLeavesAsTextIsEditedAndComesBack) {
 
   folder_.Write("lista.txt", "\xEF\xBB\xBF" + text.substr(0, text.find("[TRANSPONDERS]")));
   driver_->ExpectFile(import, PathText(path));
-  driver_->ExpectMessage("Formato file invalido (Transponders) per " + PathText(path));
-  ASSERT_TRUE(driver_->Choose("DaEsportatoTesto"));
+  Tells("DaEsportatoTesto", "Formato file invalido (Transponders) per " + PathText(path));
   ASSERT_TRUE(driver_->Choose("Annulla"));
   ASSERT_TRUE(driver_->Choose("Annulla"));
   EXPECT_TRUE(List() == before) << "each import is one step, a broken one too";
@@ -44,17 +32,14 @@ TEST_F(Window, AListLeavesAsTextIsEditedAndComesBack) {
 TEST_F(Window, RawRecordsComeFromTheFlashOnTheDisk) {
   OpenDemo();
   const std::string path = folder_.Path("lista.fls");
-  driver_->SelectRows(1, 1);
-  ASSERT_TRUE(driver_->Press("Toolbar1_Delete"));
+  Delete(1, 1);
   {
     const Tests::FileSizeLimit limit(1000);
-    driver_->ExpectFile("Selezionare il file di output", PathText(path));
-    ASSERT_TRUE(driver_->Choose("FormatoFLASH"));
+    Export("FormatoFLASH", path);
     EXPECT_EQ(Said(), "Impossibile scrivere lista.fls: il file supera la dimensione consentita");
     EXPECT_EQ(driver_->Cell(1, 1), "Rete Italia HD") << "a failed export leaves the edits";
   }
-  driver_->ExpectFile("Selezionare il file di output", PathText(path));
-  ASSERT_TRUE(driver_->Choose("FormatoFLASH"));
+  Export("FormatoFLASH", path);
   EXPECT_EQ(driver_->Cell(1, 1), "Rete Italia") << "edits give way to the image as it is stored";
   EXPECT_EQ(Action("Annulla").text(), "Annulla Ricarica Flash per l'esportazione");
 
@@ -68,9 +53,8 @@ TEST_F(Window, RawRecordsComeFromTheFlashOnTheDisk) {
   std::filesystem::remove(flash_);
   std::filesystem::remove(path);
   driver_->ExpectFile("Selezionare il file di output", PathText(path));
-  driver_->ExpectMessage("Impossibile leggere demo.dat: il file o la cartella non esiste",
-                         "Errore FLASH di Input");
-  ASSERT_TRUE(driver_->Choose("FormatoFLASH"));
+  Tells("FormatoFLASH", "Impossibile leggere demo.dat: il file o la cartella non esiste",
+        "Errore FLASH di Input");
   EXPECT_FALSE(std::filesystem::exists(path));
 }
 
@@ -104,12 +88,10 @@ TEST_F(Window, ASatcodxListGoesIntoTheChannelList) {
   EXPECT_TRUE(pane->isVisible());
   EXPECT_EQ(pane->model()->rowCount(), 3);
 
-  driver_->ExpectMessage("Nessun canale SDX selezionato");
-  ASSERT_TRUE(driver_->Press("Toolbar1_Copy_SDX"));
+  Tells("Toolbar1_Copy_SDX", "Nessun canale SDX selezionato");
   pane->Select({2, 3});
   driver_->ExpectLine("Inserire la posizione in cui inserire Nuovo 2", "3997");
-  driver_->ExpectMessage("Posizione non valida");
-  ASSERT_TRUE(driver_->Press("Toolbar1_Copy_SDX"));
+  Tells("Toolbar1_Copy_SDX", "Posizione non valida");
   driver_->ExpectLine("Inserire la posizione in cui inserire Nuovo 2", "1");
   driver_->ExpectQuestion("Si desidera spostare i canali verso il basso?", true);
   ASSERT_TRUE(driver_->Press("Toolbar1_Copy_SDX"));
@@ -121,76 +103,11 @@ TEST_F(Window, ASatcodxListGoesIntoTheChannelList) {
     box.findChild<QLineEdit*>("Partenza")->setText("3995");
     box.accept();
   });
-  driver_->ExpectMessage("1 canale SDX non ha trovato posto");
-  ASSERT_TRUE(driver_->Choose("ImportaTuttoSDX"));
+  Tells("ImportaTuttoSDX", "1 canale SDX non ha trovato posto");
   EXPECT_EQ(driver_->Cell(3996, 1), "Nuovo 2");
   ASSERT_TRUE(driver_->Choose("VediSDX"));
   EXPECT_FALSE(pane->isVisible());
   EXPECT_FALSE(Action("RicercaSDX").isEnabled());
-}
-
-// A web server for one request: answers with what it is given, whatever is asked for.
-class Server {
- public:
-  explicit Server(const QByteArray& answer) {
-    server_.listen(QHostAddress::LocalHost);
-    QObject::connect(&server_, &QTcpServer::newConnection, [this, answer] {
-      QTcpSocket* socket = server_.nextPendingConnection();
-      QObject::connect(socket, &QTcpSocket::readyRead, [socket, answer] {
-        socket->write(answer);
-        socket->disconnectFromHost();
-      });
-    });
-  }
-  [[nodiscard]] QString Address() const {
-    return QString("http://127.0.0.1:%1/lista.sdx").arg(server_.serverPort());
-  }
-
- private:
-  QTcpServer server_;
-};
-
-TEST_F(Window, ADownloadIsSavedAndLoadedOrToldAndLeftEmpty) {
-  OpenDemo();
-  folder_.Write("SDX.INI", "http://127.0.0.1:9/uno.sdx\r\nhttp://127.0.0.1:9/due.sdx\r\n");
-  const std::string path = folder_.Path("scaricato.sdx");
-  const QByteArray head = "HTTP/1.0 200 OK\r\n\r\n";
-  const QString error = "Errore di connessione a : ";
-  const auto fetch = [&](const QString& address, const auto& expectEnd) {
-    std::filesystem::remove(path);
-    ASSERT_TRUE(driver_->Choose("ScaricaInternet"));
-    auto* addresses = window_->findChild<QComboBox*>("Combo3");
-    EXPECT_EQ(addresses->count(), 2);
-    EXPECT_EQ(addresses->currentText(), "");
-    addresses->setEditText(address);
-    driver_->ExpectFile("Selezionare il file SDX di OUTPUT", PathText(path));
-    expectEnd();
-    window_->findChild<QAbstractButton*>("Scarica")->click();
-    EXPECT_TRUE(QTest::qWaitFor([this] { return driver_->Idle(); }, 5000));
-  };
-  ASSERT_TRUE(driver_->Choose("ScaricaInternet"));
-  driver_->ExpectMessage("Si deve specificare il file da scaricare");
-  window_->findChild<QAbstractButton*>("Scarica")->click();
-  const struct {
-    QByteArray answer;
-    QString told;
-  } bad[] = {{head + "  SATCODX", "  SATCODX"},
-             {head + "<html>", "<html>"},
-             {"HTTP/1.0 404 Not Found\r\n\r\nSATCODX103", "SATCODX103"},
-             {"HTTP/1.0 200 OK\r\nContent-Length: 900\r\n\r\nSATCODX103 cut", "SATCODX103 cut"}};
-  for (const auto& c : bad) {
-    const Server server(c.answer);
-    fetch(server.Address(), [&] { driver_->ExpectMessage(error + server.Address() + c.told); });
-    EXPECT_EQ(Contents(path).size(), 0U) << c.answer.toStdString();
-  }
-  fetch("ftp://127.0.0.1/x", [&] { driver_->ExpectMessage(error + "ftp://127.0.0.1/x"); });
-
-  ASSERT_TRUE(driver_->Choose("VisualizzaBouquet"));
-  const Server good(head + "SATCODX1 uno\r\nSATCODX1 due\r\nsenza fine");
-  fetch(good.Address(),
-        [&] { driver_->ExpectDialog("Opzioni importazione SDX", [](QDialog& box) { box.reject(); }); });
-  EXPECT_FALSE(Action("VisualizzaBouquet").isChecked()) << "the tree makes room for the list";
-  EXPECT_EQ(Base::AsText(Contents(path)), "SATCODX1 uno\r\n\nSATCODX1 due\r\n");
 }
 
 TEST(FileFilters, KeepCaptionsAndMatchAnyCase) {

@@ -1,12 +1,6 @@
 // Files and folders as other people name and lock them.
 #include "ui/window_fixture.h"
 
-#include <QApplication>
-#include <QFileDialog>
-#include <QLineEdit>
-#include <QListView>
-#include <QTest>
-
 #include <sys/stat.h>
 
 namespace Ui {
@@ -31,8 +25,7 @@ void ClickInList(const std::string& path) {
 }  // namespace
 
 TEST_F(Window, NamesOfAnyKindAreOpenedSavedAndShown) {
-  Start();
-  ASSERT_TRUE(window_->Start());
+  StartEmpty();
   ASSERT_TRUE(driver_->Pick("FlashScrittura_1"));
   const std::string place = folder_.Path("Citt\xC3\xA0 \xE2\x98\x82 'x' [*]");
   std::filesystem::create_directory(place);
@@ -48,8 +41,7 @@ TEST_F(Window, NamesOfAnyKindAreOpenedSavedAndShown) {
     driver_->ExpectDialog(InputDialog, [](QDialog& box) { box.accept(); });
     ASSERT_TRUE(driver_->Choose("ApriFlashInput"));
     EXPECT_EQ(List().InputFlash, path);
-    driver_->SelectRows(1, 1);
-    ASSERT_TRUE(driver_->Press("Toolbar1_Delete"));
+    Delete(1, 1);
     driver_->ExpectDialog(OutputDialog, [](QDialog& box) { box.accept(); });
     Summary(*driver_, 2, 646, true);
     ASSERT_TRUE(driver_->Choose("ApriFlashOutput"));
@@ -62,25 +54,19 @@ TEST_F(Window, NamesOfAnyKindAreOpenedSavedAndShown) {
 TEST_F(Window, AFolderThatVanishesBehindTheDialogLosesNothing) {
   OpenDemo();
   const std::string place = folder_.Path("chiavetta");
-  const auto plugIn = [&] {
+  const auto chooseAndUnplug = [&](const char* name) {
     std::filesystem::create_directory(place);
     std::filesystem::copy(flash_, place + "/a.dat");
-  };
-  const auto chooseAndUnplug = [&](const char* name) {
     return [&place, name](QDialog& box) {
       box.findChild<QLineEdit*>("fileNameEdit")->setText(PathText(place + "/" + name));
       box.accept();
       std::filesystem::remove_all(place);
     };
   };
-  driver_->SelectRows(1, 2);
-  ASSERT_TRUE(driver_->Press("Toolbar1_Delete"));
+  Delete(1, 2);
   const Routines::State before = List();
-  plugIn();
   driver_->ExpectDialog(OutputDialog, chooseAndUnplug("a.dat"));
-  driver_->ExpectMessage("Dimensione FLASH selezionata errata 0", "Errore FLASH di Output");
-  ASSERT_TRUE(driver_->Choose("ApriFlashOutput"));
-  plugIn();
+  Tells("ApriFlashOutput", "Dimensione FLASH selezionata errata 0", "Errore FLASH di Output");
   driver_->ExpectDialog("Selezionare il file di output", chooseAndUnplug("lista.txt"));
   ASSERT_TRUE(driver_->Choose("FormatoTesto"));
   EXPECT_EQ(Said(), "Impossibile scrivere lista.txt: il file o la cartella non esiste");
@@ -93,15 +79,10 @@ TEST_F(Window, WhatIsWrittenOverByAnotherNameIsSavedNoLonger) {
   const std::string image = folder_.Write("a.dat", Contents(flash_));
   const std::string link = folder_.Path("b.dat");
   std::filesystem::create_symlink("a.dat", link);
-  driver_->SelectRows(1, 3);
-  ASSERT_TRUE(driver_->Press("Toolbar1_Delete"));
-  driver_->ExpectFile(OutputDialog, PathText(image));
-  Summary(*driver_, 2, 644, true);
-  ASSERT_TRUE(driver_->Choose("ApriFlashOutput"));
+  Delete(1, 3);
+  SaveAs(image, 644);
   Open(flash_);
-  driver_->ExpectFile(OutputDialog, PathText(link));
-  Summary(*driver_, 2, 647, true);
-  ASSERT_TRUE(driver_->Choose("ApriFlashOutput"));
+  SaveAs(link, 647);
   EXPECT_EQ(driver_->TextOf("ModificheNonSalvate"), "");
   ASSERT_TRUE(driver_->Choose("Annulla"));
   EXPECT_EQ(driver_->TextOf("ModificheNonSalvate"), "Modifiche non salvate");
@@ -114,8 +95,7 @@ TEST_F(Window, AnImageInALockedFolderIsSavedWhereItLies) {
   std::filesystem::copy(flash_, place + "/a.dat");
   ::chmod((place + "/a.dat").c_str(), 0666);
   ::chmod(place.c_str(), 0555);
-  driver_->SelectRows(1, 2);
-  ASSERT_TRUE(driver_->Press("Toolbar1_Delete"));
+  Delete(1, 2);
   driver_->ExpectFile(OutputDialog, PathText(place + "/a.dat"));
   Summary(*driver_, 2, 645, true);
   {

@@ -1,12 +1,6 @@
 // Rows that come into the SDX table from a second flash and from texts of other programs.
 #include "ui/window_fixture.h"
 
-#include <QCheckBox>
-#include <QComboBox>
-#include <QDialog>
-#include <QLabel>
-#include <QPushButton>
-
 namespace Ui {
 namespace {
 
@@ -21,13 +15,8 @@ TEST_F(Window, ASecondFlashStandsBesideTheListAndLeavesItAlone) {
   OpenDemo();
   const Routines::State before = List();
   const QString dialog = "Selezionare la flash aggiuntiva";
-  const auto refused = [&](const std::string& path, const QString& told) {
-    driver_->ExpectFile(dialog, PathText(path));
-    driver_->ExpectMessage(told, "Errore FLASH di Input");
-    ASSERT_TRUE(driver_->Choose("CaricaAggiuntiva"));
-  };
-  refused(folder_.Write("corta.dat", "abc"), "Dimensione FLASH selezionata errata 3");
-  refused(folder_.Path("manca.dat"), "Impossibile leggere manca.dat: il file o la cartella non esiste");
+  driver_->ExpectFile(dialog, PathText(folder_.Write("corta.dat", "abc")));
+  Tells("CaricaAggiuntiva", "Dimensione FLASH selezionata errata 3", "Errore FLASH di Input");
   auto* pane = window_->findChild<Griglia*>("GrigliaSDX");
   EXPECT_FALSE(pane->isVisible());
 
@@ -50,8 +39,7 @@ TEST_F(Window, AListOfAnotherProgramIsSettledOnceAndRemembered) {
   OpenDemo();
   const QString dialog = "Selezionare il file da importare";
   driver_->ExpectFile(dialog, PathText(flash_));
-  driver_->ExpectMessage("demo.dat non è un file di testo");
-  ASSERT_TRUE(driver_->Choose("Pelko"));
+  Tells("Pelko", "demo.dat non è un file di testo");
 
   const std::string path =
       folder_.Write("lista.csv", "Uno;99;11766;V;10\nDue;98;12092;H;11\nTre;97;x;H;12\n");
@@ -85,8 +73,7 @@ TEST_F(Window, AListOfAnotherProgramIsSettledOnceAndRemembered) {
   const std::string next = folder_.Write("seconda.csv", many);
   driver_->ExpectFile(dialog, PathText(next));
   driver_->ExpectDialog("Da File Pelko", ImportInto);
-  driver_->ExpectMessage("Superato il numero di canali SDX gestibili 4000");
-  ASSERT_TRUE(driver_->Choose("Pelko"));
+  Tells("Pelko", "Superato il numero di canali SDX gestibili 4000");
   EXPECT_EQ(rows->rowCount(), 4000);
   EXPECT_EQ(rows->index(0, 3).data().toString(), "32") << "as chosen for the last file";
 
@@ -99,8 +86,7 @@ TEST_F(Window, AListOfAnotherProgramIsSettledOnceAndRemembered) {
   ASSERT_TRUE(driver_->Choose("Digiquest"));
   EXPECT_EQ(rows->rowCount(), 4000) << "a cancelled import leaves the rows";
   ASSERT_TRUE(driver_->Choose("VisualizzaTransponder"));
-  driver_->ExpectMessage("Per Caricare un file SDX si deve visualizzare la griglia Canali");
-  ASSERT_TRUE(driver_->Choose("Digiquest"));
+  Tells("Digiquest", "Per Caricare un file SDX si deve visualizzare la griglia Canali");
 }
 
 }  // namespace Ui

@@ -1,8 +1,7 @@
 #include "ui/griglia.h"
 
-#include <QApplication>
-#include <QHeaderView>
-#include <QScrollBar>
+#include <QtTest>
+#include <QtWidgets>
 
 #include <gtest/gtest.h>
 

@@ -2,49 +2,28 @@
 #include "edit/list_operations.h"
 #include "ui/window_fixture.h"
 
-#include <QApplication>
-#include <QProcess>
-#include <QTest>
-
 #include <sys/stat.h>
 
 namespace Ui {
-namespace {
-
-const QString Recover = "Esistono modifiche non salvate dell' ultima sessione. Si desidera recuperarle?";
-const std::string Recovered = "Recuperate le modifiche dell'ultima sessione";
-
-}  // namespace
-
 class KeptWorkWindow : public Window {
  protected:
-  KeptWorkWindow() : file_(folder_.Path("trovalis.recupero")) {}
+  void SetUp() override { OpenDemo(); }
 
-  void StartAgain() {
-    driver_.reset();
-    window_.reset();
-    Start();
-    ASSERT_TRUE(window_->Start());
-  }
   void StartAndAnswer(bool yes) {
-    StartAgain();
-    driver_->ExpectQuestion(Recover, yes);
+    StartEmpty();
+    driver_->ExpectQuestion("Esistono modifiche non salvate dell' ultima sessione. Si desidera recuperarle?",
+                            yes);
     window_->OfferKeptWork();
     EXPECT_TRUE(driver_->Idle());
-  }
-  void DeleteFirst() {
-    driver_->SelectRows(1, 1);
-    ASSERT_TRUE(driver_->Press("Toolbar1_Delete"));
   }
   [[nodiscard]] bool FileIs(bool there) const {
     return QTest::qWaitFor([&] { return std::filesystem::exists(file_) == there; }, 3000);
   }
 
-  std::string file_;
+  std::string file_ = folder_.Path("trovalis.recupero");
 };
 
 TEST_F(KeptWorkWindow, ClosingAsksNothingAndTheNextStartGoesOn) {
-  OpenDemo();
   EXPECT_TRUE(window_->close());
   EXPECT_FALSE(std::filesystem::exists(file_)) << "nothing was changed";
   window_->show();
@@ -58,7 +37,7 @@ TEST_F(KeptWorkWindow, ClosingAsksNothingAndTheNextStartGoesOn) {
   const Routines::State before = List();
 
   StartAndAnswer(true);
-  EXPECT_EQ(Said(), Recovered);
+  EXPECT_EQ(Said(), "Recuperate le modifiche dell'ultima sessione");
   Routines::State after = List();
   after.ListNumber = before.ListNumber;
   EXPECT_TRUE(after == before);
@@ -67,27 +46,19 @@ TEST_F(KeptWorkWindow, ClosingAsksNothingAndTheNextStartGoesOn) {
   EXPECT_EQ(driver_->TextOf("CanaliCopiati"), "Appunti 3");
   EXPECT_TRUE(std::filesystem::exists(file_)) << "until it is saved";
 
-  driver_->ExpectFile(OutputDialog, PathText(flash_));
-  Summary(*driver_, 2, 644, true);
-  ASSERT_TRUE(driver_->Choose("ApriFlashOutput")) << "the options have come back too";
+  SaveAs(flash_, 644);  // the options have come back too
   QTest::qWait(1500);
   EXPECT_TRUE(std::filesystem::exists(file_)) << "the cut channels are in no list";
-  driver_->ExpectLine("Inserire il numero di canale da cui inserire", "10");
-  driver_->ExpectQuestion(
-      "Sposto o sovrascrivo i canali a partire dal 10 per 3 Canali?\nRispondere SI per spostare NO per "
-      "sovrascrivere",
-      true);
-  ASSERT_TRUE(driver_->Press("Toolbar1_Paste"));
+  Paste(10, 3);
   Summary(*driver_, 2, 647, true);
   ASSERT_TRUE(driver_->Choose("Salva"));
   EXPECT_TRUE(FileIs(false));
-  StartAgain();
+  StartEmpty();
   window_->OfferKeptWork();
 }
 
 TEST_F(KeptWorkWindow, ARefusedOrDamagedOrReplacedFileIsSetAside) {
-  OpenDemo();
-  DeleteFirst();
+  Delete(1, 1);
   EXPECT_TRUE(window_->close());
   const Base::Bytes kept = Contents(file_);
   StartAndAnswer(false);
@@ -117,73 +88,65 @@ TEST_F(KeptWorkWindow, ARefusedOrDamagedOrReplacedFileIsSetAside) {
 }
 
 TEST_F(KeptWorkWindow, AnImportLeavesTheUnsavedListBeforeIt) {
-  OpenDemo();
   const std::string text = folder_.Path("lista.txt");
-  driver_->ExpectFile("Selezionare il file di output", PathText(text));
-  ASSERT_TRUE(driver_->Choose("FormatoTesto"));
-  DeleteFirst();
+  Export("FormatoTesto", text);
+  Delete(1, 1);
   ASSERT_TRUE(FileIs(true));
   const Base::Bytes kept = Contents(file_);
   driver_->ExpectFile("Selezionare il file di testo contenente i CANALI e i TRANSPONDERS", PathText(text));
   ASSERT_TRUE(driver_->Choose("DaEsportatoTesto"));
   EXPECT_TRUE(window_->close());
-  ASSERT_TRUE(std::filesystem::exists(file_ + ".old"));
   EXPECT_EQ(Contents(file_ + ".old"), kept);
   EXPECT_NE(Contents(file_), kept);
 }
 
 TEST_F(KeptWorkWindow, TwoProgramsHaveAFileEach) {
-  OpenDemo();
-  DeleteFirst();
+  Delete(1, 1);
   ASSERT_TRUE(FileIs(true));
   const Base::Bytes kept = Contents(file_);
   const std::unique_ptr<CopiaTCSTPT> first = std::move(window_);
-  StartAgain();
+  StartEmpty();
   window_->OfferKeptWork();
   Open(flash_);
-  driver_->SelectRows(1, 20);
-  ASSERT_TRUE(driver_->Press("Toolbar1_Delete"));
+  Delete(1, 20);
   EXPECT_TRUE(window_->close());
   EXPECT_EQ(Contents(file_), kept);
   EXPECT_TRUE(std::filesystem::exists(folder_.Path("trovalis-2.recupero")));
 }
 
 TEST_F(KeptWorkWindow, WhatCannotBeKeptIsToldAndAskedAboutOnlyAtTheEnd) {
-  OpenDemo();
   std::filesystem::create_directory(folder_.Path("altrove"));
   {
     ::chmod(folder_.Path().c_str(), 0555);
     const Tests::OrdinaryUser user;
-    DeleteFirst();
+    Delete(1, 1);
     const std::string told =
         "Modifiche non conservate per il recupero: Impossibile scrivere trovalis.recupero: ";
     EXPECT_TRUE(QTest::qWaitFor([&] { return Said() == told + "permesso negato"; }, 3000)) << Said();
-    DeleteFirst();
+    Delete(1, 1);
     EXPECT_EQ(driver_->TextOf("ModificheNonSalvate"), "Modifiche non salvate né conservate")
         << "as long as it lasts";
-    const QString question =
+    driver_->ExpectQuestion(
         "Impossibile scrivere trovalis.recupero: permesso negato\n\nLe modifiche non salvate andrebbero "
         "perse. Si "
-        "desidera chiudere?";
-    driver_->ExpectQuestion(question, false);
+        "desidera chiudere?",
+        false);
     EXPECT_FALSE(window_->close());
     driver_->ExpectDialog("Trovalis", [](QDialog& box) { QTest::keyClick(&box, Qt::Key_Return); });
     EXPECT_FALSE(window_->close()) << "Enter loses nothing";
   }
   ::chmod(folder_.Path().c_str(), 0777);
-  DeleteFirst();
+  Delete(1, 1);
   EXPECT_TRUE(FileIs(true)) << "the next change tries again";
   EXPECT_TRUE(
       QTest::qWaitFor([&] { return driver_->TextOf("ModificheNonSalvate") == "Modifiche non salvate"; }));
 }
 
 TEST_F(KeptWorkWindow, AMalformedSrIniEndsTheProgramWithTheWorkKept) {
-  OpenDemo();
-  DeleteFirst();
+  Delete(1, 1);
   const std::string rates(Base::AsText(Contents(folder_.Path("SR.INI"))));
   folder_.Write("SR.INI", "[INPUT]\nventidue\n");
-  driver_->ExpectMessage("Formato invalido del file SR.INI - Correggere e rilanciare");
-  ASSERT_TRUE(driver_->Choose("ApriFlashOutput"));
+  Tells("ApriFlashOutput", "Formato invalido del file SR.INI - Correggere e rilanciare");
   EXPECT_FALSE(window_->isVisible());
   EXPECT_TRUE(std::filesystem::exists(file_));
   folder_.Write("SR.INI", rates);
@@ -192,7 +155,6 @@ TEST_F(KeptWorkWindow, AMalformedSrIniEndsTheProgramWithTheWorkKept) {
 }
 
 TEST_F(KeptWorkWindow, AProgramKilledWhileItEditsLosesLessThanTwoSeconds) {
-  OpenDemo();
   Routines::State expected = List();
   QProcess program;
   program.start(EDIT_UNTIL_KILLED, {PathText(folder_.Path()), PathText(flash_)});

@@ -2,17 +2,7 @@
 #include "ui/readable_style.h"
 #include "ui/window_fixture.h"
 
-#include <QCheckBox>
-#include <QDialog>
-#include <QLabel>
-#include <QLineEdit>
-#include <QPushButton>
-#include <QScreen>
-#include <QTest>
-#include <QToolButton>
-
 namespace Ui {
-namespace {
 
 // The letters of the whole program, and its colours, until the end of a test.
 class Looks : public Window {
@@ -21,12 +11,6 @@ class Looks : public Window {
     window_.reset();
     QApplication::setFont(font_);
     QApplication::setPalette(QPalette());
-  }
-
-  static void EnlargeLetters() {
-    QFont large = QApplication::font();
-    large.setPointSize(16);
-    QApplication::setFont(large);
   }
 
   // In the room that the window gives it, or that can be scrolled to.
@@ -57,21 +41,16 @@ class Looks : public Window {
   QFont font_ = QApplication::font();
 };
 
-}  // namespace
-
 TEST_F(Looks, NothingIsCutWithLargeLetters) {
-  EnlargeLetters();
+  QFont large = QApplication::font();
+  large.setPointSize(16);
+  QApplication::setFont(large);
   OpenDemo();
   QTest::qWait(50);
   ExpectRoom(*window_);
   driver_->SelectRows(34, 35);
   driver_->Press("Toolbar1_Copy");
-  driver_->ExpectLine("Inserire il numero di canale da cui inserire", "60");
-  driver_->ExpectQuestion(
-      "Sposto o sovrascrivo i canali a partire dal 60 per 2 Canali?\nRispondere SI per spostare NO per "
-      "sovrascrivere",
-      true);
-  driver_->Press("Toolbar1_Paste");
+  Paste(60, 2);
   for (const auto& [command, name] :
        {std::pair{"CanaliDoppi", "FinestraCanaliDoppi"}, std::pair{"ConfrontaDisco", "FinestraConfronto"},
         std::pair{"VisualizzaPreferiti", "ListePreferiti"}, std::pair{"Riepilogo", "FinestraRiepilogo"},

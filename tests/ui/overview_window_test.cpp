@@ -1,21 +1,8 @@
 // The first minutes, the overview and lists for spreadsheets.
-#include "support/pos_ini.h"
 #include "ui/program_folder.h"
 #include "ui/window_fixture.h"
 
-#include <QAbstractButton>
-#include <QDialog>
-#include <QDropEvent>
-#include <QGroupBox>
-#include <QLineEdit>
-#include <QMenu>
-#include <QMimeData>
-#include <QPushButton>
-#include <QTest>
-#include <QTreeWidget>
-
 namespace Ui {
-namespace {
 
 class Overview : public Window {
  protected:
@@ -29,17 +16,13 @@ class Overview : public Window {
     QTest::qWait(1);
     EXPECT_TRUE(QTest::qWaitFor([this] { return driver_->Idle(); }, 5000));
   }
-  void Drop(const std::string& path) { Drop({QUrl::fromLocalFile(PathText(path))}); }
   [[nodiscard]] bool StandsOut(const char* group) const {
     return !window_->findChild<QGroupBox*>(group)->accessibleDescription().isEmpty();
   }
 };
 
-}  // namespace
-
 TEST_F(Overview, TheStartPageLeadsToTheFirstListAndTicksItsSteps) {
-  Start();
-  ASSERT_TRUE(window_->Start());
+  StartEmpty();
   EXPECT_TRUE(window_->findChild<QWidget*>("Inizio")->isVisible());
   EXPECT_FALSE(window_->findChild<QMenu*>("FileRecenti")->isEnabled());
   driver_->ExpectMessage("Si deve selezionare il numero di canali da visualizzare");
@@ -52,8 +35,7 @@ TEST_F(Overview, TheStartPageLeadsToTheFirstListAndTicksItsSteps) {
   driver_->ExpectFile(InputDialog, PathText(flash_));
   window_->findChild<QPushButton*>("InizioApri")->click();
   EXPECT_EQ(driver_->TextOf("Text1"), "Canali");
-  driver_->ExpectMessage("Si deve selezionare il tipo di FLASH da registrare");
-  ASSERT_TRUE(driver_->Choose("ApriFlashOutput"));
+  Tells("ApriFlashOutput", "Si deve selezionare il tipo di FLASH da registrare");
   EXPECT_TRUE(StandsOut("FlashScrittura"));
   ASSERT_TRUE(driver_->Choose("Annulla"));
   EXPECT_TRUE(window_->findChild<QWidget*>("InizioRecente_1")->isVisible());
@@ -81,6 +63,9 @@ TEST_F(Overview, AFirstSessionMovesAChannelOfTheDemoAndSavesIt) {
   EXPECT_EQ(Said(), "Scritta demo.dat");
   EXPECT_NE(Contents(home + "/demo.dat"), Contents(flash_));
   EXPECT_EQ(Contents(home + "/demo.dat.bak"), Contents(flash_));
+  std::filesystem::remove(home + "/demo.dat");
+  FillProgramFolder(folder_.Path(), home);
+  EXPECT_FALSE(std::filesystem::exists(home + "/demo.dat")) << "deleted once, it stays away";
 }
 
 TEST_F(Overview, RecentFilesAreTheLastEightAndVanishedOnesGo) {
@@ -89,54 +74,44 @@ TEST_F(Overview, RecentFilesAreTheLastEightAndVanishedOnesGo) {
     copies.push_back(folder_.Write("a&b, " + std::to_string(i) + ".dat", Contents(flash_)));
   OpenDemo();
   for (const std::string& copy : copies) Open(copy);
-  Start();
-  ASSERT_TRUE(window_->Start());
+  StartEmpty();
   EXPECT_TRUE(Action("FileRecenti_8").isVisible());
   EXPECT_EQ(Action("FileRecenti_8").statusTip(), PathText(copies[1]));
   EXPECT_TRUE(Action("FileRecenti_1").text().endsWith("a&&b, 8.dat"));
-  driver_->ExpectMessage("Si deve selezionare il numero di canali da visualizzare");
-  ASSERT_TRUE(driver_->Choose("FileRecenti_8"));
+  Tells("FileRecenti_8", "Si deve selezionare il numero di canali da visualizzare");
   ASSERT_TRUE(driver_->Pick("QuantiCanali_2"));
   ASSERT_TRUE(driver_->Choose("FileRecenti_8"));
   EXPECT_EQ(List().InputFlash, copies[1]);
   EXPECT_EQ(Action("FileRecenti_1").statusTip(), PathText(copies[1]));
   std::filesystem::remove(copies[8]);
-  driver_->ExpectMessage("Flash non trovata: " + PathText(copies[8]) + "\nViene tolta dai file recenti");
-  ASSERT_TRUE(driver_->Choose("FileRecenti_2"));
+  Tells("FileRecenti_2", "Flash non trovata: " + PathText(copies[8]) + "\nViene tolta dai file recenti");
   EXPECT_FALSE(Action("FileRecenti_8").isVisible());
 }
 
 TEST_F(Overview, DroppedFilesOpenLikeTheirCommandsOrSayWhyNot) {
   OpenDemo();
-  const Routines::State before = List();
   const std::string text = folder_.Path("lista.TXT");
-  driver_->ExpectFile("Selezionare il file di output", PathText(text));
-  ASSERT_TRUE(driver_->Choose("FormatoTesto"));
+  Export("FormatoTesto", text);
   const std::string raw = folder_.Path("lista.fls");
-  driver_->ExpectFile("Selezionare il file di output", PathText(raw));
-  ASSERT_TRUE(driver_->Choose("FormatoFLASH"));
-  Drop(text);
-  EXPECT_EQ(Said(), "lista.TXT: importati 620 canali");
-  Drop(raw);
-  EXPECT_EQ(Said(), "lista.fls: importati 620 canali");
-  EXPECT_FALSE(window_->findChild<QMenu*>("FileRecenti")->isEnabled());
-  Drop(flash_);
-  EXPECT_EQ(Said(), "Non disponibile dopo l'importazione da formato FLASH: Annulla la toglie");
-  Drop(folder_.Path("SR.INI"));
-  EXPECT_EQ(Said(), "Non aperto: SR.INI non è un file .dat, .sdx, .txt o .fls");
+  Export("FormatoFLASH", raw);
   std::filesystem::create_directory(folder_.Path("cartella.dat"));
-  Drop(folder_.Path("cartella.dat"));
-  EXPECT_EQ(Said(), "Non aperto: cartella.dat è una cartella");
-  Drop({QUrl("http://127.0.0.1/lista.dat")});
-  EXPECT_EQ(Said(), "Non aperto: lista.dat non è su questo computer");
-  Drop({QUrl::fromLocalFile(PathText(raw)), QUrl::fromLocalFile(PathText(text))});
-  EXPECT_EQ(Said(), "Non aperti: si trascina un file alla volta");
+  const auto file = [](const std::string& path) { return QUrl::fromLocalFile(PathText(path)); };
+  const std::pair<QList<QUrl>, const char*> drops[] = {
+      {{file(text)}, "lista.TXT: importati 620 canali"},
+      {{file(raw)}, "lista.fls: importati 620 canali"},
+      {{file(flash_)}, "Non disponibile dopo l'importazione da formato FLASH: Annulla la toglie"},
+      {{file(folder_.Path("SR.INI"))}, "Non aperto: SR.INI non è un file .dat, .sdx, .txt o .fls"},
+      {{file(folder_.Path("cartella.dat"))}, "Non aperto: cartella.dat è una cartella"},
+      {{QUrl("http://127.0.0.1/lista.dat")}, "Non aperto: lista.dat non è su questo computer"},
+      {{file(raw), file(text)}, "Non aperti: si trascina un file alla volta"}};
+  for (const auto& [files, told] : drops) {
+    Drop(files);
+    EXPECT_EQ(Said(), told);
+    EXPECT_EQ(window_->findChild<QMenu*>("FileRecenti")->isEnabled(), !List().FromFls) << told;
+  }
 }
 
 TEST_F(Overview, TheRiepilogoFollowsTheListAndLeadsToItsRows) {
-  Start();
-  driver_->ExpectMessage(NoFlash);
-  ASSERT_TRUE(driver_->Choose("Riepilogo"));
   OpenDemo();
   ASSERT_TRUE(driver_->Choose("Riepilogo"));
   auto* shown = window_->findChild<QDialog*>("FinestraRiepilogo");
@@ -160,8 +135,7 @@ TEST_F(Overview, TheRiepilogoFollowsTheListAndLeadsToItsRows) {
   EXPECT_EQ(driver_->TextOf("FiltroTrovati"), "123 trovati");
   Action("CercaSuccessivo").trigger();
   EXPECT_GT(driver_->Grid().Selected()->first, first);
-  driver_->SelectRows(first, first);
-  ASSERT_TRUE(driver_->Press("Toolbar1_Delete"));
+  Delete(first, first);
   EXPECT_EQ(driver_->TextOf("FiltroTrovati"), "122 trovati") << "the marks follow the list";
   EXPECT_EQ(line("Radio")->text(2), "122");
 
@@ -177,24 +151,6 @@ TEST_F(Overview, TheRiepilogoFollowsTheListAndLeadsToItsRows) {
   while (Action("Annulla").isEnabled()) Action("Annulla").trigger();
   EXPECT_EQ(tree->topLevelItemCount(), 0);
   EXPECT_EQ(driver_->TextOf("RiepilogoTotali"), "Nessuna flash caricata");
-}
-
-TEST_F(Overview, EveryCommandSaysWhatItDoesAndTheAboutBoxOpensTheGuide) {
-  OpenDemo();
-  for (const QAction* action : window_->findChildren<QAction*>()) {
-    const QString name = action->objectName();
-    if (name.isEmpty() || name.startsWith("_q_") || name.startsWith("FileRecenti_")) continue;
-    EXPECT_FALSE(action->toolTip().isEmpty()) << name.toStdString();
-    EXPECT_FALSE(action->statusTip().isEmpty()) << name.toStdString();
-  }
-  for (const QAbstractButton* button : window_->findChildren<QAbstractButton*>()) {
-    const QString name = button->objectName();
-    if (name.isEmpty() || name.startsWith("qt_") || button->text() == "Chiudi") continue;
-    EXPECT_FALSE(button->toolTip().isEmpty()) << name.toStdString();
-  }
-  driver_->ExpectDialog("About", [](QDialog& box) { box.findChild<QPushButton*>("ApriGuida")->click(); });
-  ASSERT_TRUE(driver_->Choose("About"));
-  EXPECT_NE(window_->findChild<QDialog*>("FinestraGuida"), nullptr);
 }
 
 TEST_F(Overview, SpreadsheetsGetTheListShownOrItsSelectedRows) {
@@ -219,21 +175,6 @@ TEST_F(Overview, SpreadsheetsGetTheListShownOrItsSelectedRows) {
   ASSERT_TRUE(driver_->Choose("FormatoCSV"));
   ASSERT_TRUE(driver_->Choose("VisualizzaTransponder"));
   EXPECT_EQ(lines(), 87);
-}
-
-TEST(ProgramFolderTest, StartsWithTheDemoAndKeepsWhatTheUserChanged) {
-  const Tests::TestFolder folder;
-  const std::string shipped = folder.Path("shipped");
-  std::filesystem::create_directory(shipped);
-  for (const char* name : {"SR.INI", "demo.dat"})
-    folder.Write(std::string("shipped/") + name, std::string("uno"));
-  const std::string own = folder.Path("own");
-  FillProgramFolder(shipped, own);
-  EXPECT_TRUE(std::filesystem::exists(own + "/demo.dat"));
-  EXPECT_EQ(Support::RememberedFolder(own, Support::FolderKind::Input), own);
-  std::filesystem::remove(own + "/demo.dat");
-  FillProgramFolder(shipped, own);
-  EXPECT_FALSE(std::filesystem::exists(own + "/demo.dat")) << "deleted once, it stays away";
 }
 
 }  // namespace Ui

@@ -2,27 +2,17 @@
 #include "model/favourites.h"
 #include "ui/window_fixture.h"
 
-#include <QCheckBox>
-#include <QDialog>
-#include <QPushButton>
-#include <QTest>
-#include <QTreeWidget>
-
 namespace Ui {
-namespace {
 
 class Duplicates : public Window {
  protected:
-  // Copies of three channels stand in slots 20 to 22.
+  // Copies of three channels stand in slots 20 to 22, from slot `first` on or from the first favourite's.
   void OpenWithCopies(int first = 2) {
+    OpenDemo();
+    if (first == 0) first = Routines::FavouriteEntriesOf(List().FavouritesBlock, 0).front();
     driver_->SelectRows(first, first + 2);
     ASSERT_TRUE(driver_->Press("Toolbar1_Copy"));
-    driver_->ExpectLine("Inserire il numero di canale da cui inserire", "20");
-    driver_->ExpectQuestion(
-        "Sposto o sovrascrivo i canali a partire dal 20 per 3 Canali?\n"
-        "Rispondere SI per spostare NO per sovrascrivere",
-        true);
-    ASSERT_TRUE(driver_->Press("Toolbar1_Paste"));
+    Paste(20, 3);
     ASSERT_TRUE(driver_->Choose("CanaliDoppi"));
     found_ = window_->findChild<QDialog*>("FinestraCanaliDoppi");
     ASSERT_NE(found_, nullptr);
@@ -41,10 +31,7 @@ class Duplicates : public Window {
   QTreeWidget* tree_ = nullptr;
 };
 
-}  // namespace
-
 TEST_F(Duplicates, TheGroupsFollowEveryChangeAndTicksTheirChannels) {
-  OpenDemo();
   OpenWithCopies();
   EXPECT_EQ(Counts(), "3 gruppi, 6 canali, 0 scelti");
   EXPECT_FALSE(found_->findChild<QPushButton*>("EliminaScelti")->isEnabled());
@@ -53,8 +40,7 @@ TEST_F(Duplicates, TheGroupsFollowEveryChangeAndTicksTheirChannels) {
   EXPECT_EQ(Row(0, 1).checkState(0), Qt::Checked);
   EXPECT_EQ(Counts(), "3 gruppi, 6 canali, 1 scelto");
 
-  driver_->SelectRows(10, 10);
-  ASSERT_TRUE(driver_->Press("Toolbar1_Delete"));
+  Delete(10, 10);
   EXPECT_EQ(Row(0, 1).text(0), "0019") << "a channel before it went away";
   EXPECT_EQ(Row(0, 1).checkState(0), Qt::Checked);
   const auto channels = List().ChannelTable;
@@ -70,8 +56,7 @@ TEST_F(Duplicates, TheGroupsFollowEveryChangeAndTicksTheirChannels) {
   ASSERT_EQ(Row(2, 1).text(0), "0022");
   Row(2, 1).setCheckState(0, Qt::Checked);
   tree_->setCurrentItem(&Row(2, 1));
-  driver_->SelectRows(2, 2);
-  ASSERT_TRUE(driver_->Press("Toolbar1_Delete"));
+  Delete(2, 2);
   EXPECT_EQ(Counts(), "2 gruppi, 4 canali, 1 scelto") << "another group went away";
   EXPECT_EQ(Row(1, 1).checkState(0), Qt::Checked);
   EXPECT_EQ(tree_->currentItem(), &Row(1, 1));
@@ -82,8 +67,7 @@ TEST_F(Duplicates, TheGroupsFollowEveryChangeAndTicksTheirChannels) {
 }
 
 TEST_F(Duplicates, AllButTheFirstGoInOneStepAndFavouritesAreTold) {
-  OpenDemo();
-  OpenWithCopies(Routines::FavouriteEntriesOf(List().FavouritesBlock, 0).front());
+  OpenWithCopies(0);
   const Routines::State before = List();
   for (const char* rule : {"StessoServizio", "StessiPID"}) found_->findChild<QCheckBox*>(rule)->click();
   EXPECT_EQ(Counts(), "Nessun canale doppio");
@@ -103,12 +87,9 @@ TEST_F(Duplicates, AllButTheFirstGoInOneStepAndFavouritesAreTold) {
 }
 
 TEST_F(Duplicates, ARowLeadsToItsChannelFromAnyView) {
-  OpenDemo();
   OpenWithCopies();
   ASSERT_TRUE(driver_->Choose("VisualizzaTransponder"));
-  const QRect place = tree_->visualItemRect(&Row(2, 1));
-  QTest::mouseClick(tree_->viewport(), Qt::LeftButton, {}, place.center());
-  QTest::mouseDClick(tree_->viewport(), Qt::LeftButton, {}, place.center());
+  Window::Click(*tree_, tree_->indexFromItem(&Row(2, 1)), true);
   EXPECT_EQ(driver_->TextOf("Text1"), "Canali");
   EXPECT_EQ(driver_->Grid().Selected()->first, 22);
   EXPECT_TRUE(driver_->Grid().viewport()->rect().intersects(
@@ -120,34 +101,12 @@ TEST_F(Duplicates, ARowLeadsToItsChannelFromAnyView) {
 }
 
 TEST_F(Window, NothingTwiceIsAMessageAndNamesAreAChoice) {
-  Start();
-  for (const char* command : {"CanaliDoppi", "SpostaRadio"}) {
-    driver_->ExpectMessage(NoFlash);
-    ASSERT_TRUE(driver_->Choose(command));
-  }
-  ASSERT_TRUE(window_->Start());
-  Open(flash_);
+  OpenDemo();
   driver_->ExpectQuestion("Nessun canale doppio\nCercare anche i canali con lo stesso nome?", false);
   ASSERT_TRUE(driver_->Choose("CanaliDoppi"));
   EXPECT_EQ(window_->findChild<QDialog*>("FinestraCanaliDoppi"), nullptr);
-  driver_->ExpectMessage("Sono stati azzerati 647 Canali");
-  ASSERT_TRUE(driver_->Choose("Azzera"));
-  driver_->ExpectMessage("Nessun canale doppio");
-  ASSERT_TRUE(driver_->Choose("CanaliDoppi"));
-}
-
-TEST_F(Window, RegroupingTellsHowManyOfEach) {
-  OpenDemo();
-  const Routines::State before = List();
-  const QString from =
-      "Inserire il canale dal quale iniziare il raggruppamento; I canali precedenti manterranno la "
-      "numerazione";
-  driver_->ExpectLine(from, "7");
-  driver_->ExpectMessage("Dal canale 7, nell'ordine:\nCanali TV: 461\nCanali radio: 123\nServizi: 30");
-  ASSERT_TRUE(driver_->Choose("SpostaRadio"));
-  EXPECT_EQ(Said(), "Canali raggruppati dal 7: TV 461, radio 123, servizi 30");
-  ASSERT_TRUE(driver_->Choose("Annulla"));
-  EXPECT_TRUE(List() == before);
+  Tells("Azzera", "Sono stati azzerati 647 Canali");
+  Tells("CanaliDoppi", "Nessun canale doppio");
 }
 
 }  // namespace Ui

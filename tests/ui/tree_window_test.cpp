@@ -3,13 +3,6 @@
 #include "ui/tree_model.h"
 #include "ui/window_fixture.h"
 
-#include <QAbstractItemModelTester>
-#include <QScrollBar>
-#include <QSignalSpy>
-#include <QTest>
-#include <QToolButton>
-#include <QTreeView>
-
 #include <random>
 
 namespace Ui {
@@ -100,7 +93,7 @@ class Trees : public Window {
   static void Click(QTreeView& tree, const QModelIndex& index) {
     QTest::qWait(20);  // a tree that has just been shown has not got its place yet
     tree.scrollTo(index);
-    QTest::mouseClick(tree.viewport(), Qt::LeftButton, {}, tree.visualRect(index).center());
+    Window::Click(tree, index);
   }
 
   QTreeView* bouquets_ = nullptr;
@@ -129,8 +122,7 @@ TEST_F(Trees, ShareTheirPlaceWithTheSdxPane) {
 
   window_->findChild<QToolButton*>("ChiudiTreeView1")->click();
   EXPECT_EQ(Beside(), "");
-  Start();
-  ASSERT_TRUE(window_->Start());
+  StartEmpty();
   driver_->ExpectMessage(NoFlash);
   EXPECT_EQ(after("VisualizzaBouquet"), "");
   after("VediSDX");
@@ -167,8 +159,7 @@ TEST_F(Trees, AndTheGridFollowEachOther) {
   EXPECT_EQ(bouquets_->verticalScrollBar()->value(), scrolled);
   EXPECT_TRUE(bouquets_->isExpanded(node.parent()));
 
-  driver_->SelectRows(646, 646);
-  ASSERT_TRUE(driver_->Press("Toolbar1_Delete"));
+  Delete(646, 646);
   EXPECT_EQ(Current(*bouquets_), "") << "no channel comes in the place of the last one";
   ASSERT_TRUE(driver_->Choose("Annulla"));
   EXPECT_EQ(Current(*bouquets_), "0646 " + driver_->Cell(646, 1).toStdString());

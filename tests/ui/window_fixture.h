@@ -7,7 +7,8 @@
 #include "ui/qt_dialogs.h"
 #include "window_driver.h"
 
-#include <QAction>
+#include <QtTest>
+#include <QtWidgets>
 
 #include <gtest/gtest.h>
 
@@ -19,6 +20,9 @@ using Tests::Contents;
 
 inline const QString InputDialog = "Selezionare la flash di input";
 inline const QString OutputDialog = "Selezionare la flash di output";
+inline const QString HowToPaste =
+    "Sposto o sovrascrivo i canali a partire dal %1 per %2 Canali?\nRispondere SI per spostare NO per "
+    "sovrascrivere";
 inline const QString NoFlash = "Si deve caricare prima una FLASH di input";
 
 class Window : public testing::Test {
@@ -54,6 +58,47 @@ class Window : public testing::Test {
     ASSERT_TRUE(window_->Start());
     Open(flash_);
     ASSERT_TRUE(driver_->Pick("FlashScrittura_1"));
+  }
+
+  void StartEmpty() {
+    Start();
+    ASSERT_TRUE(window_->Start());
+  }
+
+  // Of menus and toolbar alike, answered with a message.
+  void Tells(const char* command, const QString& message, const QString& title = "Trovalis") {
+    driver_->ExpectMessage(message, title);
+    const bool button = std::string_view(command).starts_with("Toolbar1_");
+    ASSERT_TRUE(button ? driver_->Press(command) : driver_->Choose(command)) << command;
+  }
+
+  static void Click(QAbstractItemView& view, const QModelIndex& index, bool twice = false) {
+    const QPoint place = view.visualRect(index).center();
+    QTest::mouseClick(view.viewport(), Qt::LeftButton, {}, place);
+    if (twice) QTest::mouseDClick(view.viewport(), Qt::LeftButton, {}, place);
+  }
+
+  void Delete(int from, int to) {
+    driver_->SelectRows(from, to);
+    ASSERT_TRUE(driver_->Press("Toolbar1_Delete"));
+  }
+
+  // In front of the channel that is there.
+  void Paste(int at, int channels) {
+    driver_->ExpectLine("Inserire il numero di canale da cui inserire", QString::number(at));
+    driver_->ExpectQuestion(HowToPaste.arg(at).arg(channels), true);
+    ASSERT_TRUE(driver_->Press("Toolbar1_Paste"));
+  }
+
+  void SaveAs(const std::string& path, int channels) {
+    driver_->ExpectFile(OutputDialog, PathText(path));
+    Summary(*driver_, 2, channels, true);
+    ASSERT_TRUE(driver_->Choose("ApriFlashOutput"));
+  }
+
+  void Export(const char* command, const std::string& path) {
+    driver_->ExpectFile("Selezionare il file di output", PathText(path));
+    ASSERT_TRUE(driver_->Choose(command));
   }
 
   [[nodiscard]] const Routines::State& List() const { return window_->List().Tables(); }
