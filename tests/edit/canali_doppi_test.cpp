@@ -6,7 +6,6 @@
 #include <gtest/gtest.h>
 
 namespace Edit {
-namespace {
 
 using namespace Routines;
 using namespace Samples;
@@ -81,5 +80,4 @@ TEST(CanaliDoppi, WhatIsLikeNoChannelThatStaysStays) {
   EXPECT_EQ(Surplus(state, rules, groups), (std::vector<int>{2, 5}));
 }
 
-}  // namespace
 }  // namespace Edit

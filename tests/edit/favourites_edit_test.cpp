@@ -9,7 +9,6 @@
 #include <numeric>
 
 namespace Edit {
-namespace {
 
 using namespace Routines;
 using Entries = std::vector<int>;
@@ -103,5 +102,4 @@ TEST_F(Preferiti, NamesTakeTheirEightBytes) {
   EXPECT_EQ(state_.FavouritesBlock.size(), NormalFavouritesSize);
 }
 
-}  // namespace
 }  // namespace Edit

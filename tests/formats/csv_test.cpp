@@ -7,7 +7,6 @@
 #include <memory>
 
 namespace Formats {
-namespace {
 
 TEST(Csv, FieldsStayOneTextWhateverTheyHold) {
   auto state = std::make_unique<Routines::State>();
@@ -35,5 +34,4 @@ TEST(Csv, FieldsStayOneTextWhateverTheyHold) {
             "002;11013;318;10;0;22000;3⁄4;H;Off;SAT B;\"Reti; \"\"Città\"\"\"\r\n");
 }
 
-}  // namespace
 }  // namespace Formats

@@ -169,10 +169,11 @@ TEST_F(Window, AnAddressIsFetchedOnlyWhenTheUserAsksAndIsLoadedOrToldAndLeftEmpt
       {Good + "<html>", "<html>"},
       {"HTTP/1.0 200 OK\r\nContent-Length: 900\r\n\r\nSATCODX103 cut", "SATCODX103 cut"},
       {"HTTP/1.0 404 Not Found\r\n\r\nSATCODX103", "SATCODX103"}};
-  for (const auto& [answer, told] : bad) {
-    const Server server(answer);
-    fetch(server, [&] { driver_->ExpectMessage("Errore di connessione a : " + server.Address() + told); });
-    EXPECT_EQ(Contents(path).size(), 0U) << answer.toStdString();
+  for (const auto& c : bad) {
+    const Server server(c.first);
+    fetch(server,
+          [&] { driver_->ExpectMessage("Errore di connessione a : " + server.Address() + c.second); });
+    EXPECT_EQ(Contents(path).size(), 0U) << c.first.toStdString();
   }
   EXPECT_EQ(Said(), "Scaricamento non riuscito: il server risponde 404");
 
