@@ -1,6 +1,8 @@
 // Fixed columns of text lines, counted from 1. A line may end anywhere: what lies past its end is empty.
 #pragma once
 
+#include "base/text.h"
+
 #include <algorithm>
 #include <cstddef>
 #include <cstdint>
@@ -34,6 +36,18 @@ inline void PutNumber(char* line, const Column& column, std::uint32_t value) {
   for (std::size_t digit = column.width; digit-- > 0; value /= 10) {
     field[digit] = static_cast<char>('0' + value % 10);
   }
+}
+
+// The value of the digits at the front of a column of at most nine places, blanks before them left out; 0 where there
+// are none.
+inline std::uint32_t ColumnNumber(std::string_view column) {
+  std::uint32_t value = 0;
+  for (const char character : TrimmedLeft(column)) {
+    const auto digit = static_cast<std::uint32_t>(character - '0');
+    if (digit > 9) break;
+    value = value * 10 + digit;
+  }
+  return value;
 }
 
 // The line grows as far as it must.

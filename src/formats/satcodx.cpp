@@ -1,5 +1,6 @@
 #include "formats/satcodx.h"
 
+#include "base/columns.h"
 #include "base/text.h"
 
 #include <algorithm>
@@ -21,18 +22,9 @@ constexpr const char* Absent = "65535";
 // Lines of this service id are looked up in the filter list without their audio PID.
 constexpr int SidWithoutPid = 4435;
 
-// The leading decimal digits of a column of at most six, else 0.
-int Value(std::string_view text) {
-  std::uint32_t value = 0;
-  for (const char character : Base::TrimmedLeft(text)) {
-    const auto digit = static_cast<std::uint32_t>(character - '0');
-    if (digit > 9) break;
-    value = value * 10 + digit;
-  }
-  return static_cast<int>(value);
-}
+int Value(std::string_view column) { return static_cast<int>(Base::ColumnNumber(column)); }
 
-// Those digits as a number is written, without zeros in front.
+// The digits as a number is written, without zeros in front.
 std::string_view Number(std::string_view text) {
   const std::string_view digits = Base::LeadingDigits(text);
   const std::size_t zeros = digits.find_first_not_of('0');

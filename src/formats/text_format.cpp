@@ -141,12 +141,6 @@ bool Blank(const Base::Bytes& block) {
   return std::all_of(block.begin(), block.end(), [](Base::Byte byte) { return byte == 0 || byte == ' '; });
 }
 
-std::uint32_t Value(std::string_view digits) {
-  std::uint32_t value = 0;
-  for (const char digit : digits) value = value * 10 + static_cast<std::uint32_t>(digit - '0');
-  return value;
-}
-
 // The leading digits of a column of at most five places; nothing when the number is larger than `most`.
 inline std::optional<std::uint32_t> NumberIn(std::string_view line, const Column& column,
                                              std::uint32_t most) {
@@ -160,7 +154,7 @@ inline std::optional<std::uint32_t> NumberIn(std::string_view line, const Column
       value = value * 10 + digit;
     }
   }
-  if (!whole) value = Value(Base::LeadingDigits(Cut(line, column)));
+  if (!whole) value = Base::ColumnNumber(Cut(line, column));
   return value > most ? std::nullopt : std::optional(value);
 }
 
