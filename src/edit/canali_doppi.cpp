@@ -35,13 +35,6 @@ class Groups {
   std::vector<int> parents_;
 };
 
-const TransponderRecord* TransponderOf(const State& state, const ChannelRecord& channel) {
-  const std::uint32_t number = Get(channel, ChannelField::Transponder);
-  if (number < 1 || static_cast<int>(number) > state.TransponderCount) return nullptr;
-  const TransponderRecord& record = state.TransponderTable[number].record;
-  return IsFree(record) ? nullptr : &record;
-}
-
 // SID 0 names no service. Where TID and NID are both 0 they name no transponder, and its number stands in for them.
 std::optional<std::uint64_t> ServiceKey(const TransponderRecord& transponder, const ChannelRecord& channel) {
   const std::uint64_t sid = Get(channel, ChannelField::Sid);
@@ -75,9 +68,9 @@ struct Keys {
 Keys KeysOf(const State& state, int slot, const DuplicateRules& rules) {
   Keys keys;
   const ChannelRecord& channel = state.ChannelTable[At(slot)];
-  const TransponderRecord* transponder = channel.Empty() ? nullptr : TransponderOf(state, channel);
-  if (transponder == nullptr) return keys;
-  if (rules.service) keys.service = ServiceKey(*transponder, channel);
+  const TransponderRow* transponder = TransponderInUse(state, Get(channel, ChannelField::Transponder));
+  if (channel.Empty() || transponder == nullptr) return keys;
+  if (rules.service) keys.service = ServiceKey(transponder->record, channel);
   if (rules.streams) keys.streams = StreamsKey(channel);
   if (!rules.name) return keys;
   std::string name = UpperCase(Base::Trimmed(channel.Name()));

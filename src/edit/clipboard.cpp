@@ -10,9 +10,8 @@ namespace {
 using namespace Routines;
 
 TransponderRecord TransponderOf(const State& state, const ChannelRecord& channel) {
-  const std::uint32_t number = Get(channel, ChannelField::Transponder);
-  const bool known = !channel.Empty() && number >= 1 && static_cast<int>(number) <= state.TransponderCount;
-  return known ? state.TransponderTable[number].record : TransponderRecord{};
+  const TransponderRow* known = TransponderInUse(state, Get(channel, ChannelField::Transponder));
+  return channel.Empty() || known == nullptr ? TransponderRecord{} : known->record;
 }
 
 // Links a channel to its transponder where that is another slot than the channel says: in another list, or where the

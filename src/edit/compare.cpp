@@ -341,8 +341,7 @@ std::string ServiceText(const State& state, int slot) {
 }  // namespace
 
 bool HasTransponder(const State& state, const ChannelRecord& channel) {
-  const auto number = static_cast<int>(Get(channel, ChannelField::Transponder));
-  return number >= 1 && number <= state.TransponderCount && !IsFree(TransponderOf(state, channel));
+  return TransponderInUse(state, Get(channel, ChannelField::Transponder)) != nullptr;
 }
 
 Comparison Compare(const State& here, const State& there) {

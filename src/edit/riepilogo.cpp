@@ -54,12 +54,7 @@ class Counter {
     if (Get(channel, ChannelField::Active) == 0) inactive_.push_back(slot);
     byCoding_[Get(channel, ChannelField::Flags)].push_back(slot);
     const std::uint32_t number = Get(channel, ChannelField::Transponder);
-    if (number < 1 || static_cast<int>(number) > state_.TransponderCount ||
-        IsFree(state_.TransponderTable[number].record)) {
-      lost_.push_back(slot);
-    } else {
-      onTransponder_[number].push_back(slot);
-    }
+    (TransponderInUse(state_, number) == nullptr ? lost_ : onTransponder_[number]).push_back(slot);
   }
 
   void CountTransponder(int slot) {

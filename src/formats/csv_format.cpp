@@ -81,11 +81,6 @@ std::string TransponderText(const State& state, int slot, int column) {
   return text;
 }
 
-bool InUse(const State& state, int transponder) {
-  return transponder >= 1 && transponder <= state.TransponderCount &&
-         !IsFree(state.TransponderTable[static_cast<std::size_t>(transponder)].record);
-}
-
 }  // namespace
 
 std::string WriteChannelsCsv(const State& state, int first, int last) {
@@ -99,10 +94,11 @@ std::string WriteChannelsCsv(const State& state, int first, int last) {
     fields.clear();
     for (int column = 0; column < columns; ++column)
       fields.push_back(Field(ChannelCell(state, slot, column)));
-    const int transponder = static_cast<int>(Get(channel, ChannelField::Transponder));
+    const std::uint32_t transponder = Get(channel, ChannelField::Transponder);
+    const bool known = TransponderInUse(state, transponder) != nullptr;
     for (const auto& detail : Details) {
-      fields.push_back(InUse(state, transponder) ? TransponderText(state, transponder, detail.column)
-                                                 : std::string());
+      fields.push_back(known ? TransponderText(state, static_cast<int>(transponder), detail.column)
+                             : std::string());
     }
     text += Line(fields);
   }
@@ -113,8 +109,8 @@ std::string WriteTranspondersCsv(const State& state, int first, int last) {
   std::vector<std::string> fields = Titles(TransponderHeader);
   const int columns = static_cast<int>(fields.size());
   std::string text = ByteOrderMark + Line(fields);
-  for (int slot = first; slot <= last; ++slot) {
-    if (!InUse(state, slot)) continue;
+  for (int slot = std::max(first, 1); slot <= std::min(last, state.TransponderCount); ++slot) {
+    if (TransponderInUse(state, static_cast<std::uint32_t>(slot)) == nullptr) continue;
     fields.clear();
     for (int column = 0; column < columns; ++column) fields.push_back(TransponderText(state, slot, column));
     text += Line(fields);

@@ -57,13 +57,12 @@ FlashRows ReadFlashRows(Base::ByteView image, std::string_view symbolRates, cons
     const ChannelRecord& channel = state->ChannelTable[static_cast<std::size_t>(slot)];
     if (channel.Empty()) continue;
     ++rows.table.lines;
-    const std::size_t number = Get(channel, ChannelField::Transponder);
-    if (number < 1 || static_cast<int>(number) > state->TransponderCount ||
-        IsFree(state->TransponderTable[number].record)) {
+    const TransponderRow* transponder = TransponderInUse(*state, Get(channel, ChannelField::Transponder));
+    if (transponder == nullptr) {
       ++rows.withoutTransponder;
       continue;
     }
-    rows.table.rows.push_back(RowOf(channel, state->TransponderTable[number], symbolRates));
+    rows.table.rows.push_back(RowOf(channel, *transponder, symbolRates));
   }
   return rows;
 }

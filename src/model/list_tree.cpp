@@ -76,7 +76,7 @@ ListTree::ListTree(const State& state, const std::vector<Satellite>& satellites,
   int missing = 0;
   for (int number = 0; number < static_cast<int>(counts.size()); ++number) {
     const int count = counts[static_cast<std::size_t>(number)];
-    if (number < 1 || number > state.TransponderCount || IsFree(RowOf(state, number).record)) {
+    if (TransponderInUse(state, static_cast<std::uint32_t>(number)) == nullptr) {
       missing += count;
     } else if (count > 0 || shape == Shape::Transponders) {
       transponders.push_back(number);

@@ -54,6 +54,13 @@ inline int UsedTransponders(const State& state) {
                                         [](const TransponderRow& row) { return !IsFree(row.record); }));
 }
 
+// The transponder of that number; none where it is no slot of the list, or a free one.
+inline const TransponderRow* TransponderInUse(const State& state, std::uint32_t number) {
+  if (number < 1 || static_cast<int>(number) > state.TransponderCount) return nullptr;
+  const TransponderRow& row = state.TransponderTable[number];
+  return IsFree(row.record) ? nullptr : &row;
+}
+
 // Adds to a transponder's own count of channels, which stays within 0..254. Numbers that are no slot do nothing.
 inline void AddToChannelCount(State& state, std::uint32_t transponder, int step) {
   if (transponder < 1 || transponder > LastTransponderSlot) return;
