@@ -31,10 +31,12 @@ void CheckList(std::string_view text, const ForeignLayout& layout, int satellite
           "every line is taken or dropped for a reason");
   Require((dropped == 0) == list.DropsText().empty(), "what was dropped is told");
   for (const SdxRow& row : table.rows) {
-    Require(std::none_of(row.name.begin(), row.name.end(), [](char c) { return c >= 0 && c < ' '; }) &&
-                row.name.find_first_not_of(' ') != std::string::npos,
+    const std::string_view name = row.name;
+    const std::string_view frequency = row.frequency;
+    Require(std::none_of(name.begin(), name.end(), [](char c) { return c >= 0 && c < ' '; }) &&
+                name.find_first_not_of(' ') != std::string_view::npos,
             "a row has a name that can be shown");
-    Require(row.frequency >= "010000" && row.frequency <= "014000", "a frequency of the band");
+    Require(frequency >= "010000" && frequency <= "014000", "a frequency of the band");
     Require(row.type != 'R' || row.vpid == "65535", "a radio row has no video");
   }
   CheckRowImport(table, 1 + satellite * 9);

@@ -31,7 +31,7 @@ SdxRow RowOf(const ChannelRecord& channel, const TransponderRow& transponder, st
   row.highBand = Get(record, TransponderField::HighBand) != 0;
   row.horizontal = Get(record, TransponderField::Horizontal) != 0;
   row.symbolRate = SymbolRateText(symbolRates, Get(record, TransponderField::SymbolRate));
-  if (fec < FecDigits.size()) row.fec = FecDigits[fec];
+  if (fec < FecDigits.size()) row.fec = FecDigits.substr(fec, 1);
   row.vpid = number(ChannelField::Vpid);
   row.apid = number(ChannelField::Apid);
   row.pcr = number(ChannelField::Pcr);

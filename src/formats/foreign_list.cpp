@@ -84,8 +84,7 @@ class Reader {
     if (const std::string_view text = Field(Meaning::SymbolRate); !text.empty()) {
       const auto rate = SymbolRateIn(text);
       if (!rate) return Drop::BadNumber;
-      row.symbolRate = std::to_string(*rate);
-      row.symbolRate.resize(RateWidth, '\\');
+      row.symbolRate = std::to_string(*rate) + std::string(RateWidth, '\\');
     }
     row.fec = FecDigitIn(Field(Meaning::Fec));
     return std::nullopt;

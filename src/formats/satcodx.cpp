@@ -4,6 +4,8 @@
 #include "base/text.h"
 
 #include <algorithm>
+#include <array>
+#include <cstdint>
 
 namespace Formats {
 namespace {
@@ -18,7 +20,7 @@ constexpr Column SatelliteName{11, 17}, Type{29, 1}, Format{30, 4}, Frequency{34
 }  // namespace SdxLine
 
 constexpr std::string_view NoCode = "____";
-constexpr const char* Absent = "65535";
+constexpr std::string_view Absent = "65535";
 // Lines of this service id are looked up in the filter list without their audio PID.
 constexpr int SidWithoutPid = 4435;
 
@@ -55,7 +57,13 @@ inline bool Above(std::string_view text, std::string_view limit) {
                                       [](unsigned char one, unsigned char other) { return one < other; });
 }
 
-std::string PidText(std::string_view text) { return Value(text) == 0 ? Absent : std::string(text); }
+std::string_view PidText(std::string_view text) { return Value(text) == 0 ? Absent : text; }
+
+SdxRow::Number FiveDigits(int value) {
+  std::array<char, SdxLine::Tid.width> digits;
+  Base::PutNumber(digits.data(), {1, digits.size()}, static_cast<std::uint32_t>(value));
+  return std::string_view(digits.data(), digits.size());
+}
 
 class Loader {
  public:
@@ -114,8 +122,7 @@ class Loader {
 
   void Fill(SdxRow& row, std::string_view line) const {
     const char type = Cut(line, SdxLine::Type)[0];
-    row.name.reserve(SdxLine::NameStart.width + SdxLine::NameEnd.width);
-    row.name.append(Cut(line, SdxLine::NameStart)).append(Cut(line, SdxLine::NameEnd));
+    row.name.Append(Cut(line, SdxLine::NameStart)).Append(Cut(line, SdxLine::NameEnd));
     row.type = type == 'D' ? 'S' : type;
     row.satellite = options_.satellite;
     row.frequency = Cut(line, SdxLine::Frequency);
@@ -130,9 +137,7 @@ class Loader {
     row.pcr = Number(Cut(line, SdxLine::Pcr));
     row.sid = Number(Cut(line, SdxLine::Sid));
     row.nid = Number(Cut(line, SdxLine::Nid));
-    row.tid.resize(SdxLine::Tid.width);
-    Base::PutNumber(row.tid.data(), {1, SdxLine::Tid.width},
-                    static_cast<std::uint32_t>(Value(Cut(line, SdxLine::Tid))));
+    row.tid = FiveDigits(Value(Cut(line, SdxLine::Tid)));
     row.codifica = CodificaOf(Cut(line, SdxLine::Code));
   }
 

@@ -2,11 +2,9 @@
 // rows of the SDX table, which keeps their fields as texts.
 #pragma once
 
-#include "base/columns.h"
+#include "base/short_text.h"
 #include "model/transponder.h"
 
-#include <array>
-#include <cstdint>
 #include <optional>
 #include <set>
 #include <string>
@@ -19,21 +17,23 @@ namespace Formats {
 inline constexpr std::size_t MostSdxRows = 4000;
 
 struct SdxRow {
-  std::string name;       // 20 characters of the two places it stands in
-  char type = 'T';        // 'T' television, 'R' radio, 'S' data
-  int satellite = 0;      // 0 is satellite A
-  std::string frequency;  // 6 characters, MHz
-  bool highBand = false;  // 11700 MHz and above
+  using Number = Base::ShortText<5>;
+
+  Base::ShortText<20> name;      // of the two places it stands in
+  char type = 'T';               // 'T' television, 'R' radio, 'S' data
+  int satellite = 0;             // 0 is satellite A
+  Base::ShortText<6> frequency;  // 6 characters, MHz
+  bool highBand = false;         // 11700 MHz and above
   bool horizontal = false;
-  std::string symbolRate;  // 5 characters, as the symbol-rate table has them
-  std::string fec;         // one digit
-  std::string vpid, apid;  // as they stand, "65535" where absent
-  std::string pcr, sid, nid;
-  std::string tid;  // five digits
-  std::string aecm = "65535";
-  std::string vecm = "65535";
+  Number symbolRate;       // 5 characters, as the symbol-rate table has them
+  Base::ShortText<1> fec;  // a digit
+  Number vpid, apid;       // as they stand, "65535" where absent
+  Number pcr, sid, nid;
+  Number tid;  // five digits
+  Number aecm = "65535";
+  Number vecm = "65535";
   int codifica = 0;  // the receiver's coding byte
-  std::string bouquet = "Nessuno";
+  Base::ShortText<Routines::TransponderRow::BouquetNameSize> bouquet = "Nessuno";
   // Of a channel from a flash: its transponder to the last bit, of which the texts above show the most.
   std::optional<Routines::TransponderRecord> transponder;
 

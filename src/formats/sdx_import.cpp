@@ -35,7 +35,7 @@ std::optional<std::uint32_t> SdxImport::RateCodeOf(const SdxRow& row) const {
   // A table may have a rate twice: then the code that the flash has is as good as the first.
   if (row.transponder && has(Get(*row.transponder, TransponderField::SymbolRate)))
     return Get(*row.transponder, TransponderField::SymbolRate);
-  const bool filled = !row.symbolRate.starts_with('\\');
+  const bool filled = !std::string_view(row.symbolRate).starts_with('\\');
   for (std::uint32_t code = 0; filled && code < SymbolRateCodes; ++code) {
     if (has(code)) return code;
   }
@@ -86,7 +86,7 @@ void SdxImport::Put(const SdxRow& row, int slot, int position) {
   channel = {};
   if (Megahertz(row) == 0) return;
 
-  std::string name = row.name.substr(0, ChannelRecord::NameSize);
+  const std::string_view name = std::string_view(row.name).substr(0, ChannelRecord::NameSize);
   // A list fills names up with blanks; those of a flash are its own.
   const std::size_t used = row.transponder ? 0 : Base::TrimmedRight(name).size();
   std::copy_n(name.begin(), used == 0 ? name.size() : used, channel.bytes.begin());

@@ -36,20 +36,12 @@ QMimeData* SdxModel::mimeData(const QModelIndexList& indexes) const { return Row
 QString SdxModel::CellText(int number, int column) const {
   const Formats::SdxRow& row = table_.rows[static_cast<std::size_t>(number - 1)];
   if (column == 0) return Text(Base::ZeroPadded(number, 4));
-  if (row.name.starts_with('\0')) return {};
-  const std::string cells[] = {row.name,
-                               row.tid,
-                               row.sid,
-                               row.vpid,
-                               row.apid,
-                               row.aecm,
-                               row.vecm,
-                               row.pcr,
-                               Base::HexByte(row.codifica),
-                               std::string("SAT ") + static_cast<char>('A' + row.satellite),
-                               row.frequency,
-                               row.nid,
-                               row.bouquet};
+  if (std::string_view(row.name).starts_with('\0')) return {};
+  const std::string codifica = Base::HexByte(row.codifica);
+  const std::string satellite = std::string("SAT ") + static_cast<char>('A' + row.satellite);
+  const std::string_view cells[] = {row.name,      row.tid,  row.sid,    row.vpid, row.apid,
+                                    row.aecm,      row.vecm, row.pcr,    codifica, satellite,
+                                    row.frequency, row.nid,  row.bouquet};
   return CodePageText(Base::TrimmedRight(cells[static_cast<std::size_t>(column - 1)]));
 }
 

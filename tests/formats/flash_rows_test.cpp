@@ -54,8 +54,9 @@ TEST(FlashRows, CarriedOverTheyAreTheChannelsOfTheirFlash) {
   EXPECT_EQ(rows.table.lines, 5) << "the second copy does not count";
   EXPECT_EQ(rows.withoutTransponder, 2);
   ASSERT_EQ(rows.table.rows.size(), 3U);
-  EXPECT_EQ(rows.table.rows[0].frequency + rows.table.rows[0].symbolRate + rows.table.rows[0].fec,
-            "011766275003");
+  EXPECT_EQ(rows.table.rows[0].frequency, "011766");
+  EXPECT_EQ(rows.table.rows[0].symbolRate, "27500");
+  EXPECT_EQ(rows.table.rows[0].fec, "3");
   EXPECT_EQ(rows.table.rows[1].type, 'R');
 
   auto list = std::make_unique<State>();

@@ -18,8 +18,13 @@ SdxRow FirstRow(std::string_view text, ForeignLayout* guessed = nullptr) {
 }
 
 std::string Summary(const SdxRow& row) {
-  return row.name + "|" + row.frequency + (row.horizontal ? "H" : "V") + row.symbolRate + "|" + row.fec +
-         "|" + row.vpid + "|" + row.apid + "|" + row.sid + "|" + row.tid + "|" + row.type;
+  std::string summary = std::string(row.name).append("|").append(row.frequency);
+  summary.append(row.horizontal ? "H" : "V").append(row.symbolRate);
+  for (const std::string_view field :
+       {std::string_view(row.fec), std::string_view(row.vpid), std::string_view(row.apid),
+        std::string_view(row.sid), std::string_view(row.tid)})
+    summary.append("|").append(field);
+  return summary + "|" + row.type;
 }
 
 std::vector<std::string> Fields(std::string_view line, Separator separator) {

@@ -1,5 +1,6 @@
 #include "formats/satcodx.h"
 
+#include "base/columns.h"
 #include "formats/sdx_import.h"
 #include "image_builder.h"
 #include "model/symbol_rates.h"
@@ -74,13 +75,15 @@ TEST(Satcodx, ALineBecomesARow) {
   ASSERT_EQ(table.rows.size(), 3U);
   const SdxRow& tv = table.rows[0];
   EXPECT_EQ(tv.name, "Canale 5 Europa Plus");
-  EXPECT_EQ(tv.vpid + " " + tv.apid + " " + tv.pcr + " " + tv.sid + " " + tv.nid + " " + tv.tid,
-            "0512 0650 44 4903 318 11000");
+  EXPECT_EQ((std::vector{tv.vpid, tv.apid, tv.pcr, tv.sid, tv.nid, tv.tid}),
+            (std::vector<SdxRow::Number>{"0512", "0650", "44", "4903", "318", "11000"}));
   EXPECT_EQ(tv.codifica, 0x84) << "MGIV belongs to the first group";
   EXPECT_TRUE(tv.horizontal);
   EXPECT_FALSE(tv.highBand);
   EXPECT_EQ(table.rows[1].vpid, "65535") << "whatever a radio line says of video";
-  EXPECT_EQ(table.rows[2].type + table.rows[2].apid + table.rows[2].tid, "S6553500000");
+  EXPECT_EQ(table.rows[2].type, 'S');
+  EXPECT_EQ(table.rows[2].apid, "65535");
+  EXPECT_EQ(table.rows[2].tid, "00000");
   EXPECT_EQ(table.rows[1].codifica, 0xA4);
   EXPECT_EQ(table.rows[2].codifica, 0x04);
 }
