@@ -171,7 +171,7 @@ ForeignList ReadForeign(std::string_view text, const ForeignLayout& layout, int 
       table.full = true;
       break;
     } else {
-      table.rows.push_back(std::move(row));
+      table.rows.push_back(row);
     }
   }
   return list;

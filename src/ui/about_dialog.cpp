@@ -1,10 +1,10 @@
 #include "ui/about_dialog.h"
 
 #include "ui/screen_fit.h"
+#include "ui/themed_icon.h"
 
 #include <QDialogButtonBox>
 #include <QGridLayout>
-#include <QIcon>
 #include <QLabel>
 #include <QMessageBox>
 #include <QPushButton>
@@ -16,7 +16,7 @@ FinestraAbout::FinestraAbout(QWidget* parent) : QDialog(parent) {
   setObjectName("FinestraAbout");
   setWindowTitle("About");
   auto* icon = new QLabel(this);
-  icon->setPixmap(QIcon(":/icons/trovalis.svg").pixmap(72, 72));
+  icon->setPixmap(IconNamed("trovalis").pixmap(72, 72));
   auto* name = new QLabel("Trovalis", this);
   QFont large = name->font();
   large.setBold(true);

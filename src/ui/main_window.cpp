@@ -12,13 +12,13 @@
 #include "ui/screen_fit.h"
 #include "ui/scroll_strip.h"
 #include "ui/start_page.h"
+#include "ui/themed_icon.h"
 
 #include <QAction>
 #include <QApplication>
 #include <QCloseEvent>
 #include <QDialog>
 #include <QDropEvent>
-#include <QIcon>
 #include <QMimeData>
 #include <QSettings>
 #include <QSplitter>
@@ -44,7 +44,7 @@ CopiaTCSTPT::CopiaTCSTPT(const std::string& programFolder, std::unique_ptr<Dialo
     : dialogs_(dialogs ? std::move(dialogs) : std::make_unique<QtDialogs>(this)),
       document_(new Document(this)) {
   setObjectName("CopiaTCSTPT");
-  setWindowIcon(QIcon(":/icons/trovalis.svg"));
+  setWindowIcon(IconNamed("trovalis"));
   BuildMenus(*this);
   BuildToolbar(*this);
 

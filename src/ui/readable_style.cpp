@@ -1,6 +1,9 @@
 #include "ui/readable_style.h"
 
+#include "ui/themed_icon.h"
+
 #include <QAbstractItemView>
+#include <QGroupBox>
 #include <QPainter>
 #include <QStyleOption>
 
@@ -38,6 +41,24 @@ Option WithEdge(const QStyleOption& given) {
   return option;
 }
 
+// Below the title, as the style lays the box out.
+void DrawGroupFrame(const QStyleOption& option, QPainter& painter, int indicatorHeight, bool titled) {
+  constexpr int TopMargin = 3;
+  constexpr double Radius = 3;
+  const int top = TopMargin + (titled ? std::max(indicatorHeight, option.fontMetrics.height()) : 0);
+  QColor line = option.palette.color(QPalette::WindowText);
+  QColor ground = line;
+  line.setAlphaF(0.22F);
+  ground.setAlphaF(0.03F);
+  painter.save();
+  painter.setRenderHint(QPainter::Antialiasing);
+  painter.setPen(line);
+  painter.setBrush(ground);
+  painter.drawRoundedRect(QRectF(option.rect.adjusted(0, top, 0, 0)).adjusted(0.5, 0.5, -0.5, -0.5), Radius,
+                          Radius);
+  painter.restore();
+}
+
 }  // namespace
 
 double Contrast(const QColor& one, const QColor& other) {
@@ -64,9 +85,21 @@ int ReadableStyle::styleHint(StyleHint hint, const QStyleOption* option, const Q
   return hint == SH_Menu_Scrollable ? 1 : QProxyStyle::styleHint(hint, option, widget, data);
 }
 
+QIcon ReadableStyle::standardIcon(StandardPixmap icon, const QStyleOption* option,
+                                  const QWidget* widget) const {
+  if (icon == SP_ToolBarHorizontalExtensionButton) return IconNamed("more");
+  if (icon == SP_LineEditClearButton) return IconNamed("clear");
+  return QProxyStyle::standardIcon(icon, option, widget);
+}
+
 void ReadableStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,
                                   const QWidget* widget) const {
   if (option == nullptr) return QProxyStyle::drawPrimitive(element, option, painter, widget);
+  if (element == PE_FrameGroupBox) {
+    const auto* box = qobject_cast<const QGroupBox*>(widget);
+    const bool titled = box == nullptr || box->isCheckable() || !box->title().isEmpty();
+    return DrawGroupFrame(*option, *painter, pixelMetric(PM_IndicatorHeight, option, widget), titled);
+  }
   const bool dark = option->palette.color(QPalette::Base).lightness() < 128;
   if (dark && (element == PE_IndicatorCheckBox || element == PE_IndicatorRadioButton)) {
     const auto edged = WithEdge<QStyleOptionButton>(*option);

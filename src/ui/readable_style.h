@@ -19,6 +19,9 @@ class ReadableStyle : public QProxyStyle {
   // A menu that is higher than the screen scrolls; in columns it may be wider than the screen.
   int styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
                 QStyleHintReturn* data) const override;
+  // The arrow to the buttons that a narrow window has no room for and the cross that empties a field: the style's own
+  // are black also on a dark ground, and for their sake every reader of pictures would be loaded at each start.
+  QIcon standardIcon(StandardPixmap icon, const QStyleOption* option, const QWidget* widget) const override;
 };
 
 // From 1 for colours that cannot be told apart to 21 for black on white; text wants 4.5.
