@@ -7,6 +7,7 @@
 #include "formats/text_format.h"
 #include "model/flash_loader.h"
 #include "support/pos_ini.h"
+#include "ui/toolkit.h"
 
 namespace Ui {
 
@@ -127,7 +128,7 @@ std::optional<Base::Bytes> ExchangeCommands::ReadImport(const QString& title, co
          PathText(Support::RememberedFolder(session_.programFolder, Support::FolderKind::Input))}));
   }
   if (path.empty()) return std::nullopt;
-  auto bytes = Base::ReadFile(path, LargestImport);
+  auto bytes = Waiting([&] { return Base::ReadFile(path, LargestImport); });
   if (bytes) return std::move(*bytes);
   session_.Message(bytes.error());
   return std::nullopt;

@@ -28,14 +28,7 @@ QString ShortName(const std::string& path) {
 }
 
 Base::Result<Base::Bytes> ReadWaiting(const std::string& path, const char* title) {
-  const WaitCursor wait;
-  return Routines::ReadFlash(path, title);
-}
-
-Base::Outcome SaveWaiting(const std::string& path, Base::ByteView before, Base::ByteView after,
-                          Routines::Backups& backups) {
-  const WaitCursor wait;
-  return Routines::SaveFlash(path, before, after, backups);
+  return Waiting([&] { return Routines::ReadFlash(path, title); });
 }
 
 QString LoadResult(const State& state, const Routines::LoadReport& report, bool appended) {
@@ -176,10 +169,11 @@ void FileCommands::Write(const std::string& path, const Base::Bytes& original,
   const State& state = session_.document.Tables();
   const Routines::PatchedFlash patched = Routines::PatchFlash(state, original, preparation.plan);
   status.ShowProgress(30);
-  const auto saved = Routines::DiffersOnlyInSections(original, patched.image)
-                         ? SaveWaiting(path, original, patched.image, session_.backups)
-                         : Base::Error{"Impossibile scrivere " + Base::FileName(path) +
-                                       ": la modifica esce dalle sezioni conosciute"};
+  const auto saved =
+      Routines::DiffersOnlyInSections(original, patched.image)
+          ? Waiting([&] { return Routines::SaveFlash(path, original, patched.image, session_.backups); })
+          : Base::Error{"Impossibile scrivere " + Base::FileName(path) +
+                        ": la modifica esce dalle sezioni conosciute"};
   status.ShowProgress(100);
   if (!saved) {
     session_.dialogs.Message(Text(saved.error().message), OutputTitle);

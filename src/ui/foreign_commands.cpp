@@ -6,6 +6,7 @@
 #include "support/pos_ini.h"
 #include "ui/foreign_dialog.h"
 #include "ui/foreign_settings.h"
+#include "ui/toolkit.h"
 
 namespace Ui {
 
@@ -22,7 +23,7 @@ void ForeignCommands::CaricaAggiuntiva() {
       {"Selezionare la flash aggiuntiva", FlashFilters,
        PathText(Support::RememberedFolder(session_.programFolder, FolderKind::Input))}));
   if (path.empty()) return;
-  const auto image = Routines::ReadFlash(path, "Errore FLASH di Input");
+  const auto image = Waiting([&] { return Routines::ReadFlash(path, "Errore FLASH di Input"); });
   if (!image) {
     session_.Message(image.error());
     return;
@@ -46,7 +47,7 @@ void ForeignCommands::Importa(const QString& kind, const QString& caption) {
        PathText(Support::RememberedFolder(session_.programFolder, FolderKind::Foreign))}));
   if (path.empty()) return;
   Support::RememberFolderOf(session_.programFolder, FolderKind::Foreign, path);
-  const auto bytes = Base::ReadFile(path, LargestList);
+  const auto bytes = Waiting([&] { return Base::ReadFile(path, LargestList); });
   if (!bytes) {
     session_.Message(bytes.error());
     return;

@@ -4,8 +4,7 @@
 #include "base/text.h"
 #include "edit/list_operations.h"
 #include "edit/sposta_radio.h"
-
-#include <QApplication>
+#include "ui/toolkit.h"
 
 namespace Ui {
 
@@ -35,10 +34,10 @@ void ListCommands::OrdinaPerBouquet() {
   if (!session_.NeedsFlash()) return;
   const auto start = AskStart(Edit::LastOccupied(session_.document.Tables()));
   if (!start) return;
-  QApplication::setOverrideCursor(Qt::WaitCursor);
-  const auto lost = session_.document.Apply(
-      "Ordina Canali per Bouquet", [&](State& state) { return Edit::OrdinaPerBouquet(state, *start); });
-  QApplication::restoreOverrideCursor();
+  const auto lost = Waiting([&] {
+    return session_.document.Apply("Ordina Canali per Bouquet",
+                                   [&](State& state) { return Edit::OrdinaPerBouquet(state, *start); });
+  });
   session_.view.Show(View::Channels);
   session_.status.ShowResult(QString("Canali ordinati per bouquet dal %1").arg(*start) +
                              session_.Losses(lost));

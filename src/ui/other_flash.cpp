@@ -2,6 +2,7 @@
 
 #include "base/file.h"
 #include "model/flash_loader.h"
+#include "ui/toolkit.h"
 
 #include <QFileInfo>
 
@@ -12,7 +13,8 @@ using Routines::State;
 Base::Outcome OtherFlash::Read(const Session& session) {
   const State& mine = session.document.Tables();
   const bool output = OnDisk() && path_ == mine.OutputFlash;
-  const auto image = Routines::ReadFlash(path_, output ? "Errore FLASH di Output" : "Errore FLASH di Input");
+  const char* const title = output ? "Errore FLASH di Output" : "Errore FLASH di Input";
+  const auto image = Waiting([&] { return Routines::ReadFlash(path_, title); });
   if (!image) return image.error();
   written_ = Written();
   auto list = std::make_unique<State>();

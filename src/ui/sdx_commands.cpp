@@ -5,6 +5,7 @@
 #include "formats/sdx_import.h"
 #include "support/pos_ini.h"
 #include "ui/sdx_dialogs.h"
+#include "ui/toolkit.h"
 
 namespace Ui {
 
@@ -58,7 +59,7 @@ void SdxCommands::ApriSDX() {
 }
 
 void SdxCommands::Load(const std::string& path) {
-  const auto bytes = Base::ReadFile(path, LargestList);
+  const auto bytes = Waiting([&] { return Base::ReadFile(path, LargestList); });
   if (!bytes) {
     session_.Message(bytes.error());
     return;

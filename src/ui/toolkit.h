@@ -8,7 +8,7 @@ namespace Ui {
 // Italian standard buttons; writes past a file-size limit fail with an error instead of ending the program.
 void SetUpToolkit(QApplication& application);
 
-// While it lives the pointer says that the program waits for a disk, which may be far away.
+// While it lives the pointer asks for patience.
 class WaitCursor {
  public:
   WaitCursor();
@@ -16,5 +16,12 @@ class WaitCursor {
   WaitCursor(const WaitCursor&) = delete;
   WaitCursor& operator=(const WaitCursor&) = delete;
 };
+
+// What the work gives, which may take a while: a disk may be far away.
+template <class Work>
+auto Waiting(Work work) {
+  const WaitCursor wait;
+  return work();
+}
 
 }  // namespace Ui
