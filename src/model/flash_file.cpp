@@ -1,5 +1,6 @@
 #include "model/flash_file.h"
 
+#include "base/checksum.h"
 #include "base/file.h"
 #include "model/flash_image.h"
 
@@ -64,13 +65,14 @@ Base::Result<Base::Bytes> ReadFlash(const std::string& path, const std::string& 
 Base::Outcome SaveFlash(const std::string& path, Base::ByteView before, Base::ByteView after,
                         Backups& backups) {
   const std::string target = Base::ResolvedPath(path);
-  if (!backups.taken.contains(target)) {
+  const auto last = backups.written.find(target);
+  if (last == backups.written.end() || last->second != Base::Crc32(before)) {
     auto kept = BackUp(target, before, backups);
     if (!kept) return kept;
   }
   auto written = Overwrite(target, before, after);
   // A failed attempt does not count: the file may hold something else by the next one.
-  if (written) backups.taken.insert(target);
+  if (written) backups.written[target] = Base::Crc32(after);
   return written;
 }
 

@@ -4,7 +4,7 @@
 #include "base/bytes.h"
 #include "base/result.h"
 
-#include <set>
+#include <map>
 #include <string>
 
 namespace Routines {
@@ -15,15 +15,15 @@ Base::Result<Base::Bytes> ReadFlash(const std::string& path, const std::string& 
 // "Dimensione FLASH selezionata errata 524287"
 Base::Error WrongFlashSize(std::uint64_t size, const std::string& title);
 
-// The copies of overwritten images made while the program runs: one for each image, before its first
-// overwriting.
+// What this program has written while it runs: anything else in the place of an image is somebody's work and is kept
+// before it is overwritten.
 struct Backups {
-  std::string programFolder;    // takes the copy where the image's own folder takes no new file
-  std::set<std::string> taken;  // resolved paths
+  std::string programFolder;  // takes the copy where the image's own folder takes no new file
+  std::map<std::string, std::uint32_t> written;  // checksums of the images, by resolved path
 };
 
-// Overwrites the image at `path`, which holds `before`, with `after`. Its first time in a session the old
-// bytes are kept as NAME.bak beside it (NAME.bak2, … where another one exists); without that copy nothing is
+// Overwrites the image at `path`, which holds `before`, with `after`. Unless they are what the last save wrote, the
+// old bytes are kept as NAME.bak beside it (NAME.bak2, … where another one exists); without that copy nothing is
 // written.
 Base::Outcome SaveFlash(const std::string& path, Base::ByteView before, Base::ByteView after,
                         Backups& backups);

@@ -25,6 +25,7 @@ class Document : public QObject {
   template <class Operation>
   auto Apply(const std::string& label, Operation operation,
              Edit::History::Kind kind = Edit::History::Kind::Edit) {
+    if (kind == Edit::History::Kind::List) Q_EMIT AboutToReplace();
     auto before = std::make_unique<Routines::State>(*state_);
     auto result = operation(*state_);
     if (*before != *state_) {
@@ -61,6 +62,8 @@ class Document : public QObject {
   void MarkUnsaved();
 
  Q_SIGNALS:
+  // Another list may take the place of this one.
+  void AboutToReplace();
   void Changed();
 
  private:

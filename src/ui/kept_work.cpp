@@ -17,6 +17,7 @@ constexpr const char* Damaged = ".danneggiato";
 constexpr std::size_t LargestFile = 8U << 20U;
 constexpr int SettleTime = 300;      // milliseconds behind a change, as one seldom comes alone
 constexpr qint64 LeastPause = 1000;  // between two writes
+constexpr int RetryPause = 2000;     // behind one that failed
 
 std::filesystem::path SystemPath(const std::string& path) {
   return QFileInfo(PathText(path)).filesystemFilePath();
@@ -64,6 +65,8 @@ KeptWork::KeptWork(Session& session, QObject* parent) : QObject(parent), session
   connect(&timer_, &QTimer::timeout, this, &KeptWork::Write);
   writer_.setMaxThreadCount(1);
   session_.onChange = [this] { Follow(); };
+  connect(&session_.settings, &SettingsPanel::Clicked, this, &KeptWork::Follow);
+  connect(&session_.document, &Document::AboutToReplace, this, &KeptWork::KeepBeforeReplacing);
 }
 
 KeptWork::~KeptWork() { writer_.waitForDone(); }
@@ -84,6 +87,10 @@ std::optional<KeptWork::Place> KeptWork::Claim(int number) const {
 
 // Files that nobody has been asked about yet are left for the next start.
 Base::Outcome KeptWork::FindPlace() {
+  // A disk without room for the lock may have it again, and another program may have come to the file since.
+  if (own_.lock && !own_.lock->isLocked() && !own_.lock->tryLock(0) &&
+      own_.lock->error() == QLockFile::LockFailedError)
+    own_ = {};
   for (int number = 1; own_.path.empty() && number <= MostPrograms; ++number) {
     if (Exists(PathOf(number))) continue;
     if (auto place = Claim(number)) own_ = std::move(*place);
@@ -114,7 +121,8 @@ bool KeptWork::Take(const std::string& path) {
   }
   if (!session_.dialogs.YesNo(
           "Esistono modifiche non salvate dell' ultima sessione. Si desidera recuperarle?")) {
-    SetAside(path, Old);
+    if (const std::string aside = SetAside(path, Old); !aside.empty())
+      session_.status.ShowResult("Modifiche messe da parte come " + PathText(Base::FileName(aside)));
     return false;
   }
   Restore(*recovery);
@@ -141,13 +149,15 @@ void KeptWork::Restore(Edit::Recovery& recovery) {
   session_.status.ShowResult("Recuperate le modifiche dell'ultima sessione");
 }
 
+// Without a list there is nowhere to paste what was cut: the file of the list that was undone is set aside with it.
 bool KeptWork::NothingToKeep() const {
-  return !session_.document.Unsaved() &&
-         !Edit::HoldsCutChannels(session_.clipboard, session_.document.Tables());
+  const Routines::State& state = session_.document.Tables();
+  return !state.Loaded ||
+         (!session_.document.Unsaved() && !Edit::HoldsCutChannels(session_.clipboard, state));
 }
 
 void KeptWork::Follow() {
-  if (timer_.isActive()) return;
+  if (timer_.isActive() && timer_.remainingTime() <= LeastPause) return;
   const qint64 pause = sinceWrite_.isValid() ? LeastPause - sinceWrite_.elapsed() : 0;
   timer_.start(static_cast<int>(std::max<qint64>(SettleTime, pause)));
 }
@@ -166,6 +176,7 @@ void KeptWork::Write() {
   sinceWrite_.start();
   if (NothingToKeep()) {
     Discard();
+    Written(Base::Done{});
     return;
   }
   if (const auto place = FindPlace(); !place) {
@@ -186,9 +197,11 @@ void KeptWork::Write() {
   });
 }
 
-// A failure is told once, until a write has succeeded again; that it lasts stands beside the list's figures.
+// A failure is told once, until a write has succeeded again; that it lasts stands beside the list's figures. Room may
+// come back while nobody changes anything.
 void KeptWork::Written(const Base::Outcome& outcome) {
   const bool failed = !outcome;
+  if (failed && !timer_.isActive()) timer_.start(RetryPause);
   if (failed && !failed_) {
     session_.status.ShowResult("Modifiche non conservate per il recupero: " + Text(outcome.error().message));
   }
@@ -202,6 +215,12 @@ void KeptWork::Written(const Base::Outcome& outcome) {
 Base::Outcome KeptWork::Flush() {
   timer_.stop();
   writer_.waitForDone();
+  auto outcome = WriteNow();
+  Written(outcome);
+  return outcome;
+}
+
+Base::Outcome KeptWork::WriteNow() {
   if (NothingToKeep()) {
     Discard();
     return Base::Done{};
@@ -209,6 +228,11 @@ Base::Outcome KeptWork::Flush() {
   if (auto place = FindPlace(); !place) return place;
   SetReplacedAside();
   return Base::ReplaceFile(own_.path, Contents());
+}
+
+// The file is what remains of a list that another one replaces, so it has to hold the last changes too.
+void KeptWork::KeepBeforeReplacing() {
+  if (timer_.isActive()) static_cast<void>(Flush());
 }
 
 // Another list may have taken the place of the one in the file, which was never saved: an import is unsaved at once.

@@ -22,7 +22,7 @@ class KeptWork : public QObject {
   // Asks for each file that an ended program has left, until one is taken.
   void Offer();
 
-  // The list or the clipboard may have changed: the file follows within a second.
+  // The list, the clipboard or the options may have changed: the file follows within a second.
   void Follow();
 
   // The file is up to date when this returns; an error where it could not be written.
@@ -46,7 +46,9 @@ class KeptWork : public QObject {
   [[nodiscard]] bool NothingToKeep() const;
   [[nodiscard]] Base::Bytes Contents();
   void Write();
+  Base::Outcome WriteNow();
   void Written(const Base::Outcome& outcome);
+  void KeepBeforeReplacing();
   void SetReplacedAside();
   void Discard();
 

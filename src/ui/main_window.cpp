@@ -20,6 +20,7 @@
 #include <QDialog>
 #include <QDropEvent>
 #include <QMimeData>
+#include <QPointer>
 #include <QSettings>
 #include <QSplitter>
 #include <QStatusBar>
@@ -359,13 +360,16 @@ void CopiaTCSTPT::dropEvent(QDropEvent* event) {
 // Nothing is asked on the way out, as unsaved work is kept; only where it cannot be kept the user decides.
 void CopiaTCSTPT::closeEvent(QCloseEvent* event) {
   // What is being typed counts, in a cell also while the focus is elsewhere.
-  if (QWidget* editor = QApplication::focusWidget()) editor->clearFocus();
+  const QPointer<QWidget> focus = QApplication::focusWidget();
+  if (focus) focus->clearFocus();
   session_->view.FinishEditing();
   const auto kept = kept_->Flush();
   if (!kept &&
       !dialogs_->FinalYesNo(Text(kept.error().message) +
                             "\n\nLe modifiche non salvate andrebbero perse. Si desidera chiudere?")) {
     event->ignore();
+    QWidget& goOn = focus && focus->isVisible() ? *focus : session_->view.Grid();
+    goOn.setFocus();
     return;
   }
   QSettings(SettingsFile(), QSettings::IniFormat).setValue("Finestra/Geometria", saveGeometry());

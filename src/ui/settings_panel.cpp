@@ -82,6 +82,7 @@ void SettingsPanel::Choose(const Routines::Settings& settings) {
   for (const auto& [group, index] : choices) {
     if (index) group->button(static_cast<int>(*index))->setChecked(true);
   }
+  Q_EMIT Clicked();
 }
 
 void SettingsPanel::PointOutMissing() {

@@ -24,7 +24,7 @@ class SettingsPanel : public QWidget {
   void PointOutMissing();
 
  Q_SIGNALS:
-  // The user has chosen an option of any group.
+  // The user has chosen an option of any group, or all of them have come back.
   void Clicked();
 
  private:

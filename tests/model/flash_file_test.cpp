@@ -30,6 +30,11 @@ TEST(FlashFile, TheFirstOverwritingOfASessionKeepsTheOldImage) {
   Backups again{folder.Path(), {}};
   ASSERT_TRUE(SaveFlash(path, Old, New, again));
   EXPECT_EQ(folder.Files(), 3) << "one that holds the same bytes is enough";
+
+  const Base::Bytes others(FlashSize, '5');
+  folder.Write("a.dat", others);
+  ASSERT_TRUE(SaveFlash(path, others, Old, again));
+  EXPECT_EQ(Contents(path + ".bak3"), others) << "another program has saved since";
 }
 
 }  // namespace Routines

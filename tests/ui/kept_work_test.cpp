@@ -44,6 +44,7 @@ TEST_F(KeptWorkWindow, ClosingAsksNothingAndTheNextStartGoesOn) {
   EXPECT_TRUE(window_->windowTitle().contains("demo.dat"));
   EXPECT_EQ(driver_->TextOf("ModificheNonSalvate"), "Modifiche non salvate");
   EXPECT_EQ(driver_->TextOf("CanaliCopiati"), "Appunti 3");
+  EXPECT_TRUE(Action("VisualizzaPreferiti").isEnabled()) << "as the options say";
   EXPECT_TRUE(std::filesystem::exists(file_)) << "until it is saved";
 
   SaveAs(flash_, 644);  // the options have come back too
@@ -64,6 +65,7 @@ TEST_F(KeptWorkWindow, ARefusedOrDamagedOrReplacedFileIsSetAside) {
   StartAndAnswer(false);
   EXPECT_FALSE(List().Loaded);
   EXPECT_EQ(Contents(file_ + ".old"), kept);
+  EXPECT_EQ(Said(), "Modifiche messe da parte come trovalis.recupero.old");
 
   for (int number = 2; number <= 99; ++number)
     folder_.Write("trovalis.recupero.old" + std::to_string(number), "altra");
@@ -92,18 +94,31 @@ TEST_F(KeptWorkWindow, AnImportLeavesTheUnsavedListBeforeIt) {
   Export("FormatoTesto", text);
   Delete(1, 1);
   ASSERT_TRUE(FileIs(true));
-  const Base::Bytes kept = Contents(file_);
+  driver_->SelectRows(1, 1);
+  ASSERT_TRUE(driver_->Press("Toolbar1_Cut"));
+  const auto before = List().ChannelTable;
   driver_->ExpectFile("Selezionare il file di testo contenente i CANALI e i TRANSPONDERS", PathText(text));
   ASSERT_TRUE(driver_->Choose("DaEsportatoTesto"));
   EXPECT_TRUE(window_->close());
-  EXPECT_EQ(Contents(file_ + ".old"), kept);
-  EXPECT_NE(Contents(file_), kept);
+  const auto left = Edit::DecodeRecovery(Contents(file_ + ".old"));
+  ASSERT_TRUE(left);
+  EXPECT_TRUE(left->state.ChannelTable == before) << "the change just before it too";
+
+  StartAndAnswer(true);
+  EXPECT_EQ(driver_->TextOf("CanaliUsati"), "Canali 620 di 3996");
+  ASSERT_TRUE(driver_->Choose("Annulla"));
+  EXPECT_TRUE(window_->close());
+  EXPECT_FALSE(std::filesystem::exists(file_)) << "cut channels without a list";
+  EXPECT_TRUE(std::filesystem::exists(file_ + ".old2"));
 }
 
 TEST_F(KeptWorkWindow, TwoProgramsHaveAFileEach) {
   Delete(1, 1);
   ASSERT_TRUE(FileIs(true));
-  const Base::Bytes kept = Contents(file_);
+  Base::Bytes kept = Contents(file_);
+  ASSERT_TRUE(driver_->Pick("SRDef_1"));
+  ASSERT_TRUE(QTest::qWaitFor([&] { return Contents(file_) != kept; }, 3000)) << "options are kept too";
+  kept = Contents(file_);
   const std::unique_ptr<CopiaTCSTPT> first = std::move(window_);
   StartEmpty();
   window_->OfferKeptWork();
@@ -136,8 +151,8 @@ TEST_F(KeptWorkWindow, WhatCannotBeKeptIsToldAndAskedAboutOnlyAtTheEnd) {
     EXPECT_FALSE(window_->close()) << "Enter loses nothing";
   }
   ::chmod(folder_.Path().c_str(), 0777);
-  Delete(1, 1);
-  EXPECT_TRUE(FileIs(true)) << "the next change tries again";
+  EXPECT_TRUE(FileIs(true)) << "tried again and again";
+  EXPECT_TRUE(std::filesystem::exists(file_ + ".lock")) << "no other program may take it";
   EXPECT_TRUE(
       QTest::qWaitFor([&] { return driver_->TextOf("ModificheNonSalvate") == "Modifiche non salvate"; }));
 }
