@@ -45,6 +45,10 @@ void DownloadCommands::Fetch(const QString& address) {
       session_.dialogs.SaveFile({"Selezionare il file SDX di OUTPUT", "SatcoDX files(*.sdx)|*.sdx|",
                                  PathText(Support::RememberedFolder(session_.programFolder, kind))}));
   if (path_.empty()) return;
+  if (session_.IsFlashOfList(path_)) {
+    session_.status.ShowResult("Non scaricato: il file scelto è la flash aperta o quella di output");
+    return;
+  }
   Support::RememberFolderOf(session_.programFolder, kind, path_);
   // Whatever becomes of the transfer, the file no longer holds an older list.
   if (const auto emptied = Base::ReplaceFile(path_, {}); !emptied) {

@@ -25,10 +25,7 @@ std::string ExchangeCommands::AskExport(const QString& filters) {
   std::string path = PathBytes(session_.dialogs.SaveFile(
       {"Selezionare il file di output", filters,
        PathText(Support::RememberedFolder(session_.programFolder, Support::FolderKind::Input))}));
-  const State& state = session_.document.Tables();
-  const std::string target = Base::ResolvedPath(path);
-  if (!path.empty() &&
-      (target == Base::ResolvedPath(state.InputFlash) || target == Base::ResolvedPath(state.OutputFlash))) {
+  if (session_.IsFlashOfList(path)) {
     session_.status.ShowResult("Non esportato: il file scelto è la flash aperta o quella di output");
     return {};
   }

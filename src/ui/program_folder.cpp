@@ -29,11 +29,18 @@ void FillProgramFolder(const std::string& shipped, const std::string& folder) {
   const QStringList support = {"Bouquets.txt", "SR.INI", "SDX.INI"};
   if (!QDir(to).entryList(support).isEmpty()) return;
   const QString demo = "demo.dat";
+  QStringList copied;
   for (const QString& name : support + QStringList{demo, "demo.sdx", "demo.csv"}) {
-    QFile::copy(from + name, to + name);
+    if (!QFile::exists(from + name)) continue;
+    if (!QFile::copy(from + name, to + name)) {
+      // On a full disk nothing is better than a part, which the next start would take for what the user wants.
+      for (const QString& part : copied) QFile::remove(to + part);
+      return;
+    }
     QFile::setPermissions(to + name, QFile::permissions(to + name) | QFile::WriteOwner);
+    copied += name;
   }
-  if (!QFile::exists(to + demo)) return;
+  if (!copied.contains(demo)) return;
   for (const auto kind :
        {Support::FolderKind::Input, Support::FolderKind::Foreign, Support::FolderKind::Output}) {
     Support::RememberFolderOf(folder, kind, PathBytes(to + demo));

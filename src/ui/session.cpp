@@ -1,5 +1,7 @@
 #include "ui/session.h"
 
+#include "base/file.h"
+
 namespace Ui {
 
 QString Session::Losses(const std::vector<Edit::LostFavourite>& lost) const {
@@ -11,6 +13,13 @@ bool Session::NeedsFlash() {
   if (document.Tables().Loaded) return true;
   dialogs.Message("Si deve caricare prima una FLASH di input", {});
   return false;
+}
+
+bool Session::IsFlashOfList(const std::string& path) const {
+  if (path.empty()) return false;
+  const Routines::State& state = document.Tables();
+  const std::string target = Base::ResolvedPath(path);
+  return target == Base::ResolvedPath(state.InputFlash) || target == Base::ResolvedPath(state.OutputFlash);
 }
 
 std::optional<Routines::Settings> Session::NeedsSettings() {

@@ -46,6 +46,9 @@ struct Session {
   // Whether a list is loaded; says so where none is.
   bool NeedsFlash();
 
+  // Whether a file about to be written is the opened flash or the one of the output, which only a save may write.
+  [[nodiscard]] bool IsFlashOfList(const std::string& path) const;
+
   // The settings, when each group has a choice; says which one is missing where one is.
   std::optional<Routines::Settings> NeedsSettings();
 

@@ -164,6 +164,12 @@ TEST_F(Window, AnAddressIsFetchedOnlyWhenTheUserAsksAndIsLoadedOrToldAndLeftEmpt
   ASSERT_TRUE(driver_->Choose("ScaricaInternet"));
   driver_->ExpectMessage("Si deve specificare il file da scaricare");
   download();
+  window_->findChild<QComboBox*>("Combo3")->setEditText("http://127.0.0.1:9/uno.sdx");
+  const Base::Bytes image = Contents(flash_);
+  driver_->ExpectFile("Selezionare il file SDX di OUTPUT", PathText(flash_));
+  download();
+  EXPECT_EQ(Said(), "Non scaricato: il file scelto è la flash aperta o quella di output");
+  EXPECT_EQ(Contents(flash_), image);
   const std::pair<QByteArray, QString> bad[] = {
       {Good + "  SATCODX", "  SATCODX"},
       {Good + "<html>", "<html>"},

@@ -7,6 +7,10 @@ TEST_F(Window, AListLeavesAsTextIsEditedAndComesBack) {
   OpenDemo();
   const Routines::State before = List();
   const std::string path = folder_.Path("lista.txt");
+  const Base::Bytes image = Contents(flash_);
+  Export("FormatoTesto", flash_);
+  EXPECT_EQ(Said(), "Non esportato: il file scelto è la flash aperta o quella di output");
+  EXPECT_EQ(Contents(flash_), image);
   Export("FormatoTesto", path);
   EXPECT_EQ(Said(), "Esportato lista.txt");
   std::string text(Base::AsText(Contents(path)));
