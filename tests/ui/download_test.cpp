@@ -166,7 +166,7 @@ TEST_F(Window, AnAddressIsFetchedOnlyWhenTheUserAsksAndIsLoadedOrToldAndLeftEmpt
   download();
   window_->findChild<QComboBox*>("Combo3")->setEditText("http://127.0.0.1:9/uno.sdx");
   const Base::Bytes image = Contents(flash_);
-  driver_->ExpectFile("Selezionare il file SDX di OUTPUT", PathText(flash_));
+  ExpectOpenedFlashChosen("Selezionare il file SDX di OUTPUT");
   download();
   EXPECT_EQ(Said(), "Non scaricato: il file scelto è la flash aperta o quella di output");
   EXPECT_EQ(Contents(flash_), image);

@@ -8,7 +8,8 @@ TEST_F(Window, AListLeavesAsTextIsEditedAndComesBack) {
   const Routines::State before = List();
   const std::string path = folder_.Path("lista.txt");
   const Base::Bytes image = Contents(flash_);
-  Export("FormatoTesto", flash_);
+  ExpectOpenedFlashChosen("Selezionare il file di output");
+  ASSERT_TRUE(driver_->Choose("FormatoTesto"));
   EXPECT_EQ(Said(), "Non esportato: il file scelto è la flash aperta o quella di output");
   EXPECT_EQ(Contents(flash_), image);
   Export("FormatoTesto", path);

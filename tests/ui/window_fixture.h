@@ -101,6 +101,13 @@ class Window : public testing::Test {
     ASSERT_TRUE(driver_->Choose(command));
   }
 
+  // The opened flash, as the file to be written; the box that asks whether to write over it says yes.
+  void ExpectOpenedFlashChosen(const QString& title) {
+    driver_->ExpectFile(title, PathText(flash_));
+    driver_->ExpectDialog(
+        title, [](QDialog& box) { dynamic_cast<QMessageBox&>(box).button(QMessageBox::Yes)->click(); });
+  }
+
   [[nodiscard]] const Routines::State& List() const { return window_->List().Tables(); }
   [[nodiscard]] QAction& Action(const char* name) const { return *window_->findChild<QAction*>(name); }
   [[nodiscard]] std::string Said() const { return driver_->TextOf("UltimoRisultato").toStdString(); }
