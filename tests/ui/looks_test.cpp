@@ -87,6 +87,11 @@ TEST_F(Looks, EveryRowCanBeRead) {
     ReadableStyle("fusion").polish(colours);
     EXPECT_GE(Contrast(colours.color(QPalette::HighlightedText), colours.color(QPalette::Highlight)), 4.5);
   }
+  QPalette dark(QColor(45, 45, 45));
+  ReadableStyle("fusion").polish(dark);
+  EXPECT_GE(Contrast(dark.color(QPalette::Disabled, QPalette::Text),
+                     dark.color(QPalette::Disabled, QPalette::Base)),
+            2);
 }
 
 TEST_F(Looks, ADarkGroundShowsUntickedBoxesAndIcons) {
