@@ -72,6 +72,11 @@ void BuildToolbar(QMainWindow& window) {
     widget->setObjectName(ButtonName(button.key));
     widget->setAccessibleName(button.tip);
   }
+  // The toolkit's own, where the window is too narrow for all.
+  if (auto* more = toolbar->findChild<QToolButton*>("qt_toolbar_ext_button")) {
+    more->setAccessibleName("Altri pulsanti");
+    more->setToolTip("Altri pulsanti");
+  }
   // The recount is a button only; the keyboard has it in the menu, behind the commands for the whole list.
   const QAction& last = CommandAction(window, "ConvertiSR");
   auto* utilities = qobject_cast<QMenu*>(last.associatedObjects().value(0));

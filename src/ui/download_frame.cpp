@@ -15,6 +15,7 @@ DownloadFrame::DownloadFrame(QWidget* parent) : QGroupBox("File SDX da scaricare
   addresses_->setAccessibleName(title());
   addresses_->setAccessibleDescription(title());
   addresses_->setEditable(true);
+  addresses_->lineEdit()->setAccessibleName(title());
   addresses_->setInsertPolicy(QComboBox::NoInsert);
   auto* fetch = new QPushButton("Scarica", this);
   fetch->setObjectName("Scarica");

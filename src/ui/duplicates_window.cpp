@@ -157,6 +157,7 @@ void FinestraCanaliDoppi::SetUpTree() {
   }
   tree_->setExpandsOnDoubleClick(false);
   tree_->setUniformRowHeights(true);
+  KeepLines(*tree_, 5);
   tree_->setAllColumnsShowFocus(true);
   connect(tree_, &QTreeWidget::itemActivated, this, &FinestraCanaliDoppi::GoTo);
   connect(tree_, &QTreeWidget::itemChanged, this, &FinestraCanaliDoppi::TellCounts);

@@ -1,6 +1,7 @@
 #include "ui/error_pane.h"
 
 #include "ui/dialogs.h"
+#include "ui/screen_fit.h"
 
 #include <QHBoxLayout>
 #include <QListWidget>
@@ -14,6 +15,7 @@ ErrorPane::ErrorPane(const std::vector<std::string>& errors, QWidget* parent)
   auto* list = new QListWidget(this);
   list->setObjectName("ListaErrori");
   list->setAccessibleName(title());
+  KeepLines(*list, 2);
   for (const std::string& error : errors) list->addItem(Text(error));
   auto* close = new QPushButton("Chiudi", this);
   close->setObjectName("ChiudiErrori");

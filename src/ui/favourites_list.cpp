@@ -2,6 +2,7 @@
 
 #include "model/favourites.h"
 #include "ui/name_edit.h"
+#include "ui/screen_fit.h"
 
 #include <QDropEvent>
 #include <QKeyEvent>
@@ -65,6 +66,8 @@ void FavouritesList::BuildEntries() {
   entries_->setAccessibleName("Preferiti, lista " + number);
   entries_->setModel(&model_);
   entries_->setUniformItemSizes(true);
+  KeepLines(*entries_, 3);
+  entries_->setMinimumWidth(Letters(*entries_, 14));
   entries_->setItemDelegate(new NarrowRows(entries_));
   entries_->setSelectionMode(QAbstractItemView::ExtendedSelection);
   entries_->setEditTriggers(QAbstractItemView::NoEditTriggers);

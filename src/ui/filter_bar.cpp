@@ -4,6 +4,7 @@
 #include "edit/list_operations.h"
 #include "ui/screen_fit.h"
 
+#include <QAbstractButton>
 #include <QHBoxLayout>
 #include <QKeyEvent>
 #include <QLabel>
@@ -17,6 +18,7 @@ FilterBar::FilterBar(const Document& document, QWidget* parent)
   field_->setAccessibleName("Filtro");
   field_->setPlaceholderText("Nome, SID o transponder (Ctrl+Shift+F)");
   field_->setClearButtonEnabled(true);
+  for (auto* clear : field_->findChildren<QAbstractButton*>()) clear->setAccessibleName("Svuota il filtro");
   field_->setMinimumWidth(Letters(*field_, 14));
   field_->setMaximumWidth(field_->fontMetrics().horizontalAdvance(field_->placeholderText()) + 40);
   field_->installEventFilter(this);

@@ -105,6 +105,7 @@ void ImportazioneTesto::Build(const QString& recognised, const std::vector<Routi
   preview_->setEditTriggers(QAbstractItemView::NoEditTriggers);
   preview_->setSelectionMode(QAbstractItemView::NoSelection);
   preview_->setTabKeyNavigation(false);
+  KeepLines(*preview_, 7);
   preview_->setCornerButtonEnabled(false);
   preview_->verticalHeader()->setDefaultSectionSize(fontMetrics().lineSpacing() + 6);
   preview_->setHorizontalScrollMode(QAbstractItemView::ScrollPerPixel);

@@ -1,5 +1,7 @@
 #include "ui/list_view.h"
 
+#include "ui/screen_fit.h"
+
 #include <QAction>
 #include <QLabel>
 #include <QStackedWidget>
@@ -53,6 +55,7 @@ ListView::ListView(const Document& document, QAction& showChannels, QAction& sho
 void ListView::LayOut() {
   stack_->addWidget(hint_);
   stack_->addWidget(grid_);
+  KeepLines(*stack_, 5);
   auto* head = new QHBoxLayout;
   head->addWidget(marker_);
   head->addWidget(filter_, 1);

@@ -98,7 +98,9 @@ CopiaTCSTPT::CopiaTCSTPT(const std::string& programFolder, std::unique_ptr<Dialo
   column->addWidget(lists, 1);
   column->addWidget(new ErrorPane(session_->bouquets.errors, contents));
   column->addWidget(status->ResultLine());
-  setCentralWidget(InScrollArea(contents, this));
+  auto* area = InScrollArea(contents, this);
+  FollowFocus(*area);
+  setCentralWidget(area);
 
   ConnectFileCommands();
   ConnectExchangeCommands();

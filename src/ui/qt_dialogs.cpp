@@ -3,6 +3,7 @@
 #include "base/code_page.h"
 #include "ui/screen_fit.h"
 
+#include <QComboBox>
 #include <QDir>
 #include <QFile>
 #include <QFileDialog>
@@ -112,6 +113,11 @@ std::optional<int> QtDialogs::Choose(const QString& question, const QStringList&
   QInputDialog dialog(parent_);
   dialog.setComboBoxItems(choices);
   dialog.setTextValue(choices[current]);
+  // As wide as the dialog, whatever the longest choice says.
+  if (auto* list = dialog.findChild<QComboBox*>()) {
+    list->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
+    list->setMinimumContentsLength(20);
+  }
   SetUp(dialog, question);
   if (dialog.exec() != QDialog::Accepted) return std::nullopt;
   return static_cast<int>(choices.indexOf(dialog.textValue()));

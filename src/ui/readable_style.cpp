@@ -13,6 +13,7 @@ namespace Ui {
 namespace {
 
 constexpr double ReadableContrast = 4.5;
+constexpr double VisibleContrast = 2;  // of what cannot be used now
 
 double Luminance(const QColor& colour) {
   const auto linear = [](double part) {
@@ -77,6 +78,15 @@ void ReadableStyle::polish(QPalette& palette) {
     for (int i = 0; i < 40 && Contrast(text, ground) < ReadableContrast; ++i)
       ground = lightText ? ground.darker(Step) : ground.lighter(Step);
     palette.setColor(group, QPalette::Highlight, ground);
+  }
+  constexpr std::pair<QPalette::ColorRole, QPalette::ColorRole> TextsAndGrounds[] = {
+      {QPalette::WindowText, QPalette::Window},
+      {QPalette::Text, QPalette::Base},
+      {QPalette::ButtonText, QPalette::Button}};
+  for (const auto& [text, behind] : TextsAndGrounds) {
+    const QColor ground = palette.color(QPalette::Disabled, behind);
+    if (Contrast(palette.color(QPalette::Disabled, text), ground) < VisibleContrast)
+      palette.setColor(QPalette::Disabled, text, Between(palette.color(QPalette::Active, text), ground));
   }
 }
 

@@ -152,6 +152,7 @@ void FinestraRiepilogo::SetUpTree() {
   for (const int column : {Count, Share}) tree_->setColumnWidth(column, Letters(*tree_, 10));
   tree_->setItemDelegateForColumn(Bar, new BarDelegate(tree_));
   tree_->setUniformRowHeights(true);
+  KeepLines(*tree_, 5);
   tree_->setAllColumnsShowFocus(true);
   connect(tree_, &QTreeWidget::itemClicked, this, &FinestraRiepilogo::GoTo);
   connect(tree_, &QTreeWidget::itemActivated, this, &FinestraRiepilogo::GoTo);

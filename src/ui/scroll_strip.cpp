@@ -1,5 +1,6 @@
 #include "ui/scroll_strip.h"
 
+#include <QApplication>
 #include <QEvent>
 #include <QScrollBar>
 
@@ -12,6 +13,14 @@ void SetUp(QScrollArea& area) {
   area.setWidgetResizable(true);
 }
 
+// All of a control that can be shown, from its top on.
+void ShowWhole(QScrollArea& area, const QWidget& control) {
+  QScrollBar& bar = *area.verticalScrollBar();
+  const int top = control.mapTo(area.widget(), QPoint(0, 0)).y();
+  const int bottom = top + control.height() - area.viewport()->height();
+  bar.setValue(std::min(std::max(bar.value(), bottom), top));
+}
+
 }  // namespace
 
 QScrollArea* InScrollArea(QWidget* contents, QWidget* parent) {
@@ -20,6 +29,15 @@ QScrollArea* InScrollArea(QWidget* contents, QWidget* parent) {
   area->setMinimumSize(320, 200);
   area->setWidget(contents);
   return area;
+}
+
+// Of a list the toolkit shows no more than the current row. What the mouse has come to is in sight, and has to stay
+// below the pointer.
+void FollowFocus(QScrollArea& area) {
+  QObject::connect(qApp, &QApplication::focusChanged, &area, [&area](const QWidget*, const QWidget* now) {
+    if (now != nullptr && area.widget()->isAncestorOf(now) && QApplication::mouseButtons() == Qt::NoButton)
+      ShowWhole(area, *now);
+  });
 }
 
 ScrollStrip::ScrollStrip(QWidget* row, QWidget* parent) : QScrollArea(parent) {

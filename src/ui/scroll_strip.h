@@ -7,6 +7,9 @@ namespace Ui {
 
 QScrollArea* InScrollArea(QWidget* contents, QWidget* parent);
 
+// The area shows all of the control that gets the focus, or its upper part.
+void FollowFocus(QScrollArea& area);
+
 // A row of controls as high as it needs to be, which is scrolled sideways.
 class ScrollStrip : public QScrollArea {
  public:

@@ -68,6 +68,7 @@ OpzioniImportSDX::OpzioniImportSDX(const std::vector<Routines::Satellite>& satel
   list_ = Named<QListWidget>("List1", this);
   list_->setAccessibleName("Codifiche da importare");
   list_->setSelectionMode(QAbstractItemView::MultiSelection);
+  KeepLines(*list_, 4);
   for (const std::string& code : codes_) list_->addItem(CodePageText(code));
   list_->addItem(AllCodes);
   form->addRow("Codifiche da importare", list_);
@@ -128,15 +129,15 @@ ImportazioneSDX::ImportazioneSDX(QWidget* parent) : QDialog(parent) {
   start_->setAccessibleName("Canale di partenza per importare SDX");
   connect(fromChannel, &QRadioButton::toggled, start_, &QWidget::setEnabled);
 
-  auto* form = new QFormLayout(this);
-  form->setRowWrapPolicy(QFormLayout::WrapLongRows);
-  form->addRow(fromStart_);
-  form->addRow(fromChannel);
-  form->addRow("Canale di partenza per importare SDX", start_);
+  auto* caption = new QLabel("Canale di partenza per importare SDX", this);
+  caption->setBuddy(start_);
+  auto* column = new QVBoxLayout(this);
+  for (QWidget* line : std::initializer_list<QWidget*>{fromStart_, fromChannel, caption, start_})
+    column->addWidget(line);
   auto* buttons = new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel, this);
   connect(buttons, &QDialogButtonBox::accepted, this, &QDialog::accept);
   connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
-  form->addRow(buttons);
+  column->addWidget(buttons);
   ShowTips(*this);
 }
 

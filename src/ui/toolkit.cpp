@@ -1,6 +1,7 @@
 #include "ui/toolkit.h"
 
 #include "ui/readable_style.h"
+#include "ui/screen_fit.h"
 
 #include <QApplication>
 #include <QLibraryInfo>
@@ -23,6 +24,7 @@ void SetUpToolkit(QApplication& application) {
   QApplication::setApplicationName("Trovalis");
   // The styles of desktops see to their colours themselves.
   if (QApplication::style()->name() == "fusion") QApplication::setStyle(new ReadableStyle("fusion"));
+  application.installEventFilter(new ScreenFit(&application));
   QLocale::setDefault(QLocale(QLocale::Italian, QLocale::Italy));
   auto* italian = new QTranslator(&application);
   // The second name is the one of the file that goes beside a program on Windows.

@@ -1,4 +1,5 @@
 // What can be said of the windows' looks by rule: colours that can be told apart, and room for every text.
+#include "demo_sdx.h"
 #include "ui/readable_style.h"
 #include "ui/window_fixture.h"
 
@@ -41,13 +42,30 @@ class Looks : public Window {
   QFont font_ = QApplication::font();
 };
 
-TEST_F(Looks, NothingIsCutWithLargeLetters) {
+class LargeLetters : public Looks, public testing::WithParamInterface<int> {
+ protected:
+  // A box that has to be answered.
+  void ExpectRoomIn(const char* command, const QString& title) {
+    driver_->ExpectDialog(title, [](QDialog& box) {
+      ExpectRoom(box);
+      box.reject();
+    });
+    Action(command).trigger();
+  }
+};
+
+// At the larger size most windows want more room than the screen has.
+INSTANTIATE_TEST_SUITE_P(Points, LargeLetters, testing::Values(16, 32));
+
+TEST_P(LargeLetters, NothingIsCut) {
   QFont large = QApplication::font();
-  large.setPointSize(16);
+  large.setPointSize(GetParam());
   QApplication::setFont(large);
   OpenDemo();
   QTest::qWait(50);
   ExpectRoom(*window_);
+  EXPECT_GE(driver_->Grid().viewport()->visibleRegion().boundingRect().height(),
+            2 * driver_->Grid().rowHeight(0));
   driver_->SelectRows(34, 35);
   driver_->Press("Toolbar1_Copy");
   Paste(60, 2);
@@ -62,6 +80,14 @@ TEST_F(Looks, NothingIsCutWithLargeLetters) {
     ExpectRoom(*window);
     window->close();
   }
+  for (const char* command : {"VaiAlCanale", "ImpostaTransponder"}) ExpectRoomIn(command, "Trovalis");
+  ExpectRoomIn("About", "About");
+  driver_->ExpectFile("Selezionare il file da importare",
+                      PathText(folder_.Write("lista.csv", "Uno;99;11766;V;10\nDue;98;12092;H;11\n")));
+  ExpectRoomIn("Pelko", "Da File Pelko");
+  driver_->ExpectFile("Selezionare il file SDX di input",
+                      PathText(folder_.Write("lista.sdx", Samples::DemoSdx())));
+  ExpectRoomIn("SDX", "Opzioni importazione SDX");
 }
 
 TEST_F(Looks, EveryRowCanBeRead) {
@@ -87,6 +113,11 @@ TEST_F(Looks, EveryRowCanBeRead) {
     ReadableStyle("fusion").polish(colours);
     EXPECT_GE(Contrast(colours.color(QPalette::HighlightedText), colours.color(QPalette::Highlight)), 4.5);
   }
+  QPalette dark(QColor(45, 45, 45));
+  ReadableStyle("fusion").polish(dark);
+  EXPECT_GE(Contrast(dark.color(QPalette::Disabled, QPalette::Text),
+                     dark.color(QPalette::Disabled, QPalette::Base)),
+            2);
 }
 
 TEST_F(Looks, ADarkGroundShowsUntickedBoxesAndIcons) {
