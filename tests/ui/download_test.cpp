@@ -141,7 +141,6 @@ TEST(DownloadLimits, SizeAndTimeAreBounded) {
 }
 
 TEST_F(Window, AnAddressIsFetchedOnlyWhenTheUserAsksAndIsLoadedOrToldAndLeftEmpty) {
-  OpenDemo();
   const std::string path = folder_.Path("scaricato.sdx");
   const auto download = [this] { window_->findChild<QAbstractButton*>("Scarica")->click(); };
   const auto fetch = [&](const Server& server, const auto& expectEnd) {
