@@ -29,12 +29,7 @@ std::vector<QStringList> PagesIn(const std::string& path) {
 QRectF InkOf(const std::string& path) {
   const QImage page =
       QImage::fromData(Run("pdftoppm", {"-r", "127", "-gray", "-f", "1", "-l", "1", PathText(path)}));
-  QRect ink;
-  for (int y = 0; y < page.height(); ++y) {
-    for (int x = 0; x < page.width(); ++x) {
-      if (qGray(page.pixel(x, y)) < 128) ink |= QRect(x, y, 1, 1);
-    }
-  }
+  const QRect ink = QRegion(QBitmap::fromImage(page, Qt::MonoOnly | Qt::ThresholdDither)).boundingRect();
   return {ink.x() / 5.0, ink.y() / 5.0, ink.width() / 5.0, ink.height() / 5.0};
 }
 
