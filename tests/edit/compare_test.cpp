@@ -3,7 +3,6 @@
 #include "edit/take_over.h"
 #include "image_builder.h"
 #include "model/favourites.h"
-#include "model/flash_loader.h"
 #include "model/symbol_rates.h"
 
 #include <gtest/gtest.h>
@@ -182,19 +181,15 @@ std::vector<std::string> Favourites(const State& state) {
   for (const int slot : FavouriteEntriesOf(state.FavouritesBlock, 0)) {
     const ChannelRecord& channel = state.ChannelTable[static_cast<std::size_t>(slot)];
     const auto& record = state.TransponderTable[Get(channel, ChannelField::Transponder)].record;
-    services.push_back(channel.Empty() ? "-"
-                                       : std::to_string(Get(channel, ChannelField::Sid)) + " " +
-                                             std::to_string(FrequencyMHz(record)));
+    const std::string sid = std::to_string(Get(channel, ChannelField::Sid));
+    services.push_back(channel.Empty() ? "-" : sid + " " + std::to_string(FrequencyMHz(record)));
   }
   return services;
 }
 
 std::multiset<std::string> Contents(const State& state) {
   std::multiset<std::string> channels;
-  for (int slot = 1; slot <= state.ChannelCount; ++slot) {
-    const auto& channel = state.ChannelTable[static_cast<std::size_t>(slot)];
-    if (!channel.Empty()) channels.emplace(Base::AsText(channel.bytes));
-  }
+  for (const ChannelRecord& channel : state.ChannelTable) channels.emplace(Base::AsText(channel.bytes));
   return channels;
 }
 
@@ -294,17 +289,6 @@ TEST(TakeOver, AChannelWithoutATransponderGetsNoneByChance) {
   TakeOver(here, there, found, found.differences, {});
   EXPECT_EQ(Get(Channel(here, 8), ChannelField::Transponder), 4U) << "the first free slot";
   EXPECT_FALSE(HasTransponder(here, Channel(here, 7)));
-}
-
-TEST(CapacityOf, StopsWhereAReceiverRepeatsItsList) {
-  std::vector<ChannelRecord> list;
-  for (int i = 1; i <= 999; ++i) list.push_back(MakeChannel("c" + std::to_string(i), 1, i, 1, 1));
-  std::vector<ChannelRecord> copy(list.begin() + 1, list.end());
-  ImageBuilder builder(1);
-  builder.PutRecords(1, 0, 16, "TCS", list);
-  EXPECT_EQ(CapacityOf(builder.Image()), 3996);
-  builder.PutRecords(2, 0, 16, "TCS", copy);
-  EXPECT_EQ(CapacityOf(builder.Image()), 999);
 }
 
 }  // namespace

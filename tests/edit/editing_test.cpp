@@ -172,9 +172,10 @@ TEST(Editing, DeletingClosesTheListAndItsFavourites) {
   EXPECT_EQ(LastOccupied(*state), 0);
 }
 
-TEST(Editing, CutAndPasteGivesFavouritesBack) {
+TEST(Editing, CutAndPasteGivesFavouritesBackAndKeepsToTheLimit) {
   Junk junk(2);
   auto state = RandomList(junk, 100);
+  Channel(*state, 97) = MakeChannel("ultimo", 1, 97, 1, 1);
   const State before = *state;
   Clipboard clipboard = CopyChannels(*state, {10, 20});
   CutChannels(*state, {10, 20}, clipboard);
@@ -184,15 +185,10 @@ TEST(Editing, CutAndPasteGivesFavouritesBack) {
   *state = before;
   ASSERT_TRUE(Paste(*state, clipboard, 85, PasteWay::Overwrite, {}));
   EXPECT_EQ(state->FavouritesBlock, before.FavouritesBlock) << "not twice, where the cut was undone";
-}
 
-TEST(Editing, PastingKeepsToTheLimit) {
-  Junk junk(3);
-  auto state = RandomList(junk, 100);
+  *state = before;
   EXPECT_TRUE(IsPosition(*state, 95, 5) && !IsPosition(*state, 96, 5) && !IsPosition(*state, 0, 5));
-  Channel(*state, 97) = MakeChannel("ultimo", 1, 97, 1, 1);
-  const State before = *state;
-  const Clipboard clipboard = CopyChannels(*state, {1, 4});
+  clipboard = CopyChannels(*state, {1, 4});
   const auto refused = Paste(*state, clipboard, 50, PasteWay::Move, {});
   ASSERT_FALSE(refused);
   EXPECT_EQ(refused.error().message, "Posizione di inserimento invalida");
@@ -206,8 +202,7 @@ TEST(Editing, PastingKeepsToTheLimit) {
 TEST(Editing, ChannelsOfAnotherListFindTheirTransponders) {
   Junk junk(4);
   auto from = RandomList(junk, 50);
-  const int numbers[] = {1, 2, 3};
-  for (int i = 0; i < 3; ++i) Channel(*from, i + 1) = MakeChannel("x", numbers[i], i, 1, 1);
+  for (int i = 1; i <= 3; ++i) Channel(*from, i) = MakeChannel("x", i, i, 1, 1);
   const Clipboard clipboard = CopyChannels(*from, {1, 3});
   auto to = std::make_unique<State>();
   to->ListNumber = 9;
@@ -218,9 +213,9 @@ TEST(Editing, ChannelsOfAnotherListFindTheirTransponders) {
   const auto pasted = Paste(*to, clipboard, 5, PasteWay::Overwrite, {});
   ASSERT_TRUE(pasted);
   EXPECT_EQ(pasted->withoutTransponder, 1);
-  const int linked[] = {2, 3, 3};
-  for (int i = 0; i < 3; ++i)
-    EXPECT_EQ(Get(Channel(*to, 5 + i), ChannelField::Transponder), static_cast<std::uint32_t>(linked[i]));
+  std::vector<std::uint32_t> linked;
+  for (int i = 5; i <= 7; ++i) linked.push_back(Get(Channel(*to, i), ChannelField::Transponder));
+  EXPECT_EQ(linked, std::vector<std::uint32_t>({2, 3, 3}));
   EXPECT_EQ(FrequencyMHz(to->TransponderTable[2].record), 10720);
   EXPECT_EQ(to->TransponderTable[2].BouquetName().substr(0, 7), "Nessuno");
 }

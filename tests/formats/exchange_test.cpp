@@ -76,54 +76,49 @@ TEST(TextFormat, ReadsBackWithTheKnownLosses) {
   const ImportReport report = Read(*read, WriteText(*written));
   EXPECT_EQ(report.error, "");
   EXPECT_TRUE(report.listRead);
-  EXPECT_EQ(read->ChannelCount, 5);
-  EXPECT_TRUE(read->ChannelTable[2].Empty());
+  // "N" loses the coding; behind "Auto" a transponder is vertical, without tone, on satellite A; names get blanks.
+  std::string expected = WriteText(*written);
+  for (const auto& [was, is] :
+       {std::pair{"B0 N", "00 N"}, {"SAT `", "SAT A"}, {"e [E", "e  E"}, {"e d\r", "e d          \r"}})
+    expected = Replaced(expected, was, is);
+  EXPECT_EQ(WriteText(*read), expected);
   EXPECT_EQ(read->ChannelTable[4].Name(), " END CANALI] 1  ") << "a name does not end its section";
   EXPECT_EQ(read->ChannelTable[5].Name(), "The [END        ");
   EXPECT_EQ(read->ChannelTable[9].Name(), "resta") << "slots past the header's count keep their content";
-  EXPECT_EQ(Get(read->ChannelTable[1], ChannelField::Flags), 0xA4U);
-  EXPECT_EQ(Get(read->ChannelTable[1], ChannelField::Sid), 300U);
-  EXPECT_EQ(Get(read->ChannelTable[3], ChannelField::Flags), 0U) << "N loses the coding";
   EXPECT_EQ(read->TransponderTable[1].record, written->TransponderTable[1].record);
-  EXPECT_EQ(read->TransponderTable[1].BouquetName().substr(0, 6), "Sette ");
   EXPECT_EQ(read->TransponderTable[1].BouquetCode(), "  ") << "no bouquet matches it here";
-  const TransponderRecord& shifted = read->TransponderTable[3].record;
-  EXPECT_EQ(FrequencyMHz(shifted), 11000);
-  EXPECT_EQ(Get(shifted, TransponderField::Fec), 5U);
-  EXPECT_EQ(shifted.bytes[11], 0) << "behind Auto: vertical, tone off, satellite A";
+  EXPECT_EQ(read->TransponderTable[3].record.bytes[11], 0);
   EXPECT_EQ(read->FavouritesBlock.size(), 2291U);
-  EXPECT_EQ(FavouriteEntriesOf(read->FavouritesBlock, 0), std::vector<int>{3});
-  EXPECT_EQ(FavouriteNameOf(read->FavouritesBlock, 0), "C");
 }
 
 TEST(TextFormat, AHandEditedListIsTakenAsItStands) {
   const std::string text = WriteText(*SmallList());
   auto state = std::make_unique<State>();
   state->SymbolRateTable = SmallList()->SymbolRateTable;
-  const auto line = [&](std::string_view channel) {
-    return Replaced(text, "[END CANALI]", std::string(channel) + "\n[END CANALI]");
+  const auto read = [&](std::string_view from, const std::string& to) {
+    ImportReport report = Read(*state, Replaced(text, from, to));
+    EXPECT_EQ(report.error, "") << to;
+    return report;
   };
-  EXPECT_EQ(Read(*state, line("0042 Mosso            012 99999 00001 00002 65535 65535 00001 B4 S")).error,
-            "");
+  for (const char* line : {"0042 Mosso            012 99999 00001 00002 65535 65535 00001 B4 S", "0000 x",
+                           "3996 x", "3997 x", "9999 x", "", "12", "0007 corta            01"})
+    read("[END CANALI]", std::string(line) + "\n[END CANALI]");
   EXPECT_EQ(state->ChannelTable[42].Name(), "Mosso           ");
   EXPECT_EQ(Get(state->ChannelTable[42], ChannelField::Flags), 4U) << "of the letters only A4 is known";
   EXPECT_EQ(Get(state->ChannelTable[42], ChannelField::Sid), 0U) << "too large for its field";
-  for (const char* odd : {"0000 x", "3996 x", "3997 x", "9999 x", "", "12", "0007 corta            01"}) {
-    EXPECT_EQ(Read(*state, line(odd)).error, "") << odd;
-  }
   EXPECT_EQ(state->ChannelTable[3996].Name(), "x");
-  EXPECT_EQ(Read(*state, Replaced(text, "12092", "09000")).error, "");
+  read("12092", "09000");
   EXPECT_TRUE(IsFree(state->TransponderTable[1].record)) << "below the oscillator";
-  EXPECT_EQ(Read(*state, Replaced(text, "27500", "27501")).unknownRates, 1);
-  EXPECT_EQ(Read(*state, Replaced(text, "[CANALI] 0005", "[CANALI]")).error, "");
+  EXPECT_EQ(read("27500", "27501").unknownRates, 1);
+  read("[CANALI] 0005", "[CANALI]");
   EXPECT_EQ(state->ChannelCount, 0);
-  EXPECT_EQ(Read(*state, Replaced(text, "[TRANSPONDERS] 0003", "[TRANSPONDERS] 9999")).error, "");
+  read("[TRANSPONDERS] 0003", "[TRANSPONDERS] 9999");
   EXPECT_EQ(state->TransponderCount, 254);
-  EXPECT_EQ(Read(*state, Replaced(text, "[CANALI] 0005", "[CANALI] 99999")).error, "");
+  read("[CANALI] 0005", "[CANALI] 99999");
   EXPECT_EQ(state->ChannelCount, 3996);
   std::string full = "05| Nomelunghissimo\n";
   for (int i = 1; i <= 130; ++i) full += Base::ZeroPadded(i, 4) + "\n";
-  EXPECT_EQ(Read(*state, Replaced(text, "05| \r\n", full + "08| fuori\n0009\n")).error, "");
+  read("05| \r\n", full + "08| fuori\n0009\n");
   EXPECT_EQ(FavouriteEntriesOf(state->FavouritesBlock, 5).size(), 128U);
   EXPECT_EQ(FavouriteNameOf(state->FavouritesBlock, 5), "Nomelung");
   EXPECT_TRUE(FavouriteEntriesOf(state->FavouritesBlock, 7).empty());
@@ -131,25 +126,21 @@ TEST(TextFormat, AHandEditedListIsTakenAsItStands) {
 
 TEST(TextFormat, ABrokenSectionIsNamedAndWhatWasReadStays) {
   const std::string text = WriteText(*SmallList());
-  const struct {
-    std::string text;
-    const char* section;
-    bool changed, list;
-  } cases[] = {{"", "Canali", false, false},
-               {"[canali]", "Canali", false, false},
-               {text.substr(0, 100), "Canali", true, false},
-               {Replaced(text, "[TRANSPONDERS]", "[TRANS]"), "Transponders", true, false},
-               {text.substr(0, text.find("[END TRANS")), "Transponders", true, false},
-               {text.substr(0, text.find("[PREF")), "PREFERITI", true, true},
-               {text.substr(0, text.find("[END PREF")), "PREFERITI", true, true}};
-  for (const auto& c : cases) {
-    auto state = std::make_unique<State>();
-    const State before = *state;
-    const ImportReport report = Read(*state, c.text);
-    EXPECT_EQ(report.error, std::string("Formato file invalido (") + c.section + ") per lista.txt");
-    EXPECT_EQ(report.changed, c.changed) << c.section;
-    EXPECT_EQ(report.listRead, c.list) << c.section;
-    EXPECT_EQ(*state == before, !c.changed) << c.section;
+  const std::pair<std::string, std::string> cases[] = {
+      {"", "Canali"},
+      {"[canali]", "Canali"},
+      {text.substr(0, 100), "Canali"},
+      {Replaced(text, "[TRANSPONDERS]", "[TRANS]"), "Transponders"},
+      {text.substr(0, text.find("[END TRANS")), "Transponders"},
+      {text.substr(0, text.find("[PREF")), "PREFERITI"},
+      {text.substr(0, text.find("[END PREF")), "PREFERITI"}};
+  for (const auto& [broken, section] : cases) {
+    State state;
+    const ImportReport report = Read(state, broken);
+    EXPECT_EQ(report.error, "Formato file invalido (" + section + ") per lista.txt");
+    EXPECT_EQ(report.changed, broken.size() > 20) << broken;
+    EXPECT_EQ(report.listRead, section == "PREFERITI") << broken;
+    EXPECT_EQ(state == State{}, !report.changed) << broken;
   }
 }
 

@@ -28,27 +28,17 @@ struct Service {
 };
 
 std::string Line(const Service& service) {
+  const struct {
+    std::size_t first, width;
+    const char* text;
+  } columns[] = {{1, 10, "SATCODX103"},   {11, 17, "HOTBIRD 13E"},    {29, 1, service.type},
+                 {30, 4, service.format}, {34, 6, service.frequency}, {40, 4, "000H"},
+                 {44, 8, "Canale 5"},     {70, 5, service.rate},      {75, 1, "3"},
+                 {76, 4, service.vpid},   {80, 4, service.apid},      {84, 4, "0044"},
+                 {88, 5, service.sid},    {93, 5, "00318"},           {98, 5, service.tid},
+                 {112, 4, service.code},  {116, 12, " Europa Plus"}};
   std::string line;
-  const auto put = [&line](std::size_t first, std::size_t width, std::string_view text) {
-    Base::Put(line, {first, width}, text);
-  };
-  put(1, 10, "SATCODX103");
-  put(11, 17, "HOTBIRD 13E");
-  put(29, 1, service.type);
-  put(30, 4, service.format);
-  put(34, 6, service.frequency);
-  put(40, 4, "000H");
-  put(44, 8, "Canale 5");
-  put(70, 5, service.rate);
-  put(75, 1, "3");
-  put(76, 4, service.vpid);
-  put(80, 4, service.apid);
-  put(84, 4, "0044");
-  put(88, 5, service.sid);
-  put(93, 5, "00318");
-  put(98, 5, service.tid);
-  put(112, 4, service.code);
-  put(116, 12, " Europa Plus");
+  for (const auto& column : columns) Base::Put(line, {column.first, column.width}, column.text);
   return line + "\r\n";
 }
 

@@ -38,12 +38,15 @@ std::vector<ChannelRecord> Channels(const std::string& prefix, int count) {
 
 TransponderRecord At(int megahertz) { return MakeTransponder(megahertz, true, 0, 1, 2); }
 
-std::string NameAt(const State& state, int slot) {
-  return std::string(state.ChannelTable[static_cast<std::size_t>(slot)].Name());
-}
-
-int TransponderAt(const State& state, int slot) {
-  return static_cast<int>(Get(state.ChannelTable[static_cast<std::size_t>(slot)], ChannelField::Transponder));
+// The names in some slots, and the transponders of those that have one.
+std::string Told(const State& state, const std::vector<std::size_t>& slots) {
+  std::string names, transponders;
+  for (const std::size_t slot : slots) {
+    const ChannelRecord& channel = state.ChannelTable[slot];
+    names.append(channel.Name()).append(" ");
+    if (!channel.Empty()) transponders += std::to_string(Get(channel, ChannelField::Transponder));
+  }
+  return names + transponders;
 }
 
 }  // namespace
@@ -57,9 +60,7 @@ TEST(FlashLoader, SectionsFollowSectorsAndDirectoryOrder) {
   image.PutRecords(3, 7, 16, "TPTX", std::vector(5, At(12500)));
   LoadReport report;
   const auto state = Loaded(image, 999, &report);
-  std::string names;
-  for (int slot = 1; slot <= 8; ++slot) names += NameAt(*state, slot) + " ";
-  EXPECT_EQ(names, "a1 a2 a3 b1 b2 c1 c2  ");
+  EXPECT_EQ(Told(*state, {1, 2, 3, 4, 5, 6, 7, 8}), "a1 a2 a3 b1 b2 c1 c2  1111111");
   EXPECT_EQ(report.channelsRead, 7);
   EXPECT_EQ(state->TransponderCount, 5) << "the last section sets the count";
   EXPECT_EQ(state->TransponderTable[5].record, At(12500));
@@ -71,13 +72,14 @@ TEST(FlashLoader, SectionsFollowSectorsAndDirectoryOrder) {
 TEST(FlashLoader, CapacityEndsTheListAndSkipsWhatFollows) {
   ImageBuilder image(2);
   image.PutRecords(1, 0, 16, "TCS", Channels("a", 1500)).PutRecords(2, 0, 16, "TCS", Channels("b", 1500));
+  EXPECT_EQ(CapacityOf(image.Image()), 3996);
   LoadReport report;
   auto state = Loaded(image, 999, &report);
-  EXPECT_EQ(NameAt(*state, 999) + "|" + NameAt(*state, 1000), "a999|");
+  EXPECT_EQ(Told(*state, {999, 1000}), "a999  1");
   EXPECT_EQ(report.channelsRead, 999);
   EXPECT_EQ(report.channelsInImage, 3000);
   state = Loaded(image, 2000);
-  EXPECT_EQ(NameAt(*state, 1501) + "|" + NameAt(*state, 2000) + "|" + NameAt(*state, 2001), "b1|b500|");
+  EXPECT_EQ(Told(*state, {1501, 2000, 2001}), "b1 b500  11");
 
   // A second copy of the same list, from its second channel on, is no surplus.
   auto copy = Channels("a", 1500);
@@ -85,6 +87,7 @@ TEST(FlashLoader, CapacityEndsTheListAndSkipsWhatFollows) {
   image.PutRecords(2, 0, 16, "TCS", copy);
   Loaded(image, 1500, &report);
   EXPECT_EQ(report.channelsInImage, report.channelsRead);
+  EXPECT_EQ(CapacityOf(image.Image()), 999) << "where a receiver repeats its list";
 }
 
 TEST(FlashLoader, EmptyRecordsKeepTheirSlotAndLoseTheirJunk) {
@@ -97,8 +100,7 @@ TEST(FlashLoader, EmptyRecordsKeepTheirSlotAndLoseTheirJunk) {
   image.Put(4, 3, 20, "TCS", data);
   const auto state = Loaded(image, 999);
   EXPECT_EQ(state->ChannelTable[2], ChannelRecord{});
-  EXPECT_EQ(NameAt(*state, 3), "a3");
-  EXPECT_EQ(LastUsedChannel(*state), 3);
+  EXPECT_EQ(Told(*state, {3, 4}), "a3  1");
   EXPECT_EQ(state->TransponderCount, 0);
   EXPECT_EQ(state->TransponderTable[9], TransponderRow{});
 }
@@ -148,8 +150,7 @@ TEST(FlashLoader, AppendingMergesTranspondersAndLeavesASlotFree) {
   const auto fresh = MakeTransponder(11200, false, 1, 1, 2);
   ImageBuilder second(12);
   std::vector<ChannelRecord> channels = Channels("b", 6);
-  for (int i = 0; i < 6; ++i)
-    Set(channels[static_cast<std::size_t>(i)], ChannelField::Transponder, static_cast<std::uint32_t>(i + 1));
+  for (std::uint32_t i = 0; i < 6; ++i) Set(channels[i], ChannelField::Transponder, i + 1);
   second.PutRecords(2, 0, 16, "TCS", channels);
   second.PutRecords(
       2, 1, 900, "TPT",
@@ -158,13 +159,11 @@ TEST(FlashLoader, AppendingMergesTranspondersAndLeavesASlotFree) {
   ASSERT_EQ(AppendStart(*state), 5);
   LoadReport report = LoadFlash(*state, second.Image(), 2000, AppendStart(*state), {});
 
-  EXPECT_EQ(NameAt(*state, 4) + "|" + NameAt(*state, 5) + "|" + NameAt(*state, 6), "a4||b1");
+  // The first list's is left alone, a free record's not mapped, and slot 4 was free.
+  EXPECT_EQ(Told(*state, {1, 4, 5, 6, 7, 8, 9}), "a1 a4  b1 b2 b3 b4 113234");
   EXPECT_EQ(state->MaxChannels, 2999);
   EXPECT_EQ(state->TransponderCount, 4);
   EXPECT_EQ(state->TransponderTable[2].record, fresh);
-  std::string numbers;  // the first list's is left alone, a free record's not mapped, and slot 4 was free
-  for (const int slot : {1, 6, 7, 8, 9}) numbers += std::to_string(TransponderAt(*state, slot));
-  EXPECT_EQ(numbers, "13234");
   EXPECT_EQ(report.strandedChannels, 2);
   EXPECT_TRUE(report.messages.empty());
   EXPECT_EQ(state->FavouritesBlock, favourites);
@@ -183,7 +182,7 @@ TEST(FlashLoader, AppendingWithoutRoomTellsEachTransponder) {
       "Superato il numero di transponders gestibili 2\ncollego i canali restanti sul transponder 2";
   EXPECT_EQ(report.messages, std::vector<std::string>({told, told}));
   EXPECT_EQ(state->MaxChannels, 3996) << "the table ends there";
-  EXPECT_EQ(TransponderAt(*state, 3), 2);
+  EXPECT_EQ(Told(*state, {3}), "b1 2");
 }
 
 }  // namespace Routines

@@ -12,11 +12,9 @@ TEST(WriteSettings, TheFirstMissingChoiceIsTold) {
 }
 
 TEST(WriteSettings, LimitsAndWarnings) {
-  const std::string warns999 =
-      "Impossibile gestire più di 999 canali sulla FLASH tipo D- 1-x (999 canali)\nne verranno salvati solo "
-      "999";
-  const std::string warns2000 =
-      "Impossibile gestire più di 2000 canali sulla FLASH tipo 2000 Canali\nne verranno salvati solo 2000";
+  const std::string many = "Impossibile gestire più di ", left = "\nne verranno salvati solo ";
+  const std::string warns999 = many + "999 canali sulla FLASH tipo D- 1-x (999 canali)" + left + "999";
+  const std::string warns2000 = many + "2000 canali sulla FLASH tipo 2000 Canali" + left + "2000";
   const struct {
     int maxChannels, channelCount;
     std::size_t capacity, type;

@@ -2,6 +2,9 @@
 #pragma once
 
 #include "base/bytes.h"
+#ifndef _WIN32
+#include "support/limits.h"
+#endif
 
 #include <cstdlib>
 #include <string>
@@ -28,25 +31,5 @@ class TestFolder {
 };
 
 Base::Bytes Contents(const std::string& path);
-
-// While it lives, permissions count even for an administrator's test run, and a file takes `mostBytes` at
-// most. Not for Windows.
-class OrdinaryUser {
- public:
-  OrdinaryUser();
-  ~OrdinaryUser();
-
- private:
-  unsigned before_;
-};
-
-class FileSizeLimit {
- public:
-  explicit FileSizeLimit(std::size_t mostBytes);
-  ~FileSizeLimit();
-
- private:
-  std::size_t before_;
-};
 
 }  // namespace Tests

@@ -26,7 +26,6 @@ PatchedFlash BrokenPatchFlash(const State& state, Base::ByteView original, const
 namespace Ui {
 
 TEST_F(Window, AWriterThatLeavesTheSectionsIsStopped) {
-  OpenDemo();
   const std::string copy = folder_.Write("copia.dat", Contents(flash_));
   SaveAs(copy, 647);
   Delete(1, 2);

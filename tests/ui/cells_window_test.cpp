@@ -32,7 +32,6 @@ class Cells : public Window {
 };
 
 TEST_F(Cells, TakeWhatIsTypedOrKeepWhatTheyHad) {
-  OpenDemo();
   const Routines::State before = List();
   ASSERT_TRUE(Type(2, 1, "Città Mia"));
   EXPECT_EQ(driver_->Cell(2, 1), "Città Mia");
@@ -70,7 +69,6 @@ TEST_F(Cells, TakeWhatIsTypedOrKeepWhatTheyHad) {
 }
 
 TEST_F(Cells, ThePopupMenuWorksOnAllSelectedRows) {
-  OpenDemo();
   const auto trigger = [this](const char* action) {
     driver_->OpenMenu();
     Action(action).trigger();

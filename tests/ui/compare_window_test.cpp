@@ -9,8 +9,6 @@ const QString OtherDialog = "Selezionare la flash da confrontare";
 
 class CompareWindow : public Window {
  protected:
-  void SetUp() override { OpenDemo(); }
-
   // Channels 3 and 4 are deleted, and 10 goes to 20.
   void ChangeList() {
     Delete(3, 4);
@@ -36,9 +34,6 @@ class CompareWindow : public Window {
       rows += cells.join("|");
     }
     return rows;
-  }
-  void Click(const char* button) {
-    QTest::mouseClick(found_->findChild<QPushButton*>(button), Qt::LeftButton);
   }
 
   QDialog* found_ = nullptr;
@@ -67,7 +62,7 @@ TEST_F(CompareWindow, ShowsWhatASaveWillChangeUntilItHas) {
   found_->findChild<QCheckBox*>("Mostra_1")->click();
 
   ASSERT_TRUE(driver_->Choose("VisualizzaTransponder"));
-  Window::Click(*table_, table_->model()->index(2, CompareModel::Here));
+  Click(*table_, table_->model()->index(2, CompareModel::Here));
   EXPECT_EQ(driver_->Grid().Selected()->first, 20);
 
   SaveAs(flash_, 645);

@@ -4,7 +4,6 @@
 namespace Ui {
 
 TEST_F(Window, CutMovePasteAndUndoByKeysAndToolbar) {
-  OpenDemo();
   const Routines::State before = List();
   driver_->SelectRows(12, 10);
   driver_->Key(Qt::Key_X, Qt::ControlModifier);
@@ -40,7 +39,6 @@ TEST_F(Window, CutMovePasteAndUndoByKeysAndToolbar) {
 }
 
 TEST_F(Window, RowsMoveByKeysAndByDropping) {
-  OpenDemo();
   driver_->SelectRows(2, 3);
   driver_->Key(Qt::Key_Down, Qt::AltModifier);
   EXPECT_EQ(driver_->Cell(2, 1), "Canale Aperto HD");
@@ -63,7 +61,6 @@ TEST_F(Window, RowsMoveByKeysAndByDropping) {
 }
 
 TEST_F(Window, RowKeysLeaveTheFilterFieldAlone) {
-  OpenDemo();
   const Routines::State before = List();
   driver_->SelectRows(2, 3);
   driver_->Key(Qt::Key_F, Qt::ControlModifier | Qt::ShiftModifier);
@@ -82,7 +79,6 @@ TEST_F(Window, RowKeysLeaveTheFilterFieldAlone) {
 }
 
 TEST_F(Window, SearchingAsksForTheNext) {
-  OpenDemo();
   const QString next = "Ricerco il successivo?";
   driver_->ExpectLine("Inserire il canale da ricercare", "CITTÀ PIÙ");
   driver_->ExpectQuestion(next, true);
@@ -105,7 +101,6 @@ TEST_F(Window, SearchingAsksForTheNext) {
 }
 
 TEST_F(Window, WholeListCommandsTellWhatTheyDid) {
-  OpenDemo();
   Tells("Toolbar1_Delete", "Nessun canale selezionato");
   const QString from =
       "Inserire il canale dal quale iniziare il raggruppamento; I canali precedenti manterranno la "

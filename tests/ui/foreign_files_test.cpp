@@ -52,7 +52,6 @@ TEST_F(Window, NamesOfAnyKindAreOpenedSavedAndShown) {
 }
 
 TEST_F(Window, AFolderThatVanishesBehindTheDialogLosesNothing) {
-  OpenDemo();
   const std::string place = folder_.Path("chiavetta");
   const auto chooseAndUnplug = [&](const char* name) {
     std::filesystem::create_directory(place);
@@ -75,7 +74,6 @@ TEST_F(Window, AFolderThatVanishesBehindTheDialogLosesNothing) {
 }
 
 TEST_F(Window, WhatIsWrittenOverByAnotherNameIsSavedNoLonger) {
-  OpenDemo();
   const std::string image = folder_.Write("a.dat", Contents(flash_));
   const std::string link = folder_.Path("b.dat");
   std::filesystem::create_symlink("a.dat", link);
@@ -89,7 +87,6 @@ TEST_F(Window, WhatIsWrittenOverByAnotherNameIsSavedNoLonger) {
 }
 
 TEST_F(Window, AnImageInALockedFolderIsSavedWhereItLies) {
-  OpenDemo();
   const std::string place = folder_.Path("bloccata");
   std::filesystem::create_directory(place);
   std::filesystem::copy(flash_, place + "/a.dat");

@@ -12,7 +12,6 @@ void ImportInto(QDialog& box) {
 }  // namespace
 
 TEST_F(Window, ASecondFlashStandsBesideTheListAndLeavesItAlone) {
-  OpenDemo();
   const Routines::State before = List();
   const QString dialog = "Selezionare la flash aggiuntiva";
   driver_->ExpectFile(dialog, PathText(folder_.Write("corta.dat", "abc")));
@@ -21,8 +20,7 @@ TEST_F(Window, ASecondFlashStandsBesideTheListAndLeavesItAlone) {
   EXPECT_FALSE(pane->isVisible());
 
   ASSERT_TRUE(driver_->Pick("QuantiCanali_0"));
-  driver_->ExpectFile(dialog, PathText(flash_));
-  ASSERT_TRUE(driver_->Choose("CaricaAggiuntiva"));
+  ChooseFile("CaricaAggiuntiva", dialog, flash_);
   EXPECT_EQ(Said(), "demo.dat: letti 620 canali");
   EXPECT_EQ(driver_->TextOf("EtichettaSDX"), "SDX: demo.dat");
   EXPECT_EQ(pane->model()->rowCount(), 620);
@@ -36,7 +34,6 @@ TEST_F(Window, ASecondFlashStandsBesideTheListAndLeavesItAlone) {
 }
 
 TEST_F(Window, AListOfAnotherProgramIsSettledOnceAndRemembered) {
-  OpenDemo();
   const QString dialog = "Selezionare il file da importare";
   driver_->ExpectFile(dialog, PathText(flash_));
   Tells("Pelko", "demo.dat non è un file di testo");

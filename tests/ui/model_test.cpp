@@ -27,8 +27,6 @@
 namespace Ui {
 namespace {
 
-using Routines::State;
-
 // What a step holds: a save sets the other two outside of every step.
 bool SameTables(const State& one, State other) {
   other.MaxChannels = one.MaxChannels;
@@ -337,7 +335,7 @@ class Play {
     if (fault_.empty()) fault_ = Fault();
   }
 
-  [[nodiscard]] std::string Fault() const { return FaultOf(*window_, bouquets_.tables.satellites); }
+  [[nodiscard]] std::string Fault() const { return Faults(*window_, bouquets_.tables.satellites).First(); }
 
   unsigned seed_;
   Tests::TestFolder folder_;

@@ -8,7 +8,6 @@ class Duplicates : public Window {
  protected:
   // Copies of three channels stand in slots 20 to 22, from slot `first` on or from the first favourite's.
   void OpenWithCopies(int first = 2) {
-    OpenDemo();
     if (first == 0) first = Routines::FavouriteEntriesOf(List().FavouritesBlock, 0).front();
     driver_->SelectRows(first, first + 2);
     ASSERT_TRUE(driver_->Press("Toolbar1_Copy"));
@@ -23,16 +22,22 @@ class Duplicates : public Window {
     return *tree_->topLevelItem(group)->child(row);
   }
   [[nodiscard]] std::string Counts() const { return driver_->TextOf("ConteggioDoppi").toStdString(); }
-  void Click(const char* button) {
-    QTest::mouseClick(found_->findChild<QPushButton*>(button), Qt::LeftButton);
-  }
 
   QDialog* found_ = nullptr;
   QTreeWidget* tree_ = nullptr;
 };
 
-TEST_F(Duplicates, TheGroupsFollowEveryChangeAndTicksTheirChannels) {
+TEST_F(Duplicates, RowsLeadToTheirChannelsAndFollowEveryChangeAndTicksToo) {
   OpenWithCopies();
+  ASSERT_TRUE(driver_->Choose("VisualizzaTransponder"));
+  Click(*tree_, tree_->indexFromItem(&Row(2, 1)), true);
+  EXPECT_EQ(driver_->TextOf("Text1"), "Canali");
+  EXPECT_EQ(driver_->Grid().Selected()->first, 22);
+  EXPECT_TRUE(driver_->Grid().viewport()->rect().intersects(
+      driver_->Grid().visualRect(driver_->Grid().model()->index(21, 1))));
+  tree_->setCurrentItem(&Row(0, 0));
+  QTest::keyClick(tree_, Qt::Key_Return);
+  EXPECT_EQ(driver_->Grid().Selected()->first, 2);
   EXPECT_EQ(Counts(), "3 gruppi, 6 canali, 0 scelti");
   EXPECT_FALSE(found_->findChild<QPushButton*>("EliminaScelti")->isEnabled());
   QTest::keyClick(tree_, Qt::Key_Down);
@@ -86,22 +91,7 @@ TEST_F(Duplicates, AllButTheFirstGoInOneStepAndFavouritesAreTold) {
   EXPECT_TRUE(List() == before);
 }
 
-TEST_F(Duplicates, ARowLeadsToItsChannelFromAnyView) {
-  OpenWithCopies();
-  ASSERT_TRUE(driver_->Choose("VisualizzaTransponder"));
-  Window::Click(*tree_, tree_->indexFromItem(&Row(2, 1)), true);
-  EXPECT_EQ(driver_->TextOf("Text1"), "Canali");
-  EXPECT_EQ(driver_->Grid().Selected()->first, 22);
-  EXPECT_TRUE(driver_->Grid().viewport()->rect().intersects(
-      driver_->Grid().visualRect(driver_->Grid().model()->index(21, 1))));
-  tree_->setCurrentItem(&Row(1, 0));
-  QTest::keyClick(tree_, Qt::Key_Return);
-  EXPECT_EQ(driver_->Grid().Selected()->first, 3);
-  EXPECT_TRUE(found_->isVisible());
-}
-
 TEST_F(Window, NothingTwiceIsAMessageAndNamesAreAChoice) {
-  OpenDemo();
   driver_->ExpectQuestion("Nessun canale doppio\nCercare anche i canali con lo stesso nome?", false);
   ASSERT_TRUE(driver_->Choose("CanaliDoppi"));
   EXPECT_EQ(window_->findChild<QDialog*>("FinestraCanaliDoppi"), nullptr);

@@ -106,17 +106,18 @@ TEST_F(Trees, ShareTheirPlaceWithTheSdxPane) {
     return Beside();
   };
   EXPECT_EQ(Beside(), "TreeView1");
-  EXPECT_EQ(after("VisualizzaCanali"), "") << "closed with the channel list";
-  EXPECT_EQ(after("VisualizzaCanali"), "TreeView1");
-  EXPECT_EQ(after("VisualizzaTransponder"), "");
-  EXPECT_EQ(after("VediSDX"), "GrigliaSDX");
-  EXPECT_EQ(after("VisualizzaCanali"), "GrigliaSDX");
-  EXPECT_EQ(after("VediSDX"), "TreeView2");
-  EXPECT_EQ(after("VediSDX"), "GrigliaSDX");
-  EXPECT_EQ(after("VisualizzaBouquet"), "TreeView2");
-  EXPECT_EQ(after("VisualizzaTransponder"), "TreeView2");
-  EXPECT_EQ(after("VisualizzaCanali"), "TreeView2");
-  EXPECT_EQ(after("VisualizzaBouquet"), "TreeView1");
+  const std::pair<const char*, std::string> steps[] = {{"VisualizzaCanali", ""},
+                                                       {"VisualizzaCanali", "TreeView1"},
+                                                       {"VisualizzaTransponder", ""},
+                                                       {"VediSDX", "GrigliaSDX"},
+                                                       {"VisualizzaCanali", "GrigliaSDX"},
+                                                       {"VediSDX", "TreeView2"},
+                                                       {"VediSDX", "GrigliaSDX"},
+                                                       {"VisualizzaBouquet", "TreeView2"},
+                                                       {"VisualizzaTransponder", "TreeView2"},
+                                                       {"VisualizzaCanali", "TreeView2"},
+                                                       {"VisualizzaBouquet", "TreeView1"}};
+  for (const auto& [command, shown] : steps) EXPECT_EQ(after(command), shown) << command;
   Open(flash_);
   EXPECT_EQ(Beside(), "TreeView1");
 

@@ -1,15 +1,153 @@
 // What must hold in the window whatever was done before.
 #pragma once
 
-#include "model/bouquets.h"
+#include "base/text.h"
+#include "model/cells.h"
+#include "model/favourites.h"
+#include "model/list_tree.h"
+#include "ui/commands.h"
+#include "ui/griglia.h"
 #include "ui/main_window.h"
 
-#include <string>
-#include <vector>
+#include <QAction>
+#include <QApplication>
+#include <QLabel>
+#include <QListView>
+#include <QTreeView>
 
 namespace Ui {
 
-// What of it does not hold, empty where all does.
-std::string FaultOf(const CopiaTCSTPT& window, const std::vector<Routines::Satellite>& satellites);
+using Routines::ListTree;
+using Routines::State;
+
+inline std::string TreeFault(const QAbstractItemModel& model, const ListTree& tree, const QModelIndex& at,
+                             int number) {
+  const ListTree::Group& group = tree.Groups()[static_cast<std::size_t>(number)];
+  const auto channels = tree.Channels(number);
+  const int rows = group.groups > 0 ? group.groups : static_cast<int>(channels.size());
+  if (model.rowCount(at) != rows)
+    return "rows below \"" + at.data().toString().toStdString() + "\" in the tree";
+  for (int row = 0; row < rows; ++row) {
+    const QModelIndex index = model.index(row, 0, at);
+    const int child = group.firstGroup + row;
+    const std::string text = group.groups > 0 ? TreeText(tree.Groups()[static_cast<std::size_t>(child)])
+                                              : TreeText(channels[static_cast<std::size_t>(row)]);
+    if (index.data().toString() != CodePageText(text)) return "node \"" + text + "\" of the tree";
+    if (group.groups == 0) continue;
+    if (std::string fault = TreeFault(model, tree, index, child); !fault.empty()) return fault;
+  }
+  return {};
+}
+
+class Faults {
+ public:
+  Faults(const CopiaTCSTPT& window, const std::vector<Routines::Satellite>& satellites)
+      : window_(window), satellites_(satellites), tables_(window.List().Tables()) {}
+
+  // What of it does not hold, empty where all does.
+  [[nodiscard]] std::string First() const {
+    for (const auto& fault : {TablesFault(), GridFault(), TreesFault(), FavouritesFault(), FiguresFault()})
+      if (!fault.empty()) return fault;
+    return {};
+  }
+
+ private:
+  [[nodiscard]] const Griglia& Grid() const { return *window_.findChild<Griglia*>("Griglia"); }
+  [[nodiscard]] QString Label(const char* name) const { return window_.findChild<QLabel*>(name)->text(); }
+
+  [[nodiscard]] std::string TablesFault() const {
+    const State& state = tables_;
+    const auto within = [](int value, int last) { return value >= 0 && value <= last; };
+    if (!within(state.MaxChannels, Routines::LastChannelSlot) ||
+        !within(state.ChannelCount, Routines::LastChannelSlot) ||
+        !within(state.TransponderCount, Routines::LastTransponderSlot))
+      return "a count is past its table";
+    if (!state.ChannelTable[0].Empty()) return "slot 0 is in use";
+    if (state.FavouritesBlock.size() > 65536 ||
+        state.SymbolRateTable.size() != Routines::EmptySymbolRateTable().size())
+      return "a block has a wrong size";
+    return {};
+  }
+
+  [[nodiscard]] std::string GridFault() const {
+    const bool channels = Label("Text1") == "Canali";
+    const bool ticks =
+        CommandAction(window_, "VisualizzaCanali").isChecked() == channels &&
+        CommandAction(window_, "VisualizzaTransponder").isChecked() == (Label("Text1") == "Transponders");
+    if (!ticks) return "marker and ticks differ";
+    if (!Grid().isVisible()) return {};
+    const QAbstractItemModel& model = *Grid().model();
+    if (model.rowCount() != (channels ? tables_.ChannelCount : tables_.TransponderCount))
+      return "rows of the grid";
+    if (const auto rows = Grid().Selected(); rows && (rows->first < 1 || rows->last > model.rowCount()))
+      return "selection";
+    const int last = Grid().rowAt(Grid().viewport()->height() - 1);
+    for (int row = std::max(Grid().rowAt(0), 0); row <= (last < 0 ? model.rowCount() - 1 : last); ++row) {
+      for (int column = 0; column < model.columnCount(); ++column) {
+        const std::string cell =
+            channels ? ChannelCell(tables_, row + 1, column) : TransponderCell(tables_, row + 1, column);
+        if (model.index(row, column).data().toString() != CodePageText(Base::TrimmedRight(cell)))
+          return "cell " + std::to_string(row + 1) + "," + std::to_string(column);
+      }
+    }
+    return {};
+  }
+
+  [[nodiscard]] std::string TreesFault() const {
+    for (const auto& [name, shape] : {std::pair{"TreeView1", ListTree::Shape::Bouquets},
+                                      std::pair{"TreeView2", ListTree::Shape::Transponders}}) {
+      const auto* tree = window_.findChild<QTreeView*>(name);
+      if (!tree->isVisible()) continue;
+      std::string fault = TreeFault(*tree->model(), ListTree(tables_, satellites_, shape), {}, 0);
+      if (!fault.empty()) return name + (": " + fault);
+    }
+    return {};
+  }
+
+  [[nodiscard]] std::string FavouritesFault() const {
+    const auto* lists = window_.findChild<QDialog*>("ListePreferiti");
+    for (std::size_t list = 0; list < Routines::FavouriteLists; ++list) {
+      const auto entries = Routines::FavouriteEntriesOf(tables_.FavouritesBlock, list);
+      const std::size_t room = Routines::FavouriteRoom(tables_.FavouritesBlock, list);
+      if (entries.size() > room || room > Routines::FavouriteEntries) return "favourites past their list";
+      if (lists == nullptr || !lists->isVisible()) continue;
+      const QString number = QString::number(list + 1);
+      const auto* model = lists->findChild<QListView*>("Preferiti_" + number)->model();
+      const QString count = lists->findChild<QLabel*>("ContaPreferiti_" + number)->text();
+      if (count != QString("%1 di %2").arg(entries.size()).arg(room)) return "count of a favourites list";
+      for (std::size_t i = 0; i < entries.size(); ++i) {
+        const QString text = model->index(static_cast<int>(i), 0).data().toString();
+        if (text.section(' ', 0, 0).toInt() != entries[i]) return "entry of a favourites list";
+      }
+      if (model->rowCount() != static_cast<int>(entries.size())) return "rows of a favourites list";
+    }
+    return {};
+  }
+
+  [[nodiscard]] std::string FiguresFault() const {
+    const State& state = tables_;
+    const QString channels =
+        QString("Canali %1 di %2").arg(Routines::UsedChannels(state)).arg(state.ChannelCount);
+    if (Label("CanaliUsati") != (state.Loaded ? channels : QString("Nessuna flash caricata")))
+      return "channel figures";
+    const QString transponders =
+        QString("Transponder %1 di %2").arg(Routines::UsedTransponders(state)).arg(state.TransponderCount);
+    if (Label("TransponderUsati") != transponders) return "transponder figures";
+    if (Label("ModificheNonSalvate").isEmpty() == window_.List().Unsaved())
+      return "unsaved changes are not told";
+    if (!state.InputFlash.empty() && !window_.windowTitle().contains(PathText(state.InputFlash)))
+      return "the title";
+    const bool undo = !window_.List().Steps().UndoLabel().empty();
+    if (CommandAction(window_, "Annulla").isEnabled() != undo) return "undo is offered wrongly";
+    if (CommandAction(window_, "Salva").isEnabled() != state.Loaded) return "saving is offered wrongly";
+    if (QApplication::activeModalWidget() != nullptr || QApplication::overrideCursor() != nullptr)
+      return "a box is left";
+    return {};
+  }
+
+  const CopiaTCSTPT& window_;
+  const std::vector<Routines::Satellite>& satellites_;
+  const State& tables_;
+};
 
 }  // namespace Ui

@@ -37,32 +37,38 @@ class Window : public testing::Test {
 
   ~Window() override { EXPECT_EQ(driver_->Failures().join("\n").toStdString(), ""); }
 
-  void Start() {
+  void Start(const std::string& programFolder) {
     driver_.reset();
     window_.reset();  // a program ends before it is started again
-    window_ = std::make_unique<CopiaTCSTPT>(folder_.Path());
+    window_ = std::make_unique<CopiaTCSTPT>(programFolder);
     driver_ = std::make_unique<Demo::WindowDriver>(*window_);
     window_->show();
+  }
+  void Start() { Start(folder_.Path()); }
+
+  void ChooseFile(const char* command, const QString& title, const std::string& path) {
+    driver_->ExpectFile(title, PathText(path));
+    ASSERT_TRUE(driver_->Choose(command));
   }
 
   void Open(const std::string& path, const char* capacity = "QuantiCanali_2") {
     ASSERT_TRUE(driver_->Pick(capacity));
     if (List().Loaded)
       driver_->ExpectQuestion("Si desidera accodare la nuova Flash a quella già caricata?", false);
-    driver_->ExpectFile(InputDialog, PathText(path));
-    ASSERT_TRUE(driver_->Choose("ApriFlashInput"));
+    ChooseFile("ApriFlashInput", InputDialog, path);
   }
 
-  void OpenDemo() {
-    Start();
-    ASSERT_TRUE(window_->Start());
-    Open(flash_);
-    ASSERT_TRUE(driver_->Pick("FlashScrittura_1"));
-  }
+  void SetUp() override { OpenDemo(); }
 
   void StartEmpty() {
     Start();
     ASSERT_TRUE(window_->Start());
+  }
+
+  void OpenDemo() {
+    StartEmpty();
+    Open(flash_);
+    ASSERT_TRUE(driver_->Pick("FlashScrittura_1"));
   }
 
   // Of menus and toolbar alike, answered with a message.
@@ -76,6 +82,10 @@ class Window : public testing::Test {
     const QPoint place = view.visualRect(index).center();
     QTest::mouseClick(view.viewport(), Qt::LeftButton, {}, place);
     if (twice) QTest::mouseDClick(view.viewport(), Qt::LeftButton, {}, place);
+  }
+
+  void Click(const char* button) {
+    QTest::mouseClick(window_->findChild<QPushButton*>(button), Qt::LeftButton);
   }
 
   void Delete(int from, int to) {
@@ -97,8 +107,7 @@ class Window : public testing::Test {
   }
 
   void Export(const char* command, const std::string& path) {
-    driver_->ExpectFile("Selezionare il file di output", PathText(path));
-    ASSERT_TRUE(driver_->Choose(command));
+    ChooseFile(command, "Selezionare il file di output", path);
   }
 
   // The opened flash, as the file to be written; the box that asks whether to write over it says yes.
