@@ -29,6 +29,7 @@ TEST_F(Window, CutMovePasteAndUndoByKeysAndToolbar) {
 
   EXPECT_EQ(Action("Annulla").text(), "Annulla Incolla 3 canali");
   ASSERT_TRUE(driver_->Choose("Annulla"));
+  EXPECT_EQ(driver_->TextOf("CanaliCopiati"), "Appunti 3") << "as the list does, the channels cut come back";
   EXPECT_EQ(Action("Annulla").text(), "Annulla Taglia 3 canali");
   EXPECT_EQ(Action("Ripeti").text(), "Ripeti Incolla 3 canali");
   driver_->Key(Qt::Key_Z, Qt::ControlModifier);
@@ -74,8 +75,11 @@ TEST_F(Window, RowKeysLeaveTheFilterFieldAlone) {
   driver_->Key(Qt::Key_Delete);
   EXPECT_TRUE(List() == before);
   EXPECT_EQ(driver_->TextOf("FiltroTrovati"), "1 trovato");
-  driver_->Key(Qt::Key_Return);
-  EXPECT_EQ(driver_->Grid().Selected()->first, 12);
+  for (int times = 0; times < 2; ++times) {  // behind the last one comes the first
+    field->setFocus();
+    driver_->Key(Qt::Key_Return);
+    EXPECT_EQ(driver_->Grid().Selected()->first, 12);
+  }
 }
 
 TEST_F(Window, SearchingAsksForTheNext) {
@@ -91,6 +95,10 @@ TEST_F(Window, SearchingAsksForTheNext) {
   EXPECT_EQ(driver_->Grid().currentIndex().row(), 8);
   driver_->ExpectLine("Inserire il canale da ricercare", "漢");
   Tells("Toolbar1_Find", "Canale non trovato");
+  driver_->SelectRows(2, 3);
+  driver_->ExpectLine("Inserire il Nr. del canale su cui posizionarsi", "600");
+  ASSERT_TRUE(driver_->Press("Toolbar1_Goto"));
+  EXPECT_FALSE(driver_->Grid().Selected()) << "what is out of sight now must not be deleted by a key";
   driver_->ExpectLine("Inserire il Nr. del canale su cui posizionarsi", "3997");
   Tells("Toolbar1_Goto", "Nr. Canale non valido");
   ASSERT_TRUE(driver_->Choose("VisualizzaTransponder"));

@@ -1,4 +1,5 @@
 // Lists that leave the program and come in: texts, raw records, SatcoDX.
+#include "base/code_page.h"
 #include "ui/window_fixture.h"
 
 namespace Ui {
@@ -15,11 +16,12 @@ TEST_F(Window, AListLeavesAsTextIsEditedAndComesBack) {
   EXPECT_EQ(Said(), "Esportato lista.txt");
   std::string text(Base::AsText(Contents(path)));
   text.replace(text.find("Rete Due "), 9, "Rinomina ");
-  folder_.Write("lista.txt", text);
+  folder_.Write("lista.txt", "\xEF\xBB\xBF" + Base::ToUtf8(text));  // as editors of today save it
 
   const QString import = "Selezionare il file di testo contenente i CANALI e i TRANSPONDERS";
   ChooseFile("CaricaImportato", import, path);
   EXPECT_EQ(driver_->Cell(5, 1), "Rinomina");
+  EXPECT_EQ(driver_->Cell(8, 1), "Città Più HD");
   EXPECT_EQ(driver_->TextOf("CanaliUsati"), "Canali 620 di 3996");
   EXPECT_EQ(driver_->TextOf("ModificheNonSalvate"), "Modifiche non salvate");
   EXPECT_EQ(driver_->TextOf("FlashOutput"), "Flash di output : nessuna");
@@ -98,6 +100,9 @@ TEST_F(Window, ASatcodxListGoesIntoTheChannelList) {
   EXPECT_EQ(driver_->Cell(2, 1), "Nuovo 3");
   EXPECT_EQ(driver_->Cell(2, 2), "001") << "the transponder at 10971 MHz";
   EXPECT_EQ(driver_->Cell(3, 1), "Rete Italia");
+  driver_->ExpectDialog("Importazione canali SDX", [](QDialog& box) { box.accept(); });
+  ASSERT_TRUE(driver_->Choose("ImportaTuttoSDX"));
+  EXPECT_EQ(driver_->Cell(3, 1) + driver_->Cell(4, 1), "Nuovo 3Rete Italia HD") << "nothing moves";
   driver_->ExpectDialog("Importazione canali SDX", [](QDialog& box) {
     box.findChild<QRadioButton*>("DalCanale")->click();
     box.findChild<QLineEdit*>("Partenza")->setText("3995");
