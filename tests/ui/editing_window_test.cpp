@@ -75,11 +75,12 @@ TEST_F(Window, RowKeysLeaveTheFilterFieldAlone) {
   driver_->Key(Qt::Key_Delete);
   EXPECT_TRUE(List() == before);
   EXPECT_EQ(driver_->TextOf("FiltroTrovati"), "1 trovato");
-  for (int times = 0; times < 2; ++times) {  // behind the last one comes the first
-    field->setFocus();
-    driver_->Key(Qt::Key_Return);
-    EXPECT_EQ(driver_->Grid().Selected()->first, 12);
-  }
+  driver_->Key(Qt::Key_Return);
+  EXPECT_EQ(driver_->Grid().Selected()->first, 12);
+  driver_->SelectRows(20, 20);
+  field->setFocus();
+  driver_->Key(Qt::Key_Return);
+  EXPECT_EQ(driver_->Grid().Selected()->first, 12) << "behind the last one comes the first";
 }
 
 TEST_F(Window, SearchingAsksForTheNext) {
