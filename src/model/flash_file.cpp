@@ -1,6 +1,5 @@
 #include "model/flash_file.h"
 
-#include "base/checksum.h"
 #include "base/file.h"
 #include "model/flash_image.h"
 
@@ -66,13 +65,13 @@ Base::Outcome SaveFlash(const std::string& path, Base::ByteView before, Base::By
                         Backups& backups) {
   const std::string target = Base::ResolvedPath(path);
   const auto last = backups.written.find(target);
-  if (last == backups.written.end() || last->second != Base::Crc32(before)) {
+  if (last == backups.written.end() || Base::AsText(last->second) != Base::AsText(before)) {
     auto kept = BackUp(target, before, backups);
     if (!kept) return kept;
   }
   auto written = Overwrite(target, before, after);
   // A failed attempt does not count: the file may hold something else by the next one.
-  if (written) backups.written[target] = Base::Crc32(after);
+  if (written) backups.written[target].assign(after.begin(), after.end());
   return written;
 }
 

@@ -19,7 +19,7 @@ Base::Error WrongFlashSize(std::uint64_t size, const std::string& title);
 // before it is overwritten.
 struct Backups {
   std::string programFolder;  // takes the copy where the image's own folder takes no new file
-  std::map<std::string, std::uint32_t> written;  // checksums of the images, by resolved path
+  std::map<std::string, Base::Bytes> written;  // the last image by resolved path
 };
 
 // Overwrites the image at `path`, which holds `before`, with `after`. Unless they are what the last save wrote, the
