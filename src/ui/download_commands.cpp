@@ -46,7 +46,7 @@ void DownloadCommands::Fetch(const QString& address) {
                                  PathText(Support::RememberedFolder(session_.programFolder, kind))}));
   if (path_.empty()) return;
   if (session_.IsFlashOfList(path_)) {
-    session_.status.ShowResult("Non scaricato: il file scelto è la flash aperta o quella di output");
+    session_.status.ShowResult(QString("Non scaricato: ") + FlashOfListChosen);
     return;
   }
   Support::RememberFolderOf(session_.programFolder, kind, path_);

@@ -26,7 +26,7 @@ std::string ExchangeCommands::AskExport(const QString& filters) {
       {"Selezionare il file di output", filters,
        PathText(Support::RememberedFolder(session_.programFolder, Support::FolderKind::Input))}));
   if (session_.IsFlashOfList(path)) {
-    session_.status.ShowResult("Non esportato: il file scelto è la flash aperta o quella di output");
+    session_.status.ShowResult(QString("Non esportato: ") + FlashOfListChosen);
     return {};
   }
   return path;

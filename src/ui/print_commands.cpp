@@ -82,6 +82,10 @@ void PrintCommands::Print(const Griglia& grid, int lastRow, const QString& headi
 
 // The line for the status bar; empty where the file could not be written, which a box has told then.
 QString PrintCommands::Save(const PrintReport& report, const std::string& path, const QPrinter& printer) {
+  if (session_.IsFlashOfList(path)) {
+    session_.dialogs.Message(QString("Non stampato: ") + FlashOfListChosen, {});
+    return {};
+  }
   const auto pages = SavePdf(report, path, printer.pageLayout(), printer.pageRanges());
   if (pages) return report.heading + ": " + PagesText(*pages) + " in " + PathText(Base::FileName(path));
   session_.Message(pages.error());

@@ -17,6 +17,9 @@
 
 namespace Ui {
 
+// Why nothing but a save goes into a file that IsFlashOfList knows.
+inline constexpr const char* FlashOfListChosen = "il file scelto è la flash aperta o quella di output";
+
 struct Session {
   std::string programFolder;
   Support::BouquetDefinitions bouquets;

@@ -94,6 +94,14 @@ class PrintingWindow : public Window {
 };
 
 TEST_F(PrintingWindow, PrintsTheListShownOrItsSelectedRowsWithOrWithoutAPrinter) {
+  const Base::Bytes image = Contents(flash_);
+  driver_->ExpectDialog("Stampa Canali - demo.dat", [](QDialog& preview) {
+    preview.findChild<QAction*>("SalvaPdf")->trigger();
+    preview.reject();
+  });
+  ExpectOpenedFlashChosen("Salva la stampa come PDF");
+  Tells("StampaGriglia", "Non stampato: il file scelto è la flash aperta o quella di output");
+  EXPECT_EQ(Contents(flash_), image);
   const std::string all = ExpectPdf("Stampa Canali - demo.dat", "tutti.pdf");
   ASSERT_TRUE(driver_->Choose("StampaGriglia"));
   const auto pages = PagesIn(all);
