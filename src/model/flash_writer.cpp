@@ -122,7 +122,7 @@ PatchedFlash PatchFlash(const State& state, Base::ByteView original, const Write
 }
 
 bool DiffersOnlyInSections(Base::ByteView original, Base::ByteView patched) {
-  if (original.size() != patched.size()) return false;
+  if (original.size() != FlashSize || patched.size() != FlashSize) return false;
   Base::Bytes expected(patched.begin(), patched.end());
   const auto takeOriginal = [&](const Range& range) {
     const Base::ByteView bytes = original.subspan(range.first, range.count);

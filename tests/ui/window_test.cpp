@@ -48,6 +48,15 @@ TEST_F(Window, AWholeSessionGivesTheSameListBack) {
       List().ChannelTable == before.ChannelTable && List().TransponderTable == before.TransponderTable &&
       List().FavouritesBlock == before.FavouritesBlock && List().SymbolRateTable == before.SymbolRateTable);
   EXPECT_EQ(driver_->TextOf("FlashOutput"), "Flash di output : nessuna") << "a load forgets the output";
+
+  const std::string link = folder_.Path("b.dat");
+  std::filesystem::create_symlink("copia.dat", link);
+  Open(flash_);
+  SaveAs(link, 647);
+  EXPECT_EQ(driver_->TextOf("ModificheNonSalvate"), "");
+  ASSERT_TRUE(driver_->Choose("Annulla"));
+  EXPECT_EQ(driver_->TextOf("ModificheNonSalvate"), "Modifiche non salvate")
+      << "another list took its place in the file, by another name";
 }
 
 TEST_F(Window, AppendingAsksTwice) {
@@ -125,7 +134,9 @@ TEST_F(Window, AFailedSaveLeavesFileAndListAsTheyWere) {
 }
 
 TEST_F(Window, WhatASaveLeavesOutIsTold) {
+  EXPECT_TRUE(Action("VisualizzaPreferiti").isEnabled());
   ASSERT_TRUE(driver_->Pick("FlashScrittura_0"));
+  EXPECT_FALSE(Action("VisualizzaPreferiti").isEnabled()) << "receivers of the first type have none to write";
   ASSERT_TRUE(driver_->Pick("SRDef_1"));
   const std::string copy = folder_.Write("copia.dat", Contents(flash_));
   driver_->ExpectMessage(

@@ -171,10 +171,7 @@ void FileCommands::Write(const std::string& path, const Base::Bytes& original,
   const Routines::PatchedFlash patched = Routines::PatchFlash(state, original, preparation.plan);
   status.ShowProgress(30);
   const auto saved =
-      Routines::DiffersOnlyInSections(original, patched.image)
-          ? Waiting([&] { return Routines::SaveFlash(path, original, patched.image, session_.backups); })
-          : Base::Error{"Impossibile scrivere " + Base::FileName(path) +
-                        ": la modifica esce dalle sezioni conosciute"};
+      Waiting([&] { return Routines::SaveFlash(path, original, patched.image, session_.backups); });
   status.ShowProgress(100);
   if (!saved) {
     session_.dialogs.Message(Text(saved.error().message), OutputTitle);
