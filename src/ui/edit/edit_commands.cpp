@@ -13,7 +13,7 @@ using Routines::State;
 
 namespace {
 
-std::string CountText(int count) { return count == 1 ? "1 canale" : std::to_string(count) + " canali"; }
+std::string CountText(int count) { return Base::Counted(count, "canale", "canali"); }
 
 }  // namespace
 
@@ -124,11 +124,7 @@ void EditCommands::Move(Slots slots, int to) {
   // Rows that go on from where a move has just put them make one step with it.
   const bool continues = movedTo_ == slots.first && document.Steps().UndoLabel() == label;
   document.Apply(
-      label,
-      [&](State& tables) {
-        Edit::MoveChannels(tables, slots, to);
-        return Base::Done{};
-      },
+      label, [&](State& tables) { Edit::MoveChannels(tables, slots, to); },
       continues ? Edit::History::Kind::Continued : Edit::History::Kind::Edit);
   movedTo_ = to;
   session_.view.ListGrid().Select({to, to + slots.Count() - 1});

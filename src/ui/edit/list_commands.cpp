@@ -87,10 +87,7 @@ void ListCommands::CanaliXTransponder() {
 
 void ListCommands::ChangeTransponders(const char* label, void (*operation)(State&)) {
   if (!session_.NeedsFlash()) return;
-  session_.document.Apply(label, [operation](State& state) {
-    operation(state);
-    return Base::Done{};
-  });
+  session_.document.Apply(label, operation);
   session_.view.Show(View::Transponders);
   session_.status.ShowResult(label);
 }

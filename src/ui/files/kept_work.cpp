@@ -140,12 +140,7 @@ void KeptWork::Restore(Edit::Recovery& recovery) {
   session_.settings.Choose(recovery.settings);
   session_.clipboard = std::move(recovery.clipboard);
   document.Apply(
-      "Recupera",
-      [&recovery](Routines::State& state) {
-        state = recovery.state;
-        return Base::Done{};
-      },
-      Edit::History::Kind::List);
+      "Recupera", [&recovery](Routines::State& state) { state = recovery.state; }, Edit::History::Kind::List);
   session_.view.ShowFromStart(View::Channels);
   session_.status.ShowResult("Recuperate le modifiche dell'ultima sessione");
 }

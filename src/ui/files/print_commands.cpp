@@ -39,7 +39,7 @@ void MakeReachable(QPrintPreviewDialog& dialog) {
   for (auto* number : dialog.findChildren<QLineEdit*>()) number->setAccessibleName("Pagina");
 }
 
-QString PagesText(int pages) { return pages == 1 ? QString("1 pagina") : QString("%1 pagine").arg(pages); }
+QString PagesText(int pages) { return Counted(pages, "pagina", "pagine"); }
 
 }  // namespace
 

@@ -28,10 +28,6 @@ using Routines::State;
 
 namespace {
 
-QString Counted(int count, const char* one, const char* more) {
-  return QString("%1 %2").arg(count).arg(count == 1 ? one : more);
-}
-
 // "2 aggiunti, 1 eliminato, 1 senza posto"
 QString Report(const Edit::TakeOverReport& report) {
   QStringList parts;
@@ -251,8 +247,7 @@ void CompareWindow::GoTo(const QModelIndex& index) {
 void CompareWindow::Apply() {
   const std::vector<Review::Difference> chosen = model_->Ticked();
   const Review::Comparison found = model_->Found();
-  const std::string label =
-      "Applica " + Counted(static_cast<int>(chosen.size()), "differenza", "differenze").toStdString();
+  const std::string label = "Applica " + Base::Counted(chosen.size(), "differenza", "differenze");
   const auto report = session_.document.Apply(label, [&](State& state) {
     return Edit::TakeOver(state, other_.List(), found, chosen, session_.bouquets.tables);
   });

@@ -58,10 +58,6 @@ std::map<int, QString> FavouritesOf(const State& state) {
   return lists;
 }
 
-QString Counted(std::size_t count, const char* one, const char* more) {
-  return QString("%1 %2").arg(count).arg(count == 1 ? one : more);
-}
-
 }  // namespace
 
 void CanaliDoppi(Session& session, QMainWindow& window) {
@@ -319,8 +315,7 @@ void DuplicatesWindow::GoTo(const QTreeWidgetItem* item) {
 }
 
 void DuplicatesWindow::Delete(const std::vector<int>& slots) {
-  const std::string label = slots.size() == 1 ? "Elimina 1 canale doppio"
-                                              : "Elimina " + std::to_string(slots.size()) + " canali doppi";
+  const std::string label = "Elimina " + Base::Counted(slots.size(), "canale doppio", "canali doppi");
   const auto lost =
       session_.document.Apply(label, [&](State& state) { return Edit::DeleteSlots(state, slots); });
   session_.status.ShowResult(Text(label) + session_.Losses(lost));

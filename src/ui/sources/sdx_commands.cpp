@@ -192,8 +192,7 @@ void SdxCommands::Put(const Rows& rows, int position, bool shift) {
   const int room = session_.document.Tables().ChannelCount - position + 1;
   const int all = static_cast<int>(rows.content.size());
   const int count = std::min(all, room);
-  const std::string label =
-      count == 1 ? "Inserisci 1 canale SDX" : "Inserisci " + std::to_string(count) + " canali SDX";
+  const std::string label = "Inserisci " + Base::Counted(count, "canale SDX", "canali SDX");
   QString result = Text(label) + QString(" dal %1").arg(position);
   std::string message;
   std::vector<Edit::LostFavourite> lost;
@@ -206,7 +205,6 @@ void SdxCommands::Put(const Rows& rows, int position, bool shift) {
     message = import.Message();
     if (import.UnknownRates() > 0)
       result += QString(", %1 con SR che SR.INI non ha").arg(import.UnknownRates());
-    return Base::Done{};
   });
   result += session_.Losses(lost);
   if (session_.view.Current() == View::Channels)
@@ -214,9 +212,8 @@ void SdxCommands::Put(const Rows& rows, int position, bool shift) {
   session_.status.ShowResult(result);
   if (!message.empty()) session_.dialogs.Message(Text(message), {});
   if (const int left = all - count; left > 0) {
-    session_.dialogs.Message(left == 1 ? QString("1 canale SDX non ha trovato posto")
-                                       : QString("%1 canali SDX non hanno trovato posto").arg(left),
-                             {});
+    session_.dialogs.Message(
+        Counted(left, "canale SDX non ha trovato posto", "canali SDX non hanno trovato posto"), {});
   }
 }
 
