@@ -35,11 +35,9 @@ void CheckRow(const SdxRow& row, const SdxOptions& options) {
 }
 
 void CheckTable(const SdxTable& table, const SdxOptions& options) {
-  const int dropped = table.droppedByRate + table.droppedByType + table.droppedByFormat + table.droppedByPid +
-                      table.droppedByCode + table.droppedByFilter;
   CheckRows(table);
   Require(table.satelliteName.size() <= 17, "the satellite's name");
-  Require(static_cast<int>(table.rows.size()) + dropped + (table.full ? 1 : 0) == table.lines,
+  Require(static_cast<int>(table.rows.size()) + table.dropped.Total() + (table.full ? 1 : 0) == table.lines,
           "every line is taken or dropped for a reason");
   for (const SdxRow& row : table.rows) CheckRow(row, options);
 }

@@ -31,12 +31,12 @@ void ForeignCommands::CaricaAggiuntiva() {
   }
   const auto rates = session_.LoadSymbolRates();
   if (!rates) return;
-  Formats::FlashRows rows = Formats::ReadFlashRows(*image, rates->table, session_.bouquets.tables);
+  Formats::SdxTable table = Formats::ReadFlashRows(*image, rates->table, session_.bouquets.tables);
   const QString file = PathText(Base::FileName(path));
-  QString result = QString("%1: letti %2 canali").arg(file).arg(rows.table.rows.size());
-  if (rows.withoutTransponder > 0)
-    result += QString("; tralasciati %1 senza transponder").arg(rows.withoutTransponder);
-  sdx_.Show(std::move(rows.table), file);
+  QString result = QString("%1: letti %2 canali").arg(file).arg(table.rows.size());
+  if (const int without = table.dropped.Count(Formats::Drop::NoTransponder); without > 0)
+    result += QString("; tralasciati %1 senza transponder").arg(without);
+  sdx_.Show(std::move(table), file);
   session_.status.ShowResult(result);
 }
 
@@ -64,18 +64,8 @@ void ForeignCommands::Importa(const QString& kind, const QString& caption) {
                        session_.bouquets.tables.satellites, session_.dialogs, &window_);
   if (dialog.exec() != QDialog::Accepted) return;
   RememberLayout(ini, kind, dialog.Layout());
-  Formats::ForeignList list = Formats::ReadForeign(text->text, dialog.Layout(), dialog.Satellite());
-  const std::string drops = list.DropsText();
-  sdx_.Show(std::move(list.table), PathText(name));
-  TellImported(PathText(name), session_.sdx, drops);
-}
-
-void ForeignCommands::TellImported(const QString& file, const Formats::SdxTable& table,
-                                   const std::string& drops) {
-  QString result = QString("%1: lette %2 righe, prese %3").arg(file).arg(table.lines).arg(table.rows.size());
-  if (!drops.empty()) result += "; scartate: " + Text(drops);
-  session_.status.ShowResult(result);
-  if (table.full) session_.dialogs.Message(SdxTableFull, {});
+  sdx_.Show(Formats::ReadForeign(text->text, dialog.Layout(), dialog.Satellite()), PathText(name));
+  sdx_.TellTaken(PathText(name));
 }
 
 }  // namespace Ui

@@ -15,8 +15,6 @@ class ForeignCommands {
   void Importa(const QString& kind, const QString& caption);
 
  private:
-  void TellImported(const QString& file, const Formats::SdxTable& table, const std::string& drops);
-
   Session& session_;
   SdxCommands& sdx_;
   QWidget& window_;

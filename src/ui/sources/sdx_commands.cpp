@@ -81,7 +81,8 @@ void SdxCommands::Load(const std::string& path) {
   Formats::SdxTable table = Formats::ReadSatcodx(text, options);
   const QString name = CodePageText(Base::TrimmedRight(table.satelliteName));
   Show(std::move(table), name);
-  TellLoaded(path, options.satellite, text);
+  TellTaken(PathText(Base::FileName(path)));
+  ListMissing(options.satellite, text);
 }
 
 void SdxCommands::Show(Formats::SdxTable table, const QString& name) {
@@ -90,23 +91,13 @@ void SdxCommands::Show(Formats::SdxTable table, const QString& name) {
   pane_.Refresh(name);
 }
 
-void SdxCommands::TellLoaded(const std::string& path, int satellite, std::string_view text) {
+void SdxCommands::TellTaken(const QString& file) {
   const Formats::SdxTable& table = session_.sdx;
   QString result = QString("%1: lette %2 righe, prese %3")
-                       .arg(PathText(Base::FileName(path)), QString::number(table.lines),
-                            QString::number(table.rows.size()));
-  const std::pair<const char*, int> reasons[] = {
-      {"senza PID", table.droppedByPid},   {"tipo", table.droppedByType},
-      {"non MPG2", table.droppedByFormat}, {"symbol rate", table.droppedByRate},
-      {"codifica", table.droppedByCode},   {"filtri", table.droppedByFilter}};
-  QStringList dropped;
-  for (const auto& [reason, count] : reasons) {
-    if (count > 0) dropped += QString("%1 %2").arg(reason).arg(count);
-  }
-  if (!dropped.isEmpty()) result += "; scartate: " + dropped.join(", ");
+                       .arg(file, QString::number(table.lines), QString::number(table.rows.size()));
+  if (const std::string drops = table.dropped.Text(); !drops.empty()) result += "; scartate: " + Text(drops);
   session_.status.ShowResult(result);
-  if (table.full) session_.dialogs.Message(SdxTableFull, {});
-  ListMissing(satellite, text);
+  if (table.full) session_.dialogs.Message("Superato il numero di canali SDX gestibili 4000", {});
 }
 
 void SdxCommands::ListMissing(int satellite, std::string_view text) {

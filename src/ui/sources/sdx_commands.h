@@ -8,8 +8,6 @@ class QWidget;
 
 namespace Ui {
 
-inline constexpr const char* SdxTableFull = "Superato il numero di canali SDX gestibili 4000";
-
 class SdxCommands {
  public:
   SdxCommands(Session& session, SdxPane& pane, QWidget& window)
@@ -34,13 +32,14 @@ class SdxCommands {
   void Load(const std::string& path);
   // Puts other rows into the table and shows them; `name` says where they are from.
   void Show(Formats::SdxTable table, const QString& name);
+  // Tells how many lines of a file the table took and dropped, and why.
+  void TellTaken(const QString& file);
   void ShowPane(bool shown);
   [[nodiscard]] bool PaneShown() const { return !pane_.isHidden(); }
   // Whether the channel list is shown, as every list that is loaded for it needs; says so where it is not.
   bool NeedsChannels();
 
  private:
-  void TellLoaded(const std::string& path, int satellite, std::string_view text);
   void ListMissing(int satellite, std::string_view text);
   void AskAndInsert(int first, int last);
   // Rows of the table, the first of which has the number `first`.
