@@ -1,5 +1,6 @@
 // Work that is not saved outlives the window and the program.
 #include "edit/list_operations.h"
+#include "edit/recovery.h"
 #include "ui/kit/text.h"
 #include "ui/window_fixture.h"
 
