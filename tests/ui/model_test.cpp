@@ -7,6 +7,7 @@
 #include "support/bouquets_txt.h"
 #include "support/sr_ini.h"
 #include "support/test_folder.h"
+#include "ui/list/cell_delegate.h"
 #include "ui/list/grid.h"
 #include "ui/random_input.h"
 #include "ui/session/commands.h"
@@ -134,12 +135,12 @@ class Play {
       if (name == "Fine") continue;
       const bool often =
           name == "ApriFlashInput" || name == "Annulla" || name == "Ripeti" || name.starts_with("Salva");
-      Add(name, often ? 4 : 1, [this, &command] { CommandAction(*window_, command.name).trigger(); });
+      Add(name, often ? 4 : 1, [this, &command] { CommandAction(*window_, command).trigger(); });
     }
     for (const ToolbarButton& button : ToolbarButtons) {
-      if (std::string_view(button.key) != "Fine Programma")
-        Add(std::string("button ") + button.key, 1,
-            [this, &button] { ButtonAction(*window_, button.key).trigger(); });
+      if (std::string_view(button.name) != "Fine Programma")
+        Add(std::string("button ") + button.name, 1,
+            [this, &button] { ButtonAction(*window_, button).trigger(); });
     }
     Add("restart", 1, [this] { Restart(); });
     Add("select", 12, [this] { SelectRows(); });

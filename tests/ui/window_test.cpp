@@ -1,5 +1,6 @@
 // Opening, looking, saving.
 #include "ui/kit/text.h"
+#include "ui/session/commands.h"
 #include "ui/window_fixture.h"
 
 #include <sys/stat.h>
@@ -17,6 +18,19 @@ TEST_F(Window, RefusesWhatNeedsAFlash) {
     Tells(name, NoFlash);
     const auto* action = window_->findChild<QAction*>(name);
     EXPECT_FALSE(action != nullptr && action->isChecked()) << name << " gets its old check mark back";
+  }
+}
+
+TEST_F(Window, EveryCommandAndButtonHasWhatItRuns) {
+  ChooseFile("CaricaAggiuntiva", "Selezionare la flash aggiuntiva", flash_);
+  for (int i = 0; i < 2; ++i) Delete(1, 1);
+  ASSERT_TRUE(driver_->Choose("Annulla"));
+  for (const Command& command : Commands)
+    EXPECT_TRUE(CommandAction(*window_, command).isEnabled()) << command.name;
+  for (const ToolbarButton& button : ToolbarButtons) {
+    QAction& action = ButtonAction(*window_, button);
+    action.setVisible(true);  // a hidden one counts as disabled
+    EXPECT_TRUE(action.isEnabled()) << button.name;
   }
 }
 

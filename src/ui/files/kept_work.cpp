@@ -61,11 +61,11 @@ void RemoveBrokenLock(QLockFile& lock) {
 
 }  // namespace
 
-KeptWork::KeptWork(Session& session, QObject* parent) : QObject(parent), session_(session) {
+KeptWork::KeptWork(Session& session) : session_(session) {
   timer_.setSingleShot(true);
   connect(&timer_, &QTimer::timeout, this, &KeptWork::Write);
   writer_.setMaxThreadCount(1);
-  session_.onChange = [this] { Follow(); };
+  session_.onChange.emplace_back([this] { Follow(); });
   connect(&session_.settings, &SettingsPanel::Clicked, this, &KeptWork::Follow);
   connect(&session_.document, &Document::AboutToReplace, this, &KeptWork::KeepBeforeReplacing);
 }

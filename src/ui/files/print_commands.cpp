@@ -43,12 +43,13 @@ QString PagesText(int pages) { return Counted(pages, "pagina", "pagine"); }
 
 }  // namespace
 
+void PrintCommands::Connect(Actions& actions) {
+  actions.Connect("StampaGriglia", [this] { StampaGriglia(); });
+  actions.Connect("StampaSDX", [this] { StampaSDX(); });
+}
+
 void PrintCommands::StampaGriglia() {
   const ListView& view = session_.view;
-  if (view.Current() == View::None) {
-    session_.dialogs.Message("Funzione valida solo in visualizzazione canali", {});
-    return;
-  }
   const State& state = session_.document.Tables();
   const int last =
       view.Current() == View::Channels ? Routines::LastOccupied(state) : LastUsedTransponder(state);

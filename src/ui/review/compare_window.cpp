@@ -64,7 +64,8 @@ CompareWindow::CompareWindow(Session& session, OtherFlash other, QMainWindow& wi
   rest_->setWordWrap(true);
   result_->setObjectName("RisultatoConfronto");
   // Undo and redo work here as they do in the main window.
-  for (const char* name : {"Annulla", "Ripeti"}) addAction(&CommandAction(window, name));
+  for (const CommandName name : {CommandName("Annulla"), CommandName("Ripeti")})
+    addAction(&CommandAction(window, name));
   SetUpTable();
   auto* column = new QVBoxLayout(this);
   column->addWidget(names_);

@@ -61,7 +61,6 @@ std::map<int, QString> FavouritesOf(const State& state) {
 }  // namespace
 
 void CanaliDoppi(Session& session, QMainWindow& window) {
-  if (!session.NeedsFlash()) return;
   if (auto* open = window.findChild<DuplicatesWindow*>(); open != nullptr && open->isVisible()) {
     open->activateWindow();
     return;
@@ -77,7 +76,8 @@ void CanaliDoppi(Session& session, QMainWindow& window) {
     if (!session.dialogs.YesNo("Nessun canale doppio\nCercare anche i canali con lo stesso nome?")) return;
   }
   auto* found = new DuplicatesWindow(session, rules, &window);
-  for (const char* name : {"Annulla", "Ripeti"}) found->addAction(&CommandAction(window, name));
+  for (const CommandName name : {CommandName("Annulla"), CommandName("Ripeti")})
+    found->addAction(&CommandAction(window, name));
   found->show();
 }
 

@@ -102,11 +102,10 @@ class BarDelegate : public QStyledItemDelegate {
 }  // namespace
 
 void ShowOverview(Session& session, QMainWindow& window) {
-  if (!session.NeedsFlash()) return;
   auto* shown = window.findChild<OverviewWindow*>();
   if (shown == nullptr) {
     shown = new OverviewWindow(session, &window);
-    for (const char* name : {"Annulla", "Ripeti", "CercaSuccessivo"})
+    for (const CommandName name : std::initializer_list<CommandName>{"Annulla", "Ripeti", "CercaSuccessivo"})
       shown->addAction(&CommandAction(window, name));
     // At the right, where it leaves numbers and names of the rows in sight.
     shown->move(window.geometry().topRight() - QPoint(shown->width() + 12, -90));

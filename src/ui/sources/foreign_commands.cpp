@@ -19,6 +19,12 @@ constexpr std::size_t LargestList = 256U << 20U;
 
 }  // namespace
 
+void ForeignCommands::Connect(Actions& actions) {
+  actions.Connect("CaricaAggiuntiva", [this] { CaricaAggiuntiva(); });
+  for (const CommandName kind : {CommandName("Digiquest"), CommandName("Pelko")})
+    actions.Connect(kind, [this, kind] { Importa(kind->name, kind->caption); });
+}
+
 void ForeignCommands::CaricaAggiuntiva() {
   const std::string path = PathBytes(session_.dialogs.OpenFile(
       {"Selezionare la flash aggiuntiva", FlashFilters,
@@ -41,7 +47,6 @@ void ForeignCommands::CaricaAggiuntiva() {
 }
 
 void ForeignCommands::Importa(const QString& kind, const QString& caption) {
-  if (!sdx_.NeedsChannels()) return;
   const std::string path = PathBytes(session_.dialogs.OpenFile(
       {"Selezionare il file da importare",
        "File di testo(*.txt *.csv *.ini *.dat)|*.txt *.csv *.ini *.dat|Tutti i file (*.*)|*.*|",
@@ -59,7 +64,7 @@ void ForeignCommands::Importa(const QString& kind, const QString& caption) {
     session_.Message(text.error());
     return;
   }
-  const QString ini = PathText(session_.programFolder + "/trovalis.ini");
+  const QString ini = session_.SettingsFile();
   ForeignDialog dialog(caption, PathText(name), *text, RememberedLayout(ini, kind),
                        session_.bouquets.tables.satellites, session_.dialogs, &window_);
   if (dialog.exec() != QDialog::Accepted) return;

@@ -37,14 +37,21 @@ QString RowName(const Formats::SdxRow& row) { return CodePageText(Base::TrimmedR
 
 }  // namespace
 
-bool SdxCommands::NeedsChannels() {
-  if (session_.view.Current() == View::Channels) return true;
-  session_.dialogs.Message("Per Caricare un file SDX si deve visualizzare la griglia Canali", {});
-  return false;
+void SdxCommands::Connect(Actions& actions) {
+  actions.Connect("SDX", [this] { Carica(); });
+  actions.Connect("RicercaSDX", [this] { Ricerca(); });
+  actions.Connect("ImportaTuttoSDX", [this] { ImportaTutto(); });
+  actions.ConnectButton("Copy SDX", [this] { CopySDX(); });
+  session_.onChange.emplace_back([this] {
+    session_.sdxShownSinceFls = session_.sdxShownSinceFls && session_.document.Tables().FromFls;
+  });
+  QObject::connect(&pane_, &SdxPane::Chosen, &pane_, [this](int row) { AskAndInsert(row, row); });
+  QObject::connect(&pane_, &SdxPane::CopyWanted, &pane_, [this] { CopySDX(); });
+  QObject::connect(&session_.view, &ListView::SdxDropped, &pane_,
+                   [this](int first, int last, int before) { Drop(first, last, before); });
 }
 
 void SdxCommands::Carica(std::string path) {
-  if (!NeedsChannels()) return;
   if (path.empty()) {
     path = PathBytes(session_.dialogs.OpenFile(
         {"Selezionare il file SDX di input", "SatcoDX files(*.sdx)|*.sdx|Tutti i file (*.*)|*.*|",
@@ -53,10 +60,6 @@ void SdxCommands::Carica(std::string path) {
   if (path.empty()) return;
   Support::RememberFolderOf(session_.programFolder, Support::FolderKind::Foreign, path);
   Load(path);
-}
-
-void SdxCommands::ApriSDX() {
-  if (session_.NeedsFlash()) Carica();
 }
 
 void SdxCommands::Load(const std::string& path) {
@@ -116,10 +119,11 @@ void SdxCommands::ListMissing(int satellite, std::string_view text) {
 
 void SdxCommands::ShowPane(bool shown) {
   pane_.setVisible(shown);
+  session_.sdxShown = shown;
+  session_.sdxShownSinceFls = session_.sdxShownSinceFls || shown;
+  session_.ShowList();
   if (onShown) onShown(shown);
 }
-
-void SdxCommands::Vedi() { ShowPane(!pane_.isVisible()); }
 
 void SdxCommands::Ricerca() {
   const auto answer = session_.dialogs.AskLine("Inserire il canale da ricercare");
@@ -135,8 +139,6 @@ void SdxCommands::Ricerca() {
   if (!found) session_.dialogs.Message("Canale non trovato", {}, Tone::Information);
 }
 
-void SdxCommands::Insert(int row) { AskAndInsert(row, row); }
-
 void SdxCommands::CopySDX() {
   if (session_.sdx.rows.empty()) {
     session_.dialogs.Message("Canali SDX non caricati", {});
@@ -151,7 +153,7 @@ void SdxCommands::CopySDX() {
 }
 
 void SdxCommands::AskAndInsert(int first, int last) {
-  if (!session_.NeedsFlash()) return;
+  if (!Meets(session_, Need::List)) return;
   const Rows rows = RowsFrom(first, last);
   const auto answer =
       session_.dialogs.AskLine("Inserire la posizione in cui inserire " + RowName(rows.content.front()));
@@ -209,10 +211,6 @@ void SdxCommands::Put(const Rows& rows, int position, bool shift) {
 }
 
 void SdxCommands::ImportaTutto() {
-  if (session_.view.Current() != View::Channels) {
-    session_.dialogs.Message("Per importare i canali da SDX deve essere visibile la lista dei canali", {});
-    return;
-  }
   if (session_.sdx.rows.empty()) {
     session_.dialogs.Message("Canali SDX non caricati", {});
     return;
