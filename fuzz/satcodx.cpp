@@ -22,7 +22,9 @@ SdxOptions OptionsOf(std::size_t choice, std::size_t satellite, std::string_view
   options.codes = EncryptionCodesOf(text);
   options.codes.resize(std::min<std::size_t>(options.codes.size(), choice >> 4U & 3U));
   if ((choice & 64U) != 0) options.filtered = FilteredServices(text);
-  if ((choice & 128U) != 0) options.known = ServicesOf(text.substr(0, text.size() / 2));
+  if ((choice & 128U) == 0) return options;
+  for (const auto& [tid, sid] : ServicesOf(text.substr(0, text.size() / 2)))
+    options.known.insert({options.satellite, tid, sid});
   return options;
 }
 

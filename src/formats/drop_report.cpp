@@ -21,7 +21,15 @@ std::string DropReport::Text() const {
       "frequenza non valida",
       "polarizzazione non valida",
       "numero non valido",
-      "senza transponder"};
+      "senza transponder",
+      "non da satellite",
+      "DVB-S2",
+      "altre modulazioni",
+      "H.264/HEVC",
+      "polarizzazione circolare",
+      "satellite non scelto",
+      "fuori banda",
+      "righe non valide"};
   std::string text;
   for (std::size_t i = 0; i < counts_.size(); ++i) {
     if (counts_[i] == 0) continue;

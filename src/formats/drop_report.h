@@ -20,7 +20,15 @@ enum class Drop {
   BadFrequency,
   BadPolarisation,
   BadNumber,
-  NoTransponder
+  NoTransponder,
+  NotSatellite,
+  DvbS2,
+  Modulation,
+  Video,
+  Circular,
+  Satellite,
+  OutOfBand,
+  Unreadable
 };
 
 class DropReport {
@@ -33,7 +41,7 @@ class DropReport {
   [[nodiscard]] std::string Text() const;
 
  private:
-  std::array<int, static_cast<std::size_t>(Drop::NoTransponder) + 1> counts_{};
+  std::array<int, static_cast<std::size_t>(Drop::Unreadable) + 1> counts_{};
 };
 
 }  // namespace Formats

@@ -106,11 +106,8 @@ class Loader {
         std::find(options_.codes.begin(), options_.codes.end(), code) == options_.codes.end()) {
       return Dropped(Drop::Code);
     }
-    const int sid = Value(Cut(line, SdxLine::Sid));
-    const int pid = Value(Cut(line, SdxLine::Apid));
-    const int key = sid == SidWithoutPid ? 0 : pid == 0 ? 65535 : pid;
-    const bool left = options_.filtered.contains({key, sid}) ||
-                      options_.known.contains({Value(Cut(line, SdxLine::Tid)), sid});
+    const bool left = options_.LeavesOut(options_.satellite, Value(Cut(line, SdxLine::Tid)),
+                                         Value(Cut(line, SdxLine::Sid)), Value(Cut(line, SdxLine::Apid)));
     return left ? Dropped(Drop::Filter) : true;
   }
 
@@ -145,6 +142,11 @@ class Loader {
 };
 
 }  // namespace
+
+bool SdxOptions::LeavesOut(int onSatellite, int tid, int sid, int apid) const {
+  const int key = sid == SidWithoutPid ? 0 : apid == 0 ? 65535 : apid;
+  return filtered.contains({key, sid}) || known.contains({onSatellite, tid, sid});
+}
 
 SdxTable ReadSatcodx(std::string_view text, const SdxOptions& options) { return Loader(options).Run(text); }
 

@@ -82,7 +82,7 @@ TEST(Satcodx, EachDroppedLineHasItsReason) {
   SdxOptions options;
   options.codes = {"MGIV"};
   options.filtered = {{650, 77}, {0, 4435}};
-  options.known = {{11000, 88}};
+  options.known = {{0, 11000, 88}, {1, 11000, 77}};
   const SdxTable table =
       ReadSatcodx(Line({}) + Line({.rate = "5632 "}) + Line({.rate = "05632"}) + Line({.type = "D"}) +
                       Line({.format = "MPG4"}) + Line({.vpid = "0000"}) + Line({.code = "NAGV"}) +

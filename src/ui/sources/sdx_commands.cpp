@@ -79,7 +79,7 @@ void SdxCommands::Load(const std::string& path) {
   }
   if (dialog.SkipKnown()) {
     for (const auto& [service, slot] : ServicesOn(session_.document.Tables(), options.satellite))
-      options.known.insert(service);
+      options.known.insert({options.satellite, service.first, service.second});
   }
   Formats::SdxTable table = Formats::ReadSatcodx(text, options);
   const QString name = CodePageText(Base::TrimmedRight(table.satelliteName));
