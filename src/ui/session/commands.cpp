@@ -41,13 +41,15 @@ void AddCommand(QMainWindow& window, QMenu& menu, const Command& command) {
 void BuildMenus(QMainWindow& window) {
   QMenuBar& bar = *window.menuBar();
   QMenu* file = bar.addMenu("&File");
+  QMenu* edit = bar.addMenu("&Modifica");
   QMenu* utilities = bar.addMenu("&Utilities");
+  QMenu* compare = bar.addMenu("&Confronta");
   QMenu* sdx = bar.addMenu("&SDX");
   QMenu* exchange = bar.addMenu("&Importa-Esporta");
   QMenu* import = exchange->addMenu("Importa");
   QMenu* exports = exchange->addMenu("Esporta");
   QMenu* about = bar.addMenu("&About");
-  const std::array menus = {file, utilities, sdx, import, exports, about};
+  const std::array menus = {file, edit, utilities, compare, sdx, import, exports, about};
   for (QMenu* menu : menus) MenuLetters::Follow(*menu);
   for (const Command& command : Commands) {
     AddCommand(window, *menus[static_cast<std::size_t>(command.menu)], command);

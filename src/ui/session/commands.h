@@ -14,7 +14,7 @@ class QMainWindow;
 
 namespace Ui {
 
-enum class Menu { File, Utilities, Sdx, Import, Export, About };
+enum class Menu { File, Edit, Utilities, Compare, Sdx, Import, Export, About };
 
 // How a command stands in its menu.
 enum Place : unsigned {
@@ -51,26 +51,25 @@ inline constexpr Command Commands[] = {
     {"Fine", "Fine", Menu::File, "exit", "",
      "Chiude il programma; le modifiche non salvate vengono offerte al prossimo avvio", Gate(), Group},
 
-    {"Annulla", "Annulla", Menu::Utilities, "undo", "Ctrl+Z",
+    {"Annulla", "Annulla", Menu::Edit, "undo", "Ctrl+Z",
      "Torna a com'era la lista prima dell'ultima modifica", Enabled::WithUndo},
-    {"Ripeti", "Ripeti", Menu::Utilities, "redo", "Ctrl+Y", "Rifà la modifica annullata", Enabled::WithRedo},
-    {"Copia", "Copia", Menu::Utilities, "copy", "Ctrl+C", "Copia i canali selezionati", Need::ChannelRows,
-     Group | OnRows},
-    {"Taglia", "Taglia", Menu::Utilities, "cut", "Ctrl+X",
-     "Toglie i canali selezionati per incollarli altrove", Need::ChannelRows, OnRows},
-    {"Incolla", "Incolla", Menu::Utilities, "paste", "Ctrl+V",
-     "Inserisce i canali copiati o tagliati al numero che si indica", Need::ChannelRows, OnRows},
-    {"Elimina", "Elimina", Menu::Utilities, "delete", "Del",
-     "Elimina i canali selezionati; quelli che seguono risalgono", Need::ChannelRows, OnRows},
-    {"SpostaSu", "Sposta su", Menu::Utilities, "", "Alt+Up", "Sposta le righe selezionate di un posto in su",
+    {"Ripeti", "Ripeti", Menu::Edit, "redo", "Ctrl+Y", "Rifà la modifica annullata", Enabled::WithRedo},
+    {"Taglia", "Taglia", Menu::Edit, "cut", "Ctrl+X", "Toglie i canali selezionati per incollarli altrove",
      Need::ChannelRows, Group | OnRows},
-    {"SpostaGiu", "Sposta giù", Menu::Utilities, "", "Alt+Down",
-     "Sposta le righe selezionate di un posto in giù", Need::ChannelRows, OnRows},
-    {"SpostaA", "Sposta a…", Menu::Utilities, "", "", "Sposta le righe selezionate al numero che si indica",
+    {"Copia", "Copia", Menu::Edit, "copy", "Ctrl+C", "Copia i canali selezionati", Need::ChannelRows, OnRows},
+    {"Incolla", "Incolla", Menu::Edit, "paste", "Ctrl+V",
+     "Inserisce i canali copiati o tagliati al numero che si indica", Need::ChannelRows, OnRows},
+    {"Elimina", "Elimina", Menu::Edit, "delete", "Del",
+     "Elimina i canali selezionati; quelli che seguono risalgono", Need::ChannelRows, OnRows},
+    {"SpostaSu", "Sposta su", Menu::Edit, "", "Alt+Up", "Sposta le righe selezionate di un posto in su",
+     Need::ChannelRows, Group | OnRows},
+    {"SpostaGiu", "Sposta giù", Menu::Edit, "", "Alt+Down", "Sposta le righe selezionate di un posto in giù",
+     Need::ChannelRows, OnRows},
+    {"SpostaA", "Sposta a…", Menu::Edit, "", "", "Sposta le righe selezionate al numero che si indica",
      Need::ChannelRows},
 
     {"CaricaImportato", "Carica Canali da file esportato", Menu::Utilities, "import", "",
-     "Carica una lista esportata in formato Testo", Need::Settings, Group},
+     "Carica una lista esportata in formato Testo", Need::Settings},
     {"Azzera", "Azzera Canali e Transponder", Menu::Utilities, "", "",
      "Svuota canali e transponder della lista; i preferiti restano", Need::ListToClear, Group},
     {"OrdinaPerBouquet", "Ordina Canali per Bouquet", Menu::Utilities, "", "",
@@ -79,10 +78,6 @@ inline constexpr Command Commands[] = {
      "Mette radio e servizi in fondo alla lista, dopo i canali TV", Need::List},
     {"CanaliDoppi", "Controlla Canali Doppi", Menu::Utilities, "", "",
      "Cerca i canali che sono nella lista più di una volta", Need::List},
-    {"Confronta", "Confronta con un'altra flash…", Menu::Utilities, "", "",
-     "Confronta la lista con quella di un'altra flash", Need::List, Group},
-    {"ConfrontaDisco", "Confronta con il file su disco", Menu::Utilities, "", "",
-     "Mostra che cosa cambierebbe salvando", Need::List},
     {"InvertiSatelliti", "Inverti Satelliti", Menu::Utilities, "", "", "Scambia i satelliti A con B, C con D",
      Need::List, Group},
     {"RiportaAB", "Riporta tutto a SAT A-B", Menu::Utilities, "", "",
@@ -90,8 +85,6 @@ inline constexpr Command Commands[] = {
     {"ConvertiSR", "Converti SR", Menu::Utilities, "convert-sr", "",
      "Ricodifica i symbol rate come dice Definizione SR 22000",
      Gate(Enabled::WithList, Need::List, Need::Settings)},
-    {"CanaliXTransponder", "Ricalcola il numero di Canali per transponder", Menu::Utilities, "recount", "",
-     "Ricalcola il numero di Canali per transponder", Need::List},
     {"VisualizzaCanali", "Visualizza Canali", Menu::Utilities, "channels", "",
      "Mostra o chiude la lista dei canali", Need::List, Group | Tick},
     {"VisualizzaTransponder", "Visualizza Transponders", Menu::Utilities, "transponders", "",
@@ -100,17 +93,25 @@ inline constexpr Command Commands[] = {
      "Apre le otto liste dei preferiti", Gate(Enabled::WithFavourites, Need::List)},
     {"VisualizzaBouquet", "Visualizza Struttura per Bouquet", Menu::Utilities, "bouquet", "",
      "Mostra la lista come albero di satelliti, bouquet e transponder", Need::List, Tick},
-    {"Riepilogo", "Riepilogo", Menu::Utilities, "", "",
-     "Dice che cosa c'è nella lista e che cosa controllare", Need::List},
     {"CercaCanale", "Ricerca canale per Nome", Menu::Utilities, "find", "Ctrl+F", "Cerca un canale per nome",
      Gate(Enabled::WithList, Need::ChannelView), Group},
-    {"CercaSuccessivo", "Ricerca successivo", Menu::Utilities, "", "F3", "Va al prossimo canale trovato"},
-    {"Filtra", "Filtro", Menu::Utilities, "", "Ctrl+Shift+F",
-     "Segna nella griglia i canali con un nome, un SID o un transponder", Need::ChannelView},
     {"VaiAlCanale", "Vai al Canale Nr.", Menu::Utilities, "goto", "Ctrl+G",
      "Va al canale con il numero che si indica", Gate(Enabled::WithList, Need::ChannelView)},
     {"StampaGriglia", "Stampa", Menu::Utilities, "print", "Ctrl+P",
      "Stampa la lista mostrata, o le righe selezionate", Gate(Enabled::WithList, Need::AnyView), Group},
+    {"CercaSuccessivo", "Ricerca successivo", Menu::Utilities, "", "F3", "Va al prossimo canale trovato",
+     Gate(), Group},
+    {"Filtra", "Filtro", Menu::Utilities, "", "Ctrl+Shift+F",
+     "Segna nella griglia i canali con un nome, un SID o un transponder", Need::ChannelView},
+    {"Riepilogo", "Riepilogo", Menu::Utilities, "", "",
+     "Dice che cosa c'è nella lista e che cosa controllare", Need::List},
+    {"CanaliXTransponder", "Ricalcola il numero di Canali per transponder", Menu::Utilities, "recount", "",
+     "Ricalcola il numero di Canali per transponder", Need::List},
+
+    {"Confronta", "Confronta con un'altra flash…", Menu::Compare, "", "",
+     "Confronta la lista con quella di un'altra flash", Need::List},
+    {"ConfrontaDisco", "Confronta con il file su disco", Menu::Compare, "", "",
+     "Mostra che cosa cambierebbe salvando", Need::List},
 
     {"ScaricaInternet", "Scarica da Internet", Menu::Sdx, "internet", "",
      "Scarica una lista SatcoDX da un indirizzo", Need::ChannelsForDownload},
@@ -140,8 +141,8 @@ inline constexpr Command Commands[] = {
     {"FormatoCSV", "In formato CSV", Menu::Export, "", "", "Scrive la lista in un file per fogli di calcolo",
      Need::List},
 
-    {"Guida", "&Guida", Menu::About, "", "F1", "Apre la guida"},
     {"About", "&About", Menu::About, "info", "", "Dice che programma è questo"},
+    {"Guida", "&Guida", Menu::About, "", "F1", "Apre la guida"},
 };
 
 // An entry of a table by its name. A name that is not there does not compile.
