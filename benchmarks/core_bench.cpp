@@ -158,12 +158,11 @@ void ReadSdx(benchmark::State& run) {
 std::unique_ptr<State> WorstToSort() {
   auto state = List();
   for (int slot = 1; slot <= Channels; ++slot) {
-    Set(state->ChannelTable[static_cast<std::size_t>(slot)], ChannelField::Transponder,
+    Set(state->Channel(slot), ChannelField::Transponder,
         static_cast<std::uint32_t>(Transponders - (slot - 1) * Transponders / Channels));
   }
   for (int number = 1; number <= Transponders; ++number) {
-    state->TransponderTable[static_cast<std::size_t>(number)].SetBouquet(
-        "Bouquet", std::to_string(10 + number * 80 / Transponders));
+    state->Transponder(number).SetBouquet("Bouquet", std::to_string(10 + number * 80 / Transponders));
   }
   return state;
 }
@@ -172,7 +171,7 @@ void Sort(benchmark::State& run) {
   const auto worst = WorstToSort();
   std::vector<std::pair<std::uint32_t, int>> keys;
   for (int slot = 1; slot <= Channels; ++slot) {
-    const auto number = Get(worst->ChannelTable[static_cast<std::size_t>(slot)], ChannelField::Transponder);
+    const auto number = Get(worst->Channel(slot), ChannelField::Transponder);
     keys.emplace_back(number, slot);
   }
   const auto state = std::make_unique<State>();

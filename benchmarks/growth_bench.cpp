@@ -1,11 +1,11 @@
 // How the work grows with the list: the points of the curves.
+#include "bench_windows.h"
 #include "beside.h"
 #include "formats/satcodx.h"
 #include "formats/text_format.h"
 #include "full_list.h"
 #include "groups.h"
 #include "model/flash_loader.h"
-#include "windows.h"
 
 namespace Bench {
 namespace {

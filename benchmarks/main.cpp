@@ -1,7 +1,7 @@
 // trovalis_bench [--curve=FILE.png] [options of Google Benchmark]: prints the table, and draws the curves.
 #include "groups.h"
 #include "report.h"
-#include "ui/toolkit.h"
+#include "ui/kit/toolkit.h"
 
 #include <QApplication>
 #include <QLoggingCategory>

@@ -1,10 +1,10 @@
 // The work of the window on a full list, beside a plain table that shows as many constant cells in as much room.
+#include "bench_windows.h"
 #include "beside.h"
 #include "full_list.h"
 #include "groups.h"
-#include "ui/list_map.h"
-#include "ui/tree_pane.h"
-#include "windows.h"
+#include "ui/list/list_map.h"
+#include "ui/list/tree_pane.h"
 
 #include <QCoreApplication>
 #include <QLineEdit>
@@ -114,8 +114,7 @@ void RebuildTree(benchmark::State& run) {
   tree.expandAll();
   Settle();
   const auto edit = [&document] {
-    document.Adjust(
-        [](Routines::State& state) { std::swap(state.ChannelTable[1000], state.ChannelTable[2001]); });
+    document.Adjust([](Routines::State& state) { std::swap(state.Channel(1000), state.Channel(2001)); });
   };
   RunBeside(
       run, 1,

@@ -1,8 +1,9 @@
 // Plays one session of the real window, from the first choice to a saved list, and leaves pictures of it:
 //   trovalis_demo DEMO.dat SUPPORT_FOLDER OUTPUT_FOLDER
 // Every step is printed with what came of it; the first that fails ends the session with an error.
-#include "ui/griglia.h"
-#include "ui/toolkit.h"
+#include "ui/kit/text.h"
+#include "ui/kit/toolkit.h"
+#include "ui/list/grid.h"
 #include "window_driver.h"
 
 #include <QAction>
@@ -74,7 +75,7 @@ class Session {
 
   bool Start() {
     driver_.reset();
-    window_ = std::make_unique<Ui::CopiaTCSTPT>(Ui::PathBytes(ProgramFolder()));
+    window_ = std::make_unique<Ui::MainWindow>(Ui::PathBytes(ProgramFolder()));
     driver_ = std::make_unique<Demo::WindowDriver>(*window_);
     window_->show();
     return QTest::qWaitForWindowExposed(window_.get()) && window_->Start();
@@ -198,7 +199,7 @@ class Session {
   QWidget* CellEditor() { return driver_->Grid().findChild<QWidget*>("ModificaCella"); }
 
   void EditCells() {
-    Ui::Griglia& grid = driver_->Grid();
+    Ui::Grid& grid = driver_->Grid();
     driver_->SelectRows(2, 2);
     QTest::qWait(250);  // until the grid has scrolled to the pointer
     driver_->Key(Qt::Key_F2);
@@ -270,7 +271,7 @@ class Session {
   }
 
   void EditCell(int row, int column, const QString& typed) {
-    Ui::Griglia& grid = driver_->Grid();
+    Ui::Grid& grid = driver_->Grid();
     driver_->SelectRows(row, row);
     grid.setCurrentIndex(grid.model()->index(row - 1, column));
     driver_->Key(Qt::Key_F2);
@@ -315,7 +316,7 @@ class Session {
     if (auto* missing = window_->findChild<QDialog*>("ElencoNonInSDX")) missing->close();
     Step("satcodx list", chosen && window_->findChild<QWidget*>("GrigliaSDX")->isVisible(),
          driver_->TextOf("UltimoRisultato"));
-    window_->findChild<Ui::Griglia*>("GrigliaSDX")->Select({7, 7});
+    window_->findChild<Ui::Grid*>("GrigliaSDX")->Select({7, 7});
     driver_->ExpectLine("Inserire la posizione in cui inserire Nuova Rete 1", "3");
     driver_->ExpectQuestion("Si desidera spostare i canali verso il basso?", true);
     const bool pressed = driver_->Press("Toolbar1_Copy_SDX");
@@ -412,7 +413,7 @@ class Session {
   QString output_;
   QString copy_;
   QString foreign_;
-  std::unique_ptr<Ui::CopiaTCSTPT> window_;
+  std::unique_ptr<Ui::MainWindow> window_;
   std::unique_ptr<Demo::WindowDriver> driver_;
   int steps_ = 0;
   int failed_ = 0;

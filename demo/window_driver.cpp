@@ -1,6 +1,6 @@
 #include "window_driver.h"
 
-#include "ui/griglia.h"
+#include "ui/list/grid.h"
 
 #include <QAbstractButton>
 #include <QApplication>
@@ -73,7 +73,7 @@ bool ClickThroughMenus(QMenuBar& bar, QAction& action) {
 
 }  // namespace
 
-WindowDriver::WindowDriver(Ui::CopiaTCSTPT& window) : window_(window) {
+WindowDriver::WindowDriver(Ui::MainWindow& window) : window_(window) {
   connect(&timer_, &QTimer::timeout, this, &WindowDriver::AnswerBox);
   timer_.start(20);
 }
@@ -167,7 +167,7 @@ QString WindowDriver::Cell(int row, int column) const {
   return Grid().model()->index(row - 1, column).data().toString();
 }
 
-Ui::Griglia& WindowDriver::Grid() const { return *window_.findChild<Ui::Griglia*>("Griglia"); }
+Ui::Grid& WindowDriver::Grid() const { return *window_.findChild<Ui::Grid*>("Griglia"); }
 
 void WindowDriver::Key(Qt::Key key, Qt::KeyboardModifiers modifiers) {
   window_.activateWindow();
@@ -183,7 +183,7 @@ void WindowDriver::OpenMenu() {
 }
 
 void WindowDriver::SelectRows(int from, int to) {
-  Ui::Griglia& grid = Grid();
+  Ui::Grid& grid = Grid();
   grid.clearSelection();
   const auto place = [&grid](int row) { return grid.visualRect(grid.model()->index(row - 1, 1)).center(); };
   grid.scrollTo(grid.model()->index(std::min(from, to) - 1, 1), QAbstractItemView::PositionAtTop);

@@ -1,7 +1,7 @@
 // Drives the real window as a user does: by its menus, its controls and the toolkit's own boxes.
 #pragma once
 
-#include "ui/main_window.h"
+#include "ui/window/main_window.h"
 
 #include <QObject>
 #include <QStringList>
@@ -11,7 +11,7 @@
 #include <functional>
 
 namespace Ui {
-class Griglia;
+class Grid;
 }
 
 class QDialog;
@@ -25,7 +25,7 @@ class WindowDriver : public QObject {
   Q_OBJECT
 
  public:
-  explicit WindowDriver(Ui::CopiaTCSTPT& window);
+  explicit WindowDriver(Ui::MainWindow& window);
 
   // What the next box is answered with, in the order they come up. A box that nobody expected is closed and
   // told in Failures().
@@ -54,7 +54,7 @@ class WindowDriver : public QObject {
   void OpenMenu();
   // Selects rows as a user does, with the mouse from one to the other.
   void SelectRows(int from, int to);
-  [[nodiscard]] Ui::Griglia& Grid() const;
+  [[nodiscard]] Ui::Grid& Grid() const;
 
   // Whether every box expected so far has come.
   [[nodiscard]] bool Idle() const { return expected_.empty(); }
@@ -74,7 +74,7 @@ class WindowDriver : public QObject {
   void AnswerBox();
   void Check(const QString& what, const QString& wanted, const QString& seen);
 
-  Ui::CopiaTCSTPT& window_;
+  Ui::MainWindow& window_;
   QTimer timer_;
   std::deque<Expected> expected_;
   QStringList failures_;

@@ -17,11 +17,11 @@ std::unique_ptr<State> ListNumber(std::size_t number) {
   Input input(beginning.data(), beginning.size());
   LoadFlash(*state, flash.Make(input), number == 1 ? 999 : 3996, 0, Bouquets());
   if (number < 2) return state;
-  state->ChannelTable.back() = state->ChannelTable[1];
+  state->ChannelTable.back() = state->Channel(1);
   state->TransponderCount = LastTransponderSlot;
   for (std::size_t slot = 1; slot < state->TransponderTable.size(); ++slot) {
-    TransponderRecord& record = state->TransponderTable[slot].record;
-    if (IsFree(record)) record = state->TransponderTable[1].record;
+    TransponderRecord& record = state->Transponder(slot).record;
+    if (IsFree(record)) record = state->Transponder(1).record;
   }
   return state;
 }
@@ -36,9 +36,8 @@ void CheckUntouched(const State& before, const State& after, int start) {
           "no channel past the channel count");
   Require(before.FavouritesBlock == after.FavouritesBlock, "the first list's favourites stay");
   for (std::size_t slot = 1; slot < before.TransponderTable.size(); ++slot) {
-    const TransponderRecord& record = before.TransponderTable[slot].record;
-    Require(IsFree(record) || record == after.TransponderTable[slot].record,
-            "the first list's transponders stay");
+    const TransponderRecord& record = before.Transponder(slot).record;
+    Require(IsFree(record) || record == after.Transponder(slot).record, "the first list's transponders stay");
   }
 }
 

@@ -32,8 +32,8 @@ void CheckReloaded(const State& state, const State& reloaded) {
   Require(reloaded.ChannelTable == state.ChannelTable, "channels come back");
   for (int slot = 1; slot <= state.TransponderCount; ++slot) {
     const auto at = static_cast<std::size_t>(slot);
-    Require(IsFree(state.TransponderTable[at].record) ||
-                state.TransponderTable[at].record == reloaded.TransponderTable[at].record,
+    Require(IsFree(state.Transponder(at).record) ||
+                state.Transponder(at).record == reloaded.Transponder(at).record,
             "transponders come back");
   }
   Require(SameFavourites(state, reloaded), "favourites come back");

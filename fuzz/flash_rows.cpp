@@ -18,10 +18,10 @@ std::vector<ChannelRecord> ChannelsOf(Base::ByteView image) {
   LoadFlash(*state, image, LastChannelSlot, 0, Bouquets());
   std::vector<ChannelRecord> channels;
   for (int slot = 1; slot <= state->ChannelCount && channels.size() < MostCompared; ++slot) {
-    const ChannelRecord& channel = state->ChannelTable[static_cast<std::size_t>(slot)];
+    const ChannelRecord& channel = state->Channel(slot);
     const std::size_t number = Get(channel, ChannelField::Transponder);
     if (channel.Empty() || number < 1 || number > static_cast<std::size_t>(state->TransponderCount)) continue;
-    if (!IsFree(state->TransponderTable[number].record)) channels.push_back(channel);
+    if (!IsFree(state->Transponder(number).record)) channels.push_back(channel);
   }
   return channels;
 }
@@ -53,7 +53,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
   Formats::SdxImport import(*list, Bouquets());
   for (std::size_t i = 0; i < std::min(channels.size(), rows.table.rows.size()); ++i) {
     import.Put(rows.table.rows[i], static_cast<int>(i + 1), static_cast<int>(i + 1));
-    Require(SameButForTransponder(channels[i], list->ChannelTable[i + 1]), "a channel is carried over whole");
+    Require(SameButForTransponder(channels[i], list->Channel(i + 1)), "a channel is carried over whole");
   }
   return 0;
 }

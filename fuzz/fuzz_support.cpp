@@ -126,7 +126,7 @@ void CheckRowImport(const Formats::SdxTable& table, int transponders) {
   for (const Formats::SdxRow& row : table.rows) {
     if (++slot > MostImported) break;
     import.Put(row, slot, slot);
-    const ChannelRecord& channel = state->ChannelTable[static_cast<std::size_t>(slot)];
+    const ChannelRecord& channel = state->Channel(slot);
     Require(Get(channel, ChannelField::Transponder) <= static_cast<std::uint32_t>(transponders),
             "a channel goes to a transponder of the list");
   }

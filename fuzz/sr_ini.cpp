@@ -24,13 +24,12 @@ void CheckRecoding(const std::string& table, Sr22000 place) {
   state.SymbolRateTable = table;
   state.TransponderCount = 20;
   const auto shown = [&state](std::size_t slot) {
-    return std::string(SymbolRateText(
-        state.SymbolRateTable, Get(state.TransponderTable[slot].record, TransponderField::SymbolRate)));
+    return std::string(SymbolRateText(state.SymbolRateTable,
+                                      Get(state.Transponder(slot).record, TransponderField::SymbolRate)));
   };
   std::array<std::string, 21> rates;
   for (std::size_t slot = 1; slot <= 20; ++slot) {
-    Set(state.TransponderTable[slot].record, TransponderField::SymbolRate,
-        static_cast<std::uint32_t>(slot) - 1);
+    Set(state.Transponder(slot).record, TransponderField::SymbolRate, static_cast<std::uint32_t>(slot) - 1);
     rates[slot] = shown(slot);
   }
   const Sr22000 other = place == Sr22000::Come2 ? Sr22000::Come0 : Sr22000::Come2;

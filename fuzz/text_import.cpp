@@ -35,8 +35,8 @@ bool Carried(const ChannelRecord& channel) {
 // What the first round keeps: the numbers, every name without a byte that could not stand in a line, and favourites.
 void CheckFirstRound(const State& one, const State& other) {
   for (int slot = 1; slot <= one.ChannelCount; ++slot) {
-    const ChannelRecord& before = one.ChannelTable[static_cast<std::size_t>(slot)];
-    const ChannelRecord& after = other.ChannelTable[static_cast<std::size_t>(slot)];
+    const ChannelRecord& before = one.Channel(slot);
+    const ChannelRecord& after = other.Channel(slot);
     if (!Carried(before)) continue;
     const auto numbers = before.bytes.begin() + 17;
     Require(std::equal(numbers, before.bytes.end(), after.bytes.begin() + 17), "a channel's numbers survive");
@@ -45,8 +45,8 @@ void CheckFirstRound(const State& one, const State& other) {
     Require(!usual || Base::AsText(after.bytes).starts_with(name), "an ordinary name survives");
   }
   for (int number = 1; number <= one.TransponderCount; ++number) {
-    const TransponderRecord& before = one.TransponderTable[static_cast<std::size_t>(number)].record;
-    const TransponderRecord& after = other.TransponderTable[static_cast<std::size_t>(number)].record;
+    const TransponderRecord& before = one.Transponder(number).record;
+    const TransponderRecord& after = other.Transponder(number).record;
     const auto numbers = before.bytes.begin() + 4;
     Require(IsFree(before) || std::equal(numbers, numbers + 5, after.bytes.begin() + 4),
             "a transponder's numbers survive");

@@ -1,17 +1,50 @@
 #!/bin/sh
-# Includes run one way: ui -> edit, formats, support -> model -> base, and only ui/ knows the toolkit.
+# The rooms of src and which of them may know which: an include from one room to another has to be in the table below.
+# What stands lower in a list knows only what stands above it; rooms that share a line do not know each other.
 set -u
 cd "$1" || exit 2
-broken=0
-forbid() {  # FOLDER PATTERN
-  [ -d "$1" ] || return 0
-  if grep -rnE "#include $2" "$1"; then broken=1; fi
+
+# ROOM: the rooms it may include.
+allowed() {
+  below="ui/kit ui/list ui/session"
+  siblings="ui/edit ui/sources ui/favourites ui/review"
+  core="base model support formats review edit"
+  case "$1" in
+    base) echo "" ;;
+    model) echo "base" ;;
+    support | formats | review) echo "base model" ;;
+    edit) echo "base model review" ;;
+    cli) echo "$core" ;;
+    ui/kit) echo "base" ;;
+    ui/list) echo "$core ui/kit" ;;
+    ui/session) echo "$core ui/kit ui/list" ;;
+    ui/edit | ui/sources | ui/favourites | ui/review) echo "$core $below" ;;
+    ui/files) echo "$core $below $siblings" ;;
+    ui/window) echo "$core $below $siblings ui/files" ;;
+    ui) echo "$core $below $siblings ui/files ui/window" ;;
+    *) return 1 ;;
+  esac
 }
-for folder in base model support formats edit; do
-  forbid $folder '<Q'
-  forbid $folder '"ui/'
+
+# Every room, and every include of another one as FILE:LINE ROOM.
+broken=0
+for room in $(find . -name '*.cpp' -o -name '*.h' | sed 's|^\./||; s|/[^/]*$||' | sort -u); do
+  if ! may=$(allowed "$room"); then
+    echo "$room is no room of the house"
+    broken=1
+    continue
+  fi
+  for other in $(sed -n 's|^#include "\(.*\)/[^/]*"$|\1|p' "$room"/*.h "$room"/*.cpp 2>/dev/null | sort -u); do
+    [ "$other" = "$room" ] && continue
+    case " $may " in *" $other "*) continue ;; esac
+    echo "$room must not include $other:"
+    grep -n "#include \"$other/[^/]*\"" "$room"/*.h "$room"/*.cpp
+    broken=1
+  done
+  case "$room" in ui | ui/*) continue ;; esac
+  if grep -n '#include <Q' "$room"/*; then
+    echo "$room must not know the toolkit"
+    broken=1
+  fi
 done
-forbid base '"(model|support|formats|edit)/'
-forbid model '"(support|formats|edit)/'
-if [ $broken -ne 0 ]; then echo "includes above run the wrong way"; fi
 exit $broken

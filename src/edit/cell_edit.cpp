@@ -1,8 +1,8 @@
 #include "edit/cell_edit.h"
 
 #include "base/code_page.h"
+#include "base/names.h"
 #include "base/text.h"
-#include "edit/names.h"
 #include "model/cells.h"
 #include "model/symbol_rates.h"
 
@@ -43,7 +43,7 @@ Outcome SetChoice(Record& record, const Field<Record>& field, std::string_view t
                   const std::array<std::string_view, N>& choices) {
   std::string all;
   for (std::size_t i = 0; i < N; ++i) {
-    if (UpperCase(text) == UpperCase(choices[i])) {
+    if (Base::UpperCase(text) == Base::UpperCase(choices[i])) {
       Set(record, field, static_cast<std::uint32_t>(i));
       return Done{};
     }
@@ -59,7 +59,7 @@ void WriteName(ChannelRecord& channel, std::string_view name) {
 }
 
 Outcome SetName(ChannelRecord& channel, std::string_view typed) {
-  const auto name = NameBytes(typed, ChannelRecord::NameSize);
+  const auto name = Base::NameBytes(typed, ChannelRecord::NameSize);
   if (!name) return name.error();
   if (name->empty()) return Error{"Un canale senza nome sarebbe un posto vuoto: per toglierlo c'è Elimina"};
   // Whatever pads the name stays while the name itself is the same.
@@ -71,7 +71,7 @@ Outcome SetTransponder(State& state, ChannelRecord& channel, std::string_view te
   const auto number = WholeNumber(FirstWord(text));
   const bool slot = number && *number >= 1 && static_cast<int>(*number) <= state.TransponderCount;
   if (!slot) return Error{"Serve un transponder da 1 a " + std::to_string(state.TransponderCount)};
-  if (IsFree(state.TransponderTable[*number].record))
+  if (IsFree(state.Transponder(*number).record))
     return Error{"Il transponder " + std::to_string(*number) + " è libero"};
   Set(channel, ChannelField::Transponder, *number);
   return Done{};
@@ -80,7 +80,7 @@ Outcome SetTransponder(State& state, ChannelRecord& channel, std::string_view te
 Outcome SetFlags(ChannelRecord& channel, std::string_view text) {
   const std::string_view digits = FirstWord(text);
   const auto known = std::find_if(Codings.begin(), Codings.end(), [text](std::string_view coding) {
-    return UpperCase(coding) == UpperCase(text);
+    return Base::UpperCase(coding) == Base::UpperCase(text);
   });
   const auto value = WholeNumber(digits, 16);
   if (!value || digits.size() != 2 || (digits != text && known == Codings.end())) {
@@ -175,7 +175,7 @@ Outcome SetFec(TransponderRecord& transponder, std::string_view text) {
 
 // "SAT B" or "SAT B Astra".
 Outcome SetSatellite(TransponderRecord& transponder, std::string_view text) {
-  const std::string upper = UpperCase(text);
+  const std::string upper = Base::UpperCase(text);
   const bool label =
       upper.starts_with("SAT ") && (upper.size() == 5 || (upper.size() > 5 && upper[5] == ' '));
   if (!label || upper[4] < 'A' || upper[4] > 'Z') return Error{"Serve un satellite da SAT A a SAT Z"};
@@ -233,7 +233,7 @@ void CountAgain(State& state, const ChannelRecord& before, const ChannelRecord& 
 
 Outcome EditChannel(State& state, int slot, int column, std::string_view typed) {
   if (slot < 1 || slot > state.ChannelCount) return Error{"Il canale non c'è più"};
-  ChannelRecord& stored = state.ChannelTable[static_cast<std::size_t>(slot)];
+  ChannelRecord& stored = state.Channel(slot);
   ChannelRecord channel = stored;
   if (channel.Empty()) channel = NewChannel(slot);
   if (Outcome done = SetChannelField(state, channel, column, typed); !done) return done;
@@ -245,7 +245,7 @@ Outcome EditChannel(State& state, int slot, int column, std::string_view typed) 
 Base::Result<int> EditChannels(State& state, Slots slots, int column, std::string_view typed) {
   int changed = 0;
   for (int slot = slots.first; slot <= std::min(slots.last, state.ChannelCount); ++slot) {
-    if (state.ChannelTable[static_cast<std::size_t>(slot)].Empty()) continue;
+    if (state.Channel(slot).Empty()) continue;
     // What is wrong for one channel is wrong for the first.
     if (Outcome done = EditChannel(state, slot, column, typed); !done) return done.error();
     ++changed;
@@ -256,7 +256,7 @@ Base::Result<int> EditChannels(State& state, Slots slots, int column, std::strin
 Outcome EditTransponder(State& state, int slot, int column, std::string_view typed,
                         const BouquetTables& bouquets) {
   if (slot < 1 || slot > state.TransponderCount) return Error{"Il transponder non c'è più"};
-  TransponderRow& row = state.TransponderTable[static_cast<std::size_t>(slot)];
+  TransponderRow& row = state.Transponder(slot);
   if (IsFree(row.record) && column != TransponderColumn::Frequency)
     return Error{"Il transponder è libero: inserire prima la frequenza"};
   const TransponderRecord before = row.record;
@@ -271,7 +271,7 @@ Outcome EditTransponder(State& state, int slot, int column, std::string_view typ
 std::vector<std::string> TransponderChoices(const State& state) {
   std::vector<std::string> choices;
   for (int slot = 1; slot <= state.TransponderCount; ++slot) {
-    const TransponderRow& row = state.TransponderTable[static_cast<std::size_t>(slot)];
+    const TransponderRow& row = state.Transponder(slot);
     if (IsFree(row.record)) continue;
     choices.push_back(Base::ZeroPadded(slot, 3) + " " + std::to_string(FrequencyMHz(row.record)) + " " +
                       TransponderCell(state, slot, TransponderColumn::Polarisation) + " " +

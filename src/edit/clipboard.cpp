@@ -21,13 +21,13 @@ bool LinkTransponder(State& state, ChannelRecord& channel, const Clipboard& clip
   if (IsFree(transponder)) return true;
   // A byte has room for one number more than the table.
   const std::uint32_t number = Get(channel, ChannelField::Transponder);
-  const bool isSlot = number <= LastTransponderSlot && !IsFree(state.TransponderTable[number].record);
+  const bool isSlot = number <= LastTransponderSlot && !IsFree(state.Transponder(number).record);
   if (clipboard.listNumber == state.ListNumber && isSlot) return true;
   const auto code = RecodedRate(clipboard.symbolRates, state.SymbolRateTable,
                                 Get(transponder, TransponderField::SymbolRate));
   Set(transponder, TransponderField::SymbolRate, static_cast<std::uint32_t>(code));
   const TransponderSlot found = FindOrAddTransponder(state, transponder);
-  if (found.added) NameBouquet(state.TransponderTable[static_cast<std::size_t>(found.slot)], bouquets);
+  if (found.added) NameBouquet(state.Transponder(found.slot), bouquets);
   const int linked = found.slot != 0 ? found.slot : state.TransponderCount;
   Set(channel, ChannelField::Transponder, static_cast<std::uint32_t>(linked));
   return found.slot != 0;
@@ -40,7 +40,7 @@ Clipboard CopyChannels(const State& state, Slots slots) {
   clipboard.listNumber = state.ListNumber;
   clipboard.symbolRates = state.SymbolRateTable;
   for (int slot = slots.first; slot <= slots.last; ++slot) {
-    clipboard.channels.push_back(state.ChannelTable[static_cast<std::size_t>(slot)]);
+    clipboard.channels.push_back(state.Channel(slot));
     clipboard.transponders.push_back(TransponderOf(state, clipboard.channels.back()));
   }
   return clipboard;
@@ -66,7 +66,7 @@ Base::Result<PasteReport> Paste(State& state, const Clipboard& clipboard, int po
     ChannelRecord channel = clipboard.channels[i];
     if (!LinkTransponder(state, channel, clipboard, clipboard.transponders[i], bouquets))
       ++report.withoutTransponder;
-    state.ChannelTable[static_cast<std::size_t>(position) + i] = channel;
+    state.Channel(static_cast<std::size_t>(position) + i) = channel;
   }
   if (clipboard.listNumber == state.ListNumber && clipboard.cutNumber == state.CutNumber) {
     for (const LostFavourite& entry : clipboard.cut) {

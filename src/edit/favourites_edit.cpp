@@ -1,6 +1,6 @@
 #include "edit/favourites_edit.h"
 
-#include "edit/names.h"
+#include "base/names.h"
 
 #include <algorithm>
 
@@ -10,8 +10,7 @@ namespace {
 using namespace Routines;
 
 bool IsChannel(const State& state, int slot) {
-  return slot >= 1 && slot <= state.ChannelCount &&
-         !state.ChannelTable[static_cast<std::size_t>(slot)].Empty();
+  return slot >= 1 && slot <= state.ChannelCount && !state.Channel(slot).Empty();
 }
 
 // A list that came without favourites gets an empty block of the usual size.
@@ -102,9 +101,7 @@ MoveReport MoveFavourites(State& state, std::size_t list, const std::vector<std:
 
 void SortFavourites(State& state, std::size_t list, FavouriteOrder order) {
   std::vector<int> entries = FavouriteEntriesOf(state.FavouritesBlock, list);
-  const auto name = [&state](int slot) {
-    return UpperCase(state.ChannelTable[static_cast<std::size_t>(slot)].Name());
-  };
+  const auto name = [&state](int slot) { return Base::UpperCase(state.Channel(slot).Name()); };
   const auto channels = std::stable_partition(entries.begin(), entries.end(),
                                               [&state](int slot) { return IsChannel(state, slot); });
   if (order == FavouriteOrder::ByNumber) {
@@ -118,7 +115,7 @@ void SortFavourites(State& state, std::size_t list, FavouriteOrder order) {
 }
 
 Base::Outcome RenameFavourites(State& state, std::size_t list, std::string_view name) {
-  const auto bytes = NameBytes(name, FavouriteNameSize);
+  const auto bytes = Base::NameBytes(name, FavouriteNameSize);
   if (!bytes) return bytes.error();
   Base::Bytes block = BlockOf(state);
   if (FavouriteNameOf(block, list) == *bytes) return Base::Done{};

@@ -1,7 +1,7 @@
 #include "edit/list_operations.h"
 
+#include "base/names.h"
 #include "base/text.h"
-#include "edit/names.h"
 
 #include <algorithm>
 #include <iterator>
@@ -12,8 +12,6 @@ namespace {
 
 using namespace Routines;
 
-std::size_t At(int slot) { return static_cast<std::size_t>(slot); }
-
 // Bouquet code and transponder number as one number that orders as the two texts and the number do; nothing for a
 // transponder that takes no part.
 constexpr std::uint32_t NoKey = 0xFFFFFFFF;
@@ -21,7 +19,7 @@ constexpr std::uint32_t NoKey = 0xFFFFFFFF;
 std::uint32_t SortKey(const State& state, const ChannelRecord& channel) {
   const std::uint32_t transponder = Get(channel, ChannelField::Transponder);
   if (transponder < 1 || transponder > LastTransponderSlot) return NoKey;
-  const auto& code = state.TransponderTable[transponder].bouquetCode;
+  const auto& code = state.Transponder(transponder).bouquetCode;
   return static_cast<std::uint32_t>(static_cast<unsigned char>(code[0])) << 16U |
          static_cast<std::uint32_t>(static_cast<unsigned char>(code[1])) << 8U | transponder;
 }
@@ -75,9 +73,9 @@ bool IsGap(const ChannelRecord& channel) {
 
 std::vector<LostFavourite> Rearrange(State& state, const SlotMap& map) {
   const auto before = state.ChannelTable;
-  for (std::size_t slot = 1; slot < map.size(); ++slot) state.ChannelTable[slot] = {};
-  for (std::size_t slot = 1; slot < map.size(); ++slot) {
-    if (map[slot] != 0 && !before[slot].Empty()) state.ChannelTable[At(map[slot])] = before[slot];
+  for (int slot = 1; slot <= LastChannelSlot; ++slot) state.Channel(slot) = {};
+  for (std::size_t slot = 1; slot < before.size(); ++slot) {
+    if (map[slot] != 0 && !before[slot].Empty()) state.Channel(map[slot]) = before[slot];
   }
   return RenumberFavourites(state.FavouritesBlock, map);
 }
@@ -85,19 +83,19 @@ std::vector<LostFavourite> Rearrange(State& state, const SlotMap& map) {
 std::vector<LostFavourite> DeleteSlots(State& state, const std::vector<int>& slots) {
   SlotMap map = SameSlots();
   for (const int slot : slots) {
-    map[At(slot)] = 0;
-    const ChannelRecord& channel = state.ChannelTable[At(slot)];
+    map[slot] = 0;
+    const ChannelRecord& channel = state.Channel(slot);
     if (!channel.Empty()) AddToChannelCount(state, Get(channel, ChannelField::Transponder), -1);
   }
   int next = 1;
   for (int slot = 1; slot <= state.ChannelCount; ++slot) {
-    if (map[At(slot)] != 0) map[At(slot)] = next++;
+    if (map[slot] != 0) map[slot] = next++;
   }
   return Rearrange(state, map);
 }
 
 std::vector<LostFavourite> DeleteChannels(State& state, Slots slots) {
-  std::vector<int> all(At(slots.Count()));
+  std::vector<int> all(static_cast<std::size_t>(slots.Count()));
   std::iota(all.begin(), all.end(), slots.first);
   return DeleteSlots(state, all);
 }
@@ -109,9 +107,9 @@ bool IsPosition(const State& state, int position, int count) {
 std::vector<LostFavourite> ShiftDown(State& state, int position, int count) {
   SlotMap map = SameSlots();
   for (int slot = position; slot <= state.ChannelCount; ++slot) {
-    map[At(slot)] = slot + count <= state.ChannelCount ? slot + count : 0;
-    const ChannelRecord& channel = state.ChannelTable[At(slot)];
-    if (map[At(slot)] == 0 && !channel.Empty())
+    map[slot] = slot + count <= state.ChannelCount ? slot + count : 0;
+    const ChannelRecord& channel = state.Channel(slot);
+    if (map[slot] == 0 && !channel.Empty())
       AddToChannelCount(state, Get(channel, ChannelField::Transponder), -1);
   }
   return Rearrange(state, map);
@@ -129,11 +127,11 @@ void MoveChannels(State& state, Slots slots, int to) {
   SlotMap map = SameSlots();
   for (int slot = std::min(to, slots.first); slot <= std::max(to + slots.Count() - 1, slots.last); ++slot) {
     if (slot < slots.first) {
-      map[At(slot)] = slot + slots.Count();
+      map[slot] = slot + slots.Count();
     } else if (slot > slots.last) {
-      map[At(slot)] = slot - slots.Count();
+      map[slot] = slot - slots.Count();
     } else {
-      map[At(slot)] = to + slot - slots.first;
+      map[slot] = to + slot - slots.first;
     }
   }
   Rearrange(state, map);
@@ -145,47 +143,38 @@ std::vector<LostFavourite> OrdinaPerBouquet(State& state, int start) {
   std::vector<int> places;
   SlotMap map = SameSlots();
   for (int slot = start; slot <= last; ++slot) {
-    const std::uint32_t key = SortKey(state, state.ChannelTable[At(slot)]);
-    map[At(slot)] = 0;
-    if (state.ChannelTable[At(slot)].Empty() || key == NoKey) continue;
+    const std::uint32_t key = SortKey(state, state.Channel(slot));
+    map[slot] = 0;
+    if (state.Channel(slot).Empty() || key == NoKey) continue;
     keys.push_back(key);
     places.push_back(slot);
   }
   const std::vector<int> sorted = ExchangeSorted(keys, places);
 
   // What stands in each slot after the sort; the gaps are then closed over it.
-  std::vector<int> order(At(last + 1));
-  std::iota(order.begin(), order.end(), 0);
-  for (std::size_t i = 0; i < places.size(); ++i) order[At(places[i])] = sorted[i];
+  SlotMap order = SameSlots();
+  for (std::size_t i = 0; i < places.size(); ++i) order[places[i]] = sorted[i];
   int next = start;
   for (int slot = start; slot <= last; ++slot) {
-    const int from = order[At(slot)];
-    if (!IsGap(state.ChannelTable[At(from)])) map[At(from)] = next++;
+    const int from = order[slot];
+    if (!IsGap(state.Channel(from))) map[from] = next++;
   }
   return Rearrange(state, map);
 }
 
-int LastOccupied(const State& state) {
-  int slot = state.ChannelCount;
-  while (slot > 0 && state.ChannelTable[At(slot)].Empty()) --slot;
-  return slot;
-}
-
 int Azzera(State& state) {
   const int last = LastOccupied(state);
-  for (int slot = 1; slot <= last; ++slot) state.ChannelTable[At(slot)] = {};
-  for (int slot = 1; slot <= LastTransponderSlot; ++slot) state.TransponderTable[At(slot)].record = {};
+  for (int slot = 1; slot <= last; ++slot) state.Channel(slot) = {};
+  for (int slot = 1; slot <= LastTransponderSlot; ++slot) state.Transponder(slot).record = {};
   return last;
 }
 
 void InvertiSatelliti(State& state) {
-  for (int slot = 1; slot <= state.TransponderCount; ++slot)
-    state.TransponderTable[At(slot)].record.bytes[11] ^= 8U;
+  for (int slot = 1; slot <= state.TransponderCount; ++slot) state.Transponder(slot).record.bytes[11] ^= 8U;
 }
 
 void RiportaAB(State& state) {
-  for (int slot = 1; slot <= state.TransponderCount; ++slot)
-    state.TransponderTable[At(slot)].record.bytes[11] &= 15U;
+  for (int slot = 1; slot <= state.TransponderCount; ++slot) state.Transponder(slot).record.bytes[11] &= 15U;
 }
 
 void CanaliXTransponder(State& state) {
@@ -193,38 +182,38 @@ void CanaliXTransponder(State& state) {
     return static_cast<int>(slot) <= state.TransponderCount;
   };
   for (std::size_t slot = 0; counted(slot); ++slot) {
-    Set(state.TransponderTable[slot].record, TransponderField::ChannelCount, 0);
+    Set(state.Transponder(slot).record, TransponderField::ChannelCount, 0);
   }
   for (int slot = 1; slot <= state.ChannelCount; ++slot) {
-    const ChannelRecord& channel = state.ChannelTable[At(slot)];
+    const ChannelRecord& channel = state.Channel(slot);
     const std::size_t transponder = Get(channel, ChannelField::Transponder);
     if (channel.Empty() || !counted(transponder)) continue;
-    TransponderRecord& record = state.TransponderTable[transponder].record;
+    TransponderRecord& record = state.Transponder(transponder).record;
     const std::uint32_t count = Get(record, TransponderField::ChannelCount) + 1;
     if (count <= 255) Set(record, TransponderField::ChannelCount, count);
   }
 }
 
 int FindName(const State& state, std::string_view text, int from) {
-  const std::string wanted = UpperCase(text);
+  const std::string wanted = Base::UpperCase(text);
   for (int slot = from; slot <= state.ChannelCount; ++slot) {
-    if (UpperCase(state.ChannelTable[At(slot)].Name()).find(wanted) != std::string::npos) return slot;
+    if (Base::UpperCase(state.Channel(slot).Name()).find(wanted) != std::string::npos) return slot;
   }
   return 0;
 }
 
 std::vector<int> MatchingSlots(const State& state, std::string_view text) {
   std::vector<int> slots;
-  const std::string wanted = UpperCase(text);
+  const std::string wanted = Base::UpperCase(text);
   const auto value = static_cast<std::uint32_t>(Base::LeadingNumber(text));
   const bool zero = text.find_first_not_of('0') == std::string_view::npos;
   const bool number = Base::LeadingDigits(text) == text && (value != 0 || zero);  // one too large reads as 0
   for (int slot = 1; slot <= state.ChannelCount && !text.empty(); ++slot) {
-    const ChannelRecord& channel = state.ChannelTable[At(slot)];
+    const ChannelRecord& channel = state.Channel(slot);
     if (channel.Empty()) continue;
     const bool byNumber = number && (Get(channel, ChannelField::Sid) == value ||
                                      Get(channel, ChannelField::Transponder) == value);
-    if (byNumber || UpperCase(channel.Name()).find(wanted) != std::string::npos) slots.push_back(slot);
+    if (byNumber || Base::UpperCase(channel.Name()).find(wanted) != std::string::npos) slots.push_back(slot);
   }
   return slots;
 }

@@ -45,9 +45,6 @@ void MoveChannels(State& state, Slots slots, int to);
 // closes the gaps. The order of equal ones is that of the plain exchange sort.
 std::vector<LostFavourite> OrdinaPerBouquet(State& state, int start);
 
-// The last used slot within the channel count, 0 when there is none.
-int LastOccupied(const State& state);
-
 // Empties channels and transponders; their counts, favourites and bouquet names stay. Returns the last used slot.
 int Azzera(State& state);
 

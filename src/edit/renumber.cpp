@@ -15,7 +15,7 @@ using Routines::SetFavouriteEntries;
 
 SlotMap SameSlots() {
   SlotMap map{};
-  std::iota(map.begin(), map.end(), 0);
+  std::iota(map.values.begin(), map.values.end(), 0);
   return map;
 }
 

@@ -2,16 +2,16 @@
 // favourites to the one routine here.
 #pragma once
 
-#include "model/routines.h"
+#include "model/per_slot.h"
 
 #include <string>
 #include <vector>
 
 namespace Edit {
 
-// For each slot the one its channel goes to, 0 where the channel goes away. Slot 0 is not used.
-using SlotMap = std::array<int, Routines::LastChannelSlot + 1>;
+using Routines::SlotMap;
 
+// Every channel stays where it is.
 SlotMap SameSlots();
 
 // A favourites entry that was taken out.

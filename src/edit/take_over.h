@@ -1,10 +1,15 @@
 // Taking over what another list has, channel by channel or its order as a whole. The other list is only read.
 #pragma once
 
-#include "edit/compare.h"
+#include "edit/renumber.h"
 #include "model/bouquets.h"
+#include "review/compare.h"
 
 namespace Edit {
+
+using Review::Comparison;
+using Review::Difference;
+using Routines::State;
 
 struct TakeOverReport {
   int added = 0;

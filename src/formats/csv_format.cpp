@@ -89,7 +89,7 @@ std::string WriteChannelsCsv(const State& state, int first, int last) {
   for (const auto& detail : Details) fields.emplace_back(detail.title);
   std::string text = ByteOrderMark + Line(fields);
   for (int slot = std::max(first, 1); slot <= std::min(last, state.ChannelCount); ++slot) {
-    const ChannelRecord& channel = state.ChannelTable[static_cast<std::size_t>(slot)];
+    const ChannelRecord& channel = state.Channel(slot);
     if (channel.Empty()) continue;
     fields.clear();
     for (int column = 0; column < columns; ++column)

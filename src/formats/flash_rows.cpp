@@ -54,7 +54,7 @@ FlashRows ReadFlashRows(Base::ByteView image, std::string_view symbolRates, cons
   FlashRows rows;
   // What is read past the channels that count is the second copy.
   for (int slot = 1; slot <= state->ChannelCount && rows.table.lines < report.channelsInImage; ++slot) {
-    const ChannelRecord& channel = state->ChannelTable[static_cast<std::size_t>(slot)];
+    const ChannelRecord& channel = state->Channel(slot);
     if (channel.Empty()) continue;
     ++rows.table.lines;
     const TransponderRow* transponder = TransponderInUse(*state, Get(channel, ChannelField::Transponder));

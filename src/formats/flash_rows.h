@@ -2,7 +2,7 @@
 #pragma once
 
 #include "base/bytes.h"
-#include "formats/satcodx.h"
+#include "formats/sdx_table.h"
 #include "model/bouquets.h"
 
 namespace Formats {

@@ -55,11 +55,11 @@ Base::Bytes WriteFls(const State& state) {
   Base::Bytes file;
   Append(file, std::string(Channels) + Base::ZeroPadded(state.ChannelCount, 4));
   for (int slot = 1; slot <= state.ChannelCount; ++slot) {
-    Append(file, Base::AsText(state.ChannelTable[static_cast<std::size_t>(slot)].bytes));
+    Append(file, Base::AsText(state.Channel(slot).bytes));
   }
   Append(file, std::string(Transponders) + std::to_string(state.TransponderCount));
   for (int slot = 1; slot <= state.TransponderCount; ++slot) {
-    Append(file, Base::AsText(state.TransponderTable[static_cast<std::size_t>(slot)].record.bytes));
+    Append(file, Base::AsText(state.Transponder(slot).record.bytes));
   }
   if (state.FavouritesBlock.empty()) return file;
   std::string_view block = Base::AsText(state.FavouritesBlock);
@@ -78,20 +78,19 @@ ImportReport ReadFls(State& state, Base::ByteView file, const BouquetTables& bou
   if (channels <= 0) return report;
 
   report.changed = report.transpondersRead = true;
-  for (std::size_t slot = 1; slot < state.ChannelTable.size(); ++slot) state.ChannelTable[slot] = {};
+  for (std::size_t slot = 1; slot < state.ChannelTable.size(); ++slot) state.Channel(slot) = {};
   for (std::size_t slot = 1; slot < state.TransponderTable.size(); ++slot)
-    state.TransponderTable[slot].record = {};
+    state.Transponder(slot).record = {};
   for (int slot = 1; slot <= channels && !records.AtEnd(); ++slot) {
     const std::string record = records.Next();
-    if (slot <= LastChannelSlot) Store(state.ChannelTable[static_cast<std::size_t>(slot)], record);
+    if (slot <= LastChannelSlot) Store(state.Channel(slot), record);
   }
   const int transponders = CountBehind(records.Next(), Transponders, file.size());
   state.TransponderCount = std::min(transponders, LastTransponderSlot);
   if (transponders < 1) return report;
   for (int slot = 1; slot <= transponders && !records.AtEnd(); ++slot) {
     const std::string record = records.Next();
-    if (slot <= LastTransponderSlot)
-      Store(state.TransponderTable[static_cast<std::size_t>(slot)].record, record);
+    if (slot <= LastTransponderSlot) Store(state.Transponder(slot).record, record);
   }
   NameBouquets(state, bouquets);
   report.listRead = true;

@@ -3,6 +3,8 @@
 #include "base/text.h"
 #include "formats/foreign_fields.h"
 
+#include <utility>
+
 namespace Formats {
 namespace {
 

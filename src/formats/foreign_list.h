@@ -2,7 +2,7 @@
 #pragma once
 
 #include "formats/foreign_layout.h"
-#include "formats/satcodx.h"
+#include "formats/sdx_table.h"
 
 #include <limits>
 

@@ -65,7 +65,7 @@ int SdxImport::TransponderOf(const SdxRow& row, int position) {
       IsFree(record) ? TransponderSlot{} : FindOrAddTransponder(state_, record, Megahertz(row));
   if (found.added) {
     if (!RateCodeOf(row)) ++unknownRates_;
-    NameBouquet(state_.TransponderTable[static_cast<std::size_t>(found.slot)], bouquets_);
+    NameBouquet(state_.Transponder(found.slot), bouquets_);
     return found.slot;
   }
   if (found.slot != 0) {
@@ -81,7 +81,7 @@ int SdxImport::TransponderOf(const SdxRow& row, int position) {
 }
 
 void SdxImport::Put(const SdxRow& row, int slot, int position) {
-  ChannelRecord& channel = state_.ChannelTable[static_cast<std::size_t>(slot)];
+  ChannelRecord& channel = state_.Channel(slot);
   if (!channel.Empty()) AddToChannelCount(state_, Get(channel, ChannelField::Transponder), -1);
   channel = {};
   if (Megahertz(row) == 0) return;

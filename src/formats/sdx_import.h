@@ -1,7 +1,7 @@
 // Carrying rows of the SDX table into the channel list, with the transponders they need.
 #pragma once
 
-#include "formats/satcodx.h"
+#include "formats/sdx_table.h"
 #include "model/bouquets.h"
 
 namespace Formats {

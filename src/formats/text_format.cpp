@@ -126,7 +126,7 @@ std::string FavouritesText(const State& state) {
     text += LineEnd;
     for (const int slot : FavouriteEntriesOf(state.FavouritesBlock, list)) {
       if (slot > LastChannelSlot) continue;  // junk, and too long for its column
-      const std::string_view name = state.ChannelTable[static_cast<std::size_t>(slot)].Name();
+      const std::string_view name = state.Channel(slot).Name();
       text.append(FavouriteLine::Slot.width + 1, ' ');
       Base::PutNumber(&text[text.size() - FavouriteLine::Slot.width - 1], FavouriteLine::Slot,
                       static_cast<std::uint32_t>(slot));
@@ -218,7 +218,7 @@ class Reader {
   void TakeChannel(std::string_view line) {
     const auto slot = NumberIn(line, ChannelLine::Slot, LastChannelSlot);
     if (!slot) return;
-    ChannelRecord& channel = state_.ChannelTable[*slot];
+    ChannelRecord& channel = state_.Channel(*slot);
     const std::string_view name = Cut(line, ChannelLine::Name);
     std::copy(name.begin(), name.end(), channel.bytes.begin());
     SetNumber(channel, ChannelField::Transponder, line, ChannelLine::Transponder);
@@ -247,7 +247,7 @@ class Reader {
     report.transpondersRead = true;
     state_.TransponderCount = CountIn(*header, TransponderCountColumn, LastTransponderSlot);
     for (std::size_t slot = 1; slot < state_.TransponderTable.size(); ++slot) {
-      state_.TransponderTable[slot].record = {};
+      state_.Transponder(slot).record = {};
     }
     const bool ended =
         Lines("[END TRANSPONDERS]", [&](std::string_view line) { TakeTransponder(line, report); });
@@ -264,7 +264,7 @@ class Reader {
   void TakeTransponder(std::string_view line, ImportReport& report) {
     const auto slot = NumberIn(line, TransponderLine::Number, LastTransponderSlot);
     if (!slot) return;
-    TransponderRow& row = state_.TransponderTable[*slot];
+    TransponderRow& row = state_.Transponder(*slot);
     TransponderRecord& record = row.record;
     const std::int64_t oscillator = Cut(line, TransponderLine::ToneOn) == "On" ? 10600 : 9750;
     const std::int64_t hertz =
@@ -353,7 +353,7 @@ std::string WriteText(const State& state) {
                            FavouriteLists * FavouriteEntries));
   text = "[CANALI] " + channels;
   for (int slot = 1; slot <= state.ChannelCount; ++slot) {
-    const ChannelRecord& channel = state.ChannelTable[static_cast<std::size_t>(slot)];
+    const ChannelRecord& channel = state.Channel(slot);
     const auto nameEnd = channel.bytes.begin() + ChannelRecord::NameSize;
     if (std::any_of(channel.bytes.begin(), nameEnd, [](Base::Byte byte) { return byte != 0; })) {
       AddChannel(text, channel, slot);
@@ -361,7 +361,7 @@ std::string WriteText(const State& state) {
   }
   text += "[END CANALI] " + channels + "[TRANSPONDERS] " + transponders;
   for (int number = 1; number <= state.TransponderCount; ++number) {
-    const TransponderRow& row = state.TransponderTable[static_cast<std::size_t>(number)];
+    const TransponderRow& row = state.Transponder(number);
     if (!IsFree(row.record)) text += TransponderText(state, row, number);
   }
   text += "[END TRANSPONDERS] " + transponders;

@@ -20,7 +20,7 @@ void NameBouquet(TransponderRow& row, const BouquetTables& tables) {
 
 void NameBouquets(State& state, const BouquetTables& tables) {
   for (int slot = 1; slot <= state.TransponderCount; ++slot) {
-    NameBouquet(state.TransponderTable[static_cast<std::size_t>(slot)], tables);
+    NameBouquet(state.Transponder(slot), tables);
   }
 }
 

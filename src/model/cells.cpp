@@ -23,7 +23,7 @@ bool Doubtful(const State& state, const TransponderRecord& record) {
 
 std::string ChannelCell(const State& state, int slot, int column) {
   using namespace ChannelField;
-  const ChannelRecord& channel = state.ChannelTable[static_cast<std::size_t>(slot)];
+  const ChannelRecord& channel = state.Channel(slot);
   if (column == ChannelColumn::Number) return Base::ZeroPadded(slot, 4);
   if (channel.Empty()) return {};
   switch (column) {
@@ -53,7 +53,7 @@ std::string ChannelCell(const State& state, int slot, int column) {
 }
 
 Colour ChannelColour(const State& state, int slot) {
-  const ChannelRecord& channel = state.ChannelTable[static_cast<std::size_t>(slot)];
+  const ChannelRecord& channel = state.Channel(slot);
   const ChannelKind kind = KindOf(channel);
   if (kind == ChannelKind::Empty) return Colours::EmptySlot;
   if (Get(channel, ChannelField::Active) == 0) return Colours::Inactive;
@@ -63,7 +63,7 @@ Colour ChannelColour(const State& state, int slot) {
 
 std::string TransponderCell(const State& state, int slot, int column) {
   using namespace TransponderField;
-  const TransponderRow& row = state.TransponderTable[static_cast<std::size_t>(slot)];
+  const TransponderRow& row = state.Transponder(slot);
   const TransponderRecord& record = row.record;
   switch (column) {
     case TransponderColumn::Number:
@@ -94,7 +94,7 @@ std::string TransponderCell(const State& state, int slot, int column) {
 }
 
 Colour TransponderColour(const State& state, int slot, int column) {
-  const TransponderRecord& record = state.TransponderTable[static_cast<std::size_t>(slot)].record;
+  const TransponderRecord& record = state.Transponder(slot).record;
   if (column == TransponderColumn::Frequency && record.bytes[0] == 0) return Colours::NoFrequency;
   if (!IsFree(record) && Doubtful(state, record)) return Colours::DoubtfulTransponder;
   return Colours::Transponder;

@@ -73,7 +73,7 @@ class Loader {
         if (slot_ >= state_.MaxChannels) break;
         ++slot_;
         // An empty record keeps its slot, so that channel numbers are the receiver's.
-        state_.ChannelTable[static_cast<std::size_t>(slot_)] = record.Empty() ? ChannelRecord{} : record;
+        state_.Channel(slot_) = record.Empty() ? ChannelRecord{} : record;
         if (!record.Empty()) ++report_.channelsRead;
       }
     }
@@ -87,7 +87,7 @@ class Loader {
       if (Appending()) {
         Merge(number, record);
       } else {
-        state_.TransponderTable[static_cast<std::size_t>(number)].record = record;
+        state_.Transponder(number).record = record;
       }
     }
     NameBouquets(state_, bouquets_);
@@ -115,7 +115,7 @@ class Loader {
   void RenumberTransponders() {
     const int last = LastUsedChannel(state_);
     for (int i = appendStart_ + 1; i <= last; ++i) {
-      ChannelRecord& channel = state_.ChannelTable[static_cast<std::size_t>(i)];
+      ChannelRecord& channel = state_.Channel(i);
       const std::size_t number = Get(channel, ChannelField::Transponder);
       if (number >= mapping_.size() || mapping_[number] == 0) continue;
       Set(channel, ChannelField::Transponder, static_cast<std::uint32_t>(mapping_[number]));

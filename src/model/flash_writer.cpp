@@ -57,7 +57,7 @@ class Writer {
     while (at + ChannelRecord::Size <= space.End()) {
       ++channel_;
       if (channel_ > plan_.maxChannels) break;
-      Put(at, state_.ChannelTable[static_cast<std::size_t>(channel_)].bytes);
+      Put(at, state_.Channel(channel_).bytes);
       at += ChannelRecord::Size;
     }
     Clear(at, std::min(space.first + entry.length, space.End()));
@@ -68,7 +68,7 @@ class Writer {
     std::size_t at = space.first;
     for (int slot = 1; slot <= state_.TransponderCount; ++slot) {
       if (at + TransponderRecord::Size > space.End()) break;
-      Put(at, state_.TransponderTable[static_cast<std::size_t>(slot)].record.bytes);
+      Put(at, state_.Transponder(slot).record.bytes);
       at += TransponderRecord::Size;
     }
   }
@@ -93,8 +93,8 @@ class Writer {
 
 void CompareChannels(const State& state, const State& reloaded, Unwritten& unwritten) {
   for (int slot = 1; slot <= state.ChannelCount; ++slot) {
-    const ChannelRecord& ours = state.ChannelTable[static_cast<std::size_t>(slot)];
-    const ChannelRecord& theirs = reloaded.ChannelTable[static_cast<std::size_t>(slot)];
+    const ChannelRecord& ours = state.Channel(slot);
+    const ChannelRecord& theirs = reloaded.Channel(slot);
     if (ours.Empty()) {
       if (!theirs.Empty()) ++unwritten.extraChannels;
     } else if (ours != theirs) {
@@ -164,8 +164,8 @@ Unwritten FindUnwritten(const State& state, Base::ByteView written, const WriteP
   CompareChannels(state, *reloaded, unwritten);
   for (int slot = 1; slot <= state.TransponderCount; ++slot) {
     const auto at = static_cast<std::size_t>(slot);
-    const TransponderRecord& ours = state.TransponderTable[at].record;
-    if (!IsFree(ours) && ours != reloaded->TransponderTable[at].record) ++unwritten.transponders;
+    const TransponderRecord& ours = state.Transponder(at).record;
+    if (!IsFree(ours) && ours != reloaded->Transponder(at).record) ++unwritten.transponders;
   }
   if (plan.type == FlashType::Two && !state.FavouritesBlock.empty())
     CompareFavourites(state, *reloaded, unwritten);

@@ -8,9 +8,7 @@
 namespace Routines {
 namespace {
 
-const TransponderRow& RowOf(const State& state, int transponder) {
-  return state.TransponderTable[static_cast<std::size_t>(transponder)];
-}
+const TransponderRow& RowOf(const State& state, int transponder) { return state.Transponder(transponder); }
 
 std::uint32_t SatelliteOf(const State& state, int transponder) {
   return Get(RowOf(state, transponder).record, TransponderField::Satellite);
@@ -51,7 +49,7 @@ std::string TransponderText(const State& state, int slot) {
 template <class Use>
 void ForEachChannel(const State& state, Use use) {
   for (int slot = 1; slot <= state.ChannelCount; ++slot) {
-    const ChannelRecord& channel = state.ChannelTable[static_cast<std::size_t>(slot)];
+    const ChannelRecord& channel = state.Channel(slot);
     if (!channel.Empty()) use(slot, channel, Get(channel, ChannelField::Transponder));
   }
 }

@@ -5,6 +5,7 @@
 #include "model/channel.h"
 #include "model/transponder.h"
 
+#include <concepts>
 #include <string>
 
 namespace Routines {
@@ -30,13 +31,32 @@ struct State {
   std::string InputFlash;   // path of the flash image last opened
   std::string OutputFlash;  // path of the flash image chosen for writing, empty when none is
 
+  // What is in a slot: 0..LastChannelSlot of the one table, 0..LastTransponderSlot of the other.
+  ChannelRecord& Channel(std::integral auto slot) { return ChannelTable[static_cast<std::size_t>(slot)]; }
+  const ChannelRecord& Channel(std::integral auto slot) const {
+    return ChannelTable[static_cast<std::size_t>(slot)];
+  }
+  TransponderRow& Transponder(std::integral auto slot) {
+    return TransponderTable[static_cast<std::size_t>(slot)];
+  }
+  const TransponderRow& Transponder(std::integral auto slot) const {
+    return TransponderTable[static_cast<std::size_t>(slot)];
+  }
+
   friend bool operator==(const State&, const State&) = default;
 };
 
 // The highest slot that holds a channel, 0 when there is none.
 inline int LastUsedChannel(const State& state) {
   int slot = LastChannelSlot;
-  while (slot > 0 && state.ChannelTable[static_cast<std::size_t>(slot)].Empty()) --slot;
+  while (slot > 0 && state.Channel(slot).Empty()) --slot;
+  return slot;
+}
+
+// The highest slot within the channel count that holds a channel, 0 when there is none.
+inline int LastOccupied(const State& state) {
+  int slot = state.ChannelCount;
+  while (slot > 0 && state.Channel(slot).Empty()) --slot;
   return slot;
 }
 
@@ -57,14 +77,14 @@ inline int UsedTransponders(const State& state) {
 // The transponder of that number; none where it is no slot of the list, or a free one.
 inline const TransponderRow* TransponderInUse(const State& state, std::uint32_t number) {
   if (number < 1 || static_cast<int>(number) > state.TransponderCount) return nullptr;
-  const TransponderRow& row = state.TransponderTable[number];
+  const TransponderRow& row = state.Transponder(number);
   return IsFree(row.record) ? nullptr : &row;
 }
 
 // Adds to a transponder's own count of channels, which stays within 0..254. Numbers that are no slot do nothing.
 inline void AddToChannelCount(State& state, std::uint32_t transponder, int step) {
   if (transponder < 1 || transponder > LastTransponderSlot) return;
-  TransponderRecord& record = state.TransponderTable[transponder].record;
+  TransponderRecord& record = state.Transponder(transponder).record;
   const int count = static_cast<int>(Get(record, TransponderField::ChannelCount)) + step;
   Set(record, TransponderField::ChannelCount, static_cast<std::uint32_t>(std::clamp(count, 0, 254)));
 }
@@ -79,14 +99,14 @@ struct TransponderSlot {
 inline TransponderSlot FindOrAddTransponder(State& state, const TransponderRecord& record, int megahertz) {
   int free = 0;
   for (int slot = 1; slot <= state.TransponderCount; ++slot) {
-    const TransponderRecord& known = state.TransponderTable[static_cast<std::size_t>(slot)].record;
+    const TransponderRecord& known = state.Transponder(slot).record;
     if (IsFree(known)) {
       if (free == 0) free = slot;
     } else if (SameTransponder(known, record, megahertz)) {
       return {slot, false};
     }
   }
-  if (free != 0) state.TransponderTable[static_cast<std::size_t>(free)].record = record;
+  if (free != 0) state.Transponder(free).record = record;
   return {free, free != 0};
 }
 

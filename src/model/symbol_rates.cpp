@@ -44,7 +44,7 @@ int ConvertiSR(State& state, Sr22000 place) {
   PlaceUsualRates(output, place);
   int changed = 0;
   for (int slot = 1; slot <= state.TransponderCount; ++slot) {
-    TransponderRecord& record = state.TransponderTable[static_cast<std::size_t>(slot)].record;
+    TransponderRecord& record = state.Transponder(slot).record;
     const std::size_t code = Get(record, TransponderField::SymbolRate);
     const std::size_t recoded = RecodedRate(state.SymbolRateTable, output, code);
     if (recoded == code) continue;

@@ -1,6 +1,7 @@
-#include "ui/main_window.h"
-#include "ui/program_folder.h"
-#include "ui/toolkit.h"
+#include "ui/kit/text.h"
+#include "ui/kit/toolkit.h"
+#include "ui/session/program_folder.h"
+#include "ui/window/main_window.h"
 
 #include <QApplication>
 #include <QFileInfo>
@@ -8,7 +9,7 @@
 int main(int argc, char** argv) {
   QApplication application(argc, argv);
   Ui::SetUpToolkit(application);
-  Ui::CopiaTCSTPT window(Ui::ProgramFolder());
+  Ui::MainWindow window(Ui::ProgramFolder());
   window.show();
   if (!window.Start()) return 1;
   window.OfferKeptWork();

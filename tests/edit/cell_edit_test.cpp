@@ -33,10 +33,8 @@ class CellEdit : public testing::Test {
     }
   }
 
-  ChannelRecord& Channel(int slot) { return state_.ChannelTable[static_cast<std::size_t>(slot)]; }
-  TransponderRecord& Transponder(int slot) {
-    return state_.TransponderTable[static_cast<std::size_t>(slot)].record;
-  }
+  ChannelRecord& Channel(int slot) { return state_.Channel(slot); }
+  TransponderRecord& Transponder(int slot) { return state_.Transponder(slot).record; }
 
   // Positions of the bytes that an edit changes; nothing where it is refused.
   template <class Record, class Edit>
@@ -148,7 +146,7 @@ TEST_F(CellEdit, TransponderFieldsKeepToThemselves) {
   EXPECT_TRUE(EditTransponder(state_, 6, TransponderColumn::Frequency, "12034", {}));
   EXPECT_EQ(FrequencyMHz(Transponder(6)), 12034);
   EXPECT_EQ(Get(Transponder(6), TransponderField::HighBand), 1U);
-  EXPECT_EQ(state_.TransponderTable[6].BouquetName().substr(0, 7), "Nessuno");
+  EXPECT_EQ(state_.Transponder(6).BouquetName().substr(0, 7), "Nessuno");
 }
 
 }  // namespace

@@ -1,7 +1,7 @@
 // Editing the list: every command that moves channels carries the favourites along, and every step can be undone.
 #include "edit/clipboard.h"
 #include "edit/history.h"
-#include "edit/sposta_radio.h"
+#include "edit/regroup.h"
 #include "image_builder.h"
 #include "model/favourites.h"
 
@@ -15,7 +15,7 @@ namespace {
 using namespace Routines;
 using namespace Samples;
 
-ChannelRecord& Channel(State& state, int slot) { return state.ChannelTable[static_cast<std::size_t>(slot)]; }
+ChannelRecord& Channel(State& state, int slot) { return state.Channel(slot); }
 
 // `limit` slots, most of them filled with channels of SIDs of their own on transponders 0 to 255; favourites on some of
 // the channels, the last list full.
@@ -34,8 +34,8 @@ std::unique_ptr<State> RandomList(Junk& junk, int limit) {
   }
   for (std::size_t i = 1; i < 20; ++i) {
     const std::string digit(1, static_cast<char>('0' + junk.Below(3)));
-    state->TransponderTable[i].record = MakeTransponder(10700 + static_cast<int>(i) * 20, true, 0, 1, 2);
-    state->TransponderTable[i].SetBouquet("B", "0" + digit);
+    state->Transponder(i).record = MakeTransponder(10700 + static_cast<int>(i) * 20, true, 0, 1, 2);
+    state->Transponder(i).SetBouquet("B", "0" + digit);
   }
   for (std::size_t list = 0; list < FavouriteLists; ++list) {
     std::vector<int> entries(list == 7 ? FavouriteEntries : junk.Below(60));
@@ -52,8 +52,7 @@ std::unique_ptr<State> RandomList(Junk& junk, int limit) {
 std::vector<int> Named(const State& state, std::size_t list) {
   std::vector<int> sids;
   for (const int slot : FavouriteEntriesOf(state.FavouritesBlock, list)) {
-    sids.push_back(
-        static_cast<int>(Get(state.ChannelTable[static_cast<std::size_t>(slot)], ChannelField::Sid)));
+    sids.push_back(static_cast<int>(Get(state.Channel(slot), ChannelField::Sid)));
   }
   return sids;
 }
@@ -94,7 +93,7 @@ void RandomCommand(Junk& junk, State& state, Clipboard& clipboard) {
   if (command == 4) OrdinaPerBouquet(state, slots.first);
   if (command == 5) MakeRoom(state, slots.first, 2, lost);
   if (command == 6) InvertiSatelliti(state);
-  if (command == 7) SpostaRadio(state, slots.first);
+  if (command == 7) Regroup(state, slots.first);
   if (command == 8 && slots.last > 1) DeleteSlots(state, {slots.last, 1});
   if (command == 9) CanaliXTransponder(state);
 }
@@ -109,8 +108,8 @@ void PlainSort(State& state, int start) {
       const auto a = Get(Channel(state, i), ChannelField::Transponder);
       const auto b = Get(Channel(state, j), ChannelField::Transponder);
       if (a == 0 || a == 255 || b == 0 || b == 255) continue;
-      const auto codeA = state.TransponderTable[a].BouquetCode();
-      const auto codeB = state.TransponderTable[b].BouquetCode();
+      const auto codeA = state.Transponder(a).BouquetCode();
+      const auto codeB = state.Transponder(b).BouquetCode();
       if (codeB < codeA || (codeA == codeB && a > b)) std::swap(Channel(state, i), Channel(state, j));
     }
   }
@@ -156,13 +155,13 @@ TEST(Editing, DeletingClosesTheListAndItsFavourites) {
   for (int slot = 1; slot <= 20; ++slot) Channel(*state, slot) = MakeChannel("x", 3, slot, 1, 1);
   Channel(*state, 6) = {};
   SetFavouriteEntries(state->FavouritesBlock, 0, {5, 9, 4000, 6, 20, 7});
-  Set(state->TransponderTable[3].record, TransponderField::ChannelCount, 1);
+  Set(state->Transponder(3).record, TransponderField::ChannelCount, 1);
   const auto lost = DeleteChannels(*state, {5, 7});
   EXPECT_EQ(FavouriteEntriesOf(state->FavouritesBlock, 0), std::vector<int>({6, 4000, 17}));
   EXPECT_EQ(LostFavouritesText(state->FavouritesBlock, lost), "tolti 3 preferiti (lista 1 3)");
   EXPECT_EQ(Get(Channel(*state, 5), ChannelField::Sid), 8U);
   EXPECT_TRUE(Channel(*state, 40).Empty());
-  EXPECT_EQ(Get(state->TransponderTable[3].record, TransponderField::ChannelCount), 0U) << "never below 0";
+  EXPECT_EQ(Get(state->Transponder(3).record, TransponderField::ChannelCount), 0U) << "never below 0";
   DeleteSlots(*state, {12, 1, 4});
   EXPECT_EQ(Get(Channel(*state, 1), ChannelField::Sid), 2U);
   EXPECT_EQ(Get(Channel(*state, 10), ChannelField::Sid), 16U);
@@ -208,16 +207,16 @@ TEST(Editing, ChannelsOfAnotherListFindTheirTransponders) {
   to->ListNumber = 9;
   to->ChannelCount = 50;
   to->TransponderCount = 3;
-  to->TransponderTable[1].record = MakeTransponder(12500, true, 0, 1, 2);
-  to->TransponderTable[3].record = MakeTransponder(10742, true, 0, 9, 9);
+  to->Transponder(1).record = MakeTransponder(12500, true, 0, 1, 2);
+  to->Transponder(3).record = MakeTransponder(10742, true, 0, 9, 9);
   const auto pasted = Paste(*to, clipboard, 5, PasteWay::Overwrite, {});
   ASSERT_TRUE(pasted);
   EXPECT_EQ(pasted->withoutTransponder, 1);
   std::vector<std::uint32_t> linked;
   for (int i = 5; i <= 7; ++i) linked.push_back(Get(Channel(*to, i), ChannelField::Transponder));
   EXPECT_EQ(linked, std::vector<std::uint32_t>({2, 3, 3}));
-  EXPECT_EQ(FrequencyMHz(to->TransponderTable[2].record), 10720);
-  EXPECT_EQ(to->TransponderTable[2].BouquetName().substr(0, 7), "Nessuno");
+  EXPECT_EQ(FrequencyMHz(to->Transponder(2).record), 10720);
+  EXPECT_EQ(to->Transponder(2).BouquetName().substr(0, 7), "Nessuno");
 }
 
 TEST(Editing, TheSortIsTheExchangeSortsOwn) {
@@ -244,7 +243,7 @@ TEST(Editing, TelevisionComesBeforeRadioAndServices) {
   for (const auto& c : channels) Channel(state, c.slot) = MakeChannel("x", 1, c.sid, c.vpid, c.apid);
   std::fill_n(Channel(state, 6).bytes.begin(), 16, Base::Byte{' '});
   SetFavouriteEntries(state.FavouritesBlock, 0, {2, 1, 8, 14, 6, 30});
-  const Regrouped done = SpostaRadio(state, 4);
+  const Regrouped done = Regroup(state, 4);
   EXPECT_EQ((std::vector{done.television, done.radio, done.services}), (std::vector{2, 2, 5}));
   std::vector<int> sids;
   for (int slot = 1; slot <= 13; ++slot)
@@ -260,17 +259,17 @@ TEST(Editing, WholeListCommands) {
   auto state = RandomList(junk, 300);
   const State before = *state;
   InvertiSatelliti(*state);
-  EXPECT_EQ(SatelliteLabel(state->TransponderTable[1].record), "SAT B");
+  EXPECT_EQ(SatelliteLabel(state->Transponder(1).record), "SAT B");
   InvertiSatelliti(*state);
   EXPECT_TRUE(*state == before);
-  state->TransponderTable[1].record.bytes[11] = 0xF7 & 0x17;  // satellite C, everything else on
-  state->TransponderTable[2].record.bytes[11] = 0x1F;
+  state->Transponder(1).record.bytes[11] = 0xF7 & 0x17;  // satellite C, everything else on
+  state->Transponder(2).record.bytes[11] = 0x1F;
   RiportaAB(*state);
-  EXPECT_EQ(state->TransponderTable[1].record.bytes[11], 0x07);
-  EXPECT_EQ(state->TransponderTable[2].record.bytes[11], 0x0F);
+  EXPECT_EQ(state->Transponder(1).record.bytes[11], 0x07);
+  EXPECT_EQ(state->Transponder(2).record.bytes[11], 0x0F);
   for (int slot = 1; slot <= 290; ++slot) Channel(*state, slot) = MakeChannel("x", 7, slot, 1, 1);
   CanaliXTransponder(*state);
-  EXPECT_EQ(Get(state->TransponderTable[7].record, TransponderField::ChannelCount), 255U);
+  EXPECT_EQ(Get(state->Transponder(7).record, TransponderField::ChannelCount), 255U);
   EXPECT_EQ(Azzera(*state), 290);
   EXPECT_EQ(LastUsedChannel(*state), 0);
   EXPECT_EQ(UsedTransponders(*state), 0);

@@ -18,8 +18,7 @@ class Preferiti : public testing::Test {
   Preferiti() {
     state_.ChannelCount = 300;
     for (int slot = 1; slot <= 250; ++slot) {
-      state_.ChannelTable[static_cast<std::size_t>(slot)] =
-          Samples::MakeChannel("c" + std::to_string(999 - slot), 1, slot, 1, 1);
+      state_.Channel(slot) = Samples::MakeChannel("c" + std::to_string(999 - slot), 1, slot, 1, 1);
     }
     state_.FavouritesBlock.assign(NormalFavouritesSize, 0xEE);
     for (std::size_t list = 0; list < FavouriteLists; ++list) state_.FavouritesBlock[list * 256] = 0;

@@ -20,7 +20,7 @@ std::unique_ptr<Recovery> Work() {
     for (Base::Byte& byte : channel.bytes) byte = junk.NextByte();
   for (auto& row : state.TransponderTable)
     for (Base::Byte& byte : row.record.bytes) byte = junk.NextByte();
-  state.TransponderTable[7].SetBouquet("Città", "12");
+  state.Transponder(7).SetBouquet("Città", "12");
   state.FavouritesBlock = {1, 2, 3};
   state.SymbolRateTable = std::string(96, '5');
   state.MaxChannels = 2000;
@@ -31,8 +31,8 @@ std::unique_ptr<Recovery> Work() {
   state.ListNumber = 9;
   state.InputFlash = "/tmp/una \"lista\"\n.dat";
   state.OutputFlash = "/tmp/altra.dat";
-  work->clipboard = {.channels = {state.ChannelTable[1], state.ChannelTable[2]},
-                     .transponders = {state.TransponderTable[1].record, state.TransponderTable[2].record},
+  work->clipboard = {.channels = {state.Channel(1), state.Channel(2)},
+                     .transponders = {state.Transponder(1).record, state.Transponder(2).record},
                      .cut = {{7, 127, 1}},
                      .symbolRates = std::string(96, '6'),
                      .cutNumber = 4,
@@ -96,7 +96,7 @@ TEST(Recovery, OnlyWhatACutHoldsAloneWouldBeLost) {
   const auto work = Work();
   State& state = work->state;
   EXPECT_FALSE(HoldsCutChannels(work->clipboard, state)) << "the cut has been undone";
-  state.ChannelTable[2] = {};
+  state.Channel(2) = {};
   EXPECT_TRUE(HoldsCutChannels(work->clipboard, state));
   work->clipboard.wasCut = false;
   EXPECT_FALSE(HoldsCutChannels(work->clipboard, state)) << "a copy";

@@ -13,11 +13,11 @@ TEST(Csv, FieldsStayOneTextWhateverTheyHold) {
   state->ChannelCount = 9;
   state->TransponderCount = 2;
   state->SymbolRateTable = "27000,22000,";
-  state->TransponderTable[2].record = Samples::MakeTransponder(11013, true, 1, 1, 2, 318, 10);
-  state->TransponderTable[2].SetBouquet("Reti; \"Citt\xE0\"", "01");
+  state->Transponder(2).record = Samples::MakeTransponder(11013, true, 1, 1, 2, 318, 10);
+  state->Transponder(2).SetBouquet("Reti; \"Citt\xE0\"", "01");
   const char* names[] = {"Citt\xE0 ", "", "=1+1", " @a", "a;\"b\"", "a\r\nb", "24/7", "105"};
   for (std::size_t i = 0; i < std::size(names); ++i)
-    state->ChannelTable[i + 1] = Samples::MakeChannel(names[i], i == 0 ? 2 : 1, 7, 512, 65535, 0xA4);
+    state->Channel(i + 1) = Samples::MakeChannel(names[i], i == 0 ? 2 : 1, 7, 512, 65535, 0xA4);
   const std::string details = ";001;7;512;65535;65535;65535;512;A4;S;;;;;;;;\r\n";
   const std::string header =
       "\xEF\xBB\xBFProg.;Canale;Transponder;SID;VPID;APID;AECM;VECM;PCR;Codifica;Attivo;"

@@ -23,12 +23,12 @@ std::unique_ptr<State> SmallList() {
   state->SymbolRateTable = EmptySymbolRateTable();
   SetSymbolRate(state->SymbolRateTable, 5, "5632");
   PlaceUsualRates(state->SymbolRateTable, Sr22000::Come2);
-  state->ChannelTable[1] = MakeChannel("Citt\xE0 \r1", 7, 300, 512, 65535, 0xA4);
-  state->ChannelTable[3] = MakeChannel("Mute|d", 12, 65535, 1, 2, 0xB0);
-  state->ChannelTable[4].bytes[3] = 'x';
-  state->TransponderTable[1].record = MakeTransponder(12092, true, 1, 3, 2, 7, 318);
-  state->TransponderTable[1].SetBouquet("Sette", "07");
-  state->TransponderTable[3].record = MakeTransponder(11000, false, 31, 5, 9);
+  state->Channel(1) = MakeChannel("Citt\xE0 \r1", 7, 300, 512, 65535, 0xA4);
+  state->Channel(3) = MakeChannel("Mute|d", 12, 65535, 1, 2, 0xB0);
+  state->Channel(4).bytes[3] = 'x';
+  state->Transponder(1).record = MakeTransponder(12092, true, 1, 3, 2, 7, 318);
+  state->Transponder(1).SetBouquet("Sette", "07");
+  state->Transponder(3).record = MakeTransponder(11000, false, 31, 5, 9);
   state->FavouritesBlock.assign(NormalFavouritesSize, 0);
   state->FavouritesBlock[1] = 3;
   state->FavouritesBlock[FavouriteNameOffset(NormalFavouritesSize, 0)] = 'C';
@@ -67,12 +67,12 @@ TEST(TextFormat, WritesEachLineToItsColumns) {
 
 TEST(TextFormat, ReadsBackWithTheKnownLosses) {
   const auto written = SmallList();
-  written->ChannelTable[4] = MakeChannel("[END CANALI] 1", 1, 1, 1, 1);
-  written->ChannelTable[5] = MakeChannel("The [END", 1, 1, 1, 1);
+  written->Channel(4) = MakeChannel("[END CANALI] 1", 1, 1, 1, 1);
+  written->Channel(5) = MakeChannel("The [END", 1, 1, 1, 1);
   auto read = std::make_unique<State>();
   read->SymbolRateTable = written->SymbolRateTable;
-  read->ChannelTable[2] = MakeChannel("sparisce", 1, 1, 1, 1);
-  read->ChannelTable[9] = MakeChannel("resta", 1, 1, 1, 1);
+  read->Channel(2) = MakeChannel("sparisce", 1, 1, 1, 1);
+  read->Channel(9) = MakeChannel("resta", 1, 1, 1, 1);
   const ImportReport report = Read(*read, WriteText(*written));
   EXPECT_EQ(report.error, "");
   EXPECT_TRUE(report.listRead);
@@ -82,12 +82,12 @@ TEST(TextFormat, ReadsBackWithTheKnownLosses) {
        {std::pair{"B0 N", "00 N"}, {"SAT `", "SAT A"}, {"e [E", "e  E"}, {"e d\r", "e d          \r"}})
     expected = Replaced(expected, was, is);
   EXPECT_EQ(WriteText(*read), expected);
-  EXPECT_EQ(read->ChannelTable[4].Name(), " END CANALI] 1  ") << "a name does not end its section";
-  EXPECT_EQ(read->ChannelTable[5].Name(), "The [END        ");
-  EXPECT_EQ(read->ChannelTable[9].Name(), "resta") << "slots past the header's count keep their content";
-  EXPECT_EQ(read->TransponderTable[1].record, written->TransponderTable[1].record);
-  EXPECT_EQ(read->TransponderTable[1].BouquetCode(), "  ") << "no bouquet matches it here";
-  EXPECT_EQ(read->TransponderTable[3].record.bytes[11], 0);
+  EXPECT_EQ(read->Channel(4).Name(), " END CANALI] 1  ") << "a name does not end its section";
+  EXPECT_EQ(read->Channel(5).Name(), "The [END        ");
+  EXPECT_EQ(read->Channel(9).Name(), "resta") << "slots past the header's count keep their content";
+  EXPECT_EQ(read->Transponder(1).record, written->Transponder(1).record);
+  EXPECT_EQ(read->Transponder(1).BouquetCode(), "  ") << "no bouquet matches it here";
+  EXPECT_EQ(read->Transponder(3).record.bytes[11], 0);
   EXPECT_EQ(read->FavouritesBlock.size(), 2291U);
 }
 
@@ -103,12 +103,12 @@ TEST(TextFormat, AHandEditedListIsTakenAsItStands) {
   for (const char* line : {"0042 Mosso            012 99999 00001 00002 65535 65535 00001 B4 S", "0000 x",
                            "3996 x", "3997 x", "9999 x", "", "12", "0007 corta            01"})
     read("[END CANALI]", std::string(line) + "\n[END CANALI]");
-  EXPECT_EQ(state->ChannelTable[42].Name(), "Mosso           ");
-  EXPECT_EQ(Get(state->ChannelTable[42], ChannelField::Flags), 4U) << "of the letters only A4 is known";
-  EXPECT_EQ(Get(state->ChannelTable[42], ChannelField::Sid), 0U) << "too large for its field";
-  EXPECT_EQ(state->ChannelTable[3996].Name(), "x");
+  EXPECT_EQ(state->Channel(42).Name(), "Mosso           ");
+  EXPECT_EQ(Get(state->Channel(42), ChannelField::Flags), 4U) << "of the letters only A4 is known";
+  EXPECT_EQ(Get(state->Channel(42), ChannelField::Sid), 0U) << "too large for its field";
+  EXPECT_EQ(state->Channel(3996).Name(), "x");
   read("12092", "09000");
-  EXPECT_TRUE(IsFree(state->TransponderTable[1].record)) << "below the oscillator";
+  EXPECT_TRUE(IsFree(state->Transponder(1).record)) << "below the oscillator";
   EXPECT_EQ(read("27500", "27501").unknownRates, 1);
   read("[CANALI] 0005", "[CANALI]");
   EXPECT_EQ(state->ChannelCount, 0);
@@ -159,7 +159,7 @@ TEST(FlsFormat, IsMadeOfThirtyByteRecordsAndReadsBackWhole) {
   auto read = std::make_unique<State>();
   EXPECT_EQ(ReadFls(*read, file, {}).error, "");
   EXPECT_EQ(read->ChannelTable, state->ChannelTable);
-  EXPECT_EQ(read->TransponderTable[3].record, state->TransponderTable[3].record);
+  EXPECT_EQ(read->Transponder(3).record, state->Transponder(3).record);
   EXPECT_EQ(read->FavouritesBlock, state->FavouritesBlock);
 }
 

@@ -71,10 +71,10 @@ TEST(FlashRows, CarriedOverTheyAreTheChannelsOfTheirFlash) {
   for (std::size_t i = 0; i < 3; ++i) {
     ChannelRecord expected = Channels()[from[i]];
     Set(expected, ChannelField::Transponder, static_cast<std::uint32_t>(i + 1));
-    EXPECT_TRUE(list->ChannelTable[i + 1] == expected) << i;
+    EXPECT_TRUE(list->Channel(i + 1) == expected) << i;
     TransponderRecord transponder = Transponders()[on[i]];
     Set(transponder, TransponderField::ChannelCount, 1);
-    EXPECT_TRUE(list->TransponderTable[i + 1].record == transponder) << i;
+    EXPECT_TRUE(list->Transponder(i + 1).record == transponder) << i;
   }
   EXPECT_EQ(import.UnknownRates(), 0) << "a code without a rate stays what it was";
 
@@ -84,7 +84,7 @@ TEST(FlashRows, CarriedOverTheyAreTheChannelsOfTheirFlash) {
   SetSymbolRate(other->SymbolRateTable, 9, "30000");
   SdxImport recoded(*other, bouquets);
   recoded.Put(rows.table.rows[0], 1, 1);
-  EXPECT_EQ(Get(other->TransponderTable[1].record, TransponderField::SymbolRate), 1U)
+  EXPECT_EQ(Get(other->Transponder(1).record, TransponderField::SymbolRate), 1U)
       << "27500 where the list has it";
 }
 

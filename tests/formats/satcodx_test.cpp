@@ -114,18 +114,18 @@ TEST(SdxImport, RowsFindOrMakeTheirTransponder) {
   PlaceUsualRates(state->SymbolRateTable, Sr22000::Come2);
   state->ChannelCount = 10;
   state->TransponderCount = 2;
-  state->TransponderTable[2].record = MakeTransponder(10721, true, 0, 9, 0);
-  state->ChannelTable[3] = MakeChannel("vecchio", 2, 1, 1, 1);
+  state->Transponder(2).record = MakeTransponder(10721, true, 0, 9, 0);
+  state->Channel(3) = MakeChannel("vecchio", 2, 1, 1, 1);
   const BouquetTables bouquets{{}, {{"Nuovo", "12092", "SAT A", "05", 0, 12092}}};
   SdxImport import(*state, bouquets);
   import.Put(RowAt(10719), 3, 1);
   ChannelRecord expected = MakeChannel("Canale 5 Europa", 2, 4903, 512, 650, 0x84);
   Set(expected, ChannelField::Pcr, 44);
-  EXPECT_EQ(state->ChannelTable[3], expected);
-  EXPECT_EQ(Get(state->TransponderTable[2].record, TransponderField::SymbolRate), 9U) << "linked to as it is";
-  EXPECT_EQ(Get(state->TransponderTable[2].record, TransponderField::ChannelCount), 1U) << "one off, one on";
+  EXPECT_EQ(state->Channel(3), expected);
+  EXPECT_EQ(Get(state->Transponder(2).record, TransponderField::SymbolRate), 9U) << "linked to as it is";
+  EXPECT_EQ(Get(state->Transponder(2).record, TransponderField::ChannelCount), 1U) << "one off, one on";
   import.Put(RowAt(12092), 4, 2);
-  const TransponderRow& made = state->TransponderTable[1];
+  const TransponderRow& made = state->Transponder(1);
   EXPECT_EQ(made.BouquetCode(), "05");
   TransponderRecord usual = MakeTransponder(12092, true, 0, 3, 2, 11000, 318);
   Set(usual, TransponderField::ChannelCount, 1);
@@ -137,13 +137,13 @@ TEST(SdxImport, RowsFindOrMakeTheirTransponder) {
   EXPECT_EQ(import.Message(),
             "Superato il numero di transponders gestibili 2\ncollego i canali restanti sul transponder 2\n "
             "Posizione canale SDX 3");
-  EXPECT_EQ(Get(state->ChannelTable[6], ChannelField::Transponder), 2U);
-  EXPECT_EQ(Get(state->ChannelTable[7], ChannelField::Transponder), 1U) << "one that exists is still found";
+  EXPECT_EQ(Get(state->Channel(6), ChannelField::Transponder), 2U);
+  EXPECT_EQ(Get(state->Channel(7), ChannelField::Transponder), 1U) << "one that exists is still found";
   import.Put(RowAt(9750), 8, 5);
-  EXPECT_EQ(Get(state->ChannelTable[8], ChannelField::Transponder), 2U)
+  EXPECT_EQ(Get(state->Channel(8), ChannelField::Transponder), 2U)
       << "at the oscillator: no slot to find again";
   import.Put(RowAt(0), 3, 6);
-  EXPECT_TRUE(state->ChannelTable[3].Empty()) << "frequency 0 clears the slot";
+  EXPECT_TRUE(state->Channel(3).Empty()) << "frequency 0 clears the slot";
 }
 
 }  // namespace Formats

@@ -30,13 +30,13 @@ TEST(Cells, ChannelRowsByKind) {
                {65535, 650, 0x04, 0xFFFF80, "04|S"}, {65535, 65535, 0x04, 0xFF80FF, "04|S"},
                {0, 0, 0xF4, 0xFF80FF, "F4|S"},       {0, 650, 0x20, 0xC0C0C0, "20|N"}};
   for (const auto& c : cases) {
-    state->ChannelTable[1] = MakeChannel("Uno", 7, 300, c.vpid, c.apid, c.flags);
+    state->Channel(1) = MakeChannel("Uno", 7, 300, c.vpid, c.apid, c.flags);
     EXPECT_EQ(ChannelColour(*state, 1), c.colour) << c.vpid << " " << c.apid << " " << c.flags;
     const std::string row = Row(ChannelCell, *state, 11);
     EXPECT_TRUE(row.ends_with(c.ends)) << row;
     EXPECT_TRUE(row.starts_with("0001|Uno|007|300|")) << row;
   }
-  state->ChannelTable[1].bytes[0] = 0;
+  state->Channel(1).bytes[0] = 0;
   EXPECT_EQ(Row(ChannelCell, *state, 11), "0001||||||||||") << "only the number of an empty slot shows";
   EXPECT_EQ(ChannelColour(*state, 1), 0xE0E0E0U);
 }
@@ -45,7 +45,7 @@ TEST(Cells, TransponderRows) {
   const auto state = std::make_unique<State>();
   state->SymbolRateTable = EmptySymbolRateTable();
   PlaceUsualRates(state->SymbolRateTable, Sr22000::Come2);
-  TransponderRow& row = state->TransponderTable[1];
+  TransponderRow& row = state->Transponder(1);
   row.record = MakeTransponder(12092, true, 1, 3, 5, 7, 65535);
   EXPECT_EQ(Row(TransponderCell, *state, 10), "001|12092|7|65535|0|27500|Auto|H|On|SAT B");
   EXPECT_EQ(TransponderColour(*state, 1, 1), 0xFFFFFFU);

@@ -42,7 +42,7 @@ TransponderRecord At(int megahertz) { return MakeTransponder(megahertz, true, 0,
 std::string Told(const State& state, const std::vector<std::size_t>& slots) {
   std::string names, transponders;
   for (const std::size_t slot : slots) {
-    const ChannelRecord& channel = state.ChannelTable[slot];
+    const ChannelRecord& channel = state.Channel(slot);
     names.append(channel.Name()).append(" ");
     if (!channel.Empty()) transponders += std::to_string(Get(channel, ChannelField::Transponder));
   }
@@ -63,9 +63,9 @@ TEST(FlashLoader, SectionsFollowSectorsAndDirectoryOrder) {
   EXPECT_EQ(Told(*state, {1, 2, 3, 4, 5, 6, 7, 8}), "a1 a2 a3 b1 b2 c1 c2  1111111");
   EXPECT_EQ(report.channelsRead, 7);
   EXPECT_EQ(state->TransponderCount, 5) << "the last section sets the count";
-  EXPECT_EQ(state->TransponderTable[5].record, At(12500));
-  EXPECT_EQ(state->TransponderTable[254].record, At(10800));
-  EXPECT_EQ(state->TransponderTable[1].BouquetName().substr(0, 8), "Nessuno ");
+  EXPECT_EQ(state->Transponder(5).record, At(12500));
+  EXPECT_EQ(state->Transponder(254).record, At(10800));
+  EXPECT_EQ(state->Transponder(1).BouquetName().substr(0, 8), "Nessuno ");
   EXPECT_EQ(state->MaxChannels + state->ChannelCount, 2 * 999);
 }
 
@@ -99,10 +99,10 @@ TEST(FlashLoader, EmptyRecordsKeepTheirSlotAndLoseTheirJunk) {
   ImageBuilder image(3);
   image.Put(4, 3, 20, "TCS", data);
   const auto state = Loaded(image, 999);
-  EXPECT_EQ(state->ChannelTable[2], ChannelRecord{});
+  EXPECT_EQ(state->Channel(2), ChannelRecord{});
   EXPECT_EQ(Told(*state, {3, 4}), "a3  1");
   EXPECT_EQ(state->TransponderCount, 0);
-  EXPECT_EQ(state->TransponderTable[9], TransponderRow{});
+  EXPECT_EQ(state->Transponder(9), TransponderRow{});
 }
 
 TEST(FlashLoader, FavouritesComeFromConfigPre) {
@@ -133,9 +133,9 @@ TEST(FlashLoader, BouquetsAreFoundBySatelliteAndLessThanThreeMegahertz) {
   image.PutRecords(1, 0, 16, "TPT", std::vector{At(11000), At(11500)});
   State state;
   LoadFlash(state, image.Image(), 999, 0, tables);
-  EXPECT_EQ(state.TransponderTable[1].BouquetName(), "Giusto" + std::string(30, ' '));
-  EXPECT_EQ(state.TransponderTable[1].BouquetCode(), "03");
-  EXPECT_EQ(state.TransponderTable[2].BouquetCode(), "  ");
+  EXPECT_EQ(state.Transponder(1).BouquetName(), "Giusto" + std::string(30, ' '));
+  EXPECT_EQ(state.Transponder(1).BouquetCode(), "03");
+  EXPECT_EQ(state.Transponder(2).BouquetCode(), "  ");
 }
 
 TEST(FlashLoader, AppendingMergesTranspondersAndLeavesASlotFree) {
@@ -163,7 +163,7 @@ TEST(FlashLoader, AppendingMergesTranspondersAndLeavesASlotFree) {
   EXPECT_EQ(Told(*state, {1, 4, 5, 6, 7, 8, 9}), "a1 a4  b1 b2 b3 b4 113234");
   EXPECT_EQ(state->MaxChannels, 2999);
   EXPECT_EQ(state->TransponderCount, 4);
-  EXPECT_EQ(state->TransponderTable[2].record, fresh);
+  EXPECT_EQ(state->Transponder(2).record, fresh);
   EXPECT_EQ(report.strandedChannels, 2);
   EXPECT_TRUE(report.messages.empty());
   EXPECT_EQ(state->FavouritesBlock, favourites);

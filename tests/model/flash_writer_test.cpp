@@ -24,8 +24,8 @@ std::unique_ptr<State> ListOf(int channels, int capacity) {
   std::copy(records.begin(), records.end(), state->ChannelTable.begin() + 1);
   state->MaxChannels = state->ChannelCount = capacity;
   state->TransponderCount = 2;
-  state->TransponderTable[1].record = MakeTransponder(11000, true, 0, 1, 2);
-  state->TransponderTable[2].record = MakeTransponder(12000, true, 0, 1, 2);
+  state->Transponder(1).record = MakeTransponder(11000, true, 0, 1, 2);
+  state->Transponder(2).record = MakeTransponder(12000, true, 0, 1, 2);
   state->FavouritesBlock.assign(NormalFavouritesSize, 3);
   return state;
 }
@@ -141,7 +141,7 @@ TEST(FlashWriter, WhatAnImageDoesNotTakeIsTold) {
   EXPECT_EQ(unwritten(*state, FlashType::Two), "348 canali non scritti");
   state = ListOf(5, 5);
   state->TransponderCount = 4;
-  state->TransponderTable[4].record = state->TransponderTable[1].record;
+  state->Transponder(4).record = state->Transponder(1).record;
   EXPECT_EQ(unwritten(*state, FlashType::Three), "1 transponder non scritto");
   state = ListOf(5, 5);
   state->FavouritesBlock.assign(2291, 0);

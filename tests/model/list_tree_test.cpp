@@ -38,7 +38,7 @@ TEST(ListTree, ChannelsStandUnderTheirBouquetOrTransponder) {
   state->TransponderCount = 5;
   const auto put = [&state](std::size_t slot, int megahertz, bool horizontal, int satellite,
                             const char* bouquet, const char* code) {
-    TransponderRow& row = state->TransponderTable[slot];
+    TransponderRow& row = state->Transponder(slot);
     row.record = Samples::MakeTransponder(megahertz, horizontal, satellite, 1, 2);
     row.SetBouquet(bouquet, code);
   };
@@ -49,9 +49,9 @@ TEST(ListTree, ChannelsStandUnderTheirBouquetOrTransponder) {
   put(6, 10758, true, 0, "Oltre", "01");  // past the count
   const int transponders[] = {5, 1, 4, 5, 0, 6, 255, 3};
   for (std::size_t i = 0; i < 8; ++i) {
-    state->ChannelTable[i + 1] = Samples::MakeChannel("C" + std::to_string(i), transponders[i], 1, 2, 3);
+    state->Channel(i + 1) = Samples::MakeChannel("C" + std::to_string(i), transponders[i], 1, 2, 3);
   }
-  state->ChannelTable[9] = Samples::MakeChannel("oltre", 1, 1, 2, 3);
+  state->Channel(9) = Samples::MakeChannel("oltre", 1, 1, 2, 3);
 
   EXPECT_EQ(
       LinesOf(*state, ListTree::Shape::Bouquets),

@@ -17,11 +17,11 @@ TEST(SymbolRates, ConvertingMovesRatesAndKeepsTheCodesOfThoseThatTheOutputLacks)
   const int after[] = {3, 1, 0, 5, 9, 16, 255};
   state.TransponderCount = 7;
   for (std::size_t i = 0; i < 7; ++i) {
-    state.TransponderTable[i + 1].record = Samples::MakeTransponder(11000, true, 0, before[i], 0);
+    state.Transponder(i + 1).record = Samples::MakeTransponder(11000, true, 0, before[i], 0);
   }
   EXPECT_EQ(ConvertiSR(state, Sr22000::Come0), 2);
   for (std::size_t i = 0; i < 7; ++i) {
-    EXPECT_EQ(Get(state.TransponderTable[i + 1].record, TransponderField::SymbolRate),
+    EXPECT_EQ(Get(state.Transponder(i + 1).record, TransponderField::SymbolRate),
               static_cast<std::uint32_t>(after[i]));
   }
   EXPECT_EQ(SymbolRateText(state.SymbolRateTable, 1), "27500");

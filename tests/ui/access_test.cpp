@@ -1,5 +1,6 @@
 // Every window without a mouse and without eyes: names for a screen reader, the way of the Tab key, letters after Alt, Esc.
 #include "demo_sdx.h"
+#include "ui/kit/text.h"
 #include "ui/window_fixture.h"
 
 #include <map>

@@ -20,7 +20,7 @@ class Cells : public Window {
     QTest::keyClick(editor, end);
     return true;
   }
-  Griglia& Grid() { return driver_->Grid(); }
+  Ui::Grid& Grid() { return driver_->Grid(); }
   bool Editing() {
     const auto editors = Grid().findChildren<QWidget*>("ModificaCella");
     return std::any_of(editors.begin(), editors.end(),

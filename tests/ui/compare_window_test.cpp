@@ -1,13 +1,14 @@
 // Comparing the list with another flash and with what is on the disk.
 #include "model/favourites.h"
-#include "ui/compare_model.h"
+#include "ui/kit/text.h"
+#include "ui/review/compare_model.h"
 #include "ui/window_fixture.h"
 
 namespace Ui {
 
 const QString OtherDialog = "Selezionare la flash da confrontare";
 
-class CompareWindow : public Window {
+class Comparing : public Window {
  protected:
   // Channels 3 and 4 are deleted, and 10 goes to 20.
   void ChangeList() {
@@ -40,7 +41,7 @@ class CompareWindow : public Window {
   QTableView* table_ = nullptr;
 };
 
-TEST_F(CompareWindow, RefusesWhatIsNoFlashAndSaysWhereNothingDiffers) {
+TEST_F(Comparing, RefusesWhatIsNoFlashAndSaysWhereNothingDiffers) {
   Tells("ConfrontaDisco", "Nessuna differenza");
   driver_->ExpectFile(OtherDialog, PathText(flash_));
   Tells("Confronta", "Nessuna differenza");
@@ -49,7 +50,7 @@ TEST_F(CompareWindow, RefusesWhatIsNoFlashAndSaysWhereNothingDiffers) {
   EXPECT_EQ(window_->findChild<QDialog*>("FinestraConfronto"), nullptr);
 }
 
-TEST_F(CompareWindow, ShowsWhatASaveWillChangeUntilItHas) {
+TEST_F(Comparing, ShowsWhatASaveWillChangeUntilItHas) {
   ChangeList();
   Compare();
   const QAbstractItemModelTester tester(table_->model());
@@ -73,7 +74,7 @@ TEST_F(CompareWindow, ShowsWhatASaveWillChangeUntilItHas) {
   EXPECT_EQ(driver_->TextOf("ModificheNonSalvate"), "Modifiche non salvate");
 }
 
-TEST_F(CompareWindow, TakesOverWhatIsTickedInOneStepAndThenTheOrder) {
+TEST_F(Comparing, TakesOverWhatIsTickedInOneStepAndThenTheOrder) {
   const Routines::State original = List();
   ChangeList();
   const Routines::State changed = List();
@@ -86,8 +87,7 @@ TEST_F(CompareWindow, TakesOverWhatIsTickedInOneStepAndThenTheOrder) {
   ASSERT_TRUE(driver_->Choose("Annulla"));
   Click("ApplicaSegnati");
   EXPECT_EQ(Said(), "Applica 1 differenza: 1 canale aggiunto in fondo");
-  EXPECT_EQ(driver_->Cell(Routines::LastUsedChannel(List()), 1),
-            CodePageText(original.ChannelTable[4].Name()));
+  EXPECT_EQ(driver_->Cell(Routines::LastUsedChannel(List()), 1), CodePageText(original.Channel(4).Name()));
   ASSERT_TRUE(driver_->Choose("Annulla"));
   EXPECT_TRUE(List() == changed);
 

@@ -1,6 +1,7 @@
 // What a server may do to a transfer.
-#include "ui/download.h"
+#include "ui/sources/download.h"
 
+#include "ui/kit/text.h"
 #include "ui/window_fixture.h"
 
 #include <QSslCertificate>

@@ -1,7 +1,8 @@
 // Opens a flash in the real window and deletes its first channel over and over, until it is killed:
 //   edit_until_killed PROGRAM_FOLDER FLASH.dat
 // Writes a line for every deletion.
-#include "ui/toolkit.h"
+#include "ui/kit/text.h"
+#include "ui/kit/toolkit.h"
 #include "window_driver.h"
 
 #include <QApplication>
@@ -14,7 +15,7 @@ int main(int argc, char** argv) {
   QApplication application(argc, argv);
   Ui::SetUpToolkit(application);
   const QStringList arguments = QApplication::arguments();
-  Ui::CopiaTCSTPT window(Ui::PathBytes(arguments.value(1)));
+  Ui::MainWindow window(Ui::PathBytes(arguments.value(1)));
   Demo::WindowDriver driver(window);
   window.show();
   driver.ExpectFile("Selezionare la flash di input", arguments.value(2));

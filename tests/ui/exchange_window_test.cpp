@@ -1,5 +1,6 @@
 // Lists that leave the program and come in: texts, raw records, SatcoDX.
 #include "base/code_page.h"
+#include "ui/kit/text.h"
 #include "ui/window_fixture.h"
 
 namespace Ui {
@@ -86,7 +87,7 @@ TEST_F(Window, ASatcodxListGoesIntoTheChannelList) {
   auto* missing = window_->findChild<QDialog*>("ElencoNonInSDX");
   ASSERT_NE(missing, nullptr) << "the demo's own channels are not in that list";
   missing->close();
-  auto* pane = window_->findChild<Griglia*>("GrigliaSDX");
+  auto* pane = window_->findChild<Ui::Grid*>("GrigliaSDX");
   EXPECT_TRUE(pane->isVisible());
   EXPECT_EQ(pane->model()->rowCount(), 3);
 

@@ -1,4 +1,5 @@
 // Files and folders as other people name and lock them.
+#include "ui/kit/text.h"
 #include "ui/window_fixture.h"
 
 #include <sys/stat.h>

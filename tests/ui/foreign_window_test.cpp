@@ -1,4 +1,5 @@
 // Rows that come into the SDX table from a second flash and from texts of other programs.
+#include "ui/kit/text.h"
 #include "ui/window_fixture.h"
 
 namespace Ui {
@@ -16,7 +17,7 @@ TEST_F(Window, ASecondFlashStandsBesideTheListAndLeavesItAlone) {
   const QString dialog = "Selezionare la flash aggiuntiva";
   driver_->ExpectFile(dialog, PathText(folder_.Write("corta.dat", "abc")));
   Tells("CaricaAggiuntiva", "Dimensione FLASH selezionata errata 3", "Errore FLASH di Input");
-  auto* pane = window_->findChild<Griglia*>("GrigliaSDX");
+  auto* pane = window_->findChild<Ui::Grid*>("GrigliaSDX");
   EXPECT_FALSE(pane->isVisible());
 
   ASSERT_TRUE(driver_->Pick("QuantiCanali_0"));
@@ -30,7 +31,7 @@ TEST_F(Window, ASecondFlashStandsBesideTheListAndLeavesItAlone) {
   driver_->ExpectLine("Inserire la posizione in cui inserire Rete Italia", "700");
   driver_->ExpectQuestion("Si desidera spostare i canali verso il basso?", false);
   ASSERT_TRUE(driver_->Press("Toolbar1_Copy_SDX"));
-  EXPECT_TRUE(List().ChannelTable[700] == before.ChannelTable[1]) << "the same transponder too";
+  EXPECT_TRUE(List().Channel(700) == before.Channel(1)) << "the same transponder too";
 }
 
 TEST_F(Window, AListOfAnotherProgramIsSettledOnceAndRemembered) {
@@ -61,7 +62,7 @@ TEST_F(Window, AListOfAnotherProgramIsSettledOnceAndRemembered) {
   });
   ASSERT_TRUE(driver_->Choose("Pelko"));
   EXPECT_EQ(Said(), "lista.csv: lette 3 righe, prese 2; scartate: frequenza non valida 1");
-  auto* rows = window_->findChild<Griglia*>("GrigliaSDX")->model();
+  auto* rows = window_->findChild<Ui::Grid*>("GrigliaSDX")->model();
   EXPECT_EQ(rows->index(1, 3).data().toString(), "17") << "hexadecimal";
   EXPECT_EQ(rows->index(1, 10).data().toString(), "SAT B");
 

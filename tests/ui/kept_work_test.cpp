@@ -1,5 +1,6 @@
 // Work that is not saved outlives the window and the program.
 #include "edit/list_operations.h"
+#include "ui/kit/text.h"
 #include "ui/window_fixture.h"
 
 #include <sys/stat.h>
@@ -119,7 +120,7 @@ TEST_F(KeptWorkWindow, TwoProgramsHaveAFileEach) {
   ASSERT_TRUE(driver_->Pick("SRDef_1"));
   ASSERT_TRUE(QTest::qWaitFor([&] { return Contents(file_) != kept; }, 3000)) << "options are kept too";
   kept = Contents(file_);
-  const std::unique_ptr<CopiaTCSTPT> first = std::move(window_);
+  const std::unique_ptr<MainWindow> first = std::move(window_);
   StartEmpty();
   window_->OfferKeptWork();
   Open(flash_);

@@ -1,6 +1,7 @@
 // What can be said of the windows' looks by rule: colours that can be told apart, and room for every text.
 #include "demo_sdx.h"
-#include "ui/readable_style.h"
+#include "ui/kit/readable_style.h"
+#include "ui/kit/text.h"
 #include "ui/window_fixture.h"
 
 namespace Ui {

@@ -1,4 +1,4 @@
-#include "ui/toolkit.h"
+#include "ui/kit/toolkit.h"
 
 #include <QApplication>
 

@@ -9,10 +9,10 @@
 #include "support/bouquets_txt.h"
 #include "support/sr_ini.h"
 #include "support/test_folder.h"
-#include "ui/commands.h"
-#include "ui/griglia.h"
-#include "ui/main_window.h"
+#include "ui/list/grid.h"
 #include "ui/random_input.h"
+#include "ui/session/commands.h"
+#include "ui/window/main_window.h"
 #include "ui/window_faults.h"
 
 #include <QtTest>
@@ -83,7 +83,7 @@ class Play {
 
  private:
   [[nodiscard]] const State& Tables() const { return window_->List().Tables(); }
-  [[nodiscard]] Griglia& Grid() const { return *window_->findChild<Griglia*>("Griglia"); }
+  [[nodiscard]] Ui::Grid& Grid() const { return *window_->findChild<Ui::Grid*>("Griglia"); }
   [[nodiscard]] QString Label(const char* name) const { return window_->findChild<QLabel*>(name)->text(); }
   [[nodiscard]] Base::Bytes Contents(const char* name) const { return Tests::Contents(folder_.Path(name)); }
   [[nodiscard]] QWidget* Editor() const {
@@ -107,7 +107,7 @@ class Play {
   void Open() {
     auto answers = std::make_unique<RandomAnswers>(random_, folder_);
     answers_ = answers.get();
-    window_ = std::make_unique<CopiaTCSTPT>(folder_.Path(), std::move(answers));
+    window_ = std::make_unique<MainWindow>(folder_.Path(), std::move(answers));
     window_->show();
     if (!window_->Start()) fault_ = "the program does not start";
     last_ = std::make_unique<State>(Tables());
@@ -343,7 +343,7 @@ class Play {
   Support::BouquetDefinitions bouquets_;
   RandomAnswers* answers_ = nullptr;
   std::unique_ptr<State> last_;
-  std::unique_ptr<CopiaTCSTPT> window_;  // behind what it tells its changes to
+  std::unique_ptr<MainWindow> window_;  // behind what it tells its changes to
   int changes_ = 0;
   int boxTicks_ = 0;
   QTimer boxes_;

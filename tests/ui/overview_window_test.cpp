@@ -1,5 +1,6 @@
 // The first minutes, the overview and lists for spreadsheets.
-#include "ui/program_folder.h"
+#include "ui/kit/text.h"
+#include "ui/session/program_folder.h"
 #include "ui/window_fixture.h"
 
 namespace Ui {
@@ -118,8 +119,7 @@ TEST_F(Overview, TheRiepilogoFollowsTheListAndLeadsToItsRows) {
   choose("Radio");
   EXPECT_EQ(driver_->TextOf("Text1"), "Canali");
   const int first = driver_->Grid().Selected()->first;
-  EXPECT_EQ(Routines::KindOf(List().ChannelTable[static_cast<std::size_t>(first)]),
-            Routines::ChannelKind::Radio);
+  EXPECT_EQ(Routines::KindOf(List().Channel(first)), Routines::ChannelKind::Radio);
   EXPECT_EQ(driver_->TextOf("FiltroTrovati"), "123 trovati");
   Action("CercaSuccessivo").trigger();
   EXPECT_GT(driver_->Grid().Selected()->first, first);

@@ -1,7 +1,8 @@
 // Printed pages: their text is taken out again, and they are looked at as pictures.
 #include "image_builder.h"
-#include "ui/list_model.h"
-#include "ui/print_report.h"
+#include "ui/files/print_report.h"
+#include "ui/kit/text.h"
+#include "ui/list/list_model.h"
 #include "ui/window_fixture.h"
 
 #include <sys/stat.h>
@@ -40,7 +41,7 @@ TEST(Printing, EveryRowIsOnItsPageWhateverThePaper) {
   document.Adjust([](Routines::State& state) {
     state.ChannelCount = 200;
     for (std::size_t slot = 2; slot <= 200; ++slot)
-      state.ChannelTable[slot] = Samples::MakeChannel(
+      state.Channel(slot) = Samples::MakeChannel(
           "\x05"
           "Citt\xE0 \t" +
               std::to_string(slot),

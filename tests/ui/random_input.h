@@ -4,7 +4,8 @@
 #include "image_builder.h"
 #include "model/routines.h"
 #include "support/test_folder.h"
-#include "ui/dialogs.h"
+#include "ui/kit/dialogs.h"
+#include "ui/kit/text.h"
 
 #include <random>
 

@@ -50,7 +50,7 @@ TEST_F(Duplicates, RowsLeadToTheirChannelsAndFollowEveryChangeAndTicksToo) {
   EXPECT_EQ(Row(0, 1).checkState(0), Qt::Checked);
   const auto channels = List().ChannelTable;
   Click("EliminaScelti");
-  EXPECT_EQ(List().ChannelTable[19], channels[20]);
+  EXPECT_EQ(List().Channel(19), channels[20]);
   EXPECT_EQ(Counts(), "2 gruppi, 4 canali, 0 scelti") << "no tick goes to another channel";
   EXPECT_EQ(Said(), "Elimina 1 canale doppio");
   found_->activateWindow();

@@ -1,6 +1,6 @@
 // The two trees beside the list.
 #include "image_builder.h"
-#include "ui/tree_model.h"
+#include "ui/list/tree_model.h"
 #include "ui/window_fixture.h"
 
 #include <random>
@@ -22,18 +22,17 @@ TEST(TreeModel, AnEditMovesNoMoreThanItMust) {
     state.ChannelCount = 60;
     state.TransponderCount = 20;
     for (int i = 1; i <= 60; ++i) {
-      state.ChannelTable[static_cast<std::size_t>(i)] = Samples::MakeChannel("Canale", i % 23, i, 2, 3);
+      state.Channel(i) = Samples::MakeChannel("Canale", i % 23, i, 2, 3);
     }
     for (int i = 1; i <= 20; ++i) {
-      state.TransponderTable[static_cast<std::size_t>(i)].record =
-          Samples::MakeTransponder(10700 + i * 20, i % 2 == 0, i % 3, 1, 2);
+      state.Transponder(i).record = Samples::MakeTransponder(10700 + i * 20, i % 2 == 0, i % 3, 1, 2);
     }
   });
   model.Refresh();
   moved.clear();
   model.Refresh();
   EXPECT_EQ(moved.size() + renamed.size(), 0);
-  document.Adjust([](State& state) { state.ChannelTable[30] = Samples::MakeChannel("Nome", 7, 1, 2, 3); });
+  document.Adjust([](State& state) { state.Channel(30) = Samples::MakeChannel("Nome", 7, 1, 2, 3); });
   model.Refresh();
   ASSERT_EQ(renamed.size(), 1);
   EXPECT_EQ(renamed[0][0].toModelIndex().data().toString(), "0030 Nome");
@@ -55,11 +54,9 @@ TEST(TreeModel, AnEditMovesNoMoreThanItMust) {
       const auto transponder = static_cast<std::size_t>(any(20));
       const int what = any(4);
       if (what == 1) Edit::DeleteChannels(state, {at, at});
-      if (what == 2)
-        state.ChannelTable[static_cast<std::size_t>(at)] = Samples::MakeChannel("N", any(25), 1, 2, 3);
-      if (what == 3 && transponder != 7) state.TransponderTable[transponder].record = {};
-      if (what == 4)
-        state.TransponderTable[transponder].record = Samples::MakeTransponder(12000, true, 1, 1, 2);
+      if (what == 2) state.Channel(at) = Samples::MakeChannel("N", any(25), 1, 2, 3);
+      if (what == 3 && transponder != 7) state.Transponder(transponder).record = {};
+      if (what == 4) state.Transponder(transponder).record = Samples::MakeTransponder(12000, true, 1, 1, 2);
     });
     model.Refresh();
     for (const auto& [slot, index] : channels)

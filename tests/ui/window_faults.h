@@ -5,9 +5,10 @@
 #include "model/cells.h"
 #include "model/favourites.h"
 #include "model/list_tree.h"
-#include "ui/commands.h"
-#include "ui/griglia.h"
-#include "ui/main_window.h"
+#include "ui/kit/text.h"
+#include "ui/list/grid.h"
+#include "ui/session/commands.h"
+#include "ui/window/main_window.h"
 
 #include <QAction>
 #include <QApplication>
@@ -41,7 +42,7 @@ inline std::string TreeFault(const QAbstractItemModel& model, const ListTree& tr
 
 class Faults {
  public:
-  Faults(const CopiaTCSTPT& window, const std::vector<Routines::Satellite>& satellites)
+  Faults(const MainWindow& window, const std::vector<Routines::Satellite>& satellites)
       : window_(window), satellites_(satellites), tables_(window.List().Tables()) {}
 
   // What of it does not hold, empty where all does.
@@ -52,7 +53,7 @@ class Faults {
   }
 
  private:
-  [[nodiscard]] const Griglia& Grid() const { return *window_.findChild<Griglia*>("Griglia"); }
+  [[nodiscard]] const Ui::Grid& Grid() const { return *window_.findChild<Ui::Grid*>("Griglia"); }
   [[nodiscard]] QString Label(const char* name) const { return window_.findChild<QLabel*>(name)->text(); }
 
   [[nodiscard]] std::string TablesFault() const {
@@ -145,7 +146,7 @@ class Faults {
     return {};
   }
 
-  const CopiaTCSTPT& window_;
+  const MainWindow& window_;
   const std::vector<Routines::Satellite>& satellites_;
   const State& tables_;
 };

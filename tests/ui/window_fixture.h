@@ -3,8 +3,9 @@
 
 #include "demo_flash.h"
 #include "support/test_folder.h"
-#include "ui/griglia.h"
-#include "ui/qt_dialogs.h"
+#include "ui/kit/qt_dialogs.h"
+#include "ui/kit/text.h"
+#include "ui/list/grid.h"
 #include "window_driver.h"
 
 #include <QtTest>
@@ -40,7 +41,7 @@ class Window : public testing::Test {
   void Start(const std::string& programFolder) {
     driver_.reset();
     window_.reset();  // a program ends before it is started again
-    window_ = std::make_unique<CopiaTCSTPT>(programFolder);
+    window_ = std::make_unique<MainWindow>(programFolder);
     driver_ = std::make_unique<Demo::WindowDriver>(*window_);
     window_->show();
   }
@@ -130,7 +131,7 @@ class Window : public testing::Test {
 
   Tests::TestFolder folder_;
   std::string flash_;
-  std::unique_ptr<CopiaTCSTPT> window_;
+  std::unique_ptr<MainWindow> window_;
   std::unique_ptr<Demo::WindowDriver> driver_;
 };
 

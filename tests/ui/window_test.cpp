@@ -1,4 +1,5 @@
 // Opening, looking, saving.
+#include "ui/kit/text.h"
 #include "ui/window_fixture.h"
 
 #include <sys/stat.h>
@@ -66,7 +67,7 @@ TEST_F(Window, AppendingAsksTwice) {
 }
 
 TEST_F(Window, AClosedListIsNotSeenAndTheFirstColumnOfAnOpenOneStays) {
-  auto* grid = window_->findChild<Griglia*>("Griglia");
+  auto* grid = window_->findChild<Ui::Grid*>("Griglia");
   auto* fixed = grid->findChild<QTableView*>("ColonnaFissa");
   EXPECT_FALSE(grid->selectionModel()->hasSelection());
   ASSERT_TRUE(driver_->Choose("VisualizzaCanali"));

@@ -1,0 +1,55 @@
+// The SDX table: the rows shown beside the channel list, whatever they were read from, from where they are carried into
+// it. Rows keep their fields as texts.
+#pragma once
+
+#include "base/short_text.h"
+#include "model/transponder.h"
+
+#include <optional>
+#include <string>
+#include <vector>
+
+namespace Formats {
+
+inline constexpr std::size_t MostSdxRows = 4000;
+
+struct SdxRow {
+  using Number = Base::ShortText<5>;
+
+  Base::ShortText<20> name;      // of the two places it stands in
+  char type = 'T';               // 'T' television, 'R' radio, 'S' data
+  int satellite = 0;             // 0 is satellite A
+  Base::ShortText<6> frequency;  // 6 characters, MHz
+  bool highBand = false;         // 11700 MHz and above
+  bool horizontal = false;
+  Number symbolRate;       // 5 characters, as the symbol-rate table has them
+  Base::ShortText<1> fec;  // a digit
+  Number vpid, apid;       // as they stand, "65535" where absent
+  Number pcr, sid, nid;
+  Number tid;  // five digits
+  Number aecm = "65535";
+  Number vecm = "65535";
+  int codifica = 0;  // the receiver's coding byte
+  Base::ShortText<Routines::TransponderRow::BouquetNameSize> bouquet = "Nessuno";
+  // Of a channel from a flash: its transponder to the last bit, of which the texts above show the most.
+  std::optional<Routines::TransponderRecord> transponder;
+
+  friend bool operator==(const SdxRow&, const SdxRow&) = default;
+};
+
+struct SdxTable {
+  std::string satelliteName;  // of the file, 17 characters
+  std::vector<SdxRow> rows;
+  bool full = false;  // more lines were accepted than the table has rows for
+
+  // Lines read, and those dropped by reason.
+  int lines = 0;
+  int droppedByRate = 0;
+  int droppedByType = 0;
+  int droppedByFormat = 0;
+  int droppedByPid = 0;
+  int droppedByCode = 0;
+  int droppedByFilter = 0;
+};
+
+}  // namespace Formats

@@ -1,0 +1,151 @@
+#include "review/duplicates.h"
+
+#include "base/names.h"
+#include "base/text.h"
+
+#include <numeric>
+#include <optional>
+#include <set>
+#include <string>
+#include <utility>
+
+namespace Review {
+namespace {
+
+using namespace Routines;
+
+// Which slots belong together, as a forest in which every slot knows one that is nearer to its group's first slot.
+class Groups {
+ public:
+  Groups() : parents_(LastChannelSlot + 1) { std::iota(parents_.begin(), parents_.end(), 0); }
+
+  void Join(int one, int other) {
+    const auto [low, high] = std::minmax({First(one), First(other)});
+    parents_[high] = low;
+  }
+
+  int First(int slot) {
+    while (parents_[slot] != slot) slot = parents_[slot] = parents_[parents_[slot]];
+    return slot;
+  }
+
+ private:
+  std::vector<int> parents_;
+};
+
+// SID 0 names no service. Where TID and NID are both 0 they name no transponder, and its number stands in for them.
+std::optional<std::uint64_t> ServiceKey(const TransponderRecord& transponder, const ChannelRecord& channel) {
+  const std::uint64_t sid = Get(channel, ChannelField::Sid);
+  if (sid == 0) return std::nullopt;
+  const std::uint64_t network =
+      Get(transponder, TransponderField::Tid) << 16U | Get(transponder, TransponderField::Nid);
+  const std::uint64_t number = network == 0 ? Get(channel, ChannelField::Transponder) : 0;
+  const std::uint64_t satellite = Get(transponder, TransponderField::Satellite);
+  return number << 56U | satellite << 48U | network << 16U | sid;
+}
+
+std::uint64_t StreamOf(std::uint32_t pid) { return pid == AbsentPid ? 0 : pid; }
+
+// Without a SID and any stream there is nothing that two channels could have in common.
+std::optional<std::uint64_t> StreamsKey(const ChannelRecord& channel) {
+  const std::uint64_t sid = Get(channel, ChannelField::Sid);
+  const std::uint64_t vpid = StreamOf(Get(channel, ChannelField::Vpid));
+  const std::uint64_t apid = StreamOf(Get(channel, ChannelField::Apid));
+  if (sid == 0 && KindOf(channel) == ChannelKind::Service) return std::nullopt;
+  const std::uint64_t number = Get(channel, ChannelField::Transponder);
+  return number << 48U | sid << 32U | vpid << 16U | apid;
+}
+
+// What a channel is known by under the rules.
+struct Keys {
+  std::optional<std::uint64_t> service;
+  std::optional<std::uint64_t> streams;
+  std::optional<std::string> name;
+};
+
+Keys KeysOf(const State& state, int slot, const DuplicateRules& rules) {
+  Keys keys;
+  const ChannelRecord& channel = state.Channel(slot);
+  const TransponderRow* transponder = TransponderInUse(state, Get(channel, ChannelField::Transponder));
+  if (channel.Empty() || transponder == nullptr) return keys;
+  if (rules.service) keys.service = ServiceKey(transponder->record, channel);
+  if (rules.streams) keys.streams = StreamsKey(channel);
+  if (!rules.name) return keys;
+  std::string name = Base::UpperCase(Base::Trimmed(channel.Name()));
+  if (!name.empty()) keys.name = std::move(name);
+  return keys;
+}
+
+// The keys of the channels of a group that stay.
+class KeptKeys {
+ public:
+  [[nodiscard]] bool HasAnyOf(const Keys& keys) const {
+    return (keys.service && services_.contains(*keys.service)) ||
+           (keys.streams && streams_.contains(*keys.streams)) || (keys.name && names_.contains(*keys.name));
+  }
+  void Add(const Keys& keys) {
+    if (keys.service) services_.insert(*keys.service);
+    if (keys.streams) streams_.insert(*keys.streams);
+    if (keys.name) names_.insert(*keys.name);
+  }
+
+ private:
+  std::set<std::uint64_t> services_;
+  std::set<std::uint64_t> streams_;
+  std::set<std::string> names_;
+};
+
+template <class Key>
+using Keyed = std::vector<std::pair<Key, int>>;
+
+// Joins the slots whose keys are equal.
+template <class Key>
+void JoinEqual(Groups& groups, Keyed<Key> keys) {
+  std::sort(keys.begin(), keys.end());
+  for (std::size_t i = 1; i < keys.size(); ++i) {
+    if (keys[i].first == keys[i - 1].first) groups.Join(keys[i - 1].second, keys[i].second);
+  }
+}
+
+}  // namespace
+
+std::vector<std::vector<int>> FindDuplicates(const State& state, const DuplicateRules& rules) {
+  Keyed<std::uint64_t> services;
+  Keyed<std::uint64_t> streams;
+  Keyed<std::string> names;
+  for (int slot = 1; slot <= state.ChannelCount; ++slot) {
+    const Keys keys = KeysOf(state, slot, rules);
+    if (keys.service) services.push_back({*keys.service, slot});
+    if (keys.streams) streams.push_back({*keys.streams, slot});
+    if (keys.name) names.push_back({*keys.name, slot});
+  }
+  Groups groups;
+  JoinEqual(groups, std::move(services));
+  JoinEqual(groups, std::move(streams));
+  JoinEqual(groups, std::move(names));
+
+  std::vector<std::vector<int>> members(static_cast<std::size_t>(state.ChannelCount) + 1);
+  for (int slot = 1; slot <= state.ChannelCount; ++slot)
+    members[static_cast<std::size_t>(groups.First(slot))].push_back(slot);
+  std::erase_if(members, [](const std::vector<int>& group) { return group.size() < 2; });
+  return members;
+}
+
+std::vector<int> Surplus(const State& state, const DuplicateRules& rules,
+                         const std::vector<std::vector<int>>& groups) {
+  std::vector<int> surplus;
+  for (const auto& group : groups) {
+    KeptKeys kept;
+    for (const int slot : group) {
+      const Keys keys = KeysOf(state, slot, rules);
+      if (kept.HasAnyOf(keys)) {
+        surplus.push_back(slot);
+      } else {
+        kept.Add(keys);
+      }
+    }
+  }
+  return surplus;
+}
+
+}  // namespace Review

@@ -1,0 +1,210 @@
+#include "ui/edit/cell_commands.h"
+
+#include "edit/cell_edit.h"
+#include "ui/kit/text.h"
+
+namespace Ui {
+
+using Routines::State;
+using Routines::ChannelColumn::Flags;
+using Routines::ChannelColumn::Name;
+
+namespace {
+
+CellKind ChannelKind(int column) {
+  using namespace Routines;
+  switch (column) {
+    case ChannelColumn::Number:
+      return CellKind::Fixed;
+    case ChannelColumn::Name:
+      return CellKind::Name;
+    case ChannelColumn::Transponder:
+    case ChannelColumn::Flags:
+      return CellKind::OpenList;
+    case ChannelColumn::Active:
+      return CellKind::Toggle;
+    default:
+      return CellKind::Number;
+  }
+}
+
+CellKind TransponderKind(int column) {
+  using namespace Routines;
+  switch (column) {
+    case TransponderColumn::Frequency:
+    case TransponderColumn::Tid:
+    case TransponderColumn::Nid:
+      return CellKind::Number;
+    case TransponderColumn::SymbolRate:
+    case TransponderColumn::Fec:
+    case TransponderColumn::Satellite:
+      return CellKind::ClosedList;
+    case TransponderColumn::Polarisation:
+    case TransponderColumn::Tone:
+      return CellKind::Toggle;
+    default:
+      return CellKind::Fixed;
+  }
+}
+
+QStringList Texts(const std::vector<std::string>& utf8) {
+  QStringList texts;
+  for (const std::string& text : utf8) texts += Text(text);
+  return texts;
+}
+
+// Every satellite that the list can tell apart by a letter, with its name where it has one.
+QStringList Satellites(const std::vector<Routines::Satellite>& named) {
+  QStringList texts;
+  for (char letter = 'A'; letter <= 'Z'; ++letter) {
+    const std::string label = std::string("SAT ") + letter;
+    const auto found =
+        std::find_if(named.begin(), named.end(), [&](const auto& one) { return one.label == label; });
+    texts += Text(label) + (found == named.end() ? QString() : " " + CodePageText(found->name).trimmed());
+  }
+  return texts;
+}
+
+// The header calls the column of the names after the channel.
+std::string Title(const QAbstractItemModel& list, int column, bool channels) {
+  if (channels && column == Name) return "Nome";
+  return list.headerData(column, Qt::Horizontal, Qt::DisplayRole).toString().toStdString();
+}
+
+}  // namespace
+
+CellKind CellCommands::KindOf(int column) const {
+  return Channels() ? ChannelKind(column) : TransponderKind(column);
+}
+
+QStringList CellCommands::Choices(int column) const {
+  const State& state = session_.document.Tables();
+  if (Channels()) {
+    if (column == Routines::ChannelColumn::Transponder) return Texts(Edit::TransponderChoices(state));
+    if (column == Flags) return Texts({Edit::Codings.begin(), Edit::Codings.end()});
+    return {"S", "N"};
+  }
+  switch (column) {
+    case Routines::TransponderColumn::SymbolRate:
+      return Texts(Edit::SymbolRateChoices(state));
+    case Routines::TransponderColumn::Fec:
+      return {"1/2", "2/3", "3/4", "5/6", "7/8", "Auto"};
+    case Routines::TransponderColumn::Polarisation:
+      return {"H", "V"};
+    case Routines::TransponderColumn::Tone:
+      return {"On", "Off"};
+    default:
+      return Satellites(session_.bouquets.tables.satellites);
+  }
+}
+
+// An editor may be closed by the very command that shows the other list: the cell says whose it is.
+QString CellCommands::Take(const QModelIndex& cell, const QString& typed) {
+  const int slot = cell.row() + 1;
+  const int column = cell.column();
+  const std::string text = typed.toStdString();
+  const bool channels = static_cast<const ListModel*>(cell.model())->OfChannels();
+  const std::string title = Title(*cell.model(), column, channels);
+  const std::string label = "Modifica " + title;
+  const int revision = session_.document.Revision();
+  const Base::Outcome done = session_.document.Apply(label, [&](State& state) {
+    return channels ? Edit::EditChannel(state, slot, column, text)
+                    : Edit::EditTransponder(state, slot, column, text, session_.bouquets.tables);
+  });
+  if (!done) {
+    session_.status.ShowResult("Non modificato: " + Text(done.error().message));
+    return Text(done.error().message);
+  }
+  if (session_.document.Revision() != revision) {
+    session_.status.ShowResult(QString("%1 %2, %3: %4")
+                                   .arg(channels ? "Canale" : "Transponder")
+                                   .arg(slot)
+                                   .arg(Text(title), typed.trimmed()));
+  }
+  return {};
+}
+
+std::optional<Edit::Slots> CellCommands::Rows() const {
+  return Channels() ? session_.view.ListGrid().Selected() : std::nullopt;
+}
+
+void CellCommands::Rename() {
+  Grid& grid = session_.view.ListGrid();
+  if (!Channels() || !grid.currentIndex().isValid()) return;
+  const QModelIndex name = grid.currentIndex().siblingAtColumn(Name);
+  grid.selectionModel()->setCurrentIndex(name, QItemSelectionModel::NoUpdate);
+  grid.edit(name);
+}
+
+void CellCommands::InsertRows() {
+  const auto rows = Rows();
+  if (!rows) return;
+  std::vector<Edit::LostFavourite> lost;
+  const std::string label = rows->Count() == 1
+                                ? "Inserisci riga vuota"
+                                : "Inserisci " + std::to_string(rows->Count()) + " righe vuote";
+  const bool room = session_.document.Apply(
+      label, [&](State& state) { return Edit::MakeRoom(state, rows->first, rows->Count(), lost); });
+  if (!room) {
+    session_.dialogs.Message(Text(Edit::InvalidPosition), {});
+    return;
+  }
+  session_.view.ListGrid().Select(*rows);
+  session_.status.ShowResult(Text(label) + QString(" al %1").arg(rows->first) + session_.Losses(lost));
+}
+
+void CellCommands::SetColumn(int column, const QString& value) {
+  const auto rows = Rows();
+  if (!rows) return;
+  const std::string label =
+      Title(*session_.view.ListGrid().model(), column, true) + " " + value.toStdString();
+  const auto changed = session_.document.Apply(
+      label, [&](State& state) { return Edit::EditChannels(state, *rows, column, value.toStdString()); });
+  if (!changed) {
+    session_.dialogs.Message(Text(changed.error().message), {});
+    return;
+  }
+  session_.status.ShowResult(Text(label) +
+                             (*changed == 1 ? QString(": 1 canale") : QString(": %1 canali").arg(*changed)));
+}
+
+void CellCommands::AskTransponder() {
+  const auto rows = Rows();
+  if (!rows) return;
+  const State& state = session_.document.Tables();
+  const QStringList choices = Texts(Edit::TransponderChoices(state));
+  if (choices.isEmpty()) {
+    session_.status.ShowResult("La lista non ha transponder");
+    return;
+  }
+  const QString now = Text(Routines::ChannelCell(state, rows->first, Routines::ChannelColumn::Transponder));
+  const auto at = std::find_if(choices.begin(), choices.end(),
+                               [&](const QString& choice) { return choice.startsWith(now + ' '); });
+  const auto chosen = session_.dialogs.Choose(
+      rows->Count() == 1 ? QString("Transponder del canale %1").arg(rows->first)
+                         : QString("Transponder dei canali da %1 a %2").arg(rows->first).arg(rows->last),
+      choices, now.isEmpty() || at == choices.end() ? 0 : static_cast<int>(at - choices.begin()));
+  if (chosen) SetColumn(Routines::ChannelColumn::Transponder, choices[*chosen].section(' ', 0, 0));
+}
+
+void CellCommands::AskCoding() {
+  if (!Rows()) return;
+  const auto answer = session_.dialogs.AskLine("Inserire la codifica, due cifre esadecimali");
+  if (answer && !answer->isEmpty()) SetColumn(Flags, answer->trimmed());
+}
+
+void CellCommands::GoToTransponder() {
+  const auto rows = Rows();
+  if (!rows) return;
+  const State& state = session_.document.Tables();
+  const auto& channel = state.Channel(rows->first);
+  const int number = static_cast<int>(Get(channel, Routines::ChannelField::Transponder));
+  if (channel.Empty() || number < 1 || number > state.TransponderCount) {
+    session_.status.ShowResult(QString("Il canale %1 non ha un transponder nella lista").arg(rows->first));
+    return;
+  }
+  session_.view.Show(View::Transponders);
+  session_.view.ListGrid().Select({number, number});
+}
+
+}  // namespace Ui

@@ -1,0 +1,207 @@
+#include "ui/edit/edit_commands.h"
+
+#include "base/text.h"
+#include "ui/kit/text.h"
+
+#include <QApplication>
+#include <QClipboard>
+
+namespace Ui {
+
+using Edit::Slots;
+using Routines::State;
+
+namespace {
+
+std::string CountText(int count) { return count == 1 ? "1 canale" : std::to_string(count) + " canali"; }
+
+}  // namespace
+
+bool EditCommands::NeedsChannelList() {
+  if (session_.view.Current() == View::Channels) return true;
+  session_.dialogs.Message("Deve essere visibile la lista canali", {});
+  return false;
+}
+
+std::optional<Slots> EditCommands::SelectedChannels() {
+  if (!NeedsChannelList()) return std::nullopt;
+  const auto slots = session_.view.ListGrid().Selected();
+  if (!slots) session_.dialogs.Message("Nessun canale selezionato", {});
+  return slots;
+}
+
+bool EditCommands::MayReplaceClipboard() {
+  return session_.clipboard.Count() == 0 ||
+         session_.dialogs.YesNo("Esistono Canali Copiati e non ancora Scaricati - Continuo?");
+}
+
+void EditCommands::TakeToClipboard(Slots slots) {
+  const State& state = session_.document.Tables();
+  session_.clipboard = Edit::CopyChannels(state, slots);
+  QApplication::clipboard()->setText(CodePageText(Edit::TabSeparated(state, slots)));
+}
+
+void EditCommands::Copy() {
+  const auto slots = SelectedChannels();
+  if (!slots || !MayReplaceClipboard()) return;
+  TakeToClipboard(*slots);
+  session_.ShowList();
+  session_.status.ShowResult("Copia " + Text(CountText(slots->Count())));
+}
+
+void EditCommands::Cut() {
+  const auto slots = SelectedChannels();
+  if (!slots || !MayReplaceClipboard()) return;
+  TakeToClipboard(*slots);
+  const std::string label = "Taglia " + CountText(slots->Count());
+  const auto lost = session_.document.Apply(
+      label, [&](State& state) { return Edit::CutChannels(state, *slots, session_.clipboard); });
+  session_.ShowList();
+  session_.status.ShowResult(Text(label) + session_.Losses(lost));
+}
+
+void EditCommands::Delete() {
+  const auto slots = SelectedChannels();
+  if (!slots) return;
+  const std::string label = "Elimina " + CountText(slots->Count());
+  const auto lost =
+      session_.document.Apply(label, [&](State& state) { return Edit::DeleteChannels(state, *slots); });
+  session_.status.ShowResult(Text(label) + session_.Losses(lost));
+}
+
+void EditCommands::Paste() {
+  if (!NeedsChannelList()) return;
+  Dialogs& ask = session_.dialogs;
+  const int count = session_.clipboard.Count();
+  if (count == 0) {
+    ask.Message("Messun canale copiato", {});
+    return;
+  }
+  const auto answer = ask.AskLine("Inserire il numero di canale da cui inserire");
+  if (!answer) return;
+  const int position = Base::LeadingNumber(answer->toStdString());
+  if (!Edit::IsPosition(session_.document.Tables(), position, count)) {
+    ask.Message(Text(Edit::InvalidPosition), {});
+    return;
+  }
+  const Answer way = ask.YesNoCancel(QString("Sposto o sovrascrivo i canali a partire dal %1 per %2 Canali?\n"
+                                             "Rispondere SI per spostare NO per sovrascrivere")
+                                         .arg(position)
+                                         .arg(count));
+  if (way == Answer::Cancel) return;
+  const auto pasted = session_.document.Apply("Incolla " + CountText(count), [&](State& state) {
+    return Edit::Paste(state, session_.clipboard, position,
+                       way == Answer::Yes ? Edit::PasteWay::Move : Edit::PasteWay::Overwrite,
+                       session_.bouquets.tables);
+  });
+  if (!pasted) {
+    session_.Message(pasted.error());
+    return;
+  }
+  pastedLabel_ = session_.document.Steps().UndoLabel();
+  pasted_ = std::exchange(session_.clipboard, {});
+  session_.ShowList();
+  TellPasted(count, position, *pasted);
+}
+
+void EditCommands::TellPasted(int count, int position, const Edit::PasteReport& report) {
+  session_.view.ListGrid().Select({position, position + count - 1});
+  session_.view.ListGrid().ScrollToTop(position);
+  QString text = "Incolla " + Text(CountText(count)) + QString(" dal %1").arg(position);
+  if (report.favouritesBack > 0) text += QString(", preferiti rimessi: %1").arg(report.favouritesBack);
+  if (report.favouritesFull > 0) text += QString(", senza posto nelle liste: %1").arg(report.favouritesFull);
+  text += session_.Losses(report.lost);
+  if (report.withoutTransponder > 0)
+    text += QString(", senza transponder: %1").arg(report.withoutTransponder);
+  session_.status.ShowResult(text);
+}
+
+void EditCommands::Move(Slots slots, int to) {
+  Document& document = session_.document;
+  to = std::clamp(to, 1, document.Tables().ChannelCount - slots.Count() + 1);
+  if (to == slots.first) return;
+  const std::string label = "Sposta " + CountText(slots.Count());
+  // Rows that go on from where a move has just put them make one step with it.
+  const bool continues = movedTo_ == slots.first && document.Steps().UndoLabel() == label;
+  document.Apply(
+      label,
+      [&](State& tables) {
+        Edit::MoveChannels(tables, slots, to);
+        return Base::Done{};
+      },
+      continues ? Edit::History::Kind::Continued : Edit::History::Kind::Edit);
+  movedTo_ = to;
+  session_.view.ListGrid().Select({to, to + slots.Count() - 1});
+  session_.status.ShowResult(Text(label) + QString(" al %1").arg(to));
+}
+
+void EditCommands::MoveBy(int rows) {
+  const auto slots = SelectedChannels();
+  if (slots) Move(*slots, slots->first + rows);
+}
+
+void EditCommands::SpostaA() {
+  const auto slots = SelectedChannels();
+  if (!slots) return;
+  const auto answer = session_.dialogs.AskLine("Inserire il numero di canale a cui spostare");
+  if (!answer || answer->isEmpty()) return;
+  const int to = Base::LeadingNumber(answer->toStdString());
+  if (to < 1 || to + slots->Count() - 1 > session_.document.Tables().ChannelCount) {
+    session_.dialogs.Message("Nr. Canale non valido", {});
+    return;
+  }
+  Move(*slots, to);
+}
+
+void EditCommands::Drop(int first, int last, int before, bool copy) {
+  const Slots slots{first, last};
+  if (first < 1 || last < first || last > session_.document.Tables().ChannelCount) return;
+  if (copy) {
+    InsertCopy(slots, before);
+  } else {
+    Move(slots, before > last ? before - slots.Count() : std::min(before, first));
+  }
+}
+
+void EditCommands::InsertCopy(Slots slots, int before) {
+  const std::string label = "Copia " + CountText(slots.Count());
+  const bool made = session_.document.Apply(label, [&](State& state) {
+    const Edit::Clipboard copy = Edit::CopyChannels(state, slots);
+    return static_cast<bool>(
+        Edit::Paste(state, copy, before, Edit::PasteWay::Move, session_.bouquets.tables));
+  });
+  if (made) session_.view.ListGrid().Select({before, before + slots.Count() - 1});
+  session_.status.ShowResult(made ? Text(label) + QString(" al %1").arg(before)
+                                  : "Non c'è posto per inserire " + Text(CountText(slots.Count())));
+}
+
+void EditCommands::Undo() {
+  const std::string label = session_.document.Steps().UndoLabel();
+  const int list = session_.document.Tables().ListNumber;
+  session_.document.Undo();
+  // What a paste had used up can be pasted again.
+  if (label == pastedLabel_ && session_.clipboard.Count() == 0) session_.clipboard = pasted_;
+  movedTo_ = 0;
+  FollowList(list);
+  session_.status.ShowResult("Annullato: " + Text(label));
+}
+
+void EditCommands::Redo() {
+  const std::string label = session_.document.Steps().RedoLabel();
+  const int list = session_.document.Tables().ListNumber;
+  session_.document.Redo();
+  if (label == pastedLabel_) session_.clipboard = {};
+  movedTo_ = 0;
+  FollowList(list);
+  session_.status.ShowResult("Ripetuto: " + Text(label));
+}
+
+// A list that came back is shown from its start; one that went away no longer is.
+void EditCommands::FollowList(int listBefore) {
+  session_.ShowList();
+  const State& state = session_.document.Tables();
+  if (state.ListNumber == listBefore) return;
+  session_.view.ShowFromStart(state.Loaded ? View::Channels : View::None);
+}
+
+}  // namespace Ui

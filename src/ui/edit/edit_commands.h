@@ -1,0 +1,43 @@
+// The commands that change the channel list by its rows: clipboard, delete, moving, and undo.
+#pragma once
+
+#include "edit/clipboard.h"
+#include "ui/session/session.h"
+
+namespace Ui {
+
+class EditCommands {
+ public:
+  explicit EditCommands(Session& session) : session_(session) {}
+
+  void Copy();
+  void Cut();
+  void Delete();
+  void Paste();
+
+  // Moves the selected rows one up (-1) or down (1), or to a number that is asked for.
+  void MoveBy(int rows);
+  void SpostaA();
+  // Rows `first`..`last` were dropped in front of slot `before`.
+  void Drop(int first, int last, int before, bool copy);
+
+  void Undo();
+  void Redo();
+
+ private:
+  bool NeedsChannelList();
+  std::optional<Edit::Slots> SelectedChannels();
+  bool MayReplaceClipboard();
+  void TakeToClipboard(Edit::Slots slots);
+  void Move(Edit::Slots slots, int to);
+  void InsertCopy(Edit::Slots slots, int before);
+  void TellPasted(int count, int position, const Edit::PasteReport& report);
+  void FollowList(int listBefore);
+
+  Session& session_;
+  Edit::Clipboard pasted_;   // what the last paste used up
+  std::string pastedLabel_;  // of its step
+  int movedTo_ = 0;          // first slot of the rows moved last
+};
+
+}  // namespace Ui

@@ -1,0 +1,107 @@
+#include "ui/favourites/favourites_edits.h"
+
+#include "ui/kit/text.h"
+
+#include <numeric>
+
+namespace Ui {
+
+using Routines::State;
+
+namespace {
+
+QString Entries(int count) {
+  return count == 1 ? QString("1 preferito") : QString("%1 preferiti").arg(count);
+}
+
+// What became of the channels that could not be added.
+QString Remarks(const Edit::AddReport& report) {
+  QString text;
+  if (report.known > 0)
+    text += QString(report.known == 1 ? ", %1 c'era già" : ", %1 c'erano già").arg(report.known);
+  if (report.empty > 0)
+    text += QString(report.empty == 1 ? ", %1 posto vuoto saltato" : ", %1 posti vuoti saltati")
+                .arg(report.empty);
+  if (report.full > 0) text += QString(", %1 senza posto: la lista è piena").arg(report.full);
+  return text;
+}
+
+}  // namespace
+
+QString FavouritesEdits::Title(std::size_t list) const {
+  return Text(Routines::FavouritesTitle(session_.document.Tables().FavouritesBlock, list));
+}
+
+void FavouritesEdits::Tell(const QString& text) { session_.status.ShowResult(text); }
+
+bool FavouritesEdits::Any(const Places& places) {
+  if (places.empty()) Tell("Nessun preferito selezionato");
+  return !places.empty();
+}
+
+void FavouritesEdits::AddSelected(std::size_t list) {
+  const auto rows = session_.view.ListGrid().Selected();
+  if (session_.view.Current() != View::Channels || !rows) {
+    Tell("Nessun canale selezionato nella lista dei canali");
+    return;
+  }
+  AddSlots(list, rows->first, rows->last, Routines::FavouriteEntries);
+}
+
+void FavouritesEdits::AddSlots(std::size_t list, int first, int last, std::size_t place) {
+  if (first < 1 || last < first || last > session_.document.Tables().ChannelCount) return;
+  std::vector<int> wanted(static_cast<std::size_t>(last - first + 1));
+  std::iota(wanted.begin(), wanted.end(), first);
+  const auto report = session_.document.Apply(
+      "Aggiungi ai preferiti", [&](State& state) { return Edit::AddFavourites(state, list, place, wanted); });
+  Tell(QString("%1: %2 in più").arg(Title(list), Entries(report.added)) + Remarks(report));
+}
+
+void FavouritesEdits::Remove(std::size_t list, const Places& places) {
+  if (!Any(places)) return;
+  session_.document.Apply("Togli dai preferiti", [&](State& state) {
+    Edit::RemoveFavourites(state, list, places);
+    return Base::Done{};
+  });
+  Tell(QString("%1: %2 in meno").arg(Title(list), Entries(static_cast<int>(places.size()))));
+}
+
+std::size_t FavouritesEdits::Move(std::size_t list, const Places& places, std::size_t target,
+                                  std::size_t before) {
+  if (!Any(places)) return 0;
+  const auto report = session_.document.Apply("Sposta preferiti", [&](State& state) {
+    return Edit::MoveFavourites(state, list, places, target, before);
+  });
+  const QString moved = list == target ? Title(list) : Title(list) + " → " + Title(target);
+  Tell(QString("%1: %2").arg(moved, Entries(report.entries.added)) + Remarks(report.entries));
+  return report.first;
+}
+
+void FavouritesEdits::Sort(std::size_t list, Edit::FavouriteOrder order) {
+  session_.document.Apply("Ordina preferiti", [&](State& state) {
+    Edit::SortFavourites(state, list, order);
+    return Base::Done{};
+  });
+  Tell(Title(list) +
+       (order == Edit::FavouriteOrder::ByName ? ": ordinata per nome" : ": ordinata per numero"));
+}
+
+bool FavouritesEdits::Rename(std::size_t list, const QString& name) {
+  if (!session_.document.Tables().Loaded) return false;
+  const auto renamed = session_.document.Apply("Nome lista preferiti", [&](State& state) {
+    return Edit::RenameFavourites(state, list, name.toStdString());
+  });
+  if (!renamed) Tell("Non modificato: " + Text(renamed.error().message));
+  return static_cast<bool>(renamed);
+}
+
+void FavouritesEdits::GoTo(int slot) {
+  if (slot < 1 || slot > session_.document.Tables().ChannelCount) {
+    Tell(QString("Il posto %1 non c'è nella lista").arg(slot));
+    return;
+  }
+  session_.view.Show(View::Channels);
+  session_.view.ListGrid().Select({slot, slot});
+}
+
+}  // namespace Ui

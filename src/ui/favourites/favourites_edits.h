@@ -1,0 +1,38 @@
+// Editing the favourites lists, from the grid and from their own window. Lists are 0..7.
+#pragma once
+
+#include "edit/favourites_edit.h"
+#include "ui/session/session.h"
+
+#include <vector>
+
+namespace Ui {
+
+class FavouritesEdits {
+ public:
+  explicit FavouritesEdits(Session& session) : session_(session) {}
+
+  // Adds channels of the grid: the selected ones at a list's end, or slots `first`..`last` in front of `place`.
+  void AddSelected(std::size_t list);
+  void AddSlots(std::size_t list, int first, int last, std::size_t place);
+
+  using Places = std::vector<std::size_t>;
+  void Remove(std::size_t list, const Places& places);
+  // In front of `before` of a list, the same or another one. Returns the first place moved to.
+  std::size_t Move(std::size_t list, const Places& places, std::size_t target, std::size_t before);
+  void Sort(std::size_t list, Edit::FavouriteOrder order);
+  // False where the name is refused.
+  bool Rename(std::size_t list, const QString& name);
+  // Shows a channel in the grid.
+  void GoTo(int slot);
+
+  [[nodiscard]] QString Title(std::size_t list) const;
+
+ private:
+  void Tell(const QString& text);
+  bool Any(const Places& places);
+
+  Session& session_;
+};
+
+}  // namespace Ui

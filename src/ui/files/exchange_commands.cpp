@@ -1,0 +1,205 @@
+#include "ui/files/exchange_commands.h"
+
+#include "base/code_page.h"
+#include "base/file.h"
+#include "formats/csv_format.h"
+#include "formats/fls_format.h"
+#include "formats/text_format.h"
+#include "model/flash_loader.h"
+#include "support/pos_ini.h"
+#include "ui/kit/text.h"
+#include "ui/kit/toolkit.h"
+
+namespace Ui {
+
+using Routines::State;
+
+namespace {
+
+// A whole list is some 300 KB in either format.
+constexpr std::size_t LargestImport = 16U << 20U;
+constexpr std::string_view ByteOrderMark = "\xEF\xBB\xBF";
+
+}  // namespace
+
+std::string ExchangeCommands::AskExport(const QString& filters) {
+  std::string path = PathBytes(session_.dialogs.SaveFile(
+      {"Selezionare il file di output", filters,
+       PathText(Support::RememberedFolder(session_.programFolder, Support::FolderKind::Input))}));
+  if (session_.IsFlashOfList(path)) {
+    session_.status.ShowResult(QString("Non esportato: ") + FlashOfListChosen);
+    return {};
+  }
+  return path;
+}
+
+void ExchangeCommands::Export(const std::string& path, Base::ByteView bytes) {
+  const auto written = Base::ReplaceFile(path, bytes);
+  session_.status.ShowResult(written ? "Esportato " + PathText(Base::FileName(path))
+                                     : Text(written.error().message));
+}
+
+void ExchangeCommands::FormatoTesto() {
+  if (!session_.NeedsFlash()) return;
+  const std::string path = AskExport("Files di testo(*.txt)|*.txt");
+  if (path.empty()) return;
+  Export(path, Base::AsBytes(Formats::WriteText(session_.document.Tables())));
+}
+
+void ExchangeCommands::FormatoCSV() {
+  if (!session_.NeedsFlash()) return;
+  const State& state = session_.document.Tables();
+  const bool transponders = session_.view.Current() == View::Transponders;
+  Edit::Slots rows{1, transponders ? state.TransponderCount : state.ChannelCount};
+  const auto selected =
+      session_.view.Current() == View::None ? std::nullopt : session_.view.ListGrid().Selected();
+  if (selected && selected->Count() > 1) {
+    const Answer answer = session_.dialogs.YesNoCancel("Esportare solo le righe selezionate?");
+    if (answer == Answer::Cancel) return;
+    if (answer == Answer::Yes) rows = *selected;
+  }
+  const std::string path = AskExport("File CSV(*.csv)|*.csv");
+  if (path.empty()) return;
+  Export(path, Base::AsBytes(transponders ? Formats::WriteTranspondersCsv(state, rows.first, rows.last)
+                                          : Formats::WriteChannelsCsv(state, rows.first, rows.last)));
+}
+
+void ExchangeCommands::FormatoFLASH() {
+  const Routines::Settings chosen = session_.settings.Chosen();
+  if (!chosen.quantiCanali) {
+    session_.dialogs.Message("Si deve selezionare il numero di canali da esportare", {});
+    session_.settings.PointOutMissing();
+    return;
+  }
+  const std::string flash = session_.document.Tables().InputFlash;
+  if (flash.empty()) {
+    session_.dialogs.Message("Si deve caricare prima una FLASH di input", {});
+    return;
+  }
+  const std::string path = AskExport("Files di testo(*.fls)|*.fls");
+  if (path.empty()) return;
+  const auto image = Routines::ReadFlash(flash, "Errore FLASH di Input");
+  if (!image) {
+    session_.Message(image.error());
+    return;
+  }
+  const auto rates = session_.LoadSymbolRates();
+  if (!rates) return;
+  Document& document = session_.document;
+  auto reloaded = std::make_unique<State>(document.Tables());
+  Routines::LoadFlash(*reloaded, *image, chosen.Capacity(), 0, session_.bouquets.tables);
+  reloaded->SymbolRateTable = rates->table;
+  reloaded->FromFls = document.Tables().FromFls;
+  const auto written = Base::ReplaceFile(path, Formats::WriteFls(*reloaded));
+  if (!written) {
+    session_.status.ShowResult(Text(written.error().message));
+    return;
+  }
+  // The list gives way to the image only where it is another one.
+  if (*reloaded != document.Tables()) reloaded->ListNumber = document.NextListNumber();
+  document.Apply(
+      "Ricarica Flash per l'esportazione",
+      [&reloaded](State& state) {
+        state = *reloaded;
+        return Base::Done{};
+      },
+      Edit::History::Kind::List);
+  document.MarkSaved(document.Tables().InputFlash);
+  session_.status.ShowResult("Esportato " + PathText(Base::FileName(path)) + "; ricaricata la flash " +
+                             PathText(Base::FileName(flash)));
+}
+
+// An import replaces the list, so what is loaded now does not count.
+std::optional<ExchangeCommands::Preparation> ExchangeCommands::Prepare() {
+  const auto chosen = session_.NeedsSettings();
+  if (!chosen) return std::nullopt;
+  const auto rates = session_.LoadSymbolRates();
+  if (!rates || !rates->missing.empty()) return std::nullopt;
+  return Preparation{Routines::PlanWrite(*std::make_unique<State>(), *chosen), rates->table};
+}
+
+std::optional<Base::Bytes> ExchangeCommands::ReadImport(const QString& title, const QString& filters,
+                                                        std::string& path) {
+  if (path.empty()) {
+    path = PathBytes(session_.dialogs.OpenFile(
+        {title, filters,
+         PathText(Support::RememberedFolder(session_.programFolder, Support::FolderKind::Input))}));
+  }
+  if (path.empty()) return std::nullopt;
+  auto bytes = Waiting([&] { return Base::ReadFile(path, LargestImport); });
+  if (bytes) return std::move(*bytes);
+  session_.Message(bytes.error());
+  return std::nullopt;
+}
+
+template <class Read>
+void ExchangeCommands::Import(const char* label, const std::string& path, const Preparation& preparation,
+                              Read read) {
+  Document& document = session_.document;
+  const auto report = document.Apply(
+      label,
+      [&](State& state) {
+        const std::string rates = state.SymbolRateTable;
+        state.SymbolRateTable = preparation.symbolRates;
+        Formats::ImportReport told = read(state);
+        if (!told.transpondersRead) state.SymbolRateTable = rates;
+        if (told.changed) {
+          state.OutputFlash.clear();
+          state.ListNumber = document.NextListNumber();
+        }
+        if (told.listRead) state.Loaded = true;
+        return told;
+      },
+      Edit::History::Kind::List);
+  if (report.listRead) session_.view.ShowFromStart(View::Channels);
+  if (report.listRead && report.error.empty() && onImported) onImported();
+  TellImported(path, report);
+}
+
+void ExchangeCommands::TellImported(const std::string& path, const Formats::ImportReport& report) {
+  const State& state = session_.document.Tables();
+  if (report.changed) {
+    QString text =
+        PathText(Base::FileName(path)) + QString(": importati %1 canali").arg(Routines::UsedChannels(state));
+    const int beyond = static_cast<int>(std::count_if(state.ChannelTable.begin() + 1 + state.ChannelCount,
+                                                      state.ChannelTable.end(),
+                                                      [](const auto& channel) { return !channel.Empty(); }));
+    if (beyond > 0)
+      text += QString(", altri %1 restano oltre i %2 posti della lista").arg(beyond).arg(state.ChannelCount);
+    if (report.unknownRates > 0)
+      text += QString(", %1 transponder con SR che SR.INI non ha").arg(report.unknownRates);
+    session_.status.ShowResult(text);
+  }
+  if (!report.error.empty()) session_.dialogs.Message(Text(report.error), {});
+}
+
+void ExchangeCommands::DaEsportatoTesto(std::string path) {
+  const auto preparation = Prepare();
+  if (!preparation) return;
+  const auto bytes = ReadImport("Selezionare il file di testo contenente i CANALI e i TRANSPONDERS",
+                                "File di testo(*.txt)|*.txt|", path);
+  if (!bytes) return;
+  std::string_view text = Base::AsText(*bytes);
+  std::string converted;
+  if (text.starts_with(ByteOrderMark)) {
+    converted = Base::FromUtf8Lossy(text.substr(ByteOrderMark.size()));
+    text = converted;
+  }
+  Import("Importa da formato TESTO", path, *preparation,
+         [&](State& state) { return Formats::ReadText(state, text, path, session_.bouquets.tables); });
+}
+
+void ExchangeCommands::DaEsportato(std::string path) {
+  const auto preparation = Prepare();
+  if (!preparation) return;
+  const auto bytes = ReadImport("Selezionare il file di da importare", "Files di testo(*.fls)|*.fls", path);
+  if (!bytes) return;
+  Import("Importa da formato FLASH", path, *preparation, [&](State& state) {
+    auto report = Formats::ReadFls(state, *bytes, session_.bouquets.tables);
+    if (report.changed) state.MaxChannels = state.ChannelCount = preparation->plan.maxChannels;
+    if (report.error.empty()) state.FromFls = true;
+    return report;
+  });
+}
+
+}  // namespace Ui

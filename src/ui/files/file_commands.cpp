@@ -1,0 +1,219 @@
+#include "ui/files/file_commands.h"
+
+#include "base/file.h"
+#include "model/flash_loader.h"
+#include "model/flash_writer.h"
+#include "model/symbol_rates.h"
+#include "support/pos_ini.h"
+#include "ui/kit/text.h"
+#include "ui/kit/toolkit.h"
+
+#include <cerrno>
+
+namespace Ui {
+
+using Routines::State;
+using Support::FolderKind;
+
+namespace {
+
+constexpr const char* InputTitle = "Errore FLASH di Input";
+constexpr const char* OutputTitle = "Errore FLASH di Output";
+constexpr const char* RatesMovedText = " - SR 22000 spostato senza Converti SR";
+
+// A file's name, short enough to leave room for what is said of it.
+QString ShortName(const std::string& path) {
+  constexpr qsizetype Longest = 60;
+  const QString name = PathText(Base::FileName(path));
+  return name.size() <= Longest ? name : name.left(Longest / 2) + "…" + name.right(Longest / 2);
+}
+
+Base::Result<Base::Bytes> ReadWaiting(const std::string& path, const char* title) {
+  return Waiting([&] { return Routines::ReadFlash(path, title); });
+}
+
+QString LoadResult(const State& state, const Routines::LoadReport& report, bool appended) {
+  QString text = (appended ? "accodati " : "letti ") + QString::number(report.channelsRead);
+  if (report.channelsInImage > report.channelsRead) text += QString(" di %1").arg(report.channelsInImage);
+  text += " canali";
+  if (report.strandedChannels > 0) {
+    text += QString(", %1 canali su transponder oltre il %2")
+                .arg(report.strandedChannels)
+                .arg(state.TransponderCount);
+  }
+  return text;
+}
+
+}  // namespace
+
+std::string FileCommands::AskFlash(const QString& title, FolderKind folder) {
+  return PathBytes(session_.dialogs.OpenFile(
+      {title, FlashFilters, PathText(Support::RememberedFolder(session_.programFolder, folder))}));
+}
+
+// 0 to replace what is loaded; nothing where the user gives up.
+std::optional<int> FileCommands::AskAppendStart() {
+  Dialogs& ask = session_.dialogs;
+  if (!session_.document.Tables().Loaded ||
+      !ask.YesNo("Si desidera accodare la nuova Flash a quella già caricata?")) {
+    return 0;
+  }
+  if (!ask.YesNo("La flash che si sta accodando è dello stesso dipo di quella già caricata?"))
+    return std::nullopt;
+  return Routines::AppendStart(session_.document.Tables());
+}
+
+void FileCommands::ApriFlashInput(std::string path) {
+  if (!session_.settings.Chosen().quantiCanali) {
+    session_.dialogs.Message(Text(Routines::NoCapacityChosen), {});
+    session_.settings.PointOutMissing();
+    return;
+  }
+  const auto appendStart = AskAppendStart();
+  if (!appendStart) return;
+  if (path.empty()) path = AskFlash("Selezionare la flash di input", FolderKind::Input);
+  if (path.empty()) return;
+  const auto image = ReadWaiting(path, InputTitle);
+  if (!image) {
+    session_.Message(image.error());
+    return;
+  }
+  Support::RememberFolderOf(session_.programFolder, FolderKind::Input, path);
+  Load(path, *image, *appendStart);
+}
+
+void FileCommands::Load(const std::string& path, const Base::Bytes& image, int appendStart) {
+  const auto rates = session_.LoadSymbolRates();
+  if (!rates) return;
+  const int capacity = session_.settings.Chosen().Capacity();
+  const bool appended = appendStart > 0;
+  session_.status.ShowProgress(30);
+  const bool ratesMoved = appended && RatesMoved(*rates);
+  Document& document = session_.document;
+  const Routines::LoadReport report = document.Apply(
+      appended ? "Accoda Flash" : "Apri Flash",
+      [&](State& state) {
+        auto loaded = Routines::LoadFlash(state, image, capacity, appendStart, session_.bouquets.tables);
+        state.SymbolRateTable = rates->table;
+        state.InputFlash = path;
+        if (!appended) {
+          state.OutputFlash.clear();
+          state.ListNumber = document.NextListNumber();
+        }
+        return loaded;
+      },
+      Edit::History::Kind::List);
+  if (!appended) document.MarkSaved(path);
+  session_.status.ShowProgress(100);
+  session_.view.ShowFromStart(View::Channels);
+  for (const std::string& message : report.messages) session_.dialogs.Message(Text(message), {});
+  session_.status.ShowResult(ShortName(path) + ": " + LoadResult(document.Tables(), report, appended) +
+                             (ratesMoved ? RatesMovedText : ""));
+  if (onOpened) onOpened(path);
+}
+
+// Whether the list's codes were read with 22000 in another place than `SRDef` now says.
+bool FileCommands::RatesMoved(const Support::SymbolRates& rates) const {
+  return !Routines::SamePlaces(rates.table, session_.document.Tables().SymbolRateTable);
+}
+
+std::optional<FileCommands::Preparation> FileCommands::Prepare() {
+  if (!session_.NeedsFlash()) return std::nullopt;
+  const auto chosen = session_.NeedsSettings();
+  if (!chosen) return std::nullopt;
+  const auto rates = session_.LoadSymbolRates();
+  if (!rates || !rates->missing.empty()) return std::nullopt;
+
+  const State& state = session_.document.Tables();
+  Preparation preparation{Routines::PlanWrite(state, *chosen), RatesMoved(*rates)};
+  if (!preparation.plan.warning.empty()) session_.dialogs.Message(Text(preparation.plan.warning), {});
+  return preparation;
+}
+
+void FileCommands::ApriFlashOutput() {
+  if (const auto preparation = Prepare()) AskAndWrite(*preparation);
+}
+
+void FileCommands::Salva() {
+  const auto preparation = Prepare();
+  if (!preparation) return;
+  const std::string path = session_.document.Tables().OutputFlash;
+  if (path.empty()) {
+    AskAndWrite(*preparation);
+    return;
+  }
+  const auto original = ReadWaiting(path, OutputTitle);
+  if (!original) {
+    session_.Message(original.error());
+    return;
+  }
+  Write(path, *original, *preparation);
+}
+
+void FileCommands::AskAndWrite(const Preparation& preparation) {
+  const std::string path = AskFlash("Selezionare la flash di output", FolderKind::Output);
+  if (path.empty()) return;
+  const auto original = ReadWaiting(path, OutputTitle);
+  if (!original) {
+    const bool vanished = original.error().systemCode == ENOENT;
+    session_.Message(vanished ? Routines::WrongFlashSize(0, OutputTitle) : original.error());
+    return;
+  }
+  Support::RememberFolderOf(session_.programFolder, FolderKind::Output, path);
+  Write(path, *original, preparation);
+}
+
+void FileCommands::Write(const std::string& path, const Base::Bytes& original,
+                         const Preparation& preparation) {
+  StatusLine& status = session_.status;
+  status.ShowProgress(10);
+  const State& state = session_.document.Tables();
+  const Routines::PatchedFlash patched = Routines::PatchFlash(state, original, preparation.plan);
+  status.ShowProgress(30);
+  const auto saved =
+      Routines::DiffersOnlyInSections(original, patched.image)
+          ? Waiting([&] { return Routines::SaveFlash(path, original, patched.image, session_.backups); })
+          : Base::Error{"Impossibile scrivere " + Base::FileName(path) +
+                        ": la modifica esce dalle sezioni conosciute"};
+  status.ShowProgress(100);
+  if (!saved) {
+    session_.dialogs.Message(Text(saved.error().message), OutputTitle);
+    return;
+  }
+  TellWritten(path, patched, preparation);
+}
+
+void FileCommands::TellWritten(const std::string& path, const Routines::PatchedFlash& patched,
+                               const Preparation& preparation) {
+  Document& document = session_.document;
+  const Routines::Unwritten unwritten =
+      Routines::FindUnwritten(document.Tables(), patched.image, preparation.plan);
+  document.Adjust([&path](State& state) {
+    state.OutputFlash = path;
+    state.MaxChannels = 0;
+  });
+  document.ForgetSaved(path);
+  if (unwritten.Nothing()) {
+    document.MarkSaved(path);
+  } else {
+    document.MarkUnsaved();
+  }
+
+  QString result = "Scritta " + ShortName(path);
+  if (!unwritten.Nothing()) result += ": " + Text(unwritten.Text());
+  if (preparation.ratesMoved) result += RatesMovedText;
+  session_.status.ShowResult(result);
+  session_.dialogs.Message(Text(Routines::WriteSummary(document.Tables(), patched)), {}, Tone::Information);
+}
+
+void FileCommands::ConvertiSR() {
+  if (!session_.NeedsFlash()) return;
+  const auto chosen = session_.NeedsSettings();
+  if (!chosen) return;
+  const int changed = session_.document.Apply(
+      "Converti SR", [&chosen](State& state) { return Routines::ConvertiSR(state, chosen->Place()); });
+  session_.view.Show(View::Transponders);
+  session_.status.ShowResult(QString("Converti SR: %1 transponder ricodificati").arg(changed));
+}
+
+}  // namespace Ui

@@ -1,0 +1,43 @@
+// The commands that read and write flash images, and the symbol-rate conversion that goes with them.
+#pragma once
+
+#include "model/flash_writer.h"
+#include "support/pos_ini.h"
+#include "ui/session/session.h"
+
+namespace Ui {
+
+class FileCommands {
+ public:
+  explicit FileCommands(Session& session) : session_(session) {}
+
+  // Tells the window that a flash has been opened.
+  std::function<void(const std::string&)> onOpened;
+
+  // Asks for the image unless its path is given, as by a file dropped on the window.
+  void ApriFlashInput(std::string path = {});
+  void Salva();
+  void ApriFlashOutput();
+  void ConvertiSR();
+
+ private:
+  // What a write needs before anything is asked for.
+  struct Preparation {
+    Routines::WritePlan plan;
+    bool ratesMoved = false;  // SRDef no longer says what the list's codes were read with
+  };
+
+  std::optional<int> AskAppendStart();
+  void Load(const std::string& path, const Base::Bytes& image, int appendStart);
+  [[nodiscard]] bool RatesMoved(const Support::SymbolRates& rates) const;
+  std::optional<Preparation> Prepare();
+  void AskAndWrite(const Preparation& preparation);
+  void Write(const std::string& path, const Base::Bytes& original, const Preparation& preparation);
+  void TellWritten(const std::string& path, const Routines::PatchedFlash& patched,
+                   const Preparation& preparation);
+  std::string AskFlash(const QString& title, Support::FolderKind folder);
+
+  Session& session_;
+};
+
+}  // namespace Ui

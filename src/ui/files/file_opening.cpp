@@ -1,0 +1,77 @@
+#include "ui/files/file_opening.h"
+
+#include "base/file.h"
+#include "ui/files/dropped_file.h"
+#include "ui/kit/text.h"
+
+#include <QAction>
+#include <QFileInfo>
+#include <QTimer>
+
+namespace Ui {
+
+FileOpening::FileOpening(Session& session, FileCommands& files, ExchangeCommands& exchange, SdxCommands& sdx,
+                         RecentFiles& recent, const QAction& open, QObject* parent)
+    : QObject(parent),
+      session_(session),
+      files_(files),
+      exchange_(exchange),
+      sdx_(sdx),
+      recent_(recent),
+      open_(open) {
+  connect(&recent_, &RecentFiles::Chosen, this, &FileOpening::OpenRecent);
+  files_.onOpened = [this](const std::string& path) { recent_.Add(PathText(path)); };
+}
+
+// The button stays enabled while the command is not, and says why nothing is opened; so do dropped files.
+void FileOpening::OpenFlash(const std::string& path) {
+  if (open_.isEnabled()) {
+    files_.ApriFlashInput(path);
+  } else {
+    session_.status.ShowResult(open_.statusTip());
+  }
+}
+
+void FileOpening::OpenWhenChosen(const std::string& path) {
+  const auto open = [this, path] {
+    if (session_.settings.Chosen().quantiCanali) files_.ApriFlashInput(path);
+    return session_.settings.Chosen().quantiCanali.has_value();
+  };
+  if (open()) return;
+  session_.status.ShowResult("Scegliere in \"Canali da copiare\" quanti canali ha il ricevitore: " +
+                             PathText(Base::FileName(path)) + " si apre subito dopo");
+  auto* waiting = new QObject(this);
+  connect(&session_.settings, &SettingsPanel::Clicked, waiting, [open, waiting] {
+    if (!open()) return;
+    waiting->deleteLater();
+  });
+}
+
+void FileOpening::OpenRecent(const QString& path) {
+  if (session_.settings.Chosen().quantiCanali && !QFileInfo::exists(path)) {
+    session_.dialogs.Message("Flash non trovata: " + path + "\nViene tolta dai file recenti", {});
+    recent_.Remove(path);
+    return;
+  }
+  OpenFlash(PathBytes(path));
+}
+
+void FileOpening::Drop(const QMimeData& data) {
+  // The drag's source waits for the drop; the questions come after it.
+  QTimer::singleShot(0, this, [this, file = FileIn(data)] {
+    const std::string path = PathBytes(file.path);
+    if (file.ending == "dat") {
+      OpenFlash(path);
+    } else if (file.ending == "sdx") {
+      sdx_.Carica(path);
+    } else if (file.ending == "txt") {
+      exchange_.DaEsportatoTesto(path);
+    } else if (file.ending == "fls") {
+      exchange_.DaEsportato(path);
+    } else {
+      session_.status.ShowResult(file.refusal);
+    }
+  });
+}
+
+}  // namespace Ui

@@ -1,0 +1,129 @@
+#include "ui/files/print_commands.h"
+
+#include "base/file.h"
+#include "ui/kit/screen_fit.h"
+#include "ui/kit/text.h"
+#include "ui/kit/themed_icon.h"
+
+#include <QAction>
+#include <QComboBox>
+#include <QGraphicsView>
+#include <QIcon>
+#include <QLineEdit>
+#include <QPrintPreviewDialog>
+#include <QPrinter>
+#include <QToolBar>
+#include <QToolButton>
+
+namespace Ui {
+
+using Routines::State;
+
+namespace {
+
+int LastUsedTransponder(const State& state) {
+  int slot = state.TransponderCount;
+  while (slot > 0 && IsFree(state.Transponder(slot).record)) --slot;
+  return slot;
+}
+
+QString WithSource(const QString& heading, const QString& source) {
+  return source.isEmpty() ? heading : heading + " - " + source;
+}
+
+// The toolkit's preview leaves its buttons to the mouse and two controls without a name.
+void MakeReachable(QPrintPreviewDialog& dialog) {
+  for (auto* button : dialog.findChildren<QToolButton*>()) button->setFocusPolicy(Qt::TabFocus);
+  for (auto* page : dialog.findChildren<QGraphicsView*>()) page->setAccessibleName(dialog.windowTitle());
+  for (auto* scale : dialog.findChildren<QComboBox*>()) scale->setAccessibleDescription("Ingrandimento");
+  for (auto* number : dialog.findChildren<QLineEdit*>()) number->setAccessibleName("Pagina");
+}
+
+QString PagesText(int pages) { return pages == 1 ? QString("1 pagina") : QString("%1 pagine").arg(pages); }
+
+}  // namespace
+
+void PrintCommands::StampaGriglia() {
+  const ListView& view = session_.view;
+  if (view.Current() == View::None) {
+    session_.dialogs.Message("Funzione valida solo in visualizzazione canali", {});
+    return;
+  }
+  const State& state = session_.document.Tables();
+  const int last =
+      view.Current() == View::Channels ? Routines::LastOccupied(state) : LastUsedTransponder(state);
+  Print(view.ListGrid(), last, WithSource(view.PrintHeading(), PathText(Base::FileName(state.InputFlash))));
+}
+
+void PrintCommands::StampaSDX() {
+  const int rows = static_cast<int>(session_.sdx.rows.size());
+  if (rows == 0) {
+    session_.dialogs.Message("Canali SDX non caricati", {});
+    return;
+  }
+  Print(pane_.ListGrid(), rows, WithSource("Stampa SDX", pane_.Name()));
+}
+
+// One selected row is where the user is, more of them may be what is to be printed.
+void PrintCommands::Print(const Grid& grid, int lastRow, const QString& heading) {
+  Edit::Slots rows{1, lastRow};
+  const auto selected = grid.Selected();
+  if (selected && selected->Count() > 1) {
+    const Answer answer = session_.dialogs.YesNoCancel(
+        QString("Stampare solo le %1 righe selezionate?\nRispondere NO per stampare tutta la lista")
+            .arg(selected->Count()));
+    if (answer == Answer::Cancel) return;
+    if (answer == Answer::Yes) rows = *selected;
+  }
+  if (rows.Count() < 1) {
+    session_.dialogs.Message("Nessuna riga da stampare", {});
+    return;
+  }
+  Preview(ReportOf(*grid.model(), rows, heading));
+}
+
+// The line for the status bar; empty where the file could not be written, which a box has told then.
+QString PrintCommands::Save(const PrintReport& report, const std::string& path, const QPrinter& printer) {
+  if (session_.IsFlashOfList(path)) {
+    session_.dialogs.Message(QString("Non stampato: ") + FlashOfListChosen, {});
+    return {};
+  }
+  const auto pages = SavePdf(report, path, printer.pageLayout(), printer.pageRanges());
+  if (pages) return report.heading + ": " + PagesText(*pages) + " in " + PathText(Base::FileName(path));
+  session_.Message(pages.error());
+  return {};
+}
+
+// A preview draws on the printer before anything is chosen there. Once the print dialog has named a file the drawing
+// goes where every PDF does, so that the file is whole and a refusal is told.
+void PrintCommands::Preview(const PrintReport& report) {
+  QPrinter printer(QPrinter::HighResolution);
+  printer.setPageLayout(UsualPage());
+  printer.setDocName(report.heading);
+  QPrintPreviewDialog dialog(&printer, &window_);
+  dialog.setObjectName("AnteprimaStampa");
+  dialog.setWindowTitle(report.heading);
+  ResizeOnScreen(dialog, {900, 660});
+  QString result;
+  QObject::connect(&dialog, &QPrintPreviewDialog::paintRequested, &dialog, [&](QPrinter* to) {
+    if (!to->outputFileName().isEmpty()) {
+      result = Save(report, PathBytes(to->outputFileName()), *to);
+      return;
+    }
+    const auto pages = PrintPages(*to, report);
+    result = pages ? report.heading + ": " + PagesText(*pages) : QString("La stampa non è riuscita");
+  });
+  auto* save = dialog.findChild<QToolBar*>()->addAction(IconNamed("export"), "Salva come PDF");
+  save->setObjectName("SalvaPdf");
+  QObject::connect(save, &QAction::triggered, &dialog, [&] {
+    const QString path =
+        session_.dialogs.SaveFile({"Salva la stampa come PDF", "Documenti PDF (*.pdf)|*.pdf|", {}});
+    if (path.isEmpty()) return;
+    result = Save(report, PathBytes(path), printer);
+    if (!result.isEmpty()) dialog.accept();
+  });
+  MakeReachable(dialog);
+  if (dialog.exec() == QDialog::Accepted && !result.isEmpty()) session_.status.ShowResult(result);
+}
+
+}  // namespace Ui

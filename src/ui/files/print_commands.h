@@ -1,0 +1,30 @@
+// Printing of the list shown and of the SatcoDX table, by way of a preview.
+#pragma once
+
+#include "ui/files/print_report.h"
+#include "ui/session/session.h"
+#include "ui/sources/sdx_pane.h"
+
+class QPrinter;
+
+namespace Ui {
+
+class PrintCommands {
+ public:
+  PrintCommands(Session& session, const SdxPane& pane, QWidget& window)
+      : session_(session), pane_(pane), window_(window) {}
+
+  void StampaGriglia();
+  void StampaSDX();
+
+ private:
+  void Print(const Grid& grid, int lastRow, const QString& heading);
+  void Preview(const PrintReport& report);
+  QString Save(const PrintReport& report, const std::string& path, const QPrinter& printer);
+
+  Session& session_;
+  const SdxPane& pane_;
+  QWidget& window_;
+};
+
+}  // namespace Ui

@@ -1,0 +1,314 @@
+#include "ui/list/grid.h"
+
+#include <QContextMenuEvent>
+#include <QDrag>
+#include <QEvent>
+#include <QHeaderView>
+#include <QMimeData>
+#include <QMouseEvent>
+#include <QPainter>
+#include <QScrollBar>
+#include <QShortcut>
+#include <QSignalBlocker>
+
+#include <algorithm>
+#include <memory>
+#include <numeric>
+
+namespace Ui {
+namespace {
+
+constexpr int CellMargin = 14;
+
+QString HeaderStyle() {
+  return QString(
+             "QHeaderView::section { background-color: %1; color: black; padding: 3px 4px;"
+             " border: 0; border-right: 1px solid #7fb97f; border-bottom: 1px solid #7fb97f; }")
+      .arg(ToColor(Routines::Colours::Header).name());
+}
+
+}  // namespace
+
+Grid::Grid(QWidget* parent)
+    : QTableView(parent), frozen_(new QTableView(this)), dropLine_(new QWidget(this)) {
+  SetUp(*this);
+  SetUp(*frozen_);
+  setHorizontalScrollMode(ScrollPerPixel);
+  horizontalHeader()->setSectionResizeMode(QHeaderView::Interactive);
+  connect(horizontalHeader(), &QHeaderView::sectionResized, this,
+          [this](int column, int, int width) { KeepWidth(column, width); });
+  // Many keyboards have no menu key.
+  auto* menu = new QShortcut(QKeySequence(Qt::SHIFT | Qt::Key_F10), this);
+  menu->setContext(Qt::WidgetShortcut);
+  connect(menu, &QShortcut::activated, this, [this] {
+    QContextMenuEvent wanted(QContextMenuEvent::Keyboard, {}, {});
+    contextMenuEvent(&wanted);
+  });
+  setAcceptDrops(true);
+  setDropIndicatorShown(false);
+  dropLine_->setObjectName("LineaRilascio");
+  dropLine_->setAttribute(Qt::WA_TransparentForMouseEvents);
+  dropLine_->setAutoFillBackground(true);
+  dropLine_->hide();
+  setDragDropMode(DragDrop);
+  setDragDropOverwriteMode(false);
+  setDefaultDropAction(Qt::MoveAction);
+
+  frozen_->setObjectName("ColonnaFissa");
+  frozen_->setFocusPolicy(Qt::NoFocus);
+  frozen_->setAttribute(Qt::WA_TransparentForMouseEvents);  // its rows are those of the grid below it
+  frozen_->setFrameShape(NoFrame);
+  frozen_->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+  frozen_->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+  frozen_->hide();
+  connect(verticalScrollBar(), &QScrollBar::valueChanged, frozen_->verticalScrollBar(),
+          &QScrollBar::setValue);
+  connect(frozen_->verticalScrollBar(), &QScrollBar::valueChanged, this, [this](int row) {
+    if (frozen_->isVisible()) verticalScrollBar()->setValue(row);
+  });
+  connect(horizontalScrollBar(), &QScrollBar::valueChanged, this, &Grid::ShowFrozen);
+  viewport()->stackUnder(frozen_);
+}
+
+void Grid::SetUp(QTableView& view) {
+  view.verticalHeader()->hide();
+  view.verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
+  view.verticalHeader()->setDefaultSectionSize(fontMetrics().height() + 6);
+  view.horizontalHeader()->setStyleSheet(HeaderStyle());
+  view.horizontalHeader()->setSectionResizeMode(QHeaderView::Fixed);
+  view.horizontalHeader()->setHighlightSections(false);
+  view.setSelectionBehavior(SelectRows);
+  view.setSelectionMode(ContiguousSelection);
+  view.setEditTriggers(NoEditTriggers);
+  view.setVerticalScrollMode(ScrollPerItem);
+  view.setWordWrap(false);
+  view.setCornerButtonEnabled(false);
+  view.setTabKeyNavigation(false);
+}
+
+void Grid::ShowList(TableModel* list) {
+  if (list != model()) {
+    const std::unique_ptr<QItemSelectionModel> oldSelection(selectionModel());
+    setModel(list);
+    if (frozen_->model() != nullptr) frozen_->setModel(nullptr);  // until it is shown
+  }
+  widths_.clear();
+  own_ = {0};
+  for (const HeaderColumn& column : list->Header()) {
+    widths_.push_back(fontMetrics().horizontalAdvance(column.widthText) + CellMargin);
+  }
+  FitColumns();
+  selectionModel()->clear();
+  selectionModel()->setCurrentIndex(list->index(0, 1), QItemSelectionModel::NoUpdate);
+  scrollToTop();
+  horizontalScrollBar()->setValue(0);
+}
+
+std::optional<Edit::Slots> Grid::Selected() const {
+  if (selectionModel() == nullptr) return std::nullopt;
+  std::optional<Edit::Slots> rows;
+  for (const QItemSelectionRange& range : selectionModel()->selection()) {
+    const int first = range.top() + 1;
+    const int last = range.bottom() + 1;
+    rows = rows ? Edit::Slots{std::min(rows->first, first), std::max(rows->last, last)}
+                : Edit::Slots{first, last};
+  }
+  return rows;
+}
+
+void Grid::Select(Edit::Slots rows) {
+  const QModelIndex first = model()->index(rows.first - 1, 1);
+  const QModelIndex last = model()->index(rows.last - 1, 1);
+  const int sideways = horizontalScrollBar()->value();
+  selectionModel()->setCurrentIndex(first, QItemSelectionModel::NoUpdate);
+  selectionModel()->select({first, last}, QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows);
+  // All of them where they fit, else the first ones.
+  scrollTo(last);
+  scrollTo(first);
+  horizontalScrollBar()->setValue(sideways);
+}
+
+void Grid::ScrollToTop(int slot) { verticalScrollBar()->setValue(slot - 1); }
+
+// By the mouse on the row that it has just selected, by the keyboard beside the current one.
+void Grid::contextMenuEvent(QContextMenuEvent* event) {
+  const bool keyboard = event->reason() == QContextMenuEvent::Keyboard;
+  const QModelIndex index = keyboard ? currentIndex() : indexAt(event->pos());
+  if (!index.isValid()) return;
+  if (!selectionModel()->isRowSelected(index.row())) Select({index.row() + 1, index.row() + 1});
+  Q_EMIT MenuWanted(keyboard ? viewport()->mapToGlobal(visualRect(index).center()) : event->globalPos());
+}
+
+// A drag that begins on a selected row carries the selection, any other selects.
+void Grid::mousePressEvent(QMouseEvent* event) {
+  setDragEnabled(selectionModel() != nullptr &&
+                 selectionModel()->isSelected(indexAt(event->position().toPoint())));
+  QTableView::mousePressEvent(event);
+}
+
+void Grid::startDrag(Qt::DropActions) {
+  const auto rows = Selected();
+  if (!rows) return;
+  const QString text = rows->Count() == 1 ? QString("1 canale") : QString("%1 canali").arg(rows->Count());
+  QPixmap label(fontMetrics().horizontalAdvance(text) + 16, fontMetrics().height() + 8);
+  label.fill(palette().color(QPalette::Highlight));
+  QPainter painter(&label);
+  painter.setPen(palette().color(QPalette::HighlightedText));
+  painter.drawText(label.rect(), Qt::AlignCenter, text);
+  painter.end();
+
+  auto* drag = new QDrag(this);
+  drag->setMimeData(
+      model()->mimeData({model()->index(rows->first - 1, 0), model()->index(rows->last - 1, 0)}));
+  drag->setPixmap(label);
+  drag->exec(Qt::MoveAction | Qt::CopyAction, Qt::MoveAction);
+}
+
+// Rows of another program would be numbers of another list.
+void Grid::dragEnterEvent(QDragEnterEvent* event) {
+  const bool ownSdx = event->source() != nullptr && event->mimeData()->hasFormat(SdxRowsType);
+  if (event->source() == this || ownSdx) QTableView::dragEnterEvent(event);
+}
+
+void Grid::dragMoveEvent(QDragMoveEvent* event) {
+  QTableView::dragMoveEvent(event);
+  ShowDropLine(event->position().toPoint());
+}
+
+void Grid::dragLeaveEvent(QDragLeaveEvent* event) {
+  QTableView::dragLeaveEvent(event);
+  dropLine_->hide();
+}
+
+void Grid::dropEvent(QDropEvent* event) {
+  QTableView::dropEvent(event);
+  dropLine_->hide();
+}
+
+// Between the two rows that are nearest, or behind the last one.
+void Grid::ShowDropLine(QPoint place) {
+  const QModelIndex index = indexAt(place);
+  const QRect row = visualRect(index.isValid() ? index : model()->index(model()->rowCount() - 1, 0));
+  const bool above = index.isValid() && place.y() < row.center().y();
+  const int y = viewport()->geometry().top() + (above ? row.top() : row.bottom() + 1);
+  QPalette colours = palette();
+  colours.setColor(QPalette::Window, palette().color(QPalette::Highlight));
+  dropLine_->setPalette(colours);
+  dropLine_->setGeometry(frameWidth(), y - 2, viewport()->width(), 4);
+  dropLine_->show();
+  dropLine_->raise();
+}
+
+// Another list has no selection, and the view says nothing of the one that is gone.
+void Grid::reset() {
+  QTableView::reset();
+  Q_EMIT SelectionMoved();
+}
+
+void Grid::selectionChanged(const QItemSelection& selected, const QItemSelection& deselected) {
+  QTableView::selectionChanged(selected, deselected);
+  Q_EMIT SelectionMoved();
+}
+
+std::vector<int> Grid::SharedWidths() const {
+  std::vector<int> widths = widths_;
+  int spare = viewport()->width() - std::accumulate(widths.begin(), widths.end(), 0);
+  if (spare <= 0) return widths;
+  int sharing = 0;
+  for (std::size_t i = 0; i < widths.size(); ++i) sharing += own_.contains(i) ? 0 : widths[i];
+  // Each takes its part of what those before it have left, so that no pixel is.
+  for (std::size_t i = 0; i < widths.size(); ++i) {
+    if (own_.contains(i)) continue;
+    const int share = spare * widths[i] / std::max(sharing, 1);
+    sharing -= widths[i];
+    widths[i] += share;
+    spare -= share;
+  }
+  return widths;
+}
+
+void Grid::FitColumns() {
+  if (widths_.empty() || !isVisible()) return;
+  const std::vector<int> widths = SharedWidths();
+  {
+    // Told of each width, the view would paint once before and once after it has taken them in.
+    const QSignalBlocker quiet(horizontalHeader());
+    for (std::size_t i = 0; i < widths.size(); ++i) setColumnWidth(static_cast<int>(i), widths[i]);
+  }
+  updateGeometries();
+  viewport()->update();
+  frozen_->setColumnWidth(0, widths[0]);
+  PlaceFrozen();
+}
+
+// A column that the user has made wider or narrower keeps that width when the window changes its own.
+void Grid::KeepWidth(int column, int width) {
+  if (static_cast<std::size_t>(column) >= widths_.size()) return;
+  widths_[static_cast<std::size_t>(column)] = width;
+  own_.insert(static_cast<std::size_t>(column));
+  frozen_->setColumnWidth(0, columnWidth(0));
+  PlaceFrozen();
+}
+
+// It stands over the grid only while the grid's own first column is out of view: the toolkit moves the picture of a
+// view that is scrolled, but paints every cell of one that something stands over.
+void Grid::ShowFrozen(int sideways) {
+  if (frozen_->isHidden() == (sideways == 0)) return;
+  frozen_->setVisible(sideways != 0);
+  if (sideways == 0) return;
+  if (frozen_->model() != model()) {
+    frozen_->setModel(model());
+    const std::unique_ptr<QItemSelectionModel> unused(frozen_->selectionModel());
+    frozen_->setSelectionModel(selectionModel());
+    for (int column = 1; column < model()->columnCount(); ++column) frozen_->setColumnHidden(column, true);
+    frozen_->setColumnWidth(0, columnWidth(0));
+  }
+  // Hidden, it had no rows to scroll by.
+  frozen_->doItemsLayout();
+  frozen_->verticalScrollBar()->setValue(verticalScrollBar()->value());
+}
+
+void Grid::PlaceFrozen() {
+  const int header = horizontalHeader()->height();
+  frozen_->horizontalHeader()->setFixedHeight(header);
+  frozen_->setGeometry(frameWidth(), frameWidth(), columnWidth(0), viewport()->height() + header);
+}
+
+void Grid::resizeEvent(QResizeEvent* event) {
+  QTableView::resizeEvent(event);
+  FitColumns();
+}
+
+void Grid::showEvent(QShowEvent* event) {
+  QTableView::showEvent(event);
+  FitColumns();
+}
+
+void Grid::changeEvent(QEvent* event) {
+  QTableView::changeEvent(event);
+  if (event->type() != QEvent::FontChange && event->type() != QEvent::StyleChange) return;
+  for (QTableView* view : {static_cast<QTableView*>(this), frozen_}) {
+    if (view != nullptr) view->verticalHeader()->setDefaultSectionSize(fontMetrics().height() + 6);
+  }
+  FitColumns();
+}
+
+// A cell must not come to lie behind the frozen column; the first one is there to see all others from their start.
+QModelIndex Grid::moveCursor(CursorAction action, Qt::KeyboardModifiers modifiers) {
+  const QModelIndex index = QTableView::moveCursor(action, modifiers);
+  QScrollBar& sideways = *horizontalScrollBar();
+  if (index.column() == 0) {
+    sideways.setValue(0);
+  } else if (visualRect(index).left() < columnWidth(0)) {
+    sideways.setValue(sideways.value() + visualRect(index).left() - columnWidth(0));
+  }
+  return index;
+}
+
+void Grid::scrollTo(const QModelIndex& index, ScrollHint hint) {
+  const int sideways = horizontalScrollBar()->value();
+  QTableView::scrollTo(index, hint);
+  if (index.column() == 0) horizontalScrollBar()->setValue(sideways);
+}
+
+}  // namespace Ui

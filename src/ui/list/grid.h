@@ -1,0 +1,69 @@
+// A grid whose first column stays in view when it is scrolled sideways, and whose columns
+// share the spare width.
+#pragma once
+
+#include "edit/list_operations.h"
+#include "ui/list/table_model.h"
+
+#include <QTableView>
+
+#include <optional>
+#include <set>
+
+namespace Ui {
+
+class Grid : public QTableView {
+  Q_OBJECT
+
+ public:
+  explicit Grid(QWidget* parent);
+
+  // Shows a list from its first row on: row 1 is current, nothing is selected. Its columns share the
+  // spare width of the window by the widths that the header gives them, all but the first one.
+  void ShowList(TableModel* list);
+
+  // The rows of the selection, from slot 1 on; nothing when none is selected.
+  [[nodiscard]] std::optional<Edit::Slots> Selected() const;
+  // Selects rows and makes the first of them current, where it is or scrolled to.
+  void Select(Edit::Slots rows);
+  // Makes a row the first visible one, as far as the list's end lets it.
+  void ScrollToTop(int slot);
+
+  void scrollTo(const QModelIndex& index, ScrollHint hint = EnsureVisible) override;
+
+ Q_SIGNALS:
+  void SelectionMoved();
+  // The user wants the menu of the selected rows, at a place of the screen.
+  void MenuWanted(QPoint place);
+
+ protected:
+  void contextMenuEvent(QContextMenuEvent* event) override;
+  void mousePressEvent(QMouseEvent* event) override;
+  void startDrag(Qt::DropActions actions) override;
+  void dragEnterEvent(QDragEnterEvent* event) override;
+  void dragMoveEvent(QDragMoveEvent* event) override;
+  void dragLeaveEvent(QDragLeaveEvent* event) override;
+  void dropEvent(QDropEvent* event) override;
+  void reset() override;
+  void selectionChanged(const QItemSelection& selected, const QItemSelection& deselected) override;
+  void resizeEvent(QResizeEvent* event) override;
+  void showEvent(QShowEvent* event) override;
+  void changeEvent(QEvent* event) override;
+  QModelIndex moveCursor(CursorAction action, Qt::KeyboardModifiers modifiers) override;
+
+ private:
+  void SetUp(QTableView& view);
+  void ShowDropLine(QPoint place);
+  [[nodiscard]] std::vector<int> SharedWidths() const;
+  void FitColumns();
+  void KeepWidth(int column, int width);
+  void ShowFrozen(int sideways);
+  void PlaceFrozen();
+
+  QTableView* frozen_;               // the first column, on the same model
+  QWidget* dropLine_;                // where dragged rows would land, across all columns
+  std::vector<int> widths_;          // of the columns without the spare width
+  std::set<std::size_t> own_ = {0};  // columns that take no part of it
+};
+
+}  // namespace Ui

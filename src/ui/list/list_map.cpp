@@ -1,0 +1,83 @@
+#include "ui/list/list_map.h"
+
+#include "model/cells.h"
+#include "ui/list/list_model.h"
+
+#include <QMouseEvent>
+#include <QPainter>
+
+#include <map>
+
+namespace Ui {
+namespace {
+
+// The colour that most of the slots have.
+Routines::Colour MostlyIn(const Routines::State& state, int first, int end) {
+  std::map<Routines::Colour, int> counts;
+  Routines::Colour most = Routines::Colours::EmptySlot;
+  for (int slot = first; slot < end; ++slot) {
+    const Routines::Colour colour = Routines::ChannelColour(state, slot);
+    if (++counts[colour] > counts[most]) most = colour;
+  }
+  return most;
+}
+
+}  // namespace
+
+ListMap::ListMap(const Document& document, QWidget* parent) : QWidget(parent), document_(document) {
+  setObjectName("MappaLista");
+  setAccessibleName("Mappa della lista");
+  setToolTip("Mappa della lista: un clic porta alla riga");
+  setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Ignored);
+  setCursor(Qt::PointingHandCursor);
+  connect(&document, &Document::Changed, this, [this] {
+    bands_ = {};
+    update();
+  });
+}
+
+void ListMap::ShowSelection(int first, int last) {
+  first_ = first;
+  last_ = last;
+  update();
+}
+
+int ListMap::SlotAt(int y) const {
+  const int count = document_.Tables().ChannelCount;
+  return std::clamp(1 + y * count / std::max(height(), 1), 1, std::max(count, 1));
+}
+
+void ListMap::Draw() {
+  bands_ = QImage(1, height(), QImage::Format_RGB32);
+  const Routines::State& state = document_.Tables();
+  for (int y = 0; y < height(); ++y) {
+    const int first = SlotAt(y);
+    bands_.setPixelColor(0, y, ToColor(MostlyIn(state, first, std::max(SlotAt(y + 1), first + 1))));
+  }
+}
+
+void ListMap::paintEvent(QPaintEvent*) {
+  const int count = document_.Tables().ChannelCount;
+  if (count == 0 || height() < 1) return;
+  if (bands_.height() != height()) Draw();
+  QPainter painter(this);
+  painter.drawImage(rect(), bands_);
+  painter.setPen(palette().color(QPalette::Mid));
+  painter.drawRect(rect().adjusted(0, 0, -1, -1));
+  if (first_ == 0) return;
+  const int top = (first_ - 1) * height() / count;
+  const int bottom = std::max(last_ * height() / count, top + 3);
+  painter.fillRect(QRect(0, top, 6, bottom - top), palette().color(QPalette::Highlight));
+}
+
+void ListMap::mousePressEvent(QMouseEvent* event) { Choose(*event); }
+
+void ListMap::mouseMoveEvent(QMouseEvent* event) { Choose(*event); }
+
+void ListMap::Choose(const QMouseEvent& event) {
+  if ((event.buttons() & Qt::LeftButton) != 0 && document_.Tables().ChannelCount > 0) {
+    Q_EMIT Chosen(SlotAt(static_cast<int>(event.position().y())));
+  }
+}
+
+}  // namespace Ui

@@ -1,0 +1,124 @@
+#include "ui/list/list_model.h"
+
+#include "base/text.h"
+#include "ui/kit/dialogs.h"
+#include "ui/kit/text.h"
+
+#include <QMimeData>
+#include <QStringList>
+
+#include <map>
+
+namespace Ui {
+
+using Routines::State;
+
+namespace {
+
+constexpr int NameColumn = 1;  // of a transponder, its frequency
+
+}  // namespace
+
+const ListModel::Kind ListModel::Channels = {
+    Routines::ChannelHeader, [](const State& state) { return state.ChannelCount; }, Routines::ChannelCell,
+    [](const State& state, int slot, int) { return Routines::ChannelColour(state, slot); }, true};
+
+const ListModel::Kind ListModel::Transponders = {
+    Routines::TransponderHeader, [](const State& state) { return state.TransponderCount; },
+    Routines::TransponderCell, Routines::TransponderColour, false};
+
+ListModel::ListModel(const Document& document, const Kind& kind, QObject* parent)
+    : TableModel(kind.header, parent), document_(document), kind_(kind), rows_(kind.rows(document.Tables())) {
+  connect(&document, &Document::Changed, this, &ListModel::Refresh);
+}
+
+int ListModel::rowCount(const QModelIndex& parent) const { return parent.isValid() ? 0 : rows_; }
+
+QString ListModel::CellText(int slot, int column) const {
+  return CodePageText(Base::TrimmedRight(kind_.cell(document_.Tables(), slot, column)));
+}
+
+// What the colours say, for those who do not see them.
+QString ListModel::SpokenColour(int slot) const {
+  using namespace Routines;
+  static const std::map<Colour, QString> Told = {{Colours::Tv, "TV"},
+                                                 {Colours::Radio, "Radio"},
+                                                 {Colours::Service, "Servizio"},
+                                                 {Colours::Inactive, "Non attivo"},
+                                                 {Colours::EmptySlot, "Posto vuoto"},
+                                                 {Colours::DoubtfulTransponder, "Fuori banda o senza SR"},
+                                                 {Colours::NoFrequency, "Posto libero"}};
+  const auto row = Told.find(kind_.colour(document_.Tables(), slot, NameColumn));
+  QStringList parts;
+  if (row != Told.end()) parts += row->second;
+  if (!marks_.empty() && marks_[static_cast<std::size_t>(slot)] != Mark::None) parts += "trovato";
+  return parts.join(", ");
+}
+
+// Once a row, with its name or frequency.
+QVariant ListModel::data(const QModelIndex& index, int role) const {
+  if (role == Qt::AccessibleDescriptionRole && index.isValid())
+    return index.column() == NameColumn ? SpokenColour(index.row() + 1) : QString();
+  return TableModel::data(index, role);
+}
+
+Routines::Colour ListModel::CellColour(int slot, int column) const {
+  const Mark mark = marks_.empty() ? Mark::None : marks_[static_cast<std::size_t>(slot)];
+  if (mark == Mark::Found) return Routines::Colours::Found;
+  if (column == 0) return Routines::Colours::Header;
+  if (mark == Mark::Filtered) return Routines::Colours::Filtered;
+  return kind_.colour(document_.Tables(), slot, column);
+}
+
+void ListModel::SetMark(int slot, Mark mark) {
+  if (slot < 1 || slot > rows_) return;
+  marks_.resize(static_cast<std::size_t>(rows_) + 1, Mark::None);
+  marks_[static_cast<std::size_t>(slot)] = mark;
+  Q_EMIT dataChanged(index(slot - 1, 0), index(slot - 1, columnCount() - 1));
+}
+
+void ListModel::ClearMarks() {
+  if (marks_.empty()) return;
+  marks_.clear();
+  if (rows_ > 0) Q_EMIT dataChanged(index(0, 0), index(rows_ - 1, columnCount() - 1));
+}
+
+Qt::ItemFlags ListModel::flags(const QModelIndex& index) const {
+  if (!index.isValid()) return kind_.movable ? Qt::ItemIsDropEnabled : Qt::NoItemFlags;
+  const Qt::ItemFlags usual = QAbstractTableModel::flags(index) | Qt::ItemIsEditable;
+  return kind_.movable ? usual | Qt::ItemIsDragEnabled : usual;
+}
+
+Qt::DropActions ListModel::supportedDropActions() const { return Qt::MoveAction | Qt::CopyAction; }
+
+QStringList ListModel::mimeTypes() const { return {SlotsType, SdxRowsType}; }
+
+QMimeData* ListModel::mimeData(const QModelIndexList& indexes) const { return RowsAs(SlotsType, indexes); }
+
+bool ListModel::dropMimeData(const QMimeData* data, Qt::DropAction action, int row, int,
+                             const QModelIndex& parent) {
+  const bool own = data->hasFormat(SlotsType);
+  const QList<QByteArray> dragged = data->data(own ? SlotsType : SdxRowsType).split(' ');
+  if (!kind_.movable || dragged.size() != 2) return false;
+  const int before = row >= 0 ? row + 1 : parent.isValid() ? parent.row() + 1 : rows_ + 1;
+  if (own) {
+    Q_EMIT Dropped(dragged[0].toInt(), dragged[1].toInt(), before, action == Qt::CopyAction);
+  } else {
+    Q_EMIT SdxDropped(dragged[0].toInt(), dragged[1].toInt(), before);
+  }
+  return true;
+}
+
+void ListModel::Refresh() {
+  marks_.clear();
+  const int rows = kind_.rows(document_.Tables());
+  if (rows != rows_) {
+    beginResetModel();
+    rows_ = rows;
+    endResetModel();
+  } else if (rows > 0) {
+    Q_EMIT dataChanged(index(0, 0), index(rows - 1, columnCount() - 1));
+  }
+}
+
+}  // namespace Ui

@@ -1,0 +1,64 @@
+// The channel list and the transponder list as models: a cell is decoded when it is painted.
+#pragma once
+
+#include "model/cells.h"
+#include "ui/list/document.h"
+#include "ui/list/table_model.h"
+
+namespace Ui {
+
+class ListModel : public TableModel {
+  Q_OBJECT
+
+ public:
+  // One of the two lists, told by what it shows and how.
+  struct Kind {
+    std::string_view header;
+    int (*rows)(const Routines::State&);
+    std::string (*cell)(const Routines::State&, int slot, int column);
+    Routines::Colour (*colour)(const Routines::State&, int slot, int column);
+    bool movable;  // rows can be dragged to other places
+  };
+  static const Kind Channels;
+  static const Kind Transponders;
+
+  ListModel(const Document& document, const Kind& kind, QObject* parent);
+
+  [[nodiscard]] bool OfChannels() const { return &kind_ == &Channels; }
+
+  // Rows that a search has found are painted in a colour of their own until the list changes.
+  enum class Mark : unsigned char { None, Filtered, Found };
+  void SetMark(int slot, Mark mark);
+  void ClearMarks();
+
+  [[nodiscard]] QVariant data(const QModelIndex& index, int role) const override;
+  [[nodiscard]] int rowCount(const QModelIndex& parent = {}) const override;
+  [[nodiscard]] Qt::ItemFlags flags(const QModelIndex& index) const override;
+  [[nodiscard]] Qt::DropActions supportedDropActions() const override;
+  [[nodiscard]] QStringList mimeTypes() const override;
+  [[nodiscard]] QMimeData* mimeData(const QModelIndexList& indexes) const override;
+  bool dropMimeData(const QMimeData* data, Qt::DropAction action, int row, int column,
+                    const QModelIndex& parent) override;
+
+ Q_SIGNALS:
+  // The rows of slots `first`..`last` were dropped in front of slot `before`.
+  void Dropped(int first, int last, int before, bool copy);
+
+  // The rows of the SDX table from `first` to `last` were.
+  void SdxDropped(int first, int last, int before);
+
+ protected:
+  [[nodiscard]] QString CellText(int slot, int column) const override;
+  [[nodiscard]] Routines::Colour CellColour(int slot, int column) const override;
+
+ private:
+  void Refresh();
+  [[nodiscard]] QString SpokenColour(int slot) const;
+
+  const Document& document_;
+  const Kind& kind_;
+  int rows_ = 0;
+  std::vector<Mark> marks_;  // by slot; empty when there are none
+};
+
+}  // namespace Ui

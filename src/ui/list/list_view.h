@@ -1,0 +1,90 @@
+// The place of the window that shows the channel list, the transponder list or neither, and the two menu commands
+// that switch it. Beside the channel list stand its filter field and its map.
+#pragma once
+
+#include "ui/list/cell_delegate.h"
+#include "ui/list/filter_bar.h"
+#include "ui/list/grid.h"
+#include "ui/list/list_map.h"
+#include "ui/list/list_model.h"
+
+#include <QWidget>
+
+class QAction;
+class QLabel;
+class QStackedWidget;
+
+namespace Ui {
+
+enum class View { None, Channels, Transponders };
+
+class ListView : public QWidget {
+  Q_OBJECT
+
+ public:
+  ListView(const Document& document, QAction& showChannels, QAction& showTransponders, QWidget* parent);
+
+  [[nodiscard]] View Current() const { return current_; }
+  [[nodiscard]] Grid& ListGrid() const { return *grid_; }
+  [[nodiscard]] FilterBar& Filter() const { return *filter_; }
+  // "Stampa Canali" or "Stampa Transponder", as the list last shown asks for.
+  [[nodiscard]] QString PrintHeading() const { return printHeading_; }
+
+  // Shows a list, marker and ticks included. One that is shown already keeps its place, unless it is to start anew.
+  void Show(View view);
+  void ShowFromStart(View view);
+  // The menu commands: a list that is shown is closed, else it is shown.
+  void Toggle(View view);
+  // Sets the ticks to what is shown, for a command that was refused.
+  void RestoreTicks();
+
+  // What stands in the place of a list while none is loaded.
+  void StartWith(QWidget* page);
+
+  // Marks rows of the list that they belong to, which is shown, and makes the first of them current.
+  void ShowRows(FilterBar::Rows rows);
+
+  // Lets the user edit the cells of both lists.
+  void EditWith(CellEdits& edits);
+  // Takes what is in an open editor, or drops it where it is refused.
+  void FinishEditing();
+
+  // Makes a channel current and the first visible one, with nothing selected.
+  void GoTo(int slot);
+  // Does so with a channel that a search has found, and paints its row.
+  void ShowFound(int slot);
+
+ Q_SIGNALS:
+  // The rows of slots `first`..`last` were dropped in front of slot `before`.
+  void Dropped(int first, int last, int before, bool copy);
+  // The rows of the SDX table from `first` to `last` were.
+  void SdxDropped(int first, int last, int before);
+  // A list is shown anew, or none is.
+  void Shown(View view);
+  // A command has made a channel current.
+  void WentTo(int slot);
+
+ private:
+  void LayOut();
+  void ShowHint();
+  void MarkMatches();
+  void StepMatch(bool forward);
+
+  const Document& document_;
+  QAction& showChannels_;
+  QAction& showTransponders_;
+  ListModel channels_;
+  ListModel transponders_;
+  QLabel* marker_;  // Text1: "Canali", "Transponders" or nothing
+  FilterBar* filter_;
+  QLabel* hint_;  // while no list is shown
+  QWidget* start_ = nullptr;
+  Grid* grid_;
+  CellDelegate* cells_ = nullptr;
+  ListMap* map_;
+  QStackedWidget* stack_;
+  View current_ = View::None;
+  QString printHeading_;
+};
+
+}  // namespace Ui

@@ -1,0 +1,117 @@
+#include "ui/list/tree_pane.h"
+
+#include "ui/kit/elided_label.h"
+
+#include <QStyledItemDelegate>
+#include <QToolButton>
+#include <QVBoxLayout>
+
+namespace Ui {
+
+using Routines::ListTree;
+
+namespace {
+
+// Rows that are easy to hit.
+class RoomyRows : public QStyledItemDelegate {
+ public:
+  using QStyledItemDelegate::QStyledItemDelegate;
+
+  [[nodiscard]] QSize sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const override {
+    return QStyledItemDelegate::sizeHint(option, index) + QSize(0, 4);
+  }
+};
+
+}  // namespace
+
+void BranchView::keyPressEvent(QKeyEvent* event) {
+  const QPersistentModelIndex before = currentIndex();
+  QTreeView::keyPressEvent(event);
+  if (currentIndex() != before) Q_EMIT Walked(currentIndex());
+}
+
+TreePane::TreePane(const Document& document, const std::vector<Routines::Satellite>& satellites,
+                   ListTree::Shape shape, const QString& name, const QString& caption, QWidget* parent)
+    : QWidget(parent), model_(document, satellites, shape, this), tree_(new BranchView(this)) {
+  tree_->setObjectName(name);
+  tree_->setAccessibleName(caption);
+  tree_->setHeaderHidden(true);
+  tree_->setUniformRowHeights(true);
+  tree_->setTextElideMode(Qt::ElideRight);
+  tree_->setIndentation(16);
+  tree_->setIconSize(QSize(10, 10));
+  tree_->setEditTriggers(QAbstractItemView::NoEditTriggers);
+  tree_->setItemDelegate(new RoomyRows(tree_));
+  tree_->setModel(&model_);
+  connect(tree_, &QTreeView::clicked, this, &TreePane::Choose);
+  connect(tree_, &BranchView::Walked, this, &TreePane::Choose);
+  connect(&document, &Document::Changed, this, &TreePane::Refresh);
+
+  auto* label = new ElidedLabel(Qt::ElideRight, this);
+  label->Show(caption);
+  QFont bold = label->font();
+  bold.setBold(true);
+  label->setFont(bold);
+  auto* close = new QToolButton(this);
+  close->setObjectName("Chiudi" + name);
+  close->setText("✕");
+  close->setAutoRaise(true);
+  close->setAccessibleName("Chiudi");
+  close->setToolTip("Chiudi");
+  connect(close, &QToolButton::clicked, this, &TreePane::Closed);
+
+  auto* head = new QHBoxLayout;
+  head->addWidget(label, 1);
+  head->addWidget(close);
+  auto* column = new QVBoxLayout(this);
+  column->setContentsMargins(0, 0, 0, 0);
+  column->setSpacing(3);
+  column->addLayout(head);
+  column->addWidget(tree_, 1);
+}
+
+QSize TreePane::sizeHint() const {
+  const int row = fontMetrics().horizontalAdvance("SAT A  Un satellite (0000)") + 4 * tree_->indentation();
+  return {std::max(240, row), 400};
+}
+
+void TreePane::Refresh() {
+  stale_ = isHidden();
+  if (stale_) return;
+  const bool empty = model_.rowCount() == 0;
+  model_.Refresh();
+  if (empty) tree_->expandToDepth(0);
+  if (!tree_->currentIndex().isValid()) Q_EMIT CurrentWanted();
+}
+
+void TreePane::showEvent(QShowEvent* event) {
+  if (stale_) Refresh();
+  QWidget::showEvent(event);
+  Q_EMIT CurrentWanted();
+}
+
+void TreePane::ShowChannel(int slot) { Show(model_.IndexOfChannel(slot)); }
+
+void TreePane::ShowTransponder(int slot) { Show(model_.IndexOfTransponder(slot)); }
+
+// A hidden tree is out of date; it asks when it comes up.
+void TreePane::Show(const QModelIndex& index) {
+  if (isHidden() || index == tree_->currentIndex()) return;
+  if (index.isValid()) {
+    tree_->setCurrentIndex(index);
+  } else {
+    tree_->selectionModel()->clear();
+  }
+}
+
+void TreePane::Choose(const QModelIndex& index) {
+  if (const ListTree::Channel* channel = model_.ChannelOf(index); channel != nullptr) {
+    Q_EMIT ChannelChosen(channel->slot);
+    return;
+  }
+  const ListTree::Group* group = model_.GroupOf(index);
+  if (group != nullptr && group->kind == ListTree::Kind::Transponder)
+    Q_EMIT TransponderChosen(group->number, model_.FirstChannel(group->number));
+}
+
+}  // namespace Ui

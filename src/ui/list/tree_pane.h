@@ -1,0 +1,60 @@
+// One of the two trees beside the list, with its caption.
+#pragma once
+
+#include "ui/list/tree_model.h"
+
+#include <QTreeView>
+
+namespace Ui {
+
+// Tells where the keys have taken the current node, which a view alone does not tell from what the program does.
+class BranchView : public QTreeView {
+  Q_OBJECT
+
+ public:
+  using QTreeView::QTreeView;
+
+ Q_SIGNALS:
+  void Walked(const QModelIndex& index);
+
+ protected:
+  void keyPressEvent(QKeyEvent* event) override;
+};
+
+class TreePane : public QWidget {
+  Q_OBJECT
+
+ public:
+  // `name` is the control name of the tree.
+  TreePane(const Document& document, const std::vector<Routines::Satellite>& satellites,
+           Routines::ListTree::Shape shape, const QString& name, const QString& caption, QWidget* parent);
+
+  // While the tree is shown: makes a channel or a transponder current, with its branch open. Nothing is current where
+  // there is no such node.
+  void ShowChannel(int slot);
+  void ShowTransponder(int slot);
+
+  [[nodiscard]] QSize sizeHint() const override;
+
+ Q_SIGNALS:
+  // The user has come to a node.
+  void ChannelChosen(int slot);
+  void TransponderChosen(int slot, int firstChannel);
+  void Closed();
+  // The tree comes up, or an edit has left nothing current.
+  void CurrentWanted();
+
+ protected:
+  void showEvent(QShowEvent* event) override;
+
+ private:
+  void Refresh();
+  void Show(const QModelIndex& index);
+  void Choose(const QModelIndex& index);
+
+  TreeModel model_;
+  BranchView* tree_;
+  bool stale_ = true;
+};
+
+}  // namespace Ui

@@ -1,0 +1,31 @@
+// The commands that compare the list with another flash or with what is on the disk.
+#pragma once
+
+#include "ui/review/other_flash.h"
+
+#include <QPointer>
+
+class QMainWindow;
+
+namespace Ui {
+
+class CompareWindow;
+
+class CompareCommands {
+ public:
+  CompareCommands(Session& session, QMainWindow& window) : session_(session), window_(window) {}
+
+  void Confronta();
+  void ConfrontaDisco();
+  void CloseWindow();
+
+ private:
+  // Shows the window, or says that there is nothing to show.
+  void Compare(OtherFlash other);
+
+  Session& session_;
+  QMainWindow& window_;
+  QPointer<CompareWindow> shown_;
+};
+
+}  // namespace Ui

@@ -1,0 +1,288 @@
+#include "ui/review/compare_window.h"
+
+#include "base/file.h"
+#include "ui/kit/elided_label.h"
+#include "ui/kit/flow_layout.h"
+#include "ui/kit/screen_fit.h"
+#include "ui/kit/text.h"
+#include "ui/session/commands.h"
+#include "ui/session/control_tips.h"
+
+#include <QAction>
+#include <QCheckBox>
+#include <QHeaderView>
+#include <QKeyEvent>
+#include <QLabel>
+#include <QMainWindow>
+#include <QPushButton>
+#include <QScrollBar>
+#include <QTableView>
+#include <QVBoxLayout>
+
+#include <numeric>
+
+namespace Ui {
+
+using Review::Mark;
+using Routines::State;
+
+namespace {
+
+QString Counted(int count, const char* one, const char* more) {
+  return QString("%1 %2").arg(count).arg(count == 1 ? one : more);
+}
+
+// "2 aggiunti, 1 eliminato, 1 senza posto"
+QString Report(const Edit::TakeOverReport& report) {
+  QStringList parts;
+  const auto add = [&parts](int count, const char* one, const char* more) {
+    if (count > 0) parts += Counted(count, one, more);
+  };
+  add(report.added, "canale aggiunto in fondo", "canali aggiunti in fondo");
+  add(report.deleted, "eliminato", "eliminati");
+  add(report.changed, "modificato", "modificati");
+  add(report.moved, "spostato", "spostati");
+  add(report.updated, "transponder aggiornato", "transponder aggiornati");
+  add(report.noRoom, "non aggiunto: la lista è piena", "non aggiunti: la lista è piena");
+  add(report.noTransponder, "lasciato: nessun transponder libero", "lasciati: nessun transponder libero");
+  return parts.join(", ");
+}
+
+}  // namespace
+
+CompareWindow::CompareWindow(Session& session, OtherFlash other, QMainWindow& window)
+    : QDialog(&window),
+      session_(session),
+      other_(std::move(other)),
+      model_(new CompareModel(Other(), this)),
+      table_(new QTableView(this)),
+      names_(new ElidedLabel(Qt::ElideMiddle, this)),
+      rest_(new QLabel(this)),
+      result_(new ElidedLabel(Qt::ElideRight, this)) {
+  setObjectName("FinestraConfronto");
+  setWindowTitle(other_.OnDisk() ? "Confronto con il file su disco" : "Confronto con un'altra flash");
+  setAttribute(Qt::WA_DeleteOnClose);
+  names_->setObjectName("NomiConfronto");
+  rest_->setObjectName("AltreDifferenze");
+  rest_->setTextFormat(Qt::PlainText);
+  rest_->setWordWrap(true);
+  result_->setObjectName("RisultatoConfronto");
+  // Undo and redo work here as they do in the main window.
+  for (const char* name : {"Annulla", "Ripeti"}) addAction(&CommandAction(window, name));
+  SetUpTable();
+  auto* column = new QVBoxLayout(this);
+  column->addWidget(names_);
+  column->addLayout(KindBoxes());
+  column->addWidget(table_, 1);
+  column->addWidget(rest_);
+  column->addWidget(result_);
+  column->addLayout(Buttons());
+  ResizeOnScreen(*this, {900, 600});
+  setTabOrder(kinds_.back(), table_);
+  setTabOrder(table_, goTo_);
+
+  connect(&session.document, &Document::Changed, this, &CompareWindow::Refresh);
+  connect(&session.settings, &SettingsPanel::Clicked, this, &CompareWindow::Refresh);
+  connect(model_, &CompareModel::TicksChanged, this, &CompareWindow::ShowTicks);
+  Refresh();
+  if (model_->rowCount() > 0) table_->selectRow(0);
+  Tell("Un clic porta al canale; la barra spaziatrice segna le righe selezionate.");
+  ShowTips(*this);
+  table_->setFocus();
+}
+
+QLayout* CompareWindow::KindBoxes() {
+  auto* row = new FlowLayout;
+  for (std::size_t kind = 0; kind < kinds_.size(); ++kind) {
+    kinds_[kind] = new QCheckBox(this);
+    kinds_[kind]->setObjectName(QString("Mostra_%1").arg(kind));
+    kinds_[kind]->setChecked(true);
+    connect(kinds_[kind], &QCheckBox::toggled, this, [this] { Fill(model_->Found()); });
+    row->addWidget(kinds_[kind]);
+  }
+  return row;
+}
+
+void CompareWindow::SetUpTable() {
+  table_->setObjectName("Differenze");
+  table_->setAccessibleName("Differenze");
+  table_->setModel(model_);
+  table_->setSelectionBehavior(QAbstractItemView::SelectRows);
+  table_->setWordWrap(false);
+  KeepLines(*table_, 5);
+  table_->setTabKeyNavigation(false);
+  table_->verticalHeader()->hide();
+  table_->verticalHeader()->setDefaultSectionSize(table_->fontMetrics().height() + 6);
+  QHeaderView& header = *table_->horizontalHeader();
+  header.setHighlightSections(false);
+  header.setStretchLastSection(true);
+  table_->setColumnWidth(CompareModel::Tick,
+                         style()->pixelMetric(QStyle::PM_IndicatorWidth, nullptr, table_) + 14);
+  constexpr std::pair<int, int> Widths[] = {
+      {CompareModel::Kind, 27}, {CompareModel::Here, 25}, {CompareModel::There, 25}};
+  for (const auto& [column, letters] : Widths) table_->setColumnWidth(column, Letters(*table_, letters));
+  table_->installEventFilter(this);
+  connect(table_, &QTableView::clicked, this, [this](const QModelIndex& index) {
+    if (index.column() != CompareModel::Tick) GoTo(index);
+  });
+  connect(table_->selectionModel(), &QItemSelectionModel::currentRowChanged, this,
+          [this](const QModelIndex& index) {
+            goTo_->setEnabled(index.isValid() && model_->At(index.row()).here != 0);
+          });
+}
+
+QLayout* CompareWindow::Buttons() {
+  auto* row = new QHBoxLayout;
+  auto* left = new FlowLayout;
+  row->addLayout(left, 1);
+  goTo_ = AddButton(*left, "VaiAlDiverso", "Vai al canale");
+  connect(goTo_, &QPushButton::clicked, this, [this] { GoTo(table_->currentIndex()); });
+  connect(AddButton(*left, "SegnaTutti", "Segna tutti"), &QPushButton::clicked, this,
+          [this] { TickAll(true); });
+  connect(AddButton(*left, "TogliSegni", "Togli i segni"), &QPushButton::clicked, this,
+          [this] { TickAll(false); });
+  apply_ = AddButton(*left, "ApplicaSegnati", "Applica i segnati");
+  connect(apply_, &QPushButton::clicked, this, &CompareWindow::Apply);
+  order_ = AddButton(*left, "PrendiOrdine",
+                     other_.OnDisk() ? "Prendi l'ordine del disco" : "Prendi l'ordine dell'altra");
+  connect(order_, &QPushButton::clicked, this, &CompareWindow::TakeOrder);
+  QPushButton* close = AddButton(*row, "ChiudiConfronto", "Chiudi");
+  row->setAlignment(close, Qt::AlignBottom);
+  connect(close, &QPushButton::clicked, this, &QDialog::close);
+  return row;
+}
+
+QPushButton* CompareWindow::AddButton(QLayout& row, const char* name, const QString& caption) {
+  auto* button = new QPushButton(caption, this);
+  button->setObjectName(name);
+  button->setAutoDefault(false);
+  row.addWidget(button);
+  return button;
+}
+
+void CompareWindow::Refresh() {
+  if (!session_.document.Tables().Loaded) {
+    close();
+    return;
+  }
+  other_.Follow(session_);
+  Fill(other_.Compare(session_));
+  ShowCounts();
+}
+
+// The place in the table stays.
+void CompareWindow::Fill(Review::Comparison found) {
+  const int row = table_->currentIndex().row();
+  const int top = table_->verticalScrollBar()->value();
+  CompareModel::Kinds shown;
+  for (std::size_t kind = 0; kind < kinds_.size(); ++kind) shown[kind] = kinds_[kind]->isChecked();
+  model_->Show(session_.document.Tables(), other_.List(), std::move(found), shown);
+  goTo_->setEnabled(false);
+  if (row >= 0 && model_->rowCount() > 0) {
+    table_->selectRow(std::min(row, model_->rowCount() - 1));
+    table_->verticalScrollBar()->setValue(top);
+  }
+}
+
+void CompareWindow::ShowCounts() {
+  const State& mine = session_.document.Tables();
+  const QString here = PathText(Base::FileName(mine.InputFlash));
+  const QString there = other_.OnDisk() ? "Sul disco: " : "L'altra: ";
+  names_->Show(QString("Questa lista: %1%2 canali   ↔   %3%4")
+                   .arg(here.isEmpty() ? here : here + ", ")
+                   .arg(Routines::UsedChannels(mine))
+                   .arg(there, other_.Title()));
+  for (std::size_t kind = 0; kind < kinds_.size(); ++kind) {
+    const int count = model_->Count(static_cast<Mark>(kind));
+    const QString text = model_->KindText(static_cast<Mark>(kind));
+    kinds_[kind]->setText(QString("%1 (%2)").arg(text).arg(count));
+    kinds_[kind]->setAccessibleName("Mostra: " + kinds_[kind]->text());
+    kinds_[kind]->setEnabled(count > 0);
+  }
+  const bool nothing = model_->Found().Nothing();
+  rest_->setText(
+      nothing ? "Nessuna differenza"
+              : Text(Review::OtherDifferences(mine, model_->Found(), "solo " + Other().toStdString())));
+  rest_->setVisible(!rest_->text().isEmpty());
+  order_->setEnabled(model_->Count(Mark::Moved) > 0 || model_->Found().shifted > 0);
+}
+
+void CompareWindow::ShowTicks() {
+  const auto ticked = model_->Ticked().size();
+  apply_->setText(ticked == 0 ? "Applica i segnati" : QString("Applica i segnati (%1)").arg(ticked));
+  apply_->setEnabled(ticked > 0);
+}
+
+void CompareWindow::Tell(const QString& text) { result_->Show(text); }
+
+std::vector<int> CompareWindow::SelectedRows() const {
+  std::vector<int> rows;
+  for (const QModelIndex& index : table_->selectionModel()->selectedRows()) rows.push_back(index.row());
+  return rows;
+}
+
+void CompareWindow::TickAll(bool on) {
+  std::vector<int> rows(static_cast<std::size_t>(model_->rowCount()));
+  std::iota(rows.begin(), rows.end(), 0);
+  model_->SetTicks(rows, on);
+}
+
+// All of them are ticked unless they are already.
+void CompareWindow::TickSelected() {
+  const std::vector<int> rows = SelectedRows();
+  model_->SetTicks(rows,
+                   !std::all_of(rows.begin(), rows.end(), [this](int row) { return model_->IsTicked(row); }));
+}
+
+void CompareWindow::GoTo(const QModelIndex& index) {
+  if (!index.isValid()) return;
+  const int slot = model_->At(index.row()).here;
+  if (slot == 0) {
+    Tell("Il canale non è in questa lista.");
+    return;
+  }
+  session_.view.Show(View::Channels);
+  Grid& grid = session_.view.ListGrid();
+  grid.Select({slot, slot});
+  grid.scrollTo(grid.currentIndex(), QAbstractItemView::PositionAtCenter);
+  session_.status.ShowResult(QString("Canale %1").arg(slot));
+}
+
+void CompareWindow::Apply() {
+  const std::vector<Review::Difference> chosen = model_->Ticked();
+  const Review::Comparison found = model_->Found();
+  const std::string label =
+      "Applica " + Counted(static_cast<int>(chosen.size()), "differenza", "differenze").toStdString();
+  const auto report = session_.document.Apply(label, [&](State& state) {
+    return Edit::TakeOver(state, other_.List(), found, chosen, session_.bouquets.tables);
+  });
+  const QString text = Text(label) + ": " + Report(report) + session_.Losses(report.lost);
+  session_.status.ShowResult(text);
+  Tell(text);
+}
+
+void CompareWindow::TakeOrder() {
+  const Review::Comparison found = model_->Found();
+  const std::string label = other_.OnDisk() ? "Prendi l'ordine del disco" : "Prendi l'ordine dell'altra";
+  const int moved = session_.document.Apply(
+      label, [&](State& state) { return Edit::TakeOrder(state, other_.List(), found); });
+  const QString text =
+      Text(label) + ": " + Counted(moved, "canale con un altro numero", "canali con un altro numero");
+  session_.status.ShowResult(text);
+  Tell(text);
+}
+
+bool CompareWindow::eventFilter(QObject* watched, QEvent* event) {
+  if (watched != table_ || event->type() != QEvent::KeyPress) return QDialog::eventFilter(watched, event);
+  const int key = static_cast<QKeyEvent*>(event)->key();
+  if (key == Qt::Key_Space) {
+    TickSelected();
+  } else if (key == Qt::Key_Return || key == Qt::Key_Enter) {
+    GoTo(table_->currentIndex());
+  } else {
+    return QDialog::eventFilter(watched, event);
+  }
+  return true;
+}
+
+}  // namespace Ui

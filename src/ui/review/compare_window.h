@@ -1,0 +1,64 @@
+// `FinestraConfronto`: one's own list beside another one, difference by difference, with what may be taken over. It
+// follows the list and never writes the other one.
+#pragma once
+
+#include "edit/take_over.h"
+#include "ui/review/compare_model.h"
+#include "ui/review/other_flash.h"
+
+#include <QDialog>
+
+class QCheckBox;
+class QLabel;
+class QMainWindow;
+class QPushButton;
+class QTableView;
+
+namespace Ui {
+
+class ElidedLabel;
+
+class CompareWindow : public QDialog {
+  Q_OBJECT
+
+ public:
+  CompareWindow(Session& session, OtherFlash other, QMainWindow& window);
+
+ protected:
+  bool eventFilter(QObject* watched, QEvent* event) override;
+
+ private:
+  QLayout* KindBoxes();
+  void SetUpTable();
+  QLayout* Buttons();
+  QPushButton* AddButton(QLayout& row, const char* name, const QString& caption);
+
+  // Compares anew; `Fill` shows the same differences by other boxes.
+  void Refresh();
+  void Fill(Review::Comparison found);
+  void ShowCounts();
+  void ShowTicks();
+  void Tell(const QString& text);
+
+  [[nodiscard]] QString Other() const { return other_.OnDisk() ? "sul disco" : "nell'altra"; }
+  [[nodiscard]] std::vector<int> SelectedRows() const;
+  void TickAll(bool on);
+  void TickSelected();
+  void GoTo(const QModelIndex& index);
+  void Apply();
+  void TakeOrder();
+
+  Session& session_;
+  OtherFlash other_;
+  CompareModel* model_;
+  QTableView* table_;
+  ElidedLabel* names_;
+  std::array<QCheckBox*, Review::Marks> kinds_{};
+  QLabel* rest_;
+  ElidedLabel* result_;
+  QPushButton* goTo_ = nullptr;
+  QPushButton* apply_ = nullptr;
+  QPushButton* order_ = nullptr;
+};
+
+}  // namespace Ui

@@ -1,0 +1,51 @@
+// The other side of a comparison: an image that is read into memory and never written.
+#pragma once
+
+#include "review/compare.h"
+#include "ui/session/session.h"
+
+#include <QDateTime>
+
+namespace Ui {
+
+class OtherFlash {
+ public:
+  // Another flash is read as it would be opened; the file on the disk is the one that the list is written to, or came
+  // from.
+  enum class Kind { Another, OnDisk };
+
+  // `symbolRates` is the table that another flash is read by; the file on the disk has the list's own.
+  OtherFlash(Kind kind, std::string path, std::string symbolRates = {})
+      : kind_(kind), path_(std::move(path)), symbolRates_(std::move(symbolRates)) {}
+
+  // Where a list is on the disk; empty where it is nowhere.
+  static std::string PathOnDisk(const Routines::State& state) {
+    return state.OutputFlash.empty() ? state.InputFlash : state.OutputFlash;
+  }
+
+  Base::Outcome Read(const Session& session);
+  // Reads the file on the disk again where it has been written to, or where the list is now in another one.
+  void Follow(const Session& session);
+
+  // The file on the disk is compared byte for byte, as a save would write it.
+  Review::Comparison Compare(const Session& session);
+
+  [[nodiscard]] const Routines::State& List() const { return *list_; }
+  [[nodiscard]] bool OnDisk() const { return kind_ == Kind::OnDisk; }
+  // "demo.dat, letti 999 di 3700 canali"
+  [[nodiscard]] QString Title() const;
+
+ private:
+  [[nodiscard]] int Capacity(const Routines::Settings& settings, Base::ByteView image) const;
+  [[nodiscard]] QDateTime Written() const;
+
+  Kind kind_;
+  std::string path_;
+  std::string symbolRates_;
+  QDateTime written_;
+  int channelsRead_ = 0;
+  int channelsInImage_ = 0;
+  std::unique_ptr<Routines::State> list_;
+};
+
+}  // namespace Ui

@@ -1,0 +1,279 @@
+#include "ui/review/overview_window.h"
+
+#include "ui/kit/screen_fit.h"
+#include "ui/kit/text.h"
+#include "ui/session/commands.h"
+#include "ui/session/control_tips.h"
+
+#include <QAction>
+#include <QHeaderView>
+#include <QLabel>
+#include <QMainWindow>
+#include <QPainter>
+#include <QPushButton>
+#include <QStyledItemDelegate>
+#include <QTreeWidget>
+#include <QVBoxLayout>
+
+namespace Ui {
+
+using Review::OverviewLine;
+using Routines::State;
+using Section = Review::OverviewSection;
+
+namespace {
+
+enum Column : int { What, Bar, Count, Share };
+constexpr int LineRole = Qt::UserRole;        // place in lines_, -1 for a section
+constexpr int LengthRole = Qt::UserRole + 1;  // of the bar, 0 to 1
+constexpr int ColourRole = Qt::UserRole + 2;
+constexpr int SectionRole = Qt::UserRole + 3;  // of a heading
+
+QString Title(Section section) {
+  switch (section) {
+    case Section::Kind:
+      return "Tipo";
+    case Section::Satellite:
+      return "Satellite";
+    case Section::Bouquet:
+      return "Bouquet";
+    case Section::Coding:
+      return "Codifica";
+    case Section::Transponders:
+      return "Transponder";
+    case Section::Places:
+      return "Posti";
+    case Section::Checks:
+      return "Da controllare";
+  }
+  return {};
+}
+
+// What the filter shows while it marks the line's rows.
+QString RowsTitle(const OverviewLine& line) {
+  const bool tellsSection = line.section == Section::Coding || line.section == Section::Transponders ||
+                            line.section == Section::Places;
+  return "Riepilogo: " + (tellsSection ? Title(line.section) + ' ' : "") + Text(line.text);
+}
+
+QString Counted(const OverviewLine& line) {
+  const auto count = line.slots.size();
+  if (line.transponders) return QString("%1 transponder").arg(count);
+  if (line.section == Section::Places) return QString(count == 1 ? "%1 posto" : "%1 posti").arg(count);
+  return QString(count == 1 ? "%1 canale" : "%1 canali").arg(count);
+}
+
+double ShareOf(const OverviewLine& line) {
+  return line.of == 0 ? 0.0 : static_cast<double>(line.slots.size()) / line.of;
+}
+
+// The longest bar of a section fills its column where the lines are many parts of one whole; else the whole would.
+double FullShare(const std::vector<OverviewLine>& lines, Section section) {
+  if (section == Section::Transponders || section == Section::Places || section == Section::Checks) return 1;
+  double most = 0;
+  for (const OverviewLine& line : lines) {
+    if (line.section == section) most = std::max(most, ShareOf(line));
+  }
+  return most > 0 ? most : 1;
+}
+
+bool SameTexts(const std::vector<OverviewLine>& one, const std::vector<OverviewLine>& other) {
+  return std::equal(one.begin(), one.end(), other.begin(), other.end(),
+                    [](const auto& a, const auto& b) { return a.section == b.section && a.text == b.text; });
+}
+
+class BarDelegate : public QStyledItemDelegate {
+ public:
+  using QStyledItemDelegate::QStyledItemDelegate;
+
+  void paint(QPainter* painter, const QStyleOptionViewItem& option, const QModelIndex& index) const override {
+    QStyledItemDelegate::paint(painter, option, index);
+    const double length = index.data(LengthRole).toDouble();
+    if (length <= 0) return;
+    const QRect room = option.rect.adjusted(4, 3, -8, -4);
+    const int width = std::max(static_cast<int>(length * room.width()), 2);
+    const auto colour = index.data(ColourRole).value<QColor>();
+    painter->setPen(colour.darker(160));
+    painter->setBrush(colour);
+    painter->drawRect(QRect(room.topLeft(), QSize(width, room.height())));
+  }
+};
+
+}  // namespace
+
+void ShowOverview(Session& session, QMainWindow& window) {
+  if (!session.NeedsFlash()) return;
+  auto* shown = window.findChild<OverviewWindow*>();
+  if (shown == nullptr) {
+    shown = new OverviewWindow(session, &window);
+    for (const char* name : {"Annulla", "Ripeti", "CercaSuccessivo"})
+      shown->addAction(&CommandAction(window, name));
+    // At the right, where it leaves numbers and names of the rows in sight.
+    shown->move(window.geometry().topRight() - QPoint(shown->width() + 12, -90));
+  }
+  shown->show();
+  shown->raise();
+  shown->activateWindow();
+}
+
+OverviewWindow::OverviewWindow(Session& session, QWidget* parent)
+    : QDialog(parent),
+      session_(session),
+      tree_(new QTreeWidget(this)),
+      totals_(new QLabel(this)),
+      goTo_(new QPushButton("Vai alle righe", this)) {
+  setObjectName("FinestraRiepilogo");
+  setWindowTitle("Riepilogo");
+  setAttribute(Qt::WA_DeleteOnClose);
+  SetUpTree();
+  totals_->setObjectName("RiepilogoTotali");
+  totals_->setTextFormat(Qt::PlainText);
+  totals_->setWordWrap(true);
+  auto* column = new QVBoxLayout(this);
+  column->addWidget(totals_);
+  column->addWidget(tree_, 1);
+  column->addWidget(Bottom());
+  ResizeOnScreen(*this, {600, 560});
+  connect(&session.document, &Document::Changed, this, &OverviewWindow::Refresh);
+  Refresh();
+  if (!items_.empty()) tree_->setCurrentItem(items_.front());
+  ShowTips(*this);
+  tree_->setFocus();
+}
+
+void OverviewWindow::SetUpTree() {
+  tree_->setObjectName("RiepilogoVoci");
+  tree_->setAccessibleName("Riepilogo");
+  tree_->setHeaderLabels({"Voce", "", "Quanti", "%"});
+  tree_->headerItem()->setData(Bar, Qt::AccessibleTextRole, "Barra");
+  for (const int column : {Count, Share}) tree_->headerItem()->setTextAlignment(column, Qt::AlignRight);
+  tree_->header()->setStretchLastSection(false);
+  tree_->header()->setSectionResizeMode(QHeaderView::Fixed);
+  tree_->header()->setSectionResizeMode(Bar, QHeaderView::Stretch);
+  for (const int column : {Count, Share}) tree_->setColumnWidth(column, Letters(*tree_, 10));
+  tree_->setItemDelegateForColumn(Bar, new BarDelegate(tree_));
+  tree_->setUniformRowHeights(true);
+  KeepLines(*tree_, 5);
+  tree_->setAllColumnsShowFocus(true);
+  connect(tree_, &QTreeWidget::itemClicked, this, &OverviewWindow::GoTo);
+  connect(tree_, &QTreeWidget::itemActivated, this, &OverviewWindow::GoTo);
+  const auto sectionOf = [](const QTreeWidgetItem* item) {
+    return static_cast<Section>(item->data(What, SectionRole).toInt());
+  };
+  connect(tree_, &QTreeWidget::itemCollapsed, this,
+          [this, sectionOf](QTreeWidgetItem* item) { closed_.insert(sectionOf(item)); });
+  connect(tree_, &QTreeWidget::itemExpanded, this,
+          [this, sectionOf](QTreeWidgetItem* item) { closed_.erase(sectionOf(item)); });
+}
+
+QWidget* OverviewWindow::Bottom() {
+  auto* box = new QWidget(this);
+  auto* row = new QHBoxLayout(box);
+  row->setContentsMargins(0, 0, 0, 0);
+  auto* hint = new QLabel("Un clic o Invio mostra le righe; F3 va alla prossima.");
+  hint->setWordWrap(true);
+  row->addWidget(hint, 1);
+  auto* close = new QPushButton("Chiudi", box);
+  close->setObjectName("ChiudiRiepilogo");
+  goTo_->setObjectName("VaiAlleRighe");
+  for (QPushButton* button : {goTo_, close}) {
+    button->setAutoDefault(false);  // Enter goes to the rows
+    row->addWidget(button);
+  }
+  connect(goTo_, &QPushButton::clicked, this, [this] { GoTo(tree_->currentItem()); });
+  connect(close, &QPushButton::clicked, this, &QDialog::close);
+  return box;
+}
+
+void OverviewWindow::Refresh() {
+  const State& state = session_.document.Tables();
+  Lines lines = state.Loaded ? Review::Overview(state, session_.bouquets.tables.satellites) : Lines();
+  const bool rebuild = !SameTexts(lines, lines_);
+  lines_ = std::move(lines);
+  if (rebuild) Rebuild();
+  FillTexts();
+  TellTotals();
+}
+
+void OverviewWindow::Rebuild() {
+  const QTreeWidgetItem* current = tree_->currentItem();
+  const QString wanted = current == nullptr ? QString() : current->text(What);
+  const QSignalBlocker quiet(tree_);
+  tree_->clear();
+  items_.clear();
+  QFont bold = tree_->font();
+  bold.setBold(true);
+  int widest = 0;
+  QTreeWidgetItem* head = nullptr;
+  for (std::size_t i = 0; i < lines_.size(); ++i) {
+    const Section section = lines_[i].section;
+    if (i == 0 || section != lines_[i - 1].section) {
+      head = new QTreeWidgetItem(tree_, {Title(section)});
+      head->setFont(What, bold);
+      head->setSizeHint(What, {0, tree_->fontMetrics().height() + 6});
+      head->setData(What, LineRole, -1);
+      head->setData(What, SectionRole, static_cast<int>(section));
+      head->setExpanded(!closed_.contains(section));
+    }
+    auto* item = new QTreeWidgetItem(head, {Text(lines_[i].text)});
+    item->setData(What, LineRole, static_cast<int>(i));
+    item->setSizeHint(What, head->sizeHint(What));
+    item->setToolTip(What, "<span>" + Text(lines_[i].text).toHtmlEscaped() + "</span>");
+    for (const int column : {Count, Share}) item->setTextAlignment(column, Qt::AlignRight | Qt::AlignVCenter);
+    if (item->text(What) == wanted) tree_->setCurrentItem(item);
+    items_.push_back(item);
+    widest = std::max(widest, tree_->fontMetrics().horizontalAdvance(item->text(What)));
+  }
+  tree_->setColumnWidth(What, std::min(widest + 2 * tree_->indentation() + 16, width() / 2));
+}
+
+void OverviewWindow::FillTexts() {
+  for (std::size_t i = 0; i < lines_.size(); ++i) {
+    const OverviewLine& line = lines_[i];
+    QTreeWidgetItem& item = *items_[i];
+    item.setData(Bar, LengthRole, ShareOf(line) / FullShare(lines_, line.section));
+    item.setData(Bar, ColourRole, ToColor(line.colour));
+    item.setText(Count, QString::number(line.slots.size()));
+    item.setText(Share, QString::number(100 * ShareOf(line), 'f', 1).replace('.', ','));
+  }
+}
+
+void OverviewWindow::TellTotals() {
+  QString text = "Nessuna flash caricata";
+  if (!lines_.empty()) {
+    const State& state = session_.document.Tables();
+    text = QString("%1 canali in %2 posti, %3 transponder in %4 posti. ")
+               .arg(Routines::UsedChannels(state))
+               .arg(state.ChannelCount)
+               .arg(Routines::UsedTransponders(state))
+               .arg(state.TransponderCount);
+    const auto checks = std::count_if(lines_.begin(), lines_.end(), [](const OverviewLine& line) {
+      return line.section == Section::Checks && !line.slots.empty();
+    });
+    text += checks == 0   ? QString("Niente da controllare.")
+            : checks == 1 ? QString("Da controllare: 1 voce, in fondo.")
+                          : QString("Da controllare: %1 voci, in fondo.").arg(checks);
+  }
+  totals_->setText(text);
+  goTo_->setEnabled(!lines_.empty());
+}
+
+void OverviewWindow::GoTo(const QTreeWidgetItem* item) {
+  const int place = item == nullptr ? -1 : item->data(What, LineRole).toInt();
+  if (place < 0) return;
+  const OverviewLine& line = lines_[static_cast<std::size_t>(place)];
+  const QString title = RowsTitle(line);
+  if (line.slots.empty()) {
+    session_.status.ShowResult(title + ": nessuna riga");
+    return;
+  }
+  const QString told = title + ": " + Counted(line);
+  const auto find = [&bouquets = session_.bouquets, section = line.section,
+                     text = line.text](const State& state) {
+    return Review::OverviewSlots(state, bouquets.tables.satellites, section, text);
+  };
+  session_.view.ShowRows({title, line.transponders, find});
+  session_.status.ShowResult(told);
+}
+
+}  // namespace Ui

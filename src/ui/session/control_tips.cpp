@@ -1,0 +1,81 @@
+#include "ui/session/control_tips.h"
+
+#include <QAbstractButton>
+#include <QAction>
+
+#include <array>
+#include <utility>
+
+namespace Ui {
+namespace {
+
+// By control name; one that ends in an underscore stands for all that begin so.
+constexpr std::array<std::pair<const char*, const char*>, 40> Tips = {{
+    {"QuantiCanali_", "Quanti canali ha il ricevitore da cui viene la lista"},
+    {"FlashScrittura_", "Il tipo del ricevitore in cui si scrive la lista"},
+    {"SRDef_", "Dove il ricevitore tiene il symbol rate 22000 nella sua tabella"},
+    {"InizioApri", "Apre l'immagine della flash di un ricevitore"},
+    {"InserisciRiga", "Inserisce tante righe vuote quante sono quelle selezionate"},
+    {"Rinomina", "Modifica il nome del canale"},
+    {"Attiva", "Rende attivi i canali selezionati"},
+    {"Disattiva", "Rende non attivi i canali selezionati"},
+    {"MenuCodifica", "Dà la stessa codifica ai canali selezionati"},
+    {"Codifica_", "Dà questa codifica ai canali selezionati"},
+    {"ImpostaTransponder", "Dà lo stesso transponder ai canali selezionati"},
+    {"VaiAlTransponder", "Mostra il transponder del canale"},
+    {"MenuPreferiti", "Aggiunge i canali selezionati a una lista di preferiti"},
+    {"AggiungiPreferiti_", "Aggiunge i canali selezionati a questa lista di preferiti"},
+    {"Scarica", "Scarica la lista dall'indirizzo scelto"},
+    {"Annulla2", "Chiude senza scaricare"},
+    {"VaiAlleRighe", "Mostra nella griglia le righe della voce"},
+    {"StessoServizio", "Sono doppi i canali con satellite, TID, NID e SID uguali"},
+    {"StessiPID", "Sono doppi i canali con transponder, SID e PID video e audio uguali"},
+    {"StessoNome", "Sono doppi i canali con lo stesso nome"},
+    {"EliminaScelti", "Elimina i canali delle righe scelte"},
+    {"EliminaTranneIlPrimo", "Lascia in ogni gruppo il canale col numero più basso"},
+    {"VaiAlDoppio", "Mostra il canale nella griglia"},
+    {"Mostra_", "Mostra o nasconde le differenze di questo tipo"},
+    {"ApplicaSegnati", "Porta nella propria lista le differenze segnate"},
+    {"PrendiOrdine", "Dà ai canali i numeri che hanno nell'altra lista"},
+    {"SegnaTutti", "Segna tutte le differenze mostrate"},
+    {"TogliSegni", "Toglie il segno a tutte le differenze"},
+    {"VaiAlDiverso", "Mostra il canale nella griglia"},
+    {"AggiungiSelezionati", "Aggiunge alla lista i canali selezionati nella griglia"},
+    {"TogliPreferiti", "Toglie dalla lista le voci selezionate"},
+    {"SpostaPreferiti", "Sposta le voci selezionate in un'altra lista"},
+    {"OrdinaPreferiti", "Ordina la lista per numero o per nome"},
+    {"Check1_", "Importa i canali di questo tipo"},
+    {"Check3", "Filtri.txt è un elenco di coppie APID SID nella cartella del programma"},
+    {"Chkfiltra", "Lascia fuori i canali che la propria lista ha già"},
+    {"DallInizio", "Sovrascrive i canali dal numero 1 in poi"},
+    {"DalCanale", "Sovrascrive i canali dal numero scritto sotto in poi"},
+    {"Virgolette", "Il separatore fra virgolette fa parte del campo"},
+    {"Intestazione", "La prima riga non è un canale"},
+}};
+
+const char* TipOf(const QString& control) {
+  for (const auto& [name, tip] : Tips) {
+    const QLatin1String known(name);
+    if (control == known || (known.endsWith('_') && control.startsWith(known))) return tip;
+  }
+  return nullptr;
+}
+
+template <class Control>
+void ShowTipsOf(QWidget& window) {
+  for (Control* control : window.findChildren<Control*>()) {
+    const char* tip = TipOf(control->objectName());
+    if (tip == nullptr) continue;
+    control->setToolTip(tip);
+    control->setStatusTip(tip);
+  }
+}
+
+}  // namespace
+
+void ShowTips(QWidget& window) {
+  ShowTipsOf<QAbstractButton>(window);
+  ShowTipsOf<QAction>(window);
+}
+
+}  // namespace Ui

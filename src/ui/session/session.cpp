@@ -1,0 +1,53 @@
+#include "ui/session/session.h"
+
+#include "base/file.h"
+#include "ui/kit/text.h"
+
+namespace Ui {
+
+QString Session::Losses(const std::vector<Edit::LostFavourite>& lost) const {
+  const std::string text = Edit::LostFavouritesText(document.Tables().FavouritesBlock, lost);
+  return text.empty() ? QString() : ", " + Text(text);
+}
+
+bool Session::NeedsFlash() {
+  if (document.Tables().Loaded) return true;
+  dialogs.Message("Si deve caricare prima una FLASH di input", {});
+  return false;
+}
+
+bool Session::IsFlashOfList(const std::string& path) const {
+  if (path.empty()) return false;
+  const Routines::State& state = document.Tables();
+  const std::string target = Base::ResolvedPath(path);
+  return target == Base::ResolvedPath(state.InputFlash) || target == Base::ResolvedPath(state.OutputFlash);
+}
+
+std::optional<Routines::Settings> Session::NeedsSettings() {
+  const Routines::Settings chosen = settings.Chosen();
+  if (const auto complete = Routines::CheckSettings(chosen); !complete) {
+    Message(complete.error());
+    settings.PointOutMissing();
+    return std::nullopt;
+  }
+  return chosen;
+}
+
+std::optional<Support::SymbolRates> Session::LoadSymbolRates() {
+  const Routines::Settings chosen = settings.Chosen();
+  const auto place = chosen.srDef ? chosen.Place() : Routines::Sr22000::Come2;
+  auto rates = Support::CaricaTabelleSR(programFolder, place);
+  if (!rates) {
+    Message(rates.error());
+    endProgram();
+    return std::nullopt;
+  }
+  if (!rates->missing.empty()) {
+    if (!srIniMissingTold) dialogs.Message(Text(rates->missing), {});
+    srIniMissingTold = true;
+    status.ShowResult(Text(rates->missing));
+  }
+  return *rates;
+}
+
+}  // namespace Ui

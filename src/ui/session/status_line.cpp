@@ -1,0 +1,75 @@
+#include "ui/session/status_line.h"
+
+#include "base/file.h"
+#include "ui/kit/dialogs.h"
+#include "ui/kit/text.h"
+
+#include <QHBoxLayout>
+#include <QProgressBar>
+#include <QStatusBar>
+
+namespace Ui {
+
+StatusLine::StatusLine(QStatusBar& bar)
+    : QObject(&bar),
+      line_(new QWidget(&bar)),
+      result_(new ElidedLabel(Qt::ElideRight, line_)),
+      channels_(AddFigure(bar, "CanaliUsati")),
+      transponders_(AddFigure(bar, "TransponderUsati")),
+      clipboard_(AddFigure(bar, "CanaliCopiati")),
+      unsaved_(AddFigure(bar, "ModificheNonSalvate")),
+      output_(new ElidedLabel(Qt::ElideMiddle, &bar)),
+      progress_(new QProgressBar(line_)) {
+  result_->setObjectName("UltimoRisultato");
+  output_->setObjectName("FlashOutput");
+  bar.addPermanentWidget(output_, 1);
+
+  progress_->setObjectName("ProgressBar1");
+  progress_->setAccessibleName("Avanzamento");
+  progress_->setFixedSize(110, result_->sizeHint().height());
+  progress_->setTextVisible(false);
+  QSizePolicy policy = progress_->sizePolicy();
+  policy.setRetainSizeWhenHidden(true);
+  progress_->setSizePolicy(policy);
+  progress_->hide();
+
+  auto* row = new QHBoxLayout(line_);
+  row->setContentsMargins(0, 0, 0, 0);
+  row->addWidget(result_, 1);
+  row->addWidget(progress_);
+}
+
+ElidedLabel* StatusLine::AddFigure(QStatusBar& bar, const char* name) {
+  auto* label = new ElidedLabel(Qt::ElideRight, &bar);
+  label->setObjectName(name);
+  label->setContentsMargins(4, 0, 8, 0);
+  bar.addPermanentWidget(label);
+  return label;
+}
+
+void StatusLine::ShowResult(const QString& text) {
+  result_->Show(text);
+  Q_EMIT ResultShown(text);
+}
+
+void StatusLine::ShowList(const Routines::State& state, bool unsaved, int clipboard) {
+  channels_->Show(state.Loaded ? QString("Canali %1 di %2").arg(UsedChannels(state)).arg(state.ChannelCount)
+                               : QString("Nessuna flash caricata"));
+  transponders_->Show(
+      QString("Transponder %1 di %2").arg(UsedTransponders(state)).arg(state.TransponderCount));
+  transponders_->setVisible(state.Loaded);
+  clipboard_->Show(QString("Appunti %1").arg(clipboard));
+  clipboard_->setVisible(clipboard > 0);
+  unsaved_->Show(!unsaved ? "" : kept_ ? "Modifiche non salvate" : "Modifiche non salvate né conservate");
+  unsaved_->setVisible(unsaved);
+  const QString name = state.OutputFlash.empty() ? "nessuna" : PathText(Base::FileName(state.OutputFlash));
+  output_->Show("Flash di output : " + name, PathText(state.OutputFlash));
+}
+
+void StatusLine::ShowProgress(int percent) {
+  progress_->setValue(percent);
+  progress_->setVisible(percent < 100);
+  progress_->repaint();
+}
+
+}  // namespace Ui

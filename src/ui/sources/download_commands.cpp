@@ -1,0 +1,109 @@
+#include "ui/sources/download_commands.h"
+
+#include "base/file.h"
+#include "support/pos_ini.h"
+#include "support/sdx_ini.h"
+#include "ui/kit/text.h"
+
+#include <QApplication>
+#include <QTimer>
+
+namespace Ui {
+
+DownloadCommands::DownloadCommands(Session& session, SdxCommands& sdx, DownloadFrame& frame, QWidget& window)
+    : session_(session), sdx_(sdx), frame_(frame), window_(window), download_(this) {
+  connect(&frame_, &DownloadFrame::Chosen, this, &DownloadCommands::Fetch);
+  connect(&download_, &Download::Finished, this, &DownloadCommands::Take);
+}
+
+void DownloadCommands::ScaricaInternet() {
+  if (session_.view.Current() != View::Channels) {
+    session_.dialogs.Message("Per poter importare da Internet si deve visualizzare la griglia Canali", {});
+    return;
+  }
+  if (download_.Running()) {
+    session_.status.ShowResult("Uno scaricamento è già in corso");
+    return;
+  }
+  const auto addresses = Support::ReadSdxIni(session_.programFolder);
+  if (!addresses) {
+    session_.Message(addresses.error());
+    return;
+  }
+  QStringList lines;
+  for (const std::string& address : *addresses) lines += CodePageText(address);
+  frame_.Ask(lines);
+}
+
+void DownloadCommands::Fetch(const QString& address) {
+  if (address.trimmed().isEmpty()) {
+    session_.dialogs.Message("Si deve specificare il file da scaricare", {});
+    return;
+  }
+  frame_.hide();
+  const auto kind = Support::FolderKind::Foreign;
+  path_ = PathBytes(
+      session_.dialogs.SaveFile({"Selezionare il file SDX di OUTPUT", "SatcoDX files(*.sdx)|*.sdx|",
+                                 PathText(Support::RememberedFolder(session_.programFolder, kind))}));
+  if (path_.empty()) return;
+  if (session_.IsFlashOfList(path_)) {
+    session_.status.ShowResult(QString("Non scaricato: ") + FlashOfListChosen);
+    return;
+  }
+  Support::RememberFolderOf(session_.programFolder, kind, path_);
+  // Whatever becomes of the transfer, the file no longer holds an older list.
+  if (const auto emptied = Base::ReplaceFile(path_, {}); !emptied) {
+    session_.Message(emptied.error());
+    return;
+  }
+  address_ = address.trimmed();
+  ShowProgress();
+  download_.Start(address_);
+}
+
+void DownloadCommands::ShowProgress() {
+  progress_ = new QProgressDialog("Scaricamento di " + address_, "Annulla", 0, 0, &window_);
+  progress_->setObjectName("Scaricamento");
+  progress_->setWindowTitle("Trovalis");
+  progress_->setAttribute(Qt::WA_DeleteOnClose);
+  progress_->setMinimumDuration(0);
+  progress_->setAutoReset(false);
+  progress_->setValue(0);
+  connect(&download_, &Download::Progress, progress_, [this](qint64 received, qint64 total) {
+    progress_->setMaximum(total > 0 ? 1000 : 0);
+    progress_->setValue(total > 0 ? static_cast<int>(received * 1000 / total) : 0);
+  });
+  connect(progress_, &QProgressDialog::canceled, this, [this] {
+    download_.Cancel();
+    progress_->deleteLater();
+    session_.status.ShowResult("Scaricamento annullato");
+  });
+}
+
+void DownloadCommands::Take(bool good, const QByteArray& reply) {
+  if (progress_ != nullptr) {
+    progress_->disconnect(this);
+    progress_->close();
+  }
+  // Whoever answers a box is not to find another table behind it.
+  if (QApplication::activeModalWidget() != nullptr) {
+    QTimer::singleShot(200, this, [this, good, reply] { Take(good, reply); });
+    return;
+  }
+  const std::string_view text(reply.constData(), static_cast<std::size_t>(reply.size()));
+  if (!good || !Formats::LooksLikeSatcodx(text)) {
+    session_.status.ShowResult("Scaricamento non riuscito: " +
+                               (good ? "la risposta non è una lista SatcoDX" : download_.Reason()));
+    session_.dialogs.Message("Errore di connessione a : " + address_ + CodePageText(text.substr(0, 80)), {});
+    return;
+  }
+  const auto written = Base::ReplaceFile(path_, Base::AsBytes(Formats::DownloadedLines(text)));
+  if (!written) {
+    session_.Message(written.error());
+    return;
+  }
+  if (onLoad) onLoad();
+  sdx_.Load(path_);
+}
+
+}  // namespace Ui

@@ -1,0 +1,40 @@
+// The command `ScaricaInternet`: a list is fetched, saved and loaded as if the user had opened it.
+#pragma once
+
+#include "ui/session/session.h"
+#include "ui/sources/download.h"
+#include "ui/sources/download_frame.h"
+#include "ui/sources/sdx_commands.h"
+
+#include <QPointer>
+#include <QProgressDialog>
+
+namespace Ui {
+
+class DownloadCommands : public QObject {
+  Q_OBJECT
+
+ public:
+  DownloadCommands(Session& session, SdxCommands& sdx, DownloadFrame& frame, QWidget& window);
+
+  // Tells the window that a list has come and is about to be loaded.
+  std::function<void()> onLoad;
+
+  void ScaricaInternet();
+
+ private:
+  void Fetch(const QString& address);
+  void ShowProgress();
+  void Take(bool good, const QByteArray& reply);
+
+  Session& session_;
+  SdxCommands& sdx_;
+  DownloadFrame& frame_;
+  QWidget& window_;
+  Download download_;
+  QPointer<QProgressDialog> progress_;
+  QString address_;
+  std::string path_;
+};
+
+}  // namespace Ui

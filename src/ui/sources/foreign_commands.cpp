@@ -1,0 +1,81 @@
+#include "ui/sources/foreign_commands.h"
+
+#include "base/file.h"
+#include "formats/flash_rows.h"
+#include "formats/foreign_list.h"
+#include "support/pos_ini.h"
+#include "ui/kit/text.h"
+#include "ui/kit/toolkit.h"
+#include "ui/sources/foreign_dialog.h"
+#include "ui/sources/foreign_settings.h"
+
+namespace Ui {
+
+using Support::FolderKind;
+
+namespace {
+
+constexpr std::size_t LargestList = 256U << 20U;
+
+}  // namespace
+
+void ForeignCommands::CaricaAggiuntiva() {
+  const std::string path = PathBytes(session_.dialogs.OpenFile(
+      {"Selezionare la flash aggiuntiva", FlashFilters,
+       PathText(Support::RememberedFolder(session_.programFolder, FolderKind::Input))}));
+  if (path.empty()) return;
+  const auto image = Waiting([&] { return Routines::ReadFlash(path, "Errore FLASH di Input"); });
+  if (!image) {
+    session_.Message(image.error());
+    return;
+  }
+  const auto rates = session_.LoadSymbolRates();
+  if (!rates) return;
+  Formats::FlashRows rows = Formats::ReadFlashRows(*image, rates->table, session_.bouquets.tables);
+  const QString file = PathText(Base::FileName(path));
+  QString result = QString("%1: letti %2 canali").arg(file).arg(rows.table.rows.size());
+  if (rows.withoutTransponder > 0)
+    result += QString("; tralasciati %1 senza transponder").arg(rows.withoutTransponder);
+  sdx_.Show(std::move(rows.table), file);
+  session_.status.ShowResult(result);
+}
+
+void ForeignCommands::Importa(const QString& kind, const QString& caption) {
+  if (!sdx_.NeedsChannels()) return;
+  const std::string path = PathBytes(session_.dialogs.OpenFile(
+      {"Selezionare il file da importare",
+       "File di testo(*.txt *.csv *.ini *.dat)|*.txt *.csv *.ini *.dat|Tutti i file (*.*)|*.*|",
+       PathText(Support::RememberedFolder(session_.programFolder, FolderKind::Foreign))}));
+  if (path.empty()) return;
+  Support::RememberFolderOf(session_.programFolder, FolderKind::Foreign, path);
+  const auto bytes = Waiting([&] { return Base::ReadFile(path, LargestList); });
+  if (!bytes) {
+    session_.Message(bytes.error());
+    return;
+  }
+  const std::string name = Base::FileName(path);
+  const auto text = Formats::DecodeForeign(Base::AsText(*bytes), name);
+  if (!text) {
+    session_.Message(text.error());
+    return;
+  }
+  const QString ini = PathText(session_.programFolder + "/trovalis.ini");
+  ForeignDialog dialog(caption, PathText(name), *text, RememberedLayout(ini, kind),
+                       session_.bouquets.tables.satellites, session_.dialogs, &window_);
+  if (dialog.exec() != QDialog::Accepted) return;
+  RememberLayout(ini, kind, dialog.Layout());
+  Formats::ForeignList list = Formats::ReadForeign(text->text, dialog.Layout(), dialog.Satellite());
+  const std::string drops = list.DropsText();
+  sdx_.Show(std::move(list.table), PathText(name));
+  TellImported(PathText(name), session_.sdx, drops);
+}
+
+void ForeignCommands::TellImported(const QString& file, const Formats::SdxTable& table,
+                                   const std::string& drops) {
+  QString result = QString("%1: lette %2 righe, prese %3").arg(file).arg(table.lines).arg(table.rows.size());
+  if (!drops.empty()) result += "; scartate: " + Text(drops);
+  session_.status.ShowResult(result);
+  if (table.full) session_.dialogs.Message(SdxTableFull, {});
+}
+
+}  // namespace Ui

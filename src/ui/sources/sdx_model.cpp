@@ -1,0 +1,55 @@
+#include "ui/sources/sdx_model.h"
+
+#include "base/text.h"
+#include "ui/kit/dialogs.h"
+#include "ui/kit/text.h"
+
+namespace Ui {
+namespace {
+
+constexpr std::string_view SdxHeader =
+    "^Prog.|<Canale                         |^TID    |^SID      |^VPID  |^APID  |^AECM  |^VECM  |^PCR   "
+    "|^Codifica|Satellite|Frequenza|NID  |Bouquet       ";
+
+constexpr Routines::Colour Television = 0x80FFFF;
+constexpr Routines::Colour Radio = 0xFFFFC0;
+constexpr Routines::Colour Data = 0xFFC0FF;
+
+}  // namespace
+
+SdxModel::SdxModel(const Formats::SdxTable& table, QObject* parent)
+    : TableModel(SdxHeader, parent), table_(table) {}
+
+void SdxModel::Refresh() {
+  beginResetModel();
+  rows_ = static_cast<int>(table_.rows.size());
+  endResetModel();
+}
+
+int SdxModel::rowCount(const QModelIndex& parent) const { return parent.isValid() ? 0 : rows_; }
+
+Qt::ItemFlags SdxModel::flags(const QModelIndex& index) const {
+  return TableModel::flags(index) | (index.isValid() ? Qt::ItemIsDragEnabled : Qt::NoItemFlags);
+}
+
+QMimeData* SdxModel::mimeData(const QModelIndexList& indexes) const { return RowsAs(SdxRowsType, indexes); }
+
+QString SdxModel::CellText(int number, int column) const {
+  const Formats::SdxRow& row = table_.rows[static_cast<std::size_t>(number - 1)];
+  if (column == 0) return Text(Base::ZeroPadded(number, 4));
+  if (std::string_view(row.name).starts_with('\0')) return {};
+  const std::string codifica = Base::HexByte(row.codifica);
+  const std::string satellite = std::string("SAT ") + static_cast<char>('A' + row.satellite);
+  const std::string_view cells[] = {row.name,      row.tid,  row.sid,    row.vpid, row.apid,
+                                    row.aecm,      row.vecm, row.pcr,    codifica, satellite,
+                                    row.frequency, row.nid,  row.bouquet};
+  return CodePageText(Base::TrimmedRight(cells[static_cast<std::size_t>(column - 1)]));
+}
+
+Routines::Colour SdxModel::CellColour(int number, int column) const {
+  if (column == 0) return Routines::Colours::Header;
+  const char type = table_.rows[static_cast<std::size_t>(number - 1)].type;
+  return type == 'T' ? Television : type == 'R' ? Radio : Data;
+}
+
+}  // namespace Ui

@@ -1,0 +1,133 @@
+#include "ui/window/tree_commands.h"
+
+#include <QAction>
+#include <QScopedValueRollback>
+#include <QSettings>
+#include <QSplitter>
+
+namespace Ui {
+
+using Routines::ListTree;
+
+namespace {
+
+constexpr const char* ClosedKey = "Finestra/TreeView1Chiuso";
+
+}  // namespace
+
+TreeCommands::TreeCommands(Session& session, SdxCommands& sdx, QAction& tick, const QString& settingsFile,
+                           QSplitter& place)
+    : session_(session),
+      sdx_(sdx),
+      tick_(tick),
+      settingsFile_(settingsFile),
+      channels_(new TreePane(session.document, session.bouquets.tables.satellites, ListTree::Shape::Bouquets,
+                             "TreeView1", "Canali per bouquet", &place)),
+      transponders_(new TreePane(session.document, session.bouquets.tables.satellites,
+                                 ListTree::Shape::Transponders, "TreeView2", "Struttura per bouquet",
+                                 &place)) {
+  for (TreePane* pane : {channels_, transponders_}) {
+    pane->hide();
+    place.addWidget(pane);
+    connect(pane, &TreePane::ChannelChosen, this, &TreeCommands::GoToChannel);
+    connect(pane, &TreePane::TransponderChosen, this, &TreeCommands::GoToTransponder);
+    connect(pane, &TreePane::CurrentWanted, this, &TreeCommands::ShowSelection);
+  }
+  connect(channels_, &TreePane::Closed, this, &TreeCommands::Close);
+  connect(transponders_, &TreePane::Closed, this, &TreeCommands::HideTransponders);
+  connect(&session.view, &ListView::Shown, this, &TreeCommands::FollowView);
+  connect(&session.view, &ListView::WentTo, this, [this](int slot) {
+    for (TreePane* pane : {channels_, transponders_}) pane->ShowChannel(slot);
+  });
+  connect(&session.view.ListGrid(), &Grid::SelectionMoved, this, &TreeCommands::ShowSelection);
+}
+
+void TreeCommands::VisualizzaBouquet() {
+  if (session_.NeedsFlash()) {
+    if (transponders_->isHidden()) {
+      ShowTransponders(true);
+    } else {
+      HideTransponders();
+    }
+  }
+  tick_.setChecked(!transponders_->isHidden());
+}
+
+void TreeCommands::ShowTransponders(bool shown) {
+  if (shown && sdx_.PaneShown()) sdx_.ShowPane(false);
+  if (shown) channels_->hide();
+  transponders_->setVisible(shown);
+  tick_.setChecked(shown);
+}
+
+// What was there before comes back.
+void TreeCommands::HideTransponders() {
+  ShowTransponders(false);
+  FollowView(session_.view.Current());
+}
+
+void TreeCommands::FollowSdx() {
+  if (session_.document.Tables().Loaded) ShowTransponders(true);
+}
+
+void TreeCommands::Hide() {
+  channels_->hide();
+  ShowTransponders(false);
+}
+
+void TreeCommands::FollowView(View view) {
+  const bool free = transponders_->isHidden() && !sdx_.PaneShown();
+  const bool closed = QSettings(settingsFile_, QSettings::IniFormat).value(ClosedKey).toBool();
+  channels_->setVisible(view == View::Channels && free && !closed);
+  if (!session_.document.Tables().Loaded) Hide();
+}
+
+void TreeCommands::Close() {
+  QSettings(settingsFile_, QSettings::IniFormat).setValue(ClosedKey, true);
+  channels_->hide();
+}
+
+void TreeCommands::BringBack() {
+  QSettings(settingsFile_, QSettings::IniFormat).remove(ClosedKey);
+  FollowView(View::Channels);
+}
+
+void TreeCommands::GoToChannel(int slot) {
+  const QScopedValueRollback<bool> choosing(choosing_, true);
+  // The keys go on walking the tree.
+  QWidget* focus = session_.view.window()->focusWidget();
+  session_.view.Show(View::Channels);
+  SelectInGrid(slot);
+  if (focus != nullptr) focus->setFocus();
+}
+
+void TreeCommands::GoToTransponder(int slot, int firstChannel) {
+  const QScopedValueRollback<bool> choosing(choosing_, true);
+  if (session_.view.Current() == View::Transponders) {
+    SelectInGrid(slot);
+  } else if (firstChannel != 0) {
+    GoToChannel(firstChannel);
+  }
+}
+
+void TreeCommands::SelectInGrid(int row) {
+  Grid& grid = session_.view.ListGrid();
+  grid.Select({row, row});
+  grid.scrollTo(grid.model()->index(row - 1, 0), QAbstractItemView::PositionAtCenter);
+}
+
+void TreeCommands::ShowSelection() {
+  if (choosing_) return;
+  const View view = session_.view.Current();
+  const auto rows = view == View::None ? std::nullopt : session_.view.ListGrid().Selected();
+  if (!rows) return;
+  for (TreePane* pane : {channels_, transponders_}) {
+    if (view == View::Channels) {
+      pane->ShowChannel(rows->first);
+    } else {
+      pane->ShowTransponder(rows->first);
+    }
+  }
+}
+
+}  // namespace Ui

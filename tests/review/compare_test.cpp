@@ -1,0 +1,294 @@
+// Comparing two lists, and taking over what the other one has without losing a channel or a favourite.
+#include "edit/list_operations.h"
+#include "edit/take_over.h"
+#include "image_builder.h"
+#include "model/favourites.h"
+#include "model/symbol_rates.h"
+
+#include <gtest/gtest.h>
+
+#include <functional>
+#include <memory>
+#include <set>
+
+namespace Review {
+namespace {
+
+using namespace Edit;
+using namespace Routines;
+using namespace Samples;
+
+ChannelRecord& Channel(State& state, int slot) { return state.Channel(slot); }
+TransponderRecord& Transponder(State& state, int slot) { return state.Transponder(slot).record; }
+
+// Six channels of SID 101 to 106; 1 and 2 are on satellite A, 3 is on satellite B.
+State SmallList() {
+  State state;
+  state.Loaded = true;
+  state.ChannelCount = 8;
+  state.TransponderCount = 5;
+  state.SymbolRateTable = EmptySymbolRateTable();
+  PlaceUsualRates(state.SymbolRateTable, Sr22000::Come2);
+  Transponder(state, 1) = MakeTransponder(11766, false, 0, 3, 2, 10, 318);
+  Transponder(state, 2) = MakeTransponder(11804, false, 0, 3, 2, 20, 318);
+  Transponder(state, 3) = MakeTransponder(11766, false, 1, 3, 2, 10, 1);
+  for (int slot = 1; slot <= 6; ++slot)
+    Channel(state, slot) = MakeChannel("c" + std::to_string(slot), (slot + 1) / 2, 100 + slot, 500, 600);
+  CanaliXTransponder(state);
+  state.FavouritesBlock.assign(NormalFavouritesSize, 0);
+  SetFavouriteEntries(state.FavouritesBlock, 0, {2, 5});
+  return state;
+}
+
+// "3>4 Moved Renamed: c3 → x; rest"
+std::string Told(const State& here, const State& there) {
+  constexpr const char* Names[] = {"OnlyHere", "OnlyThere", "Moved", "Renamed", "Retuned", "Modified"};
+  const Comparison found = Compare(here, there);
+  std::string text;
+  for (const Difference& difference : found.differences) {
+    text += std::to_string(difference.here) + ">" + std::to_string(difference.there);
+    for (std::size_t i = 0; i < Marks; ++i) text += difference.marks[i] ? std::string(" ") + Names[i] : "";
+    text += ": " + DetailsOf(here, there, difference) + "; ";
+  }
+  EXPECT_EQ(found.Nothing(), text.empty() && OtherDifferences(here, found, "").empty());
+  return text + OtherDifferences(here, found, "solo di là");
+}
+
+TEST(Compare, TellsEachKindOfDifferenceByServiceAndNeverByName) {
+  const struct {
+    const char* what;
+    std::function<void(State&)> change;
+    const char* told;
+  } cases[] = {
+      {"the same list", [](State&) {}, ""},
+      {"renamed and another stream",
+       [](State& s) {
+         Set(Channel(s, 2), ChannelField::Vpid, 501);
+         std::fill_n(Channel(s, 2).bytes.begin(), 2, Base::Byte{'x'});
+       },
+       "2>2 Renamed Retuned: VPID 500 → 501, c2 → xx; "},
+      {"coding and active", [](State& s) { Set(Channel(s, 3), ChannelField::Flags, 0x20); },
+       "3>3 Modified: codifica 04 → 20, attivo S → N; "},
+      {"no stream, said in two ways, and padding",
+       [](State& s) {
+         Set(Channel(s, 1), ChannelField::Aecm, AbsentPid - Get(Channel(s, 1), ChannelField::Aecm));
+         Channel(s, 2).bytes[3] = ' ';
+       },
+       "2 canali sono diversi solo in byte senza effetto"},
+      {"rows put in at the top move nothing",
+       [](State& s) {
+         std::vector<LostFavourite> lost;
+         MakeRoom(s, 1, 2, lost);
+       },
+       "6 canali hanno un altro numero nello stesso ordine"},
+      {"one channel moved to the end",
+       [](State& s) {
+         MoveChannels(s, {1, 1}, 6);
+       },
+       "1>6 Moved: ; 5 canali hanno un altro numero nello stesso ordine"},
+      {"one deleted, one added",
+       [](State& s) {
+         DeleteSlots(s, {4});
+         SetFavouriteEntries(s.FavouritesBlock, 1, {2});
+         Channel(s, 8) = MakeChannel("c4", 1, 999, 1, 1);
+         CanaliXTransponder(s);
+       },
+       "4>0 OnlyHere: 11804 V SAT A, SID 104; 0>8 OnlyThere: 11766 V SAT A, SID 999; "
+       "Transponder: 2 con un altro conteggio dei canali. 2 canali hanno un altro numero nello stesso "
+       "ordine. "
+       "Preferiti diversi: lista 2"},
+      {"the same name and SID on another satellite is another channel",
+       [](State& s) { Set(Channel(s, 1), ChannelField::Transponder, 3); },
+       "1>0 OnlyHere: 11766 V SAT A, SID 101; 0>1 OnlyThere: 11766 V SAT B, SID 101; "},
+      {"a service that has changed its frequency",
+       [](State& s) { Transponder(s, 2) = MakeTransponder(12500, true, 0, 1, 2, 20, 318); },
+       "3>3 Retuned: 11804 V → 12500 H, SR 27500 → 22000; 4>4 Retuned: 11804 V → 12500 H, SR 27500 → 22000; "
+       "Transponder: 1 solo in questa lista, 1 solo di là"},
+      {"a frequency 1 MHz aside whose TID was corrected",
+       [](State& s) { Transponder(s, 2) = MakeTransponder(11805, false, 0, 3, 2, 0, 0); },
+       "3>3 Modified: TID 20 → 0, NID 318 → 0; 4>4 Modified: TID 20 → 0, NID 318 → 0; "
+       "Transponder: 1 con altri dati"},
+      {"transponders in other slots",
+       [](State& s) {
+         std::swap(s.Transponder(1), s.Transponder(2));
+         for (int slot = 1; slot <= 4; ++slot)
+           Set(Channel(s, slot), ChannelField::Transponder, slot <= 2 ? 2 : 1);
+       },
+       "Transponder: 2 con un altro numero. 4 canali hanno lo stesso transponder con un altro numero"},
+      {"a service twice there, its double in front",
+       [](State& s) {
+         std::vector<LostFavourite> lost;
+         MakeRoom(s, 1, 1, lost);
+         Channel(s, 1) = MakeChannel("double", 1, 102, 7, 7);
+       },
+       "0>1 OnlyThere: 11766 V SAT A, SID 102; 6 canali hanno un altro numero nello stesso ordine"},
+  };
+  for (const auto& one : cases) {
+    const State here = SmallList();
+    State there = here;
+    one.change(there);
+    EXPECT_EQ(Told(here, there), one.told) << one.what;
+  }
+}
+
+TEST(Compare, DoublesOnBothSidesArePairedInOrder) {
+  State here = SmallList();
+  for (const int slot : {3, 4, 5}) Channel(here, slot) = MakeChannel("same", 1, 7, slot, 1);
+  State there = here;
+  DeleteSlots(there, {3});
+  EXPECT_EQ(Told(here, there).substr(0, 12), "3>0 OnlyHere");
+  Set(Channel(there, 3), ChannelField::Vpid, 70);  // was the fourth
+  const Comparison found = Compare(here, there);
+  EXPECT_EQ(found.there[3], 3) << "the first that is not equal to any";
+  EXPECT_EQ(found.there[4], 0);
+  EXPECT_EQ(found.there[5], 4) << "the equal one";
+}
+
+// A list of `count` services chosen among 400 on 40 transponders, some of them twice, with gaps, favourites and an order
+// of its own.
+std::unique_ptr<State> RandomList(Junk& junk, int count, int slots) {
+  auto state = std::make_unique<State>(SmallList());
+  state->ChannelTable = {};
+  state->ChannelCount = slots;
+  state->TransponderCount = 60;
+  const int shift = static_cast<int>(junk.Below(60));
+  const auto place = [shift](int transponder) { return (transponder + shift) % 60 + 1; };
+  for (int i = 0; i < 40; ++i) {
+    const int tid = i % 7 == 0 ? 0 : i;
+    Transponder(*state, place(i)) =
+        MakeTransponder(10700 + 20 * i, i % 2 == 0, i % 3, 1 + 2 * static_cast<int>(junk.Below(2)), 2, tid,
+                        tid == 0 ? 0 : 318);
+  }
+  for (int i = 0; i < count; ++i) {
+    int slot = 0;
+    while (slot == 0 || !Channel(*state, slot).Empty())
+      slot = 1 + static_cast<int>(junk.Below(static_cast<std::size_t>(slots)));
+    const int service = static_cast<int>(junk.Below(400));
+    const std::string name = junk.Below(4) == 0 ? "new name" : "s" + std::to_string(service);
+    Channel(*state, slot) =
+        MakeChannel(name, place(service % 40), 1 + service, 1 + static_cast<int>(junk.Below(2)), 1);
+  }
+  std::vector<int> favourites;
+  for (int slot = 3; slot < slots; slot += 9) favourites.push_back(slot);
+  SetFavouriteEntries(state->FavouritesBlock, 0, favourites);
+  return state;
+}
+
+// The services that favourites list 1 names, those on empty slots as "-".
+std::vector<std::string> Favourites(const State& state) {
+  std::vector<std::string> services;
+  for (const int slot : FavouriteEntriesOf(state.FavouritesBlock, 0)) {
+    const ChannelRecord& channel = state.Channel(slot);
+    const auto& record = state.Transponder(Get(channel, ChannelField::Transponder)).record;
+    const std::string sid = std::to_string(Get(channel, ChannelField::Sid));
+    services.push_back(channel.Empty() ? "-" : sid + " " + std::to_string(FrequencyMHz(record)));
+  }
+  return services;
+}
+
+std::multiset<std::string> Contents(const State& state) {
+  std::multiset<std::string> channels;
+  for (const ChannelRecord& channel : state.ChannelTable) channels.emplace(Base::AsText(channel.bytes));
+  return channels;
+}
+
+TEST(TakeOver, AllDifferencesOfRandomListsLeaveTheOtherListInItsOrder) {
+  Junk junk(11);
+  for (int round = 0; round < 40; ++round) {
+    const auto here = RandomList(junk, 70, 200);
+    const auto there = RandomList(junk, 90 + round, 150);
+    const auto favourites = Favourites(*here);
+    Comparison found = Compare(*here, *there);
+
+    auto ordered = std::make_unique<State>(*here);
+    TakeOrder(*ordered, *there, found);
+    ASSERT_EQ(Contents(*ordered), Contents(*here)) << round;
+    ASSERT_EQ(Favourites(*ordered), favourites) << round;
+    for (int slot = 1; slot <= 200; ++slot) {
+      const int wanted = found.there[static_cast<std::size_t>(slot)];
+      if (wanted == 0) continue;
+      ASSERT_EQ(Channel(*ordered, wanted), Channel(*here, slot)) << round;
+    }
+
+    auto all = std::make_unique<State>(*here);
+    TakeOver(*all, *there, found, found.differences, {});
+    TakeOrder(*all, *there, Compare(*all, *there));
+    const Comparison last = Compare(*all, *there);
+    ASSERT_TRUE(last.differences.empty())
+        << round << ": " << DetailsOf(*all, *there, last.differences.front());
+    ASSERT_EQ(last.shifted, 0) << round;
+
+    // Whatever was ticked is no difference any more, and nothing else went away.
+    std::vector<Difference> chosen;
+    for (const Difference& difference : found.differences) {
+      if (!difference.Has(Mark::OnlyHere)) chosen.push_back(difference);
+    }
+    const int before = UsedChannels(*here);
+    const TakeOverReport report = TakeOver(*here, *there, found, chosen, {});
+    EXPECT_EQ(report.noRoom + report.noTransponder + report.deleted, 0);
+    EXPECT_TRUE(report.lost.empty());
+    ASSERT_EQ(UsedChannels(*here), before + report.added) << round;
+    ASSERT_EQ(Favourites(*here).size(), favourites.size()) << round;
+    found = Compare(*here, *there);
+    for (const Difference& left : found.differences) {
+      // Behind the ones that were added at the end others may be the moved ones.
+      const bool moved = left.marks.count() == 1 && left.Has(Mark::Moved);
+      const bool taken = std::any_of(chosen.begin(), chosen.end(), [&left](const Difference& one) {
+        return one.there == left.there && !one.Has(Mark::OnlyThere);
+      });
+      ASSERT_TRUE(moved || !taken) << round << ": " << DetailsOf(*here, *there, left);
+    }
+    TakeOver(*here, *there, found, found.differences, {});
+    found = Compare(*here, *there);
+    EXPECT_TRUE(found.differences.empty()) << round;
+  }
+}
+
+TEST(TakeOver, WhatHasNoPlaceIsLeftAndTold) {
+  State here = SmallList();
+  State there = here;
+  there.SymbolRateTable = EmptySymbolRateTable();
+  PlaceUsualRates(there.SymbolRateTable, Sr22000::Come0);
+  for (int slot = 1; slot <= 3; ++slot)
+    Set(Transponder(there, slot), TransponderField::SymbolRate, 1);  // 27500, as here
+  Transponder(there, 4) = MakeTransponder(12600, true, 0, 3, 2, 40, 318);
+  Transponder(there, 5) = MakeTransponder(12640, true, 0, 3, 2, 50, 318);
+  Channel(there, 7) = MakeChannel("n1", 4, 7, 1, 1);
+  Channel(there, 8) = MakeChannel("n2", 5, 8, 1, 1);
+  Transponder(there, 2) = MakeTransponder(12500, false, 0, 1, 2, 20, 318);
+  Transponder(here, 4) = MakeTransponder(12700, true, 0, 3, 2, 60, 318);
+
+  Comparison found = Compare(here, there);
+  found.differences.erase(found.differences.begin(), found.differences.end() - 2);  // the two new ones
+  TakeOverReport report = TakeOver(here, there, found, found.differences, {});
+  EXPECT_EQ(report.added, 1);
+  EXPECT_EQ(report.noTransponder, 1);
+  EXPECT_EQ(Get(Transponder(here, 5), TransponderField::SymbolRate), 1U) << "22000 has another code here";
+
+  found = Compare(here, there);
+  const auto before = here.ChannelTable;
+  report = TakeOver(here, there, found, {found.differences.front()}, {});
+  EXPECT_EQ(report.noTransponder, 1) << "a channel is not put on a transponder that is not its own";
+  EXPECT_EQ(here.ChannelTable, before);
+
+  here.ChannelCount = 5;  // the list is full
+  found = Compare(here, there);
+  report = TakeOver(here, there, found, {found.differences.back()}, {});
+  EXPECT_EQ(report.noRoom, 1);
+  EXPECT_EQ(here.ChannelTable, before);
+}
+
+TEST(TakeOver, AChannelWithoutATransponderGetsNoneByChance) {
+  State here = SmallList();
+  State there = here;
+  Channel(there, 7) = MakeChannel("lost", 4, 7, 1, 1);
+  Channel(there, 8) = MakeChannel("new", 5, 8, 1, 1);
+  Transponder(there, 5) = MakeTransponder(12640, true, 0, 3, 2, 50, 318);
+  const Comparison found = Compare(here, there);
+  TakeOver(here, there, found, found.differences, {});
+  EXPECT_EQ(Get(Channel(here, 8), ChannelField::Transponder), 4U) << "the first free slot";
+  EXPECT_FALSE(HasTransponder(here, Channel(here, 7)));
+}
+
+}  // namespace
+}  // namespace Review
