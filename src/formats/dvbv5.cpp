@@ -1,0 +1,202 @@
+#include "formats/dvbv5.h"
+
+#include "base/text.h"
+#include "formats/foreign_fields.h"
+#include "formats/list_fields.h"
+
+namespace Formats {
+namespace {
+
+// "[name]"; a name may have brackets of its own.
+std::optional<std::string_view> NameOfBlock(std::string_view line) {
+  line = Bare(line);
+  if (!line.starts_with('[')) return std::nullopt;
+  line.remove_prefix(1);
+  return line.substr(0, line.rfind(']'));
+}
+
+struct Entry {
+  std::string_view key, value;
+};
+
+// Both empty where the line is none.
+Entry EntryOf(std::string_view line) {
+  line = Bare(line);
+  if (line.starts_with('#') || line.find('=') == std::string_view::npos) return {};
+  const std::string_view key = Bare(TakeField(line, '='));
+  return {key, Bare(line)};
+}
+
+Delivery DeliveryOf(std::string_view value) {
+  return value == "DVBS" ? Delivery::DvbS : value == "DVBS2" ? Delivery::DvbS2 : Delivery::Other;
+}
+
+Modulation ModulationOf(std::string_view value) {
+  if (value.ends_with("AUTO")) return Modulation::Unknown;
+  return value == "QPSK" ? Modulation::Qpsk : Modulation::Other;
+}
+
+// "3/4"
+Base::ShortText<4> FecOf(std::string_view value) {
+  const int one = TakeNumber(value, 9);
+  const int other = value.starts_with('/') ? WholeNumber(value.substr(1), 10).value_or(0) : 0;
+  return FecOfDigits(other == 10 ? one * 100 + other : one * 10 + other);
+}
+
+// Whether the key says something of the transponder.
+bool TakeTransponderEntry(const Entry& entry, ListedTransponder& transponder, bool& valid) {
+  const auto& [key, value] = entry;
+  if (key == "FREQUENCY") {
+    transponder.frequency = KilohertzIn(value);
+  } else if (key == "SYMBOL_RATE") {
+    transponder.symbolRate = WholeNumber(value, 999999999).value_or(NotSaid);
+  } else if (key == "POLARIZATION") {
+    transponder.polarisation = PolarisationIn(value);
+  } else if (key == "INNER_FEC") {
+    transponder.fec = FecOf(value);
+  } else if (key == "DELIVERY_SYSTEM") {
+    transponder.delivery = DeliveryOf(value);
+  } else if (key == "MODULATION") {
+    transponder.modulation = ModulationOf(value);
+  } else if (key == "NETWORK_ID") {
+    transponder.nid = IdIn(value, valid);
+  } else if (key == "TRANSPORT_ID") {
+    transponder.tid = IdIn(value, valid);
+  } else {
+    return false;
+  }
+  return true;
+}
+
+void TakeEntry(const Entry& entry, ListedService& service) {
+  const auto& [key, value] = entry;
+  if (TakeTransponderEntry(entry, service.transponder, service.valid)) return;
+  if (key == "SERVICE_ID") service.sid = IdIn(value, service.valid);
+  if (key == "VIDEO_PID") service.vpid = PidAtFront(value, service.valid);
+  if (key == "AUDIO_PID") service.apid = PidAtFront(value, service.valid);
+  if (key == "VCHANNEL") service.number = WholeNumber(value, 999999).value_or(0);
+}
+
+// The block that begins `text` or the first one in it, which it takes off; false where there is none. Lines before it that
+// say something are counted.
+bool TakeBlock(std::string_view& text, ListedService& service, int& strays) {
+  std::optional<std::string_view> name;
+  while (!text.empty() && !name) {
+    const std::string_view line = Base::TakeLine(text);
+    name = NameOfBlock(line);
+    if (!name && !EntryOf(line).key.empty()) ++strays;
+  }
+  if (!name) return false;
+  service = {};
+  TakeName(service.name, *name);
+  while (!text.empty()) {
+    std::string_view behind = text;
+    const std::string_view line = Base::TakeLine(behind);
+    if (NameOfBlock(line)) break;
+    TakeEntry(EntryOf(line), service);
+    text = behind;
+  }
+  return true;
+}
+
+// A service has an id; the stream table that gives it gives its PIDs as well, so that one without has none.
+bool IsService(const ListedService& service) { return service.sid != NotSaid; }
+
+// Blocks that a file is known by.
+bool HasBlocks(std::string_view text, bool services) {
+  ListedService block;
+  int strays = 0;
+  bool any = false;
+  for (int blocks = 0; blocks < 50 && TakeBlock(text, block, strays); ++blocks) {
+    const bool tuned = block.transponder.frequency != NotSaid;
+    if (tuned && IsService(block)) return services;
+    any = any || tuned;
+  }
+  return any && !services;
+}
+
+constexpr char Separator = ':';
+
+bool IsZapLine(std::string_view line) {
+  if (std::count(line.begin(), line.end(), Separator) != 7) return false;
+  TakeField(line, Separator);
+  const bool frequency = KilohertzIn(TakeField(line, Separator)) != NotSaid;
+  const std::string_view polarisation = TakeField(line, Separator);
+  return frequency && polarisation.size() == 1 && PolarisationIn(polarisation) != Polarisation::Unknown;
+}
+
+}  // namespace
+
+bool IsDvbV5(std::string_view text) { return HasBlocks(text, true); }
+bool IsDvbV5ScanTable(std::string_view text) { return HasBlocks(text, false); }
+
+bool DvbV5Reader::Next(ListedService& service) {
+  while (TakeBlock(text_, found_, unreadable_)) {
+    if (!IsService(found_)) {
+      ++unreadable_;
+      continue;
+    }
+    service.transponder = found_.transponder;
+    return true;
+  }
+  return false;
+}
+
+void DvbV5Reader::Complete(ListedService& service) {
+  service = found_;
+  // A scan leaves out what it did not find.
+  for (int* pid : {&service.vpid, &service.apid}) *pid = std::max(*pid, 0);
+  service.type = TypeByPids(service);
+}
+
+TransponderList ReadDvbV5Transponders(std::string_view text) {
+  TransponderList list;
+  ListedService block;
+  while (TakeBlock(text, block, list.unreadable)) {
+    const bool good = block.valid && block.transponder.frequency != NotSaid;
+    if (good) list.transponders.push_back(block.transponder);
+    if (!good) ++list.unreadable;
+  }
+  return list;
+}
+
+bool IsZap(std::string_view text) { return MostLines(text, "#", IsZapLine); }
+
+bool ZapReader::ReadTransponder(std::string_view line, ListedTransponder& transponder) {
+  if (!IsZapLine(line)) return false;
+  rest_ = line;
+  name_ = TakeField(rest_, Separator);
+  transponder = {};
+  transponder.frequency = KilohertzIn(TakeField(rest_, Separator));
+  transponder.polarisation = PolarisationIn(TakeField(rest_, Separator));
+  TakeField(rest_, Separator);  // the place on the switch
+  const auto kilobaud = WholeNumber(TakeField(rest_, Separator), 999999);
+  transponder.symbolRate = kilobaud ? *kilobaud * 1000 : NotSaid;
+  return true;
+}
+
+bool ZapReader::Next(ListedService& service) {
+  while (!text_.empty()) {
+    const std::string_view line = Base::TakeLine(text_);
+    if (ReadTransponder(line, service.transponder)) {
+      ++number_;
+      return true;
+    }
+    if (!Bare(line).empty() && line.front() != '#') ++unreadable_;
+  }
+  return false;
+}
+
+void ZapReader::Complete(ListedService& service) {
+  const ListedTransponder transponder = service.transponder;
+  service = {};
+  service.transponder = transponder;
+  service.number = number_;
+  TakeName(service.name, name_);
+  service.vpid = std::max(0, PidAtFront(TakeField(rest_, Separator), service.valid));
+  service.apid = std::max(0, PidAtFront(TakeField(rest_, Separator), service.valid));
+  service.sid = IdIn(TakeField(rest_, Separator), service.valid);
+  service.type = TypeByPids(service);
+}
+
+}  // namespace Formats

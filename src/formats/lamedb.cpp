@@ -1,0 +1,234 @@
+#include "formats/lamedb.h"
+
+#include "base/text.h"
+#include "formats/foreign_fields.h"
+#include "formats/list_fields.h"
+
+namespace Formats {
+namespace {
+
+constexpr std::string_view Beginning = "eDVB services /";
+constexpr std::string_view EndOfSection = "end";
+constexpr char Separator = ':';
+
+// What a transponder is known by: namespace, transport stream and network, hexadecimal. Takes them off the front.
+std::optional<std::uint64_t> TakeKey(std::string_view& fields) {
+  const auto names = HexNumber(TakeField(fields, Separator), UINT32_MAX);
+  const auto stream = HexNumber(TakeField(fields, Separator), UINT16_MAX);
+  const auto network = HexNumber(TakeField(fields, Separator), UINT16_MAX);
+  if (!names || !stream || !network) return std::nullopt;
+  return std::uint64_t{*names} << 32U | std::uint64_t{*stream} << 16U | *network;
+}
+
+std::optional<int> TakeWhole(std::string_view& fields, int most) {
+  return WholeNumber(TakeField(fields, Separator), most);
+}
+
+// A blank line or, in 5, a comment.
+bool SaysNothing(std::string_view line) { return Bare(line).empty() || line.front() == '#'; }
+
+// A transponder of which nothing but its key is known.
+ListedTransponder Keyed(std::uint64_t key) {
+  ListedTransponder transponder;
+  transponder.position = PositionOfNamespace(static_cast<std::uint32_t>(key >> 32U));
+  transponder.tid = static_cast<int>(key >> 16U & 0xFFFFU);
+  transponder.nid = static_cast<int>(key & 0xFFFFU);
+  return transponder;
+}
+
+template <class Value, std::size_t Size>
+Value Coded(const Value (&table)[Size], std::optional<int> code, Value other) {
+  return code && *code < static_cast<int>(Size) ? table[*code] : other;
+}
+
+// "s kHz:Bd:polarisation:FEC:position:inversion:flags:system:modulation", the last two not always there.
+void TakeTuning(std::string_view fields, ListedTransponder& transponder) {
+  constexpr Polarisation Polarisations[] = {Polarisation::Horizontal, Polarisation::Vertical,
+                                            Polarisation::Left, Polarisation::Right};
+  constexpr std::string_view Fecs[] = {"", "1/2", "2/3", "3/4", "5/6", "7/8"};
+  const auto frequency = TakeWhole(fields, 99999999).value_or(0);
+  transponder.frequency = frequency > 0 ? frequency : NotSaid;
+  transponder.symbolRate = TakeWhole(fields, 999999999).value_or(NotSaid);
+  transponder.polarisation = Coded(Polarisations, TakeWhole(fields, 9), Polarisation::Unknown);
+  transponder.fec = Coded(Fecs, TakeWhole(fields, 99), std::string_view());
+  std::string_view position = Bare(TakeField(fields, Separator));
+  const bool west = position.starts_with('-');
+  position.remove_prefix(west ? 1 : 0);
+  if (const auto tenths = WholeNumber(position, 3599))
+    transponder.position = west ? -*tenths : PositionOf(*tenths);
+  for (int i = 0; i < 2; ++i) TakeField(fields, Separator);
+  if (TakeWhole(fields, 9).value_or(0) > 0) transponder.delivery = Delivery::DvbS2;
+  constexpr Modulation Modulations[] = {Modulation::Unknown, Modulation::Qpsk};
+  transponder.modulation = Coded(Modulations, TakeWhole(fields, 99).value_or(0), Modulation::Other);
+}
+
+char TypeOf(int type) {
+  const bool television = type == 1 || type == 4 || type == 5 || type == 17 || (type >= 22 && type <= 32);
+  return television ? 'T' : type == 2 || type == 10 ? 'R' : 'S';
+}
+
+Video VideoOfType(int type) {
+  return type >= 31 && type <= 32 ? Video::Hevc : type >= 22 && type <= 30 ? Video::H264 : Video::Unknown;
+}
+
+// Behind "c:" two digits say what the other four are.
+void TakeCached(std::string_view item, ListedService& service) {
+  const auto kind = HexNumber(item.substr(0, 2), 0xFF);
+  const auto value = HexNumber(item.substr(std::min<std::size_t>(2, item.size())), 0xFFFF);
+  if (!kind || !value) return;
+  bool& valid = service.valid;
+  const auto pid = [&] {
+    valid = valid && *value <= 8191;
+    return *value >= 8191 ? 0 : static_cast<int>(*value);
+  };
+  if (*kind == 0) service.vpid = pid();
+  if (*kind == 1) service.apid = pid();
+  if (*kind == 3) service.pcr = pid();
+  if (*kind == 5 && *value == 1) service.video = Video::H264;
+}
+
+// "p:provider,c:…,C:…"
+void TakeData(std::string_view data, ListedService& service) {
+  while (!data.empty()) {
+    const std::string_view item = TakeField(data, ',');
+    if (item.size() < 2 || item[1] != Separator) continue;
+    const std::string_view value = item.substr(2);
+    if (item[0] == 'p') TakeName(service.provider, value);
+    if (item[0] == 'c') TakeCached(value, service);
+    if (item[0] != 'C') continue;
+    if (const auto caid = HexNumber(value, 0xFFFF)) service.caids.push_back(static_cast<int>(*caid));
+  }
+}
+
+}  // namespace
+
+std::optional<int> PositionOfNamespace(std::uint32_t names) {
+  const auto tenths = static_cast<int>(names >> 16U);
+  return tenths > 0 && tenths < 3600 ? std::optional(PositionOf(tenths)) : std::nullopt;
+}
+
+bool IsLamedb(std::string_view text) {
+  const std::string_view line = Base::TakeLine(text);
+  return line.starts_with(Beginning) && line.ends_with("/") && line.size() == Beginning.size() + 2 &&
+         (line[Beginning.size()] == '4' || line[Beginning.size()] == '5');
+}
+
+LamedbReader::LamedbReader(std::string_view text) : text_(text) {
+  oneLine_ = Base::TakeLine(text_).ends_with("/5/");
+  if (oneLine_) {
+    ReadTransponderLines();
+  } else {
+    ReadTransponders();
+  }
+}
+
+void LamedbReader::AddTransponder(std::string_view ids, std::string_view tuning) {
+  const auto key = TakeKey(ids);
+  if (!key || tuning.size() < 2) {
+    ++unreadable_;
+    return;
+  }
+  ListedTransponder transponder = Keyed(*key);
+  if (tuning.front() == 's') {
+    TakeTuning(tuning.substr(2), transponder);
+  } else {
+    transponder.delivery = Delivery::Other;
+  }
+  places_[*key] = transponders_.size();
+  transponders_.push_back(transponder);
+}
+
+void LamedbReader::ReadTransponders() {
+  while (!text_.empty() && Base::TakeLine(text_) != "transponders") {
+  }
+  while (!text_.empty()) {
+    const std::string_view ids = Base::TakeLine(text_);
+    if (ids == EndOfSection) break;
+    if (SaysNothing(ids) || ids == "/") continue;
+    AddTransponder(ids, Bare(Base::TakeLine(text_)));
+  }
+  while (!text_.empty() && Base::TakeLine(text_) != "services") {
+  }
+}
+
+void LamedbReader::ReadTransponderLines() {
+  while (!text_.empty() && !text_.starts_with("s:")) {
+    std::string_view line = Base::TakeLine(text_);
+    if (!line.starts_with("t:")) {
+      unreadable_ += SaysNothing(line) ? 0 : 1;
+      continue;
+    }
+    line.remove_prefix(2);
+    const std::string_view ids = TakeField(line, ',');
+    AddTransponder(ids, line);
+  }
+}
+
+// Takes a service's first line, or only one, apart; false where it is none.
+bool LamedbReader::TakeApart(std::string_view line) {
+  ids_ = line;
+  if (oneLine_) {
+    if (!ids_.starts_with("s:")) return false;
+    ids_.remove_prefix(2);
+    data_ = ids_;
+    ids_ = TakeField(data_, ',');
+    const std::size_t behind = std::min(data_.find("\",p:"), data_.rfind('"'));
+    if (!data_.starts_with('"') || behind == std::string_view::npos || behind == 0) return false;
+    name_ = data_.substr(1, behind - 1);
+    data_.remove_prefix(behind + 1);
+  }
+  const auto sid = HexNumber(TakeField(ids_, Separator), UINT16_MAX);
+  sid_ = sid ? static_cast<int>(*sid) : NotSaid;
+  return sid.has_value();
+}
+
+bool LamedbReader::FindTransponder(ListedTransponder& transponder) {
+  const auto key = TakeKey(ids_);
+  if (!key) return false;
+  const auto place = places_.find(*key);
+  transponder = place == places_.end() ? Keyed(*key) : transponders_[place->second];
+  return true;
+}
+
+bool LamedbReader::Next(ListedService& service) {
+  while (!text_.empty()) {
+    const std::string_view line = Base::TakeLine(text_);
+    if (line == EndOfSection) text_ = {};
+    if (line == EndOfSection || SaysNothing(line)) continue;
+    if (!TakeApart(line) || !FindTransponder(service.transponder)) {
+      ++unreadable_;
+      continue;
+    }
+    if (!oneLine_) {
+      name_ = Base::TakeLine(text_);
+      data_ = Base::TakeLine(text_);
+    }
+    return true;
+  }
+  return false;
+}
+
+void LamedbReader::Complete(ListedService& service) {
+  service.valid = true;
+  service.sid = sid_;
+  service.vpid = service.apid = service.pcr = NotSaid;
+  service.caids.clear();
+  service.provider.clear();
+  TakeName(service.name, name_);
+  const auto type = TakeWhole(ids_, 255);
+  service.valid = type.has_value();
+  service.type = TypeOf(type.value_or(0));
+  service.video = VideoOfType(type.value_or(0));
+  service.number = TakeWhole(ids_, 999999).value_or(0);
+  TakeData(data_, service);
+}
+
+TransponderList ReadLamedbTransponders(std::string_view text) {
+  const LamedbReader reader(text);
+  TransponderList list;
+  list.unreadable = reader.Unreadable();
+  list.transponders = reader.Transponders();
+  return list;
+}
+
+}  // namespace Formats

@@ -1,0 +1,91 @@
+// A service as the channel lists of today describe it, whatever their layout, and the way through such a list.
+#pragma once
+
+#include "base/short_text.h"
+
+#include <cstdint>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace Formats {
+
+inline constexpr int NotSaid = -1;
+
+enum class Polarisation : std::uint8_t { Unknown, Horizontal, Vertical, Left, Right };
+enum class Delivery : std::uint8_t {
+  DvbS,
+  DvbS2,
+  Other
+};  // Other is no satellite: cable, terrestrial, a stream
+enum class Modulation : std::uint8_t { Unknown, Qpsk, Other };
+enum class Video : std::uint8_t { Unknown, Mpeg2, H264, Hevc, Other };
+
+struct ListedTransponder {
+  std::optional<int> position;  // tenths of a degree, west below 0; nothing where the file does not say
+  int frequency = NotSaid;      // kHz
+  int symbolRate = NotSaid;     // Bd
+  int nid = NotSaid;
+  int tid = NotSaid;
+  Base::ShortText<4> fec;  // "3/4"; empty where it is automatic or not said
+  Polarisation polarisation = Polarisation::Unknown;
+  Delivery delivery = Delivery::DvbS;
+  Modulation modulation = Modulation::Unknown;
+
+  friend bool operator==(const ListedTransponder&, const ListedTransponder&) = default;
+};
+
+struct ListedService {
+  ListedTransponder transponder;
+  std::string name;  // this and the provider are bytes of the code page without control characters
+  std::string provider;
+  int number = 0;  // of the channel in its list; 0 where the list gives none
+  int sid = NotSaid;
+  // 0 where the file says that there is none.
+  int vpid = NotSaid;
+  int apid = NotSaid;
+  int pcr = NotSaid;  // most files say it only where it is not the video's
+  Video video = Video::Unknown;
+  char type = 0;           // 'T' television, 'R' radio, 'S' data; 0 where nothing tells
+  std::vector<int> caids;  // of the systems that encrypt it
+  bool valid = true;       // no number was one that could not be read
+};
+
+// Goes through a list from its front to its end, each service once.
+class ServiceReader {
+ public:
+  virtual ~ServiceReader() = default;
+
+  // Goes to the next service; false behind the last one. Of the transponder everything but the ids is filled in, so that a
+  // service which cannot be received costs no more than that; the rest of `service` is left as it was.
+  virtual bool Next(ListedService& service) = 0;
+  // Fills in all the rest of the service that Next went to. To be called at most once for each.
+  virtual void Complete(ListedService& service) = 0;
+
+  // Both.
+  bool Read(ListedService& service) {
+    if (!Next(service)) return false;
+    Complete(service);
+    return true;
+  }
+
+  // What stood so far where a service belongs and is none.
+  [[nodiscard]] int Unreadable() const { return unreadable_; }
+
+ protected:
+  ServiceReader() = default;
+  ServiceReader(const ServiceReader&) = default;
+  ServiceReader& operator=(const ServiceReader&) = default;
+
+  int unreadable_ = 0;
+};
+
+struct TransponderList {
+  std::string satellite;        // as the file names it, bytes of the code page
+  std::optional<int> position;  // of the whole file, as above
+  std::vector<ListedTransponder> transponders;
+  int unreadable = 0;  // lines or blocks that should be transponders and are none
+};
+
+}  // namespace Formats

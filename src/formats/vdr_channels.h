@@ -1,0 +1,28 @@
+// channels.conf of a video disk recorder: a channel a line, thirteen fields divided by colons.
+#pragma once
+
+#include "formats/listed_service.h"
+
+namespace Formats {
+
+bool IsVdrChannels(std::string_view text);
+
+class VdrReader final : public ServiceReader {
+ public:
+  // `text` must stay as long as the reader does.
+  explicit VdrReader(std::string_view text) : text_(text) {}
+
+  bool Next(ListedService& service) override;
+  void Complete(ListedService& service) override;
+
+ private:
+  bool ReadTransponder(std::string_view line, ListedTransponder& transponder);
+  void TakeGroup(std::string_view line);
+
+  std::string_view text_;
+  std::string_view name_;  // of the channel that Next went to, and its fields behind the symbol rate
+  std::string_view rest_;
+  int number_ = 0;
+};
+
+}  // namespace Formats
