@@ -1,6 +1,7 @@
 // The windows that are measured: the program's own, and a plain table that shows constant cells in its place.
 #pragma once
 
+#include "ui/list/document.h"
 #include "ui/list/grid.h"
 #include "ui/window/main_window.h"
 

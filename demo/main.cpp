@@ -3,12 +3,14 @@
 // Every step is printed with what came of it; the first that fails ends the session with an error.
 #include "ui/kit/text.h"
 #include "ui/kit/toolkit.h"
+#include "ui/list/document.h"
 #include "ui/list/grid.h"
 #include "window_driver.h"
 
 #include <QAction>
 #include <QApplication>
 #include <QComboBox>
+#include <QDialog>
 #include <QDir>
 #include <QFile>
 #include <QLabel>

@@ -40,19 +40,19 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
   Input input(data, size);
   const int transponders = static_cast<int>(input.Byte() % (LastTransponderSlot + 1));
   const Base::ByteView image = flash.Make(input);
-  const Formats::FlashRows rows = Formats::ReadFlashRows(image, SymbolRates(), Bouquets());
-  CheckRows(rows.table);
-  Require(static_cast<int>(rows.table.rows.size()) + rows.withoutTransponder == rows.table.lines,
+  const Formats::SdxTable table = Formats::ReadFlashRows(image, SymbolRates(), Bouquets());
+  CheckRows(table);
+  Require(static_cast<int>(table.rows.size()) + table.dropped.Total() == table.lines,
           "every channel is taken or counted");
-  CheckRowImport(rows.table, transponders);
+  CheckRowImport(table, transponders);
 
   const auto channels = ChannelsOf(image);
   const auto list = EmptyList();
   list->MaxChannels = list->ChannelCount = 999;
   list->TransponderCount = LastTransponderSlot;
   Formats::SdxImport import(*list, Bouquets());
-  for (std::size_t i = 0; i < std::min(channels.size(), rows.table.rows.size()); ++i) {
-    import.Put(rows.table.rows[i], static_cast<int>(i + 1), static_cast<int>(i + 1));
+  for (std::size_t i = 0; i < std::min(channels.size(), table.rows.size()); ++i) {
+    import.Put(table.rows[i], static_cast<int>(i + 1), static_cast<int>(i + 1));
     Require(SameButForTransponder(channels[i], list->Channel(i + 1)), "a channel is carried over whole");
   }
   return 0;

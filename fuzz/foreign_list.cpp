@@ -5,7 +5,6 @@
 #include "fuzz_support.h"
 
 #include <algorithm>
-#include <numeric>
 #include <set>
 
 using namespace Fuzz;
@@ -23,13 +22,12 @@ void CheckGuess(const ForeignLayout& layout) {
 }
 
 void CheckList(std::string_view text, const ForeignLayout& layout, int satellite) {
-  const ForeignList list = ReadForeign(text, layout, satellite);
-  const SdxTable& table = list.table;
+  const SdxTable table = ReadForeign(text, layout, satellite);
   CheckRows(table);
-  const int dropped = std::accumulate(list.dropped.begin(), list.dropped.end(), 0);
+  const int dropped = table.dropped.Total();
   Require(static_cast<int>(table.rows.size()) + dropped + (table.full ? 1 : 0) == table.lines,
           "every line is taken or dropped for a reason");
-  Require((dropped == 0) == list.DropsText().empty(), "what was dropped is told");
+  Require((dropped == 0) == table.dropped.Text().empty(), "what was dropped is told");
   for (const SdxRow& row : table.rows) {
     const std::string_view name = row.name;
     const std::string_view frequency = row.frequency;

@@ -22,7 +22,9 @@ SdxOptions OptionsOf(std::size_t choice, std::size_t satellite, std::string_view
   options.codes = EncryptionCodesOf(text);
   options.codes.resize(std::min<std::size_t>(options.codes.size(), choice >> 4U & 3U));
   if ((choice & 64U) != 0) options.filtered = FilteredServices(text);
-  if ((choice & 128U) != 0) options.known = ServicesOf(text.substr(0, text.size() / 2));
+  if ((choice & 128U) == 0) return options;
+  for (const auto& [tid, sid] : ServicesOf(text.substr(0, text.size() / 2)))
+    options.known.insert({options.satellite, tid, sid});
   return options;
 }
 
@@ -35,11 +37,9 @@ void CheckRow(const SdxRow& row, const SdxOptions& options) {
 }
 
 void CheckTable(const SdxTable& table, const SdxOptions& options) {
-  const int dropped = table.droppedByRate + table.droppedByType + table.droppedByFormat + table.droppedByPid +
-                      table.droppedByCode + table.droppedByFilter;
   CheckRows(table);
   Require(table.satelliteName.size() <= 17, "the satellite's name");
-  Require(static_cast<int>(table.rows.size()) + dropped + (table.full ? 1 : 0) == table.lines,
+  Require(static_cast<int>(table.rows.size()) + table.dropped.Total() + (table.full ? 1 : 0) == table.lines,
           "every line is taken or dropped for a reason");
   for (const SdxRow& row : table.rows) CheckRow(row, options);
 }

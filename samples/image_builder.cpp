@@ -64,6 +64,14 @@ ImageBuilder& ImageBuilder::PutFavourites(std::size_t sector, std::size_t slot, 
   return SetLength(sector, offset, EntryHeaderSize + data.size() + 1);
 }
 
+Base::Bytes ImageFullOf(Base::Byte fill) {
+  ImageBuilder image(1);
+  const Base::Bytes data(SectorSize - 16 - EntryHeaderSize, fill);
+  for (std::size_t sector = 1; sector <= FlashSize / SectorSize; ++sector)
+    image.Put(sector, 0, 16, "TCS", data);
+  return image.Image();
+}
+
 ChannelRecord MakeChannel(std::string_view name, int transponder, int sid, int vpid, int apid, int flags) {
   ChannelRecord channel;
   std::copy_n(name.begin(), std::min(name.size(), ChannelRecord::NameSize), channel.bytes.begin());

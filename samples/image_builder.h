@@ -61,6 +61,9 @@ class ImageBuilder {
   Base::Bytes image_;
 };
 
+// A list section in each sector, with `fill` in all of its bytes: two such images differ only where a save may write.
+Base::Bytes ImageFullOf(Base::Byte fill);
+
 // `name` is bytes of the code page, cut to 16 and filled up with zero bytes.
 Routines::ChannelRecord MakeChannel(std::string_view name, int transponder, int sid, int vpid, int apid,
                                     int flags = 0x04);

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <algorithm>
+#include <concepts>
 #include <cstddef>
 #include <string>
 #include <string_view>
@@ -48,6 +49,11 @@ int LeadingCount(std::string_view text, int most);
 
 // `value` (0 or more) in decimal, with zeros in front up to `width` digits.
 std::string ZeroPadded(int value, int width);
+
+// "1 canale", "7 canali": a count and what it counts, in the word that fits it.
+std::string Counted(std::integral auto count, std::string_view one, std::string_view more) {
+  return std::to_string(count).append(" ").append(count == 1 ? one : more);
+}
 
 // Two upper-case hexadecimal digits of a byte.
 std::string HexByte(int value);

@@ -1,5 +1,6 @@
 #include "edit/renumber.h"
 
+#include "base/text.h"
 #include "model/favourites.h"
 
 #include <numeric>
@@ -56,9 +57,8 @@ std::string LostFavouritesText(const Base::Bytes& block, const std::vector<LostF
     if (!lists.empty()) lists += ", ";
     lists += Routines::FavouritesTitle(block, list) + " " + std::to_string(counts[list]);
   }
-  return (lost.size() == 1 ? "tolto 1 preferito ("
-                           : "tolti " + std::to_string(lost.size()) + " preferiti (") +
-         lists + ")";
+  return (lost.size() == 1 ? "tolto " : "tolti ") + Base::Counted(lost.size(), "preferito", "preferiti") +
+         " (" + lists + ")";
 }
 
 }  // namespace Edit

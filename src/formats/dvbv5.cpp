@@ -43,6 +43,9 @@ Base::ShortText<4> FecOf(std::string_view value) {
   return FecOfDigits(other == 10 ? one * 100 + other : one * 10 + other);
 }
 
+int IdOf(std::string_view value, bool& valid) { return TakeId(value, '\0', valid); }
+int PidOf(std::string_view value, bool& valid) { return TakePid(value, valid); }
+
 // Whether the key says something of the transponder.
 bool TakeTransponderEntry(const Entry& entry, ListedTransponder& transponder, bool& valid) {
   const auto& [key, value] = entry;
@@ -59,9 +62,9 @@ bool TakeTransponderEntry(const Entry& entry, ListedTransponder& transponder, bo
   } else if (key == "MODULATION") {
     transponder.modulation = ModulationOf(value);
   } else if (key == "NETWORK_ID") {
-    transponder.nid = IdIn(value, valid);
+    transponder.nid = IdOf(value, valid);
   } else if (key == "TRANSPORT_ID") {
-    transponder.tid = IdIn(value, valid);
+    transponder.tid = IdOf(value, valid);
   } else {
     return false;
   }
@@ -71,15 +74,15 @@ bool TakeTransponderEntry(const Entry& entry, ListedTransponder& transponder, bo
 void TakeEntry(const Entry& entry, ListedService& service) {
   const auto& [key, value] = entry;
   if (TakeTransponderEntry(entry, service.transponder, service.valid)) return;
-  if (key == "SERVICE_ID") service.sid = IdIn(value, service.valid);
-  if (key == "VIDEO_PID") service.vpid = PidAtFront(value, service.valid);
-  if (key == "AUDIO_PID") service.apid = PidAtFront(value, service.valid);
+  if (key == "SERVICE_ID") service.sid = IdOf(value, service.valid);
+  if (key == "VIDEO_PID") service.vpid = PidOf(value, service.valid);
+  if (key == "AUDIO_PID") service.apid = PidOf(value, service.valid);
   if (key == "VCHANNEL") service.number = WholeNumber(value, 999999).value_or(0);
 }
 
-// The block that begins `text` or the first one in it, which it takes off; false where there is none. Lines before it that
+// The block that begins `text` or the first one in it, which it takes off, and its name; false where there is none. Lines before it that
 // say something are counted.
-bool TakeBlock(std::string_view& text, ListedService& service, int& strays) {
+bool TakeBlock(std::string_view& text, std::string_view& named, ListedService& service, int& strays) {
   std::optional<std::string_view> name;
   while (!text.empty() && !name) {
     const std::string_view line = Base::TakeLine(text);
@@ -87,8 +90,8 @@ bool TakeBlock(std::string_view& text, ListedService& service, int& strays) {
     if (!name && !EntryOf(line).key.empty()) ++strays;
   }
   if (!name) return false;
+  named = *name;
   service = {};
-  TakeName(service.name, *name);
   while (!text.empty()) {
     std::string_view behind = text;
     const std::string_view line = Base::TakeLine(behind);
@@ -105,9 +108,10 @@ bool IsService(const ListedService& service) { return service.sid != NotSaid; }
 // Blocks that a file is known by.
 bool HasBlocks(std::string_view text, bool services) {
   ListedService block;
+  std::string_view name;
   int strays = 0;
   bool any = false;
-  for (int blocks = 0; blocks < 50 && TakeBlock(text, block, strays); ++blocks) {
+  for (int blocks = 0; blocks < 50 && TakeBlock(text, name, block, strays); ++blocks) {
     const bool tuned = block.transponder.frequency != NotSaid;
     if (tuned && IsService(block)) return services;
     any = any || tuned;
@@ -131,7 +135,7 @@ bool IsDvbV5(std::string_view text) { return HasBlocks(text, true); }
 bool IsDvbV5ScanTable(std::string_view text) { return HasBlocks(text, false); }
 
 bool DvbV5Reader::Next(ListedService& service) {
-  while (TakeBlock(text_, found_, unreadable_)) {
+  while (TakeBlock(text_, name_, found_, unreadable_)) {
     if (!IsService(found_)) {
       ++unreadable_;
       continue;
@@ -142,17 +146,20 @@ bool DvbV5Reader::Next(ListedService& service) {
   return false;
 }
 
-void DvbV5Reader::Complete(ListedService& service) {
+void DvbV5Reader::TakeStreams(ListedService& service) {
   service = found_;
   // A scan leaves out what it did not find.
   for (int* pid : {&service.vpid, &service.apid}) *pid = std::max(*pid, 0);
   service.type = TypeByPids(service);
 }
 
+void DvbV5Reader::TakeIdentity(ListedService& service) { TakeName(service.name, name_); }
+
 TransponderList ReadDvbV5Transponders(std::string_view text) {
   TransponderList list;
   ListedService block;
-  while (TakeBlock(text, block, list.unreadable)) {
+  std::string_view name;
+  while (TakeBlock(text, name, block, list.unreadable)) {
     const bool good = block.valid && block.transponder.frequency != NotSaid;
     if (good) list.transponders.push_back(block.transponder);
     if (!good) ++list.unreadable;
@@ -187,16 +194,21 @@ bool ZapReader::Next(ListedService& service) {
   return false;
 }
 
-void ZapReader::Complete(ListedService& service) {
+void ZapReader::TakeStreams(ListedService& service) {
   const ListedTransponder transponder = service.transponder;
   service = {};
   service.transponder = transponder;
-  service.number = number_;
-  TakeName(service.name, name_);
-  service.vpid = std::max(0, PidAtFront(TakeField(rest_, Separator), service.valid));
-  service.apid = std::max(0, PidAtFront(TakeField(rest_, Separator), service.valid));
-  service.sid = IdIn(TakeField(rest_, Separator), service.valid);
+  for (int* pid : {&service.vpid, &service.apid}) {
+    *pid = std::max(0, TakePid(rest_, service.valid));
+    service.valid = TakeEnd(rest_, Separator) && service.valid;
+  }
   service.type = TypeByPids(service);
+}
+
+void ZapReader::TakeIdentity(ListedService& service) {
+  service.number = number_;
+  service.sid = TakeId(rest_, Separator, service.valid);
+  TakeName(service.name, name_);
 }
 
 }  // namespace Formats

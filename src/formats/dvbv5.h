@@ -15,11 +15,13 @@ class DvbV5Reader final : public ServiceReader {
   explicit DvbV5Reader(std::string_view text) : text_(text) {}
 
   bool Next(ListedService& service) override;
-  void Complete(ListedService& service) override;
+  void TakeStreams(ListedService& service) override;
+  void TakeIdentity(ListedService& service) override;
 
  private:
   std::string_view text_;
   ListedService found_;
+  std::string_view name_;
 };
 
 // The transponder of each block. The position is in the file's name alone.
@@ -32,7 +34,8 @@ class ZapReader final : public ServiceReader {
   explicit ZapReader(std::string_view text) : text_(text) {}
 
   bool Next(ListedService& service) override;
-  void Complete(ListedService& service) override;
+  void TakeStreams(ListedService& service) override;
+  void TakeIdentity(ListedService& service) override;
 
  private:
   bool ReadTransponder(std::string_view line, ListedTransponder& transponder);

@@ -48,23 +48,23 @@ SdxRow RowOf(const ChannelRecord& channel, const TransponderRow& transponder, st
 
 }  // namespace
 
-FlashRows ReadFlashRows(Base::ByteView image, std::string_view symbolRates, const BouquetTables& bouquets) {
+SdxTable ReadFlashRows(Base::ByteView image, std::string_view symbolRates, const BouquetTables& bouquets) {
   const auto state = std::make_unique<State>();
   const LoadReport report = LoadFlash(*state, image, LastChannelSlot, 0, bouquets);
-  FlashRows rows;
+  SdxTable table;
   // What is read past the channels that count is the second copy.
-  for (int slot = 1; slot <= state->ChannelCount && rows.table.lines < report.channelsInImage; ++slot) {
+  for (int slot = 1; slot <= state->ChannelCount && table.lines < report.channelsInImage; ++slot) {
     const ChannelRecord& channel = state->Channel(slot);
     if (channel.Empty()) continue;
-    ++rows.table.lines;
+    ++table.lines;
     const TransponderRow* transponder = TransponderInUse(*state, Get(channel, ChannelField::Transponder));
     if (transponder == nullptr) {
-      ++rows.withoutTransponder;
+      table.dropped.Add(Drop::NoTransponder);
       continue;
     }
-    rows.table.rows.push_back(RowOf(channel, *transponder, symbolRates));
+    table.rows.push_back(RowOf(channel, *transponder, symbolRates));
   }
-  return rows;
+  return table;
 }
 
 }  // namespace Formats

@@ -7,14 +7,10 @@
 
 namespace Formats {
 
-struct FlashRows {
-  SdxTable table;
-  int withoutTransponder = 0;  // channels left out: the image does not say where they are received
-};
-
 // `image` has FlashSize bytes; all its channels are read, a receiver's second copy of its list left out. `symbolRates`
-// is the table that gives the codes of its transponders their rates.
-FlashRows ReadFlashRows(Base::ByteView image, std::string_view symbolRates,
-                        const Routines::BouquetTables& bouquets);
+// is the table that gives the codes of its transponders their rates. Channels are dropped for NoTransponder where the image
+// does not say where they are received.
+SdxTable ReadFlashRows(Base::ByteView image, std::string_view symbolRates,
+                       const Routines::BouquetTables& bouquets);
 
 }  // namespace Formats

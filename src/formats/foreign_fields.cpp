@@ -78,15 +78,10 @@ constexpr Word Systems[] = {{"SECA", 0x24}, {"MEDIAG", 0x24}, {"NAGRA", 0x44},  
                             {"AUTO", 0x04}, {"CRYPT", 0x04},  {"SCRAMB", 0x04}, {"CODIF", 0x04}};
 
 // The same by the high byte of their registered numbers.
-constexpr Word SystemNumbers[] = {
-    {"\x01", 0x24}, {"\x05", 0xA4}, {"\x06", 0x84}, {"\x17", 0x64}, {"\x18", 0x44}};
+constexpr std::pair<int, int> SystemNumbers[] = {
+    {0x01, 0x24}, {0x05, 0xA4}, {0x06, 0x84}, {0x17, 0x64}, {0x18, 0x44}};
 
 }  // namespace
-
-std::string_view Bare(std::string_view text) {
-  text.remove_prefix(std::min(text.find_first_not_of(" \t"), text.size()));
-  return text.substr(0, text.find_last_not_of(" \t") + 1);
-}
 
 std::optional<int> NumberIn(std::string_view text, bool hexadecimal) {
   const std::string upper = Upper(text);
@@ -177,10 +172,14 @@ std::optional<int> CodificaIn(std::string_view text, bool hexadecimal) {
   const auto number = NumberIn(text, hexadecimal);
   if (!number || *number == 0 || *number == 1) return number ? std::optional(Free) : std::nullopt;
   if (*number < 256) return *number;
-  for (const Word& system : SystemNumbers) {
-    if (system.text.front() == *number / 256) return system.value;
+  return CodificaOfSystem(*number).value_or(Free);
+}
+
+std::optional<int> CodificaOfSystem(int number) {
+  for (const auto& [highByte, coding] : SystemNumbers) {
+    if (highByte == number / 256) return coding;
   }
-  return Free;
+  return std::nullopt;
 }
 
 }  // namespace Formats

@@ -8,7 +8,12 @@
 namespace Formats {
 
 // Without blanks and tabs at both ends.
-std::string_view Bare(std::string_view text);
+inline std::string_view Bare(std::string_view text) {
+  const auto isBlank = [](char c) { return c == ' ' || c == '\t'; };
+  while (!text.empty() && isBlank(text.front())) text.remove_prefix(1);
+  while (!text.empty() && isBlank(text.back())) text.remove_suffix(1);
+  return text;
+}
 
 // A whole number of at most 16 bits. "0x", "$" or "h" mark hexadecimal digits whatever `hexadecimal` says; what
 // follows the digits after some other character than a letter is left out ("650,651", "650 ita").
@@ -35,5 +40,8 @@ std::optional<char> TypeWordIn(std::string_view text);
 // The receiver's coding byte for a name ("Nagra", "FTA"), a byte as it stands or a system's number (0x0500).
 // Nothing where it is none of these.
 std::optional<int> CodificaIn(std::string_view text, bool hexadecimal);
+
+// The receiver's coding byte for an encryption system's registered number (0x0500); nothing where it has none.
+std::optional<int> CodificaOfSystem(int number);
 
 }  // namespace Formats

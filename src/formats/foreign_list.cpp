@@ -144,21 +144,8 @@ class Reader {
 
 }  // namespace
 
-std::string ForeignList::DropsText() const {
-  constexpr std::string_view Reasons[] = {"senza nome", "senza frequenza", "frequenza non valida",
-                                          "polarizzazione non valida", "numero non valido"};
-  std::string text;
-  for (std::size_t i = 0; i < dropped.size(); ++i) {
-    if (dropped[i] == 0) continue;
-    if (!text.empty()) text += ", ";
-    text.append(Reasons[i]).append(" ").append(std::to_string(dropped[i]));
-  }
-  return text;
-}
-
-ForeignList ReadForeign(std::string_view text, const ForeignLayout& layout, int satellite, int mostLines) {
-  ForeignList list;
-  SdxTable& table = list.table;
+SdxTable ReadForeign(std::string_view text, const ForeignLayout& layout, int satellite, int mostLines) {
+  SdxTable table;
   Reader reader(layout, satellite);
   bool header = layout.header;
   while (!text.empty() && table.lines < mostLines) {
@@ -168,7 +155,7 @@ ForeignList ReadForeign(std::string_view text, const ForeignLayout& layout, int 
     ++table.lines;
     SdxRow row;
     if (const auto drop = reader.Read(line, row)) {
-      ++list.dropped[static_cast<std::size_t>(*drop)];
+      table.dropped.Add(*drop);
     } else if (table.rows.size() == MostSdxRows) {
       table.full = true;
       break;
@@ -176,7 +163,7 @@ ForeignList ReadForeign(std::string_view text, const ForeignLayout& layout, int 
       table.rows.push_back(row);
     }
   }
-  return list;
+  return table;
 }
 
 }  // namespace Formats

@@ -8,20 +8,10 @@
 
 namespace Formats {
 
-// Why a line gave no row.
-enum class Drop { NoName, NoFrequency, BadFrequency, BadPolarisation, BadNumber };
-
-struct ForeignList {
-  SdxTable table;                // lines read: blank ones and the header do not count
-  std::array<int, 5> dropped{};  // lines by reason, in the order of Drop
-
-  // "senza nome 3, numero non valido 1"; empty when nothing was dropped.
-  [[nodiscard]] std::string DropsText() const;
-};
-
 // `text` is lines of the code page. A column that the layout lacks leaves vertical polarisation, no symbol rate, automatic
-// FEC and absent numbers. Ends with the 4001st line that would be a row, or after `mostLines` lines.
-ForeignList ReadForeign(std::string_view text, const ForeignLayout& layout, int satellite,
-                        int mostLines = std::numeric_limits<int>::max());
+// FEC and absent numbers. Blank lines and the header do not count. Ends with the 4001st line that would be a row, or after
+// `mostLines` lines.
+SdxTable ReadForeign(std::string_view text, const ForeignLayout& layout, int satellite,
+                     int mostLines = std::numeric_limits<int>::max());
 
 }  // namespace Formats

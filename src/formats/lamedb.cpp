@@ -13,15 +13,19 @@ constexpr char Separator = ':';
 
 // What a transponder is known by: namespace, transport stream and network, hexadecimal. Takes them off the front.
 std::optional<std::uint64_t> TakeKey(std::string_view& fields) {
-  const auto names = HexNumber(TakeField(fields, Separator), UINT32_MAX);
-  const auto stream = HexNumber(TakeField(fields, Separator), UINT16_MAX);
-  const auto network = HexNumber(TakeField(fields, Separator), UINT16_MAX);
-  if (!names || !stream || !network) return std::nullopt;
-  return std::uint64_t{*names} << 32U | std::uint64_t{*stream} << 16U | *network;
+  std::uint64_t key = 0;
+  for (const unsigned bits : {32U, 16U, 16U}) {
+    const auto number = TakeHex(fields);
+    if (!number || *number >> (bits - 1) > 1 || !TakeEnd(fields, Separator)) return std::nullopt;
+    key = key << bits | *number;
+  }
+  return key;
 }
 
 std::optional<int> TakeWhole(std::string_view& fields, int most) {
-  return WholeNumber(TakeField(fields, Separator), most);
+  const int value = TakeNumber(fields, most);
+  return TakeEnd(fields, Separator) && value != NotSaid && value <= most ? std::optional(value)
+                                                                         : std::nullopt;
 }
 
 // A blank line or, in 5, a comment.
@@ -72,31 +76,31 @@ Video VideoOfType(int type) {
 }
 
 // Behind "c:" two digits say what the other four are.
-void TakeCached(std::string_view item, ListedService& service) {
-  const auto kind = HexNumber(item.substr(0, 2), 0xFF);
-  const auto value = HexNumber(item.substr(std::min<std::size_t>(2, item.size())), 0xFFFF);
-  if (!kind || !value) return;
-  bool& valid = service.valid;
-  const auto pid = [&] {
-    valid = valid && *value <= 8191;
-    return *value >= 8191 ? 0 : static_cast<int>(*value);
-  };
-  if (*kind == 0) service.vpid = pid();
-  if (*kind == 1) service.apid = pid();
-  if (*kind == 3) service.pcr = pid();
-  if (*kind == 5 && *value == 1) service.video = Video::H264;
+void TakeCached(std::uint32_t item, ListedService& service) {
+  constexpr std::uint32_t LargestPid = 8191;  // which means none
+  const std::uint32_t value = item & 0xFFFFU;
+  int* const pids[] = {&service.vpid, &service.apid, nullptr, &service.pcr};
+  const std::uint32_t kind = item >> 16U;
+  if (kind < std::size(pids) && pids[kind] != nullptr) {
+    *pids[kind] = value < LargestPid ? static_cast<int>(value) : 0;
+    service.valid = service.valid && value <= LargestPid;
+  }
+  if (kind == 5 && value == 1) service.video = Video::H264;
 }
 
 // "p:provider,c:…,C:…"
-void TakeData(std::string_view data, ListedService& service) {
+void TakeData(std::string_view data, ListedService& service, std::string_view& provider) {
   while (!data.empty()) {
-    const std::string_view item = TakeField(data, ',');
-    if (item.size() < 2 || item[1] != Separator) continue;
-    const std::string_view value = item.substr(2);
-    if (item[0] == 'p') TakeName(service.provider, value);
-    if (item[0] == 'c') TakeCached(value, service);
-    if (item[0] != 'C') continue;
-    if (const auto caid = HexNumber(value, 0xFFFF)) service.caids.push_back(static_cast<int>(*caid));
+    const char kind = data.size() > 1 && data[1] == Separator ? data[0] : '\0';
+    if (kind != '\0') data.remove_prefix(2);
+    if (kind == 'p') {
+      provider = TakeField(data, ',');
+      continue;
+    }
+    const auto number = kind == 'c' || kind == 'C' ? TakeHex(data) : std::nullopt;
+    if (!TakeEnd(data, ',') || !number) continue;
+    if (kind == 'c') TakeCached(*number, service);
+    if (kind == 'C' && *number <= 0xFFFF) service.caids.push_back(static_cast<int>(*number));
   }
 }
 
@@ -177,9 +181,9 @@ bool LamedbReader::TakeApart(std::string_view line) {
     name_ = data_.substr(1, behind - 1);
     data_.remove_prefix(behind + 1);
   }
-  const auto sid = HexNumber(TakeField(ids_, Separator), UINT16_MAX);
-  sid_ = sid ? static_cast<int>(*sid) : NotSaid;
-  return sid.has_value();
+  const auto sid = TakeHex(ids_);
+  sid_ = static_cast<int>(sid.value_or(0) & 0xFFFFU);
+  return sid && *sid <= 0xFFFF && TakeEnd(ids_, Separator);
 }
 
 bool LamedbReader::FindTransponder(ListedTransponder& transponder) {
@@ -208,19 +212,22 @@ bool LamedbReader::Next(ListedService& service) {
   return false;
 }
 
-void LamedbReader::Complete(ListedService& service) {
-  service.valid = true;
-  service.sid = sid_;
+void LamedbReader::TakeStreams(ListedService& service) {
   service.vpid = service.apid = service.pcr = NotSaid;
   service.caids.clear();
-  service.provider.clear();
-  TakeName(service.name, name_);
   const auto type = TakeWhole(ids_, 255);
   service.valid = type.has_value();
   service.type = TypeOf(type.value_or(0));
   service.video = VideoOfType(type.value_or(0));
+  provider_ = {};
+  TakeData(data_, service, provider_);
+}
+
+void LamedbReader::TakeIdentity(ListedService& service) {
+  service.sid = sid_;
   service.number = TakeWhole(ids_, 999999).value_or(0);
-  TakeData(data_, service);
+  TakeName(service.name, name_);
+  TakeName(service.provider, provider_);
 }
 
 TransponderList ReadLamedbTransponders(std::string_view text) {

@@ -17,7 +17,8 @@ class LamedbReader final : public ServiceReader {
 
   // A service whose transponder is not in the list has the position that its namespace gives, and no frequency.
   bool Next(ListedService& service) override;
-  void Complete(ListedService& service) override;
+  void TakeStreams(ListedService& service) override;
+  void TakeIdentity(ListedService& service) override;
 
   // In the order of the file. Those that could not be read count as unreadable from the start.
   [[nodiscard]] const std::vector<ListedTransponder>& Transponders() const { return transponders_; }
@@ -34,7 +35,7 @@ class LamedbReader final : public ServiceReader {
   std::vector<ListedTransponder> transponders_;
   std::unordered_map<std::uint64_t, std::size_t> places_;
   // Of the service that Next went to: its numbers, and later those behind the transponder's; its name and all the rest.
-  std::string_view ids_, name_, data_;
+  std::string_view ids_, name_, data_, provider_;
   int sid_ = NotSaid;
 };
 

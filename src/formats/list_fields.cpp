@@ -4,18 +4,21 @@
 #include "base/text.h"
 #include "formats/foreign_fields.h"
 
-#include <charconv>
-
 namespace Formats {
 namespace {
 
-constexpr int LargestPid = 8191;  // and this one means none
-constexpr int LargestId = 65535;
 constexpr int HighestMegahertz = 99999;
 constexpr int HighestKilohertz = HighestMegahertz * 1000;
 constexpr int MostKnownBy = 50;
 
 bool IsDigit(char c) { return c >= '0' && c <= '9'; }
+
+// Nearly every name is of letters that all code pages have.
+bool IsPlain(std::string_view bytes) {
+  bool plain = true;
+  for (const char c : bytes) plain = plain && c >= ' ';
+  return plain;
+}
 
 // A broadcast name may have marks round the part that stands for it where room is short, and line breaks: characters
 // U+0086, U+0087 and U+008A, which mean other things in the code page.
@@ -32,15 +35,6 @@ std::string WithoutMarks(std::string_view utf8) {
 
 }  // namespace
 
-int TakeNumber(std::string_view& rest, int most) {
-  std::size_t digits = 0;
-  std::int64_t value = 0;
-  for (; digits < rest.size() && IsDigit(rest[digits]); ++digits)
-    value = std::min<std::int64_t>(value * 10 + (rest[digits] - '0'), std::int64_t{most} + 1);
-  rest.remove_prefix(digits);
-  return digits == 0 ? NotSaid : static_cast<int>(value);
-}
-
 std::optional<int> WholeNumber(std::string_view field, int most) {
   field = Bare(field);
   const int value = TakeNumber(field, most);
@@ -49,23 +43,8 @@ std::optional<int> WholeNumber(std::string_view field, int most) {
 
 std::optional<std::uint32_t> HexNumber(std::string_view field, std::uint32_t most) {
   field = Bare(field);
-  std::uint32_t value = 0;
-  const auto read = std::from_chars(field.data(), field.data() + field.size(), value, 16);
-  const bool whole = read.ec == std::errc() && read.ptr == field.data() + field.size();
-  return whole && value <= most ? std::optional(value) : std::nullopt;
-}
-
-int PidAtFront(std::string_view field, bool& valid) {
-  field = Base::TrimmedLeft(field);
-  const int pid = TakeNumber(field, LargestPid);
-  valid = valid && pid <= LargestPid;
-  return pid >= LargestPid ? 0 : pid;
-}
-
-int IdIn(std::string_view field, bool& valid) {
-  const auto id = WholeNumber(field, LargestId);
-  valid = valid && (id || Bare(field).empty());
-  return id.value_or(NotSaid);
+  const auto value = TakeHex(field);
+  return field.empty() && value && *value <= most ? value : std::nullopt;
 }
 
 int KilohertzIn(std::string_view field) {
@@ -121,16 +100,15 @@ Base::ShortText<4> FecOfDigits(int digits) {
 }
 
 void TakeName(std::string& to, std::string_view bytes) {
-  if (Base::IsUtf8(bytes)) {
-    to = Base::FromUtf8Lossy(WithoutMarks(bytes));
-  } else {
-    to = bytes;
+  if (IsPlain(bytes)) {
+    to = Base::Trimmed(bytes);
+    return;
   }
-  for (char& c : to) {
+  std::string name = Base::IsUtf8(bytes) ? Base::FromUtf8Lossy(WithoutMarks(bytes)) : std::string(bytes);
+  for (char& c : name) {
     if (c >= 0 && c < ' ') c = ' ';
   }
-  to.erase(to.find_last_not_of(' ') + 1);
-  to.erase(0, to.find_first_not_of(' '));
+  to = Base::Trimmed(name);
 }
 
 bool MostLines(std::string_view text, std::string_view skipped, bool (*passes)(std::string_view line)) {

@@ -15,18 +15,61 @@ inline std::string_view TakeField(std::string_view& rest, char separator) {
   return field;
 }
 
-// Takes the decimal digits at the front off `rest`: their value, `most` + 1 where it is larger than `most`, NotSaid where
-// there are none.
-int TakeNumber(std::string_view& rest, int most);
+// Takes the digits at the front off `rest`: their value, `most` + 1 where it is larger than `most`, NotSaid where there are
+// none.
+inline int TakeNumber(std::string_view& rest, int most) {
+  constexpr std::size_t MostDigits = 18;  // that a value has room for
+  std::size_t digits = 0;
+  std::int64_t value = 0;
+  for (; digits < rest.size() && rest[digits] >= '0' && rest[digits] <= '9'; ++digits)
+    value = digits < MostDigits ? value * 10 + (rest[digits] - '0') : INT64_MAX;
+  rest.remove_prefix(digits);
+  return digits == 0 ? NotSaid : static_cast<int>(std::min(value, std::int64_t{most} + 1));
+}
+
+// Takes the hexadecimal digits; nothing where there are none or more than 32 bits.
+inline std::optional<std::uint32_t> TakeHex(std::string_view& rest) {
+  std::size_t digits = 0;
+  std::uint64_t value = 0;
+  for (; digits < rest.size(); ++digits) {
+    const char c = rest[digits];
+    const char letter = static_cast<char>(c | 0x20);
+    const int digit = c >= '0' && c <= '9'             ? c - '0'
+                      : letter >= 'a' && letter <= 'f' ? letter - 'a' + 10
+                                                       : -1;
+    if (digit < 0) break;
+    value = std::min<std::uint64_t>(value << 4U | static_cast<unsigned>(digit), std::uint64_t{1} << 32U);
+  }
+  rest.remove_prefix(digits);
+  return digits == 0 || value > UINT32_MAX ? std::nullopt : std::optional(static_cast<std::uint32_t>(value));
+}
+
+// Takes what is left of a field, with the separator behind it: whether nothing was.
+inline bool TakeEnd(std::string_view& rest, char separator) {
+  if (rest.empty()) return true;
+  if (rest.front() != separator) return TakeField(rest, separator).empty();
+  rest.remove_prefix(1);
+  return true;
+}
 
 // The value of a field of decimal digits alone, or hexadecimal ones; nothing where it is none or above `most`.
 std::optional<int> WholeNumber(std::string_view field, int most);
 std::optional<std::uint32_t> HexNumber(std::string_view field, std::uint32_t most);
 
-// A PID, or an id of 16 bits, behind which other characters may follow: 0 for an absent PID, NotSaid where there are no
-// digits, and `valid` false where the number is too large.
-int PidAtFront(std::string_view field, bool& valid);
-int IdIn(std::string_view field, bool& valid);
+// Takes a PID: 0 for an absent one, NotSaid where there are no digits, and `valid` false where it is too large.
+inline int TakePid(std::string_view& rest, bool& valid) {
+  constexpr int Absent = 8191;
+  const int pid = TakeNumber(rest, Absent);
+  valid = valid && pid <= Absent;
+  return pid >= Absent ? 0 : pid;
+}
+
+// Takes a field that is an id of 16 bits, or empty: NotSaid, and `valid` false where it is something else.
+inline int TakeId(std::string_view& rest, char separator, bool& valid) {
+  const int id = TakeNumber(rest, 65535);
+  valid = TakeEnd(rest, separator) && valid && id <= 65535;
+  return id > 65535 ? NotSaid : id;
+}
 
 // MHz (or kHz, where the number is too large for MHz) in kHz; NotSaid where it is no frequency.
 int KilohertzIn(std::string_view field);

@@ -57,18 +57,21 @@ class ServiceReader {
  public:
   virtual ~ServiceReader() = default;
 
-  // Goes to the next service; false behind the last one. Of the transponder everything but the ids is filled in, so that a
-  // service which cannot be received costs no more than that; the rest of `service` is left as it was.
-  virtual bool Next(ListedService& service) = 0;
-  // Fills in all the rest of the service that Next went to. To be called at most once for each.
-  virtual void Complete(ListedService& service) = 0;
-
-  // Both.
+  // Goes to the next service; false behind the last one.
   bool Read(ListedService& service) {
     if (!Next(service)) return false;
-    Complete(service);
+    TakeStreams(service);
+    TakeIdentity(service);
     return true;
   }
+
+  // The same in three steps, so that a service which nobody wants costs no more than it takes to see that. Next fills in
+  // the transponder without its ids, and leaves the rest as it was; TakeStreams PIDs, video, type and encryption;
+  // TakeIdentity ids, names and number, behind which it is known whether all is valid. Each of the latter two at most once
+  // behind a Next, in this order.
+  virtual bool Next(ListedService& service) = 0;
+  virtual void TakeStreams(ListedService& service) = 0;
+  virtual void TakeIdentity(ListedService& service) = 0;
 
   // What stood so far where a service belongs and is none.
   [[nodiscard]] int Unreadable() const { return unreadable_; }

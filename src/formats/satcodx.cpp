@@ -88,15 +88,14 @@ class Loader {
 
  private:
   bool Passes(std::string_view line) {
-    if (!Above(Cut(line, SdxLine::SymbolRate), "17999")) return Dropped(table_.droppedByRate);
+    if (!Above(Cut(line, SdxLine::SymbolRate), "17999")) return Dropped(Drop::SymbolRate);
     const char type = Cut(line, SdxLine::Type).front();  // a line with a symbol rate has one
     const bool wanted = (type == 'T' && options_.television) || (type == 'R' && options_.radio) ||
                         (type == 'D' && options_.data);
-    if (!wanted) return Dropped(table_.droppedByType);
+    if (!wanted) return Dropped(Drop::Type);
     if (type != 'D') {
-      if (Cut(line, SdxLine::Format) != "MPG2") return Dropped(table_.droppedByFormat);
-      if (Value(Cut(line, type == 'T' ? SdxLine::Vpid : SdxLine::Apid)) == 0)
-        return Dropped(table_.droppedByPid);
+      if (Cut(line, SdxLine::Format) != "MPG2") return Dropped(Drop::NotMpeg2);
+      if (Value(Cut(line, type == 'T' ? SdxLine::Vpid : SdxLine::Apid)) == 0) return Dropped(Drop::NoPid);
     }
     return PassesFilters(line);
   }
@@ -105,18 +104,15 @@ class Loader {
     const std::string_view code = Cut(line, SdxLine::Code);
     if (!options_.allCodes &&
         std::find(options_.codes.begin(), options_.codes.end(), code) == options_.codes.end()) {
-      return Dropped(table_.droppedByCode);
+      return Dropped(Drop::Code);
     }
-    const int sid = Value(Cut(line, SdxLine::Sid));
-    const int pid = Value(Cut(line, SdxLine::Apid));
-    const int key = sid == SidWithoutPid ? 0 : pid == 0 ? 65535 : pid;
-    const bool left = options_.filtered.contains({key, sid}) ||
-                      options_.known.contains({Value(Cut(line, SdxLine::Tid)), sid});
-    return left ? Dropped(table_.droppedByFilter) : true;
+    const bool left = options_.LeavesOut(options_.satellite, Value(Cut(line, SdxLine::Tid)),
+                                         Value(Cut(line, SdxLine::Sid)), Value(Cut(line, SdxLine::Apid)));
+    return left ? Dropped(Drop::Filter) : true;
   }
 
-  static bool Dropped(int& count) {
-    ++count;
+  bool Dropped(Drop reason) {
+    table_.dropped.Add(reason);
     return false;
   }
 
@@ -146,6 +142,11 @@ class Loader {
 };
 
 }  // namespace
+
+bool SdxOptions::LeavesOut(int onSatellite, int tid, int sid, int apid) const {
+  const int key = sid == SidWithoutPid ? 0 : apid == 0 ? 65535 : apid;
+  return filtered.contains({key, sid}) || known.contains({onSatellite, tid, sid});
+}
 
 SdxTable ReadSatcodx(std::string_view text, const SdxOptions& options) { return Loader(options).Run(text); }
 

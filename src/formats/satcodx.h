@@ -4,6 +4,7 @@
 
 #include "formats/sdx_table.h"
 
+#include <array>
 #include <set>
 #include <string>
 #include <string_view>
@@ -20,9 +21,13 @@ struct SdxOptions {
   bool data = false;
   bool allCodes = false;
   std::vector<std::string> codes;  // encryption codes, four characters each
-  // Services to leave out: by audio PID and service id, and those of the loaded list by transport stream and service id.
+  // Services to leave out: by audio PID and service id, and those of the loaded list by satellite, transport stream and
+  // service id.
   std::set<std::pair<int, int>> filtered;
-  std::set<std::pair<int, int>> known;
+  std::set<std::array<int, 3>> known;
+
+  // Whether one of the two has the service; an absent audio PID is 0.
+  [[nodiscard]] bool LeavesOut(int onSatellite, int tid, int sid, int apid) const;
 };
 
 SdxTable ReadSatcodx(std::string_view text, const SdxOptions& options);

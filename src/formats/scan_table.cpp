@@ -4,9 +4,6 @@
 #include "formats/foreign_fields.h"
 #include "formats/list_fields.h"
 
-#include <set>
-#include <tuple>
-
 namespace Formats {
 namespace {
 
@@ -76,16 +73,21 @@ std::optional<int> PositionInFileName(std::string_view name) {
   return PositionIn(name.substr(name.find_last_of("-_") + 1));
 }
 
+void DistinctTransponders::Add(const ListedTransponder& transponder) {
+  constexpr int Nowhere = 9999;
+  if (transponder.frequency == NotSaid) return;
+  const bool isNew =
+      seen_.insert({transponder.position.value_or(Nowhere), transponder.frequency, transponder.polarisation})
+          .second;
+  if (isNew) list.push_back(transponder);
+}
+
 TransponderList TranspondersOf(ServiceReader& reader) {
-  TransponderList list;
+  DistinctTransponders distinct;
   ListedService service;
-  std::set<std::tuple<int, int, Polarisation>> seen;
-  while (reader.Read(service)) {
-    const ListedTransponder& transponder = service.transponder;
-    const std::tuple key(transponder.position.value_or(9999), transponder.frequency,
-                         transponder.polarisation);
-    if (transponder.frequency != NotSaid && seen.insert(key).second) list.transponders.push_back(transponder);
-  }
+  while (reader.Read(service)) distinct.Add(service.transponder);
+  TransponderList list;
+  list.transponders = std::move(distinct.list);
   list.unreadable = reader.Unreadable();
   return list;
 }

@@ -3,6 +3,7 @@
 #pragma once
 
 #include "base/short_text.h"
+#include "formats/drop_report.h"
 #include "model/transponder.h"
 
 #include <optional>
@@ -42,14 +43,8 @@ struct SdxTable {
   std::vector<SdxRow> rows;
   bool full = false;  // more lines were accepted than the table has rows for
 
-  // Lines read, and those dropped by reason.
-  int lines = 0;
-  int droppedByRate = 0;
-  int droppedByType = 0;
-  int droppedByFormat = 0;
-  int droppedByPid = 0;
-  int droppedByCode = 0;
-  int droppedByFilter = 0;
+  int lines = 0;  // that were read: each is a row, was dropped, or filled the table; of a flash, its channels
+  DropReport dropped;
 };
 
 }  // namespace Formats

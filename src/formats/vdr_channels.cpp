@@ -24,10 +24,6 @@ bool IsChannel(std::string_view line) {
 // Letters, most with a number behind them: "HC34M2S0".
 void TakeParameters(std::string_view text, ListedTransponder& transponder) {
   constexpr int Automatic = 999;
-  transponder.polarisation = Polarisation::Unknown;
-  transponder.delivery = Delivery::DvbS;
-  transponder.modulation = Modulation::Unknown;
-  transponder.fec = {};
   while (!text.empty()) {
     const char key = static_cast<char>(text.front() & ~0x20);  // a capital of either
     const Polarisation polarisation = PolarisationIn(text.substr(0, 1));
@@ -59,32 +55,23 @@ Video VideoOf(int kind) {
 }
 
 // "163+1202=2": the video, its clock, its kind.
-void TakeVideo(std::string_view field, ListedService& service) {
-  std::string_view pids = TakeField(field, '=');
-  service.video = VideoOf(TakeNumber(field, 9999));
-  service.vpid = PidAtFront(TakeField(pids, '+'), service.valid);
-  service.pcr = PidAtFront(pids, service.valid);
+void TakeVideo(std::string_view& rest, ListedService& service) {
+  service.vpid = TakePid(rest, service.valid);
+  service.pcr = rest.starts_with('+') ? TakePid(rest = rest.substr(1), service.valid) : NotSaid;
+  service.video = rest.starts_with('=') ? VideoOf(TakeNumber(rest = rest.substr(1), 9999)) : Video::Unknown;
+  service.valid = TakeEnd(rest, Separator) && service.valid;
 }
 
 // Numbers below 256 are devices and the user's own.
-void TakeCaids(std::string_view field, ListedService& service) {
-  while (!field.empty()) {
-    const auto caid = HexNumber(TakeField(field, ','), 0xFFFF);
-    if (!caid) {
-      service.valid = false;
-    } else if (*caid > 0xFF) {
-      service.caids.push_back(static_cast<int>(*caid));
-    }
+void TakeCaids(std::string_view& rest, ListedService& service) {
+  service.caids.clear();
+  while (const auto caid = TakeHex(rest)) {
+    service.valid = service.valid && *caid <= 0xFFFF;
+    if (*caid > 0xFF) service.caids.push_back(static_cast<int>(*caid & 0xFFFF));
+    if (!rest.starts_with(',')) break;
+    rest.remove_prefix(1);
   }
-}
-
-// "Name,short;provider", where "|" stands for a colon.
-void TakeNames(std::string_view field, ListedService& service) {
-  const std::string_view names = TakeField(field, ';');
-  TakeName(service.name, names.substr(0, names.rfind(',')));
-  TakeName(service.provider, field);
-  for (std::string* text : {&service.name, &service.provider})
-    std::replace(text->begin(), text->end(), '|', Separator);
+  service.valid = TakeEnd(rest, Separator) && service.valid;
 }
 
 }  // namespace
@@ -99,20 +86,27 @@ void VdrReader::TakeGroup(std::string_view line) {
   number_ = std::max(number_, TakeNumber(line, HighestNumber) - 1);
 }
 
-bool VdrReader::ReadTransponder(std::string_view line, ListedTransponder& transponder) {
+bool VdrReader::ReadTransponder(std::string_view line) {
   rest_ = line;
   name_ = TakeField(rest_, Separator);
+  if (!tuning_.empty() && rest_.starts_with(tuning_)) {
+    rest_.remove_prefix(tuning_.size());
+    return true;
+  }
+  const std::string_view fields = rest_;
   const std::string_view frequency = TakeField(rest_, Separator);
   const std::string_view parameters = TakeField(rest_, Separator);
   const std::string_view source = TakeField(rest_, Separator);
   std::string_view rate = TakeField(rest_, Separator);
   if (source.empty() || !IsCapital(source.front())) return false;
-  transponder.frequency = KilohertzIn(frequency);
+  tuning_ = fields.substr(0, fields.size() - rest_.size());
+  transponder_ = {};
+  transponder_.frequency = KilohertzIn(frequency);
   const int kilobaud = TakeNumber(rate, 999999);
-  transponder.symbolRate = kilobaud == NotSaid ? NotSaid : kilobaud * 1000;
-  TakeParameters(parameters, transponder);
-  transponder.position = PositionIn(source.substr(1));
-  if (source.front() != 'S') transponder.delivery = Delivery::Other;
+  transponder_.symbolRate = kilobaud == NotSaid ? NotSaid : kilobaud * 1000;
+  TakeParameters(parameters, transponder_);
+  transponder_.position = PositionIn(source.substr(1));
+  if (source.front() != 'S') transponder_.delivery = Delivery::Other;
   return true;
 }
 
@@ -121,8 +115,9 @@ bool VdrReader::Next(ListedService& service) {
     const std::string_view line = Base::TakeLine(text_);
     if (line.starts_with(Separator)) {
       TakeGroup(line);
-    } else if (ReadTransponder(line, service.transponder)) {
-      service.number = ++number_;
+    } else if (ReadTransponder(line)) {
+      service.transponder = transponder_;
+      ++number_;
       return true;
     } else if (!Bare(line).empty() && line.front() != '#') {
       ++unreadable_;
@@ -131,18 +126,30 @@ bool VdrReader::Next(ListedService& service) {
   return false;
 }
 
-void VdrReader::Complete(ListedService& service) {
-  service.valid = std::count(rest_.begin(), rest_.end(), Separator) >= 6;  // some leave the radio id out
-  TakeNames(name_, service);
-  TakeVideo(TakeField(rest_, Separator), service);
-  service.apid = std::max(0, PidAtFront(TakeField(rest_, Separator), service.valid));
+void VdrReader::TakeStreams(ListedService& service) {
+  service.valid = true;
+  TakeVideo(rest_, service);
+  service.apid = std::max(0, TakePid(rest_, service.valid));
+  TakeEnd(rest_, Separator);    // further ones, and languages
   TakeField(rest_, Separator);  // teletext
-  service.caids.clear();
-  TakeCaids(TakeField(rest_, Separator), service);
-  service.sid = IdIn(TakeField(rest_, Separator), service.valid);
-  service.transponder.nid = IdIn(TakeField(rest_, Separator), service.valid);
-  service.transponder.tid = IdIn(TakeField(rest_, Separator), service.valid);
+  TakeCaids(rest_, service);
   service.type = TypeByPids(service);
+}
+
+// Names are "name,short;provider", where "|" stands for a colon.
+void VdrReader::TakeIdentity(ListedService& service) {
+  service.number = number_;
+  service.sid = TakeId(rest_, Separator, service.valid);
+  service.transponder.nid = TakeId(rest_, Separator, service.valid);
+  // A line that ends before it is not whole; some leave out the radio's id behind it.
+  service.valid = service.valid && !rest_.empty();
+  service.transponder.tid = TakeId(rest_, Separator, service.valid);
+  std::string_view provider = name_;
+  const std::string_view names = TakeField(provider, ';');
+  TakeName(service.name, names.substr(0, names.rfind(',')));
+  TakeName(service.provider, provider);
+  for (std::string* text : {&service.name, &service.provider})
+    std::replace(text->begin(), text->end(), '|', Separator);
 }
 
 }  // namespace Formats

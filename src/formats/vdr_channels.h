@@ -13,15 +13,20 @@ class VdrReader final : public ServiceReader {
   explicit VdrReader(std::string_view text) : text_(text) {}
 
   bool Next(ListedService& service) override;
-  void Complete(ListedService& service) override;
+  void TakeStreams(ListedService& service) override;
+  void TakeIdentity(ListedService& service) override;
 
  private:
-  bool ReadTransponder(std::string_view line, ListedTransponder& transponder);
+  bool ReadTransponder(std::string_view line);
   void TakeGroup(std::string_view line);
 
   std::string_view text_;
-  std::string_view name_;  // of the channel that Next went to, and its fields behind the symbol rate
+  // Of the channel that Next went to: its name, and its fields behind the symbol rate.
+  std::string_view name_;
   std::string_view rest_;
+  // Neighbours mostly share their transponder: the fields that gave the last one, and what they gave.
+  std::string_view tuning_;
+  ListedTransponder transponder_;
   int number_ = 0;
 };
 

@@ -2,6 +2,7 @@
 
 #include "base/file.h"
 #include "model/flash_image.h"
+#include "model/flash_writer.h"
 
 #include <algorithm>
 #include <cerrno>
@@ -63,6 +64,9 @@ Base::Result<Base::Bytes> ReadFlash(const std::string& path, const std::string& 
 
 Base::Outcome SaveFlash(const std::string& path, Base::ByteView before, Base::ByteView after,
                         Backups& backups) {
+  if (!DiffersOnlyInSections(before, after))
+    return Base::Error{"Impossibile scrivere " + Base::FileName(path) +
+                       ": la modifica esce dalle sezioni conosciute"};
   const std::string target = Base::ResolvedPath(path);
   const auto last = backups.written.find(target);
   if (last == backups.written.end() || Base::AsText(last->second) != Base::AsText(before)) {

@@ -22,9 +22,9 @@ struct Backups {
   std::map<std::string, Base::Bytes> written;  // the last image by resolved path
 };
 
-// Overwrites the image at `path`, which holds `before`, with `after`. Unless they are what the last save wrote, the
-// old bytes are kept as NAME.bak beside it (NAME.bak2, … where another one exists); without that copy nothing is
-// written.
+// Overwrites the image at `path`, which holds `before`, with `after`. Where they differ outside of the sections that a
+// write may change, that is an error and nothing is written. Unless the old bytes are what the last save wrote, they are
+// kept as NAME.bak beside it (NAME.bak2, … where another one exists); without that copy nothing is written.
 Base::Outcome SaveFlash(const std::string& path, Base::ByteView before, Base::ByteView after,
                         Backups& backups);
 

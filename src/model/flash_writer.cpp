@@ -1,5 +1,6 @@
 #include "model/flash_writer.h"
 
+#include "base/text.h"
 #include "model/favourites.h"
 #include "model/flash_loader.h"
 
@@ -122,7 +123,7 @@ PatchedFlash PatchFlash(const State& state, Base::ByteView original, const Write
 }
 
 bool DiffersOnlyInSections(Base::ByteView original, Base::ByteView patched) {
-  if (original.size() != patched.size()) return false;
+  if (original.size() != FlashSize || patched.size() != FlashSize) return false;
   Base::Bytes expected(patched.begin(), patched.end());
   const auto takeOriginal = [&](const Range& range) {
     const Base::ByteView bytes = original.subspan(range.first, range.count);
@@ -147,7 +148,7 @@ std::string Unwritten::Text() const {
   std::string text;
   const auto add = [&text](std::string_view part) { text.append(text.empty() ? "" : ", ").append(part); };
   const auto count = [&add](int number, std::string_view one, std::string_view many) {
-    if (number > 0) add(std::to_string(number).append(" ").append(number == 1 ? one : many));
+    if (number > 0) add(Base::Counted(number, one, many));
   };
   count(channels, "canale non scritto", "canali non scritti");
   count(extraChannels, "canale in più nell'immagine", "canali in più nell'immagine");

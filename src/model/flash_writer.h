@@ -20,7 +20,7 @@ struct PatchedFlash {
 PatchedFlash PatchFlash(const State& state, Base::ByteView original, const WritePlan& plan);
 
 // Whether two images differ only where a write may change one: from the start of a channel or transponder
-// section's data to the section's limit, and in the favourites area.
+// section's data to the section's limit, and in the favourites area. No where one of them is no image.
 bool DiffersOnlyInSections(Base::ByteView original, Base::ByteView patched);
 
 // "2 Sezioni TCS per 931 Canali effettivi" and whether the favourites were written, for the box after a

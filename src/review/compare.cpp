@@ -363,26 +363,25 @@ std::string DetailsOf(const State& here, const State& there, const Difference& d
 
 std::string OtherDifferences(const State& here, const Comparison& comparison, std::string_view onlyThere) {
   std::string text;
-  const auto add = [&text](std::string_view before, int count, std::string_view what) {
-    if (count > 0) text.append(before).append(std::to_string(count)).append(what);
+  const auto add = [&text](std::string_view before, int count, std::string_view one, std::string_view more) {
+    if (count > 0) text.append(before).append(Base::Counted(count, one, more));
   };
   const TransponderDifferences& transponders = comparison.transponders;
-  const std::pair<int, std::string> parts[] = {
-      {transponders.onlyHere, " solo in questa lista"},
-      {transponders.onlyThere, " " + std::string(onlyThere)},
-      {transponders.changed, " con altri dati"},
-      {transponders.renumbered, " con un altro numero"},
-      {transponders.recounted, " con un altro conteggio dei canali"}};
-  for (const auto& [count, what] : parts) add(text.empty() ? "Transponder: " : ", ", count, what);
+  const std::pair<int, std::string_view> parts[] = {
+      {transponders.onlyHere, "solo in questa lista"},
+      {transponders.onlyThere, onlyThere},
+      {transponders.changed, "con altri dati"},
+      {transponders.renumbered, "con un altro numero"},
+      {transponders.recounted, "con un altro conteggio dei canali"}};
+  for (const auto& [count, what] : parts) add(text.empty() ? "Transponder: " : ", ", count, what, what);
   const std::tuple<int, std::string_view, std::string_view> channels[] = {
-      {comparison.shifted, " canale ha un altro numero nello stesso ordine",
-       " canali hanno un altro numero nello stesso ordine"},
-      {comparison.relinked, " canale ha lo stesso transponder con un altro numero",
-       " canali hanno lo stesso transponder con un altro numero"},
-      {comparison.alike, " canale è diverso solo in byte senza effetto",
-       " canali sono diversi solo in byte senza effetto"}};
-  for (const auto& [count, one, more] : channels)
-    add(text.empty() ? "" : ". ", count, count == 1 ? one : more);
+      {comparison.shifted, "canale ha un altro numero nello stesso ordine",
+       "canali hanno un altro numero nello stesso ordine"},
+      {comparison.relinked, "canale ha lo stesso transponder con un altro numero",
+       "canali hanno lo stesso transponder con un altro numero"},
+      {comparison.alike, "canale è diverso solo in byte senza effetto",
+       "canali sono diversi solo in byte senza effetto"}};
+  for (const auto& [count, one, more] : channels) add(text.empty() ? "" : ". ", count, one, more);
   for (const std::size_t list : comparison.favourites) {
     text.append(list != comparison.favourites.front() ? ", "
                 : text.empty()                        ? ""

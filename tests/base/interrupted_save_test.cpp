@@ -1,5 +1,6 @@
 // Saves that are killed, whose system calls fail one after the other, and that are not allowed.
 #include "base/file.h"
+#include "image_builder.h"
 #include "model/flash_file.h"
 #include "model/flash_image.h"
 #include "support/test_folder.h"
@@ -72,8 +73,8 @@ using namespace Tests;
 
 namespace {
 
-const Base::Bytes Old(FlashSize, 'o');
-const Base::Bytes New(FlashSize, 'n');
+const Base::Bytes Old = Samples::ImageFullOf('o');
+const Base::Bytes New = Samples::ImageFullOf('n');
 
 // Saves one image over the other, of which the first is on the disk, until it is killed; tells when it begins.
 [[noreturn]] void SaveForEver(const std::string& path, const Base::Bytes& first, int begun) {
@@ -220,13 +221,17 @@ TEST(InterruptedSave, WhicheverCallFailsTheOldImageStaysAndTheErrorIsTold) {
 }
 
 TEST(FlashFile, InALockedFolderNothingIsWrittenWithoutACopyElsewhere) {
-  const TestFolder folder;
+  const TestFolder folder, program;
   const std::string path = folder.Write("a.dat", Old);
   ::chmod(folder.Path().c_str(), 0555);
   const OrdinaryUser user;
   Backups none{folder.Path("missing"), {}};
   EXPECT_FALSE(SaveFlash(path, Old, New, none));
   EXPECT_EQ(Contents(path), Old);
+  Backups elsewhere{program.Path(), {}};
+  EXPECT_TRUE(SaveFlash(path, Old, New, elsewhere));
+  EXPECT_EQ(Contents(path), New);
+  EXPECT_EQ(Contents(program.Path("a.dat.bak")), Old);
 }
 
 // The copy of a failed attempt is not the copy of what the file holds by the next one.
@@ -239,7 +244,7 @@ TEST(FlashFile, AFailedOverwritingDoesNotUseUpTheCopy) {
     const OrdinaryUser user;
     EXPECT_FALSE(SaveFlash(path, Old, New, session));
   }
-  const Base::Bytes other(FlashSize, '7');
+  const Base::Bytes other = Samples::ImageFullOf('7');
   folder.Write("a.dat", other);
   ASSERT_TRUE(SaveFlash(path, other, New, session));
   EXPECT_EQ(Contents(path + ".bak2"), other);

@@ -50,14 +50,14 @@ TEST(FlashRows, CarriedOverTheyAreTheChannelsOfTheirFlash) {
   ImageBuilder builder(7);
   builder.PutRecords(1, 0, 16, "TCS", Channels()).PutRecords(2, 0, 16, "TPT", Transponders());
   builder.PutRecords(3, 0, 16, "TCS", Channels());
-  const FlashRows rows = ReadFlashRows(builder.Image(), Rates(), {});
-  EXPECT_EQ(rows.table.lines, 5) << "the second copy does not count";
-  EXPECT_EQ(rows.withoutTransponder, 2);
-  ASSERT_EQ(rows.table.rows.size(), 3U);
-  EXPECT_EQ(rows.table.rows[0].frequency, "011766");
-  EXPECT_EQ(rows.table.rows[0].symbolRate, "27500");
-  EXPECT_EQ(rows.table.rows[0].fec, "3");
-  EXPECT_EQ(rows.table.rows[1].type, 'R');
+  const SdxTable table = ReadFlashRows(builder.Image(), Rates(), {});
+  EXPECT_EQ(table.lines, 5) << "the second copy does not count";
+  EXPECT_EQ(table.dropped.Text(), "senza transponder 2");
+  ASSERT_EQ(table.rows.size(), 3U);
+  EXPECT_EQ(table.rows[0].frequency, "011766");
+  EXPECT_EQ(table.rows[0].symbolRate, "27500");
+  EXPECT_EQ(table.rows[0].fec, "3");
+  EXPECT_EQ(table.rows[1].type, 'R');
 
   auto list = std::make_unique<State>();
   list->SymbolRateTable = Rates();
@@ -65,7 +65,7 @@ TEST(FlashRows, CarriedOverTheyAreTheChannelsOfTheirFlash) {
   list->TransponderCount = 3;
   const Routines::BouquetTables bouquets;
   SdxImport import(*list, bouquets);
-  for (int i = 0; i < 3; ++i) import.Put(rows.table.rows[static_cast<std::size_t>(i)], i + 1, i + 1);
+  for (int i = 0; i < 3; ++i) import.Put(table.rows[static_cast<std::size_t>(i)], i + 1, i + 1);
   const std::size_t from[] = {0, 1, 5};
   const std::size_t on[] = {0, 1, 3};
   for (std::size_t i = 0; i < 3; ++i) {
@@ -83,7 +83,7 @@ TEST(FlashRows, CarriedOverTheyAreTheChannelsOfTheirFlash) {
   PlaceUsualRates(other->SymbolRateTable, Sr22000::Come0);
   SetSymbolRate(other->SymbolRateTable, 9, "30000");
   SdxImport recoded(*other, bouquets);
-  recoded.Put(rows.table.rows[0], 1, 1);
+  recoded.Put(table.rows[0], 1, 1);
   EXPECT_EQ(Get(other->Transponder(1).record, TransponderField::SymbolRate), 1U)
       << "27500 where the list has it";
 }

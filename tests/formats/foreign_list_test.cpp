@@ -12,9 +12,9 @@ namespace {
 SdxRow FirstRow(std::string_view text, ForeignLayout* guessed = nullptr) {
   const ForeignLayout layout = GuessForeign(SampleOf(text));
   if (guessed != nullptr) *guessed = layout;
-  const ForeignList list = ReadForeign(text, layout, 2);
-  EXPECT_FALSE(list.table.rows.empty()) << text << list.DropsText();
-  return list.table.rows.empty() ? SdxRow{} : list.table.rows[0];
+  const SdxTable list = ReadForeign(text, layout, 2);
+  EXPECT_FALSE(list.rows.empty()) << text << list.dropped.Text();
+  return list.rows.empty() ? SdxRow{} : list.rows[0];
 }
 
 std::string Summary(const SdxRow& row) {
@@ -144,17 +144,17 @@ TEST(ForeignList, EachDroppedLineHasItsReason) {
       "Nome;Freq;Pol;SR;VPID;APID;SID;Tipo;Codifica\nUno;11766;V;5632;512;8191;1;1;Nagra\n\n;11766;V;;;;;;"
       "\nDue;-;V;;;;;;\nTre;12;V;;;;;;\nQuattro;11766;?;;;;;;\n"
       "Cinque;11766;V;x;;;;;\nSei;11766;V;;;;70000;;\nSette\nOtto\x01;11766;1;;600;601;;Radio;?\n";
-  const ForeignList list = ReadForeign(text, GuessForeign(SampleOf(text)), 3);
-  EXPECT_EQ(list.table.lines, 9);
-  EXPECT_EQ(list.DropsText(),
+  const SdxTable list = ReadForeign(text, GuessForeign(SampleOf(text)), 3);
+  EXPECT_EQ(list.lines, 9);
+  EXPECT_EQ(list.dropped.Text(),
             "senza nome 1, senza frequenza 2, frequenza non valida 1, polarizzazione non valida 1, numero "
             "non valido 2");
-  ASSERT_EQ(list.table.rows.size(), 2U);
-  EXPECT_EQ(Summary(list.table.rows[0]), "Uno|011766V5632\\||512|65535|1|00000|T");
-  EXPECT_EQ(list.table.rows[0].codifica, 0x44);
-  EXPECT_EQ(list.table.rows[0].satellite, 3);
-  EXPECT_TRUE(list.table.rows[0].highBand);
-  EXPECT_EQ(Summary(list.table.rows[1]), "Otto |011766H||65535|601|0|00000|R");
+  ASSERT_EQ(list.rows.size(), 2U);
+  EXPECT_EQ(Summary(list.rows[0]), "Uno|011766V5632\\||512|65535|1|00000|T");
+  EXPECT_EQ(list.rows[0].codifica, 0x44);
+  EXPECT_EQ(list.rows[0].satellite, 3);
+  EXPECT_TRUE(list.rows[0].highBand);
+  EXPECT_EQ(Summary(list.rows[1]), "Otto |011766H||65535|601|0|00000|R");
 }
 
 }  // namespace Formats

@@ -82,16 +82,15 @@ TEST(Satcodx, EachDroppedLineHasItsReason) {
   SdxOptions options;
   options.codes = {"MGIV"};
   options.filtered = {{650, 77}, {0, 4435}};
-  options.known = {{11000, 88}};
+  options.known = {{0, 11000, 88}, {1, 11000, 77}};
   const SdxTable table =
       ReadSatcodx(Line({}) + Line({.rate = "5632 "}) + Line({.rate = "05632"}) + Line({.type = "D"}) +
                       Line({.format = "MPG4"}) + Line({.vpid = "0000"}) + Line({.code = "NAGV"}) +
                       Line({.sid = "00077"}) + Line({.sid = "00088"}) + Line({.sid = "04435"}) + "corta\n",
                   options);
   EXPECT_EQ(table.rows.size(), 2U);
-  EXPECT_EQ((std::vector{table.lines, table.droppedByRate, table.droppedByType, table.droppedByFormat,
-                         table.droppedByPid, table.droppedByCode, table.droppedByFilter}),
-            (std::vector{11, 2, 1, 1, 1, 1, 3}));
+  EXPECT_EQ(table.lines, 11);
+  EXPECT_EQ(table.dropped.Text(), "senza PID 1, tipo 1, non MPG2 1, symbol rate 2, codifica 1, filtri 3");
   std::string many;
   for (int i = 0; i < 4001; ++i) many += Line({});
   EXPECT_TRUE(ReadSatcodx(many, Everything()).full);

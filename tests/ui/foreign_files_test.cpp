@@ -1,8 +1,6 @@
-// Files and folders as other people name and lock them.
+// Files and folders as other people name them.
 #include "ui/kit/text.h"
 #include "ui/window_fixture.h"
-
-#include <sys/stat.h>
 
 namespace Ui {
 namespace {
@@ -50,60 +48,6 @@ TEST_F(Window, NamesOfAnyKindAreOpenedSavedAndShown) {
     EXPECT_NE(Contents(path), Contents(flash_));
     EXPECT_FALSE(driver_->TextOf("FlashOutput").contains('\n')) << "one line";
   }
-}
-
-TEST_F(Window, AFolderThatVanishesBehindTheDialogLosesNothing) {
-  const std::string place = folder_.Path("chiavetta");
-  const auto chooseAndUnplug = [&](const char* name) {
-    std::filesystem::create_directory(place);
-    std::filesystem::copy(flash_, place + "/a.dat");
-    return [&place, name](QDialog& box) {
-      box.findChild<QLineEdit*>("fileNameEdit")->setText(PathText(place + "/" + name));
-      box.accept();
-      std::filesystem::remove_all(place);
-    };
-  };
-  Delete(1, 2);
-  const Routines::State before = List();
-  driver_->ExpectDialog(OutputDialog, chooseAndUnplug("a.dat"));
-  Tells("ApriFlashOutput", "Dimensione FLASH selezionata errata 0", "Errore FLASH di Output");
-  driver_->ExpectDialog("Selezionare il file di output", chooseAndUnplug("lista.txt"));
-  ASSERT_TRUE(driver_->Choose("FormatoTesto"));
-  EXPECT_EQ(Said(), "Impossibile scrivere lista.txt: il file o la cartella non esiste");
-  EXPECT_TRUE(List() == before);
-  EXPECT_EQ(driver_->TextOf("ModificheNonSalvate"), "Modifiche non salvate");
-}
-
-TEST_F(Window, WhatIsWrittenOverByAnotherNameIsSavedNoLonger) {
-  const std::string image = folder_.Write("a.dat", Contents(flash_));
-  const std::string link = folder_.Path("b.dat");
-  std::filesystem::create_symlink("a.dat", link);
-  Delete(1, 3);
-  SaveAs(image, 644);
-  Open(flash_);
-  SaveAs(link, 647);
-  EXPECT_EQ(driver_->TextOf("ModificheNonSalvate"), "");
-  ASSERT_TRUE(driver_->Choose("Annulla"));
-  EXPECT_EQ(driver_->TextOf("ModificheNonSalvate"), "Modifiche non salvate");
-}
-
-TEST_F(Window, AnImageInALockedFolderIsSavedWhereItLies) {
-  const std::string place = folder_.Path("bloccata");
-  std::filesystem::create_directory(place);
-  std::filesystem::copy(flash_, place + "/a.dat");
-  ::chmod((place + "/a.dat").c_str(), 0666);
-  ::chmod(place.c_str(), 0555);
-  Delete(1, 2);
-  driver_->ExpectFile(OutputDialog, PathText(place + "/a.dat"));
-  Summary(*driver_, 2, 645, true);
-  {
-    const Tests::OrdinaryUser user;
-    EXPECT_TRUE(driver_->Choose("ApriFlashOutput"));
-  }
-  ::chmod(place.c_str(), 0777);
-  EXPECT_EQ(driver_->TextOf("ModificheNonSalvate"), "");
-  EXPECT_NE(Contents(place + "/a.dat"), Contents(flash_));
-  EXPECT_EQ(Contents(folder_.Path("a.dat.bak")), Contents(flash_)) << "in the program's folder";
 }
 
 }  // namespace Ui

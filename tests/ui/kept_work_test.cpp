@@ -1,5 +1,5 @@
 // Work that is not saved outlives the window and the program.
-#include "edit/list_operations.h"
+#include "edit/recovery.h"
 #include "ui/kit/text.h"
 #include "ui/window_fixture.h"
 
@@ -168,30 +168,6 @@ TEST_F(KeptWorkWindow, AMalformedSrIniEndsTheProgramWithTheWorkKept) {
   folder_.Write("SR.INI", rates);
   StartAndAnswer(true);
   EXPECT_EQ(driver_->TextOf("CanaliUsati"), "Canali 619 di 3996");
-}
-
-TEST_F(KeptWorkWindow, AProgramKilledWhileItEditsLosesLessThanTwoSeconds) {
-  Routines::State expected = List();
-  QProcess program;
-  program.start(EDIT_UNTIL_KILLED, {PathText(folder_.Path()), PathText(flash_)});
-  ASSERT_TRUE(program.waitForReadyRead(20000));
-  const auto deletions = [&program] { return static_cast<int>(program.readAllStandardOutput().count('\n')); };
-  QTest::qWait(700);
-  const int early = deletions();
-  QTest::qWait(4000);  // twice what is promised, as the machine may be busy
-  program.kill();
-  ASSERT_TRUE(program.waitForFinished());
-  const int last = early + deletions();
-  ASSERT_GT(early, 0);
-
-  StartAndAnswer(true);
-  const auto differs = [&] {
-    return List().ChannelTable != expected.ChannelTable || List().FavouritesBlock != expected.FavouritesBlock;
-  };
-  int done = 0;
-  for (; done < last && differs(); ++done) Edit::DeleteChannels(expected, {1, 1});
-  EXPECT_FALSE(differs()) << "the list as it was behind one of the deletions";
-  EXPECT_GE(done, early);
 }
 
 }  // namespace Ui

@@ -13,7 +13,7 @@ namespace Ui {
 
 class Random {
  public:
-  void Seed(unsigned sequence, int step) { engine_.seed(sequence * 100003U + static_cast<unsigned>(step)); }
+  explicit Random(unsigned seed) : engine_(seed) {}
   unsigned Next() { return static_cast<unsigned>(engine_()); }
   int Below(int bound) { return bound > 0 ? static_cast<int>(Next() % static_cast<unsigned>(bound)) : 0; }
   bool Chance(int percent) { return Below(100) < percent; }

@@ -1,69 +1,8 @@
 // The two trees beside the list.
-#include "image_builder.h"
-#include "ui/list/tree_model.h"
 #include "ui/window_fixture.h"
-
-#include <random>
 
 namespace Ui {
 namespace {
-
-using Routines::ListTree;
-using Routines::State;
-
-TEST(TreeModel, AnEditMovesNoMoreThanItMust) {
-  Document document;
-  const std::vector<Routines::Satellite> satellites;
-  TreeModel model(document, satellites, ListTree::Shape::Transponders, nullptr);
-  const QAbstractItemModelTester tester(&model, QAbstractItemModelTester::FailureReportingMode::Fatal);
-  QSignalSpy moved(&model, &QAbstractItemModel::layoutChanged);
-  QSignalSpy renamed(&model, &QAbstractItemModel::dataChanged);
-  document.Adjust([](State& state) {
-    state.ChannelCount = 60;
-    state.TransponderCount = 20;
-    for (int i = 1; i <= 60; ++i) {
-      state.Channel(i) = Samples::MakeChannel("Canale", i % 23, i, 2, 3);
-    }
-    for (int i = 1; i <= 20; ++i) {
-      state.Transponder(i).record = Samples::MakeTransponder(10700 + i * 20, i % 2 == 0, i % 3, 1, 2);
-    }
-  });
-  model.Refresh();
-  moved.clear();
-  model.Refresh();
-  EXPECT_EQ(moved.size() + renamed.size(), 0);
-  document.Adjust([](State& state) { state.Channel(30) = Samples::MakeChannel("Nome", 7, 1, 2, 3); });
-  model.Refresh();
-  ASSERT_EQ(renamed.size(), 1);
-  EXPECT_EQ(renamed[0][0].toModelIndex().data().toString(), "0030 Nome");
-  EXPECT_EQ(moved.size(), 0);
-
-  std::mt19937 random(7);
-  const auto any = [&random](int most) {
-    return static_cast<int>(random() % static_cast<unsigned>(most)) + 1;
-  };
-  for (int round = 0; round < 200; ++round) {
-    std::vector<std::pair<int, QPersistentModelIndex>> channels;
-    for (int slot = 1; slot <= 60; slot += 7) {
-      if (const QModelIndex index = model.IndexOfChannel(slot); index.isValid())
-        channels.emplace_back(slot, index);
-    }
-    const QPersistentModelIndex branch = model.IndexOfTransponder(7);
-    document.Adjust([&](State& state) {
-      const int at = any(60);
-      const auto transponder = static_cast<std::size_t>(any(20));
-      const int what = any(4);
-      if (what == 1) Edit::DeleteChannels(state, {at, at});
-      if (what == 2) state.Channel(at) = Samples::MakeChannel("N", any(25), 1, 2, 3);
-      if (what == 3 && transponder != 7) state.Transponder(transponder).record = {};
-      if (what == 4) state.Transponder(transponder).record = Samples::MakeTransponder(12000, true, 1, 1, 2);
-    });
-    model.Refresh();
-    for (const auto& [slot, index] : channels)
-      EXPECT_EQ(QModelIndex(index), model.IndexOfChannel(slot)) << round;
-    EXPECT_TRUE(branch.isValid() && QModelIndex(branch) == model.IndexOfTransponder(7)) << round;
-  }
-}
 
 class Trees : public Window {
  protected:

@@ -6,6 +6,7 @@
 #include "model/favourites.h"
 #include "model/list_tree.h"
 #include "ui/kit/text.h"
+#include "ui/list/document.h"
 #include "ui/list/grid.h"
 #include "ui/session/commands.h"
 #include "ui/window/main_window.h"

@@ -2,9 +2,11 @@
 #pragma once
 
 #include "demo_flash.h"
+#include "support/sr_ini.h"
 #include "support/test_folder.h"
 #include "ui/kit/qt_dialogs.h"
 #include "ui/kit/text.h"
+#include "ui/list/document.h"
 #include "ui/list/grid.h"
 #include "window_driver.h"
 

@@ -1,5 +1,6 @@
 // Opening, looking, saving.
 #include "ui/kit/text.h"
+#include "ui/session/commands.h"
 #include "ui/window_fixture.h"
 
 #include <sys/stat.h>
@@ -17,6 +18,19 @@ TEST_F(Window, RefusesWhatNeedsAFlash) {
     Tells(name, NoFlash);
     const auto* action = window_->findChild<QAction*>(name);
     EXPECT_FALSE(action != nullptr && action->isChecked()) << name << " gets its old check mark back";
+  }
+}
+
+TEST_F(Window, EveryCommandAndButtonHasWhatItRuns) {
+  ChooseFile("CaricaAggiuntiva", "Selezionare la flash aggiuntiva", flash_);
+  for (int i = 0; i < 2; ++i) Delete(1, 1);
+  ASSERT_TRUE(driver_->Choose("Annulla"));
+  for (const Command& command : Commands)
+    EXPECT_TRUE(CommandAction(*window_, command).isEnabled()) << command.name;
+  for (const ToolbarButton& button : ToolbarButtons) {
+    QAction& action = ButtonAction(*window_, button);
+    action.setVisible(true);  // a hidden one counts as disabled
+    EXPECT_TRUE(action.isEnabled()) << button.name;
   }
 }
 
@@ -48,6 +62,15 @@ TEST_F(Window, AWholeSessionGivesTheSameListBack) {
       List().ChannelTable == before.ChannelTable && List().TransponderTable == before.TransponderTable &&
       List().FavouritesBlock == before.FavouritesBlock && List().SymbolRateTable == before.SymbolRateTable);
   EXPECT_EQ(driver_->TextOf("FlashOutput"), "Flash di output : nessuna") << "a load forgets the output";
+
+  const std::string link = folder_.Path("b.dat");
+  std::filesystem::create_symlink("copia.dat", link);
+  Open(flash_);
+  SaveAs(link, 647);
+  EXPECT_EQ(driver_->TextOf("ModificheNonSalvate"), "");
+  ASSERT_TRUE(driver_->Choose("Annulla"));
+  EXPECT_EQ(driver_->TextOf("ModificheNonSalvate"), "Modifiche non salvate")
+      << "another list took its place in the file, by another name";
 }
 
 TEST_F(Window, AppendingAsksTwice) {
@@ -125,7 +148,9 @@ TEST_F(Window, AFailedSaveLeavesFileAndListAsTheyWere) {
 }
 
 TEST_F(Window, WhatASaveLeavesOutIsTold) {
+  EXPECT_TRUE(Action("VisualizzaPreferiti").isEnabled());
   ASSERT_TRUE(driver_->Pick("FlashScrittura_0"));
+  EXPECT_FALSE(Action("VisualizzaPreferiti").isEnabled()) << "receivers of the first type have none to write";
   ASSERT_TRUE(driver_->Pick("SRDef_1"));
   const std::string copy = folder_.Write("copia.dat", Contents(flash_));
   driver_->ExpectMessage(

@@ -164,8 +164,7 @@ void CellCommands::SetColumn(int column, const QString& value) {
     session_.dialogs.Message(Text(changed.error().message), {});
     return;
   }
-  session_.status.ShowResult(Text(label) +
-                             (*changed == 1 ? QString(": 1 canale") : QString(": %1 canali").arg(*changed)));
+  session_.status.ShowResult(Text(label) + ": " + Counted(*changed, "canale", "canali"));
 }
 
 void CellCommands::AskTransponder() {

@@ -3,6 +3,7 @@
 #include "base/text.h"
 #include "ui/kit/text.h"
 
+#include <QAction>
 #include <QApplication>
 #include <QClipboard>
 
@@ -13,18 +14,34 @@ using Routines::State;
 
 namespace {
 
-std::string CountText(int count) { return count == 1 ? "1 canale" : std::to_string(count) + " canali"; }
+std::string CountText(int count) { return Base::Counted(count, "canale", "canali"); }
 
 }  // namespace
 
-bool EditCommands::NeedsChannelList() {
-  if (session_.view.Current() == View::Channels) return true;
-  session_.dialogs.Message("Deve essere visibile la lista canali", {});
-  return false;
+void EditCommands::Connect(Actions& actions) {
+  actions.Connect("Annulla", [this] { Undo(); });
+  actions.Connect("Ripeti", [this] { Redo(); });
+  actions.Connect("Copia", [this] { Copy(); });
+  actions.Connect("Taglia", [this] { Cut(); });
+  actions.Connect("Incolla", [this] { Paste(); });
+  actions.Connect("Elimina", [this] { Delete(); });
+  actions.Connect("SpostaSu", [this] { MoveBy(-1); });
+  actions.Connect("SpostaGiu", [this] { MoveBy(1); });
+  actions.Connect("SpostaA", [this] { SpostaA(); });
+  session_.onChange.emplace_back([this, &actions] { ShowSteps(actions); });
+  QObject::connect(&session_.view, &ListView::Dropped, &session_.view,
+                   [this](int first, int last, int before, bool copy) { Drop(first, last, before, copy); });
+}
+
+void EditCommands::ShowSteps(Actions& actions) {
+  const auto name = [&actions](CommandName command, const std::string& step) {
+    actions[command].setText(Text(step.empty() ? command->caption : command->caption + (" " + step)));
+  };
+  name("Annulla", session_.document.Steps().UndoLabel());
+  name("Ripeti", session_.document.Steps().RedoLabel());
 }
 
 std::optional<Slots> EditCommands::SelectedChannels() {
-  if (!NeedsChannelList()) return std::nullopt;
   const auto slots = session_.view.ListGrid().Selected();
   if (!slots) session_.dialogs.Message("Nessun canale selezionato", {});
   return slots;
@@ -70,7 +87,6 @@ void EditCommands::Delete() {
 }
 
 void EditCommands::Paste() {
-  if (!NeedsChannelList()) return;
   Dialogs& ask = session_.dialogs;
   const int count = session_.clipboard.Count();
   if (count == 0) {
@@ -124,11 +140,7 @@ void EditCommands::Move(Slots slots, int to) {
   // Rows that go on from where a move has just put them make one step with it.
   const bool continues = movedTo_ == slots.first && document.Steps().UndoLabel() == label;
   document.Apply(
-      label,
-      [&](State& tables) {
-        Edit::MoveChannels(tables, slots, to);
-        return Base::Done{};
-      },
+      label, [&](State& tables) { Edit::MoveChannels(tables, slots, to); },
       continues ? Edit::History::Kind::Continued : Edit::History::Kind::Edit);
   movedTo_ = to;
   session_.view.ListGrid().Select({to, to + slots.Count() - 1});

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "edit/clipboard.h"
+#include "ui/session/actions.h"
 #include "ui/session/session.h"
 
 namespace Ui {
@@ -9,6 +10,8 @@ namespace Ui {
 class EditCommands {
  public:
   explicit EditCommands(Session& session) : session_(session) {}
+
+  void Connect(Actions& actions);
 
   void Copy();
   void Cut();
@@ -25,7 +28,8 @@ class EditCommands {
   void Redo();
 
  private:
-  bool NeedsChannelList();
+  // Names the step that would be undone, and the one that would be done again.
+  void ShowSteps(Actions& actions);
   std::optional<Edit::Slots> SelectedChannels();
   bool MayReplaceClipboard();
   void TakeToClipboard(Edit::Slots slots);

@@ -10,10 +10,17 @@ namespace Ui {
 
 using Routines::State;
 
-bool ListCommands::NeedsChannelView() {
-  if (session_.view.Current() == View::Channels) return true;
-  session_.dialogs.Message("Funzione valida solo in visualizzazione canali", {});
-  return false;
+void ListCommands::Connect(Actions& actions) {
+  actions.Connect("OrdinaPerBouquet", [this] { OrdinaPerBouquet(); });
+  actions.Connect("SpostaRadio", [this] { SpostaRadio(); });
+  actions.Connect("Azzera", [this] { Azzera(); });
+  actions.Connect("InvertiSatelliti", [this] { InvertiSatelliti(); });
+  actions.Connect("RiportaAB", [this] { RiportaAB(); });
+  actions.Connect("CanaliXTransponder", [this] { CanaliXTransponder(); });
+  actions.Connect("CercaCanale", [this] { CercaCanale(); });
+  actions.Connect("CercaSuccessivo", [this] { CercaSuccessivo(); });
+  actions.Connect("Filtra", [this] { session_.view.Filter().StartTyping(); });
+  actions.Connect("VaiAlCanale", [this] { VaiAlCanale(); });
 }
 
 // The number typed, between 1 and `last`; nothing when the user gives up.
@@ -31,7 +38,6 @@ std::optional<int> ListCommands::AskStart(int last) {
 }
 
 void ListCommands::OrdinaPerBouquet() {
-  if (!session_.NeedsFlash()) return;
   const auto start = AskStart(Routines::LastOccupied(session_.document.Tables()));
   if (!start) return;
   const auto lost = Waiting([&] {
@@ -44,7 +50,6 @@ void ListCommands::OrdinaPerBouquet() {
 }
 
 void ListCommands::SpostaRadio() {
-  if (!session_.NeedsFlash()) return;
   const auto start = AskStart(Routines::LastOccupied(session_.document.Tables()));
   if (!start) return;
   const Edit::Regrouped done = session_.document.Apply(
@@ -66,10 +71,6 @@ void ListCommands::SpostaRadio() {
 }
 
 void ListCommands::Azzera() {
-  if (!session_.document.Tables().Loaded) {
-    session_.dialogs.Message("Si deve selezionare prima le FLASH di Input", {});
-    return;
-  }
   const int cleared = session_.document.Apply("Azzera Canali e Transponder",
                                               [](State& state) { return Edit::Azzera(state); });
   session_.view.ShowFromStart(View::Channels);
@@ -86,17 +87,12 @@ void ListCommands::CanaliXTransponder() {
 }
 
 void ListCommands::ChangeTransponders(const char* label, void (*operation)(State&)) {
-  if (!session_.NeedsFlash()) return;
-  session_.document.Apply(label, [operation](State& state) {
-    operation(state);
-    return Base::Done{};
-  });
+  session_.document.Apply(label, operation);
   session_.view.Show(View::Transponders);
   session_.status.ShowResult(label);
 }
 
 void ListCommands::VaiAlCanale() {
-  if (!NeedsChannelView()) return;
   const auto answer = session_.dialogs.AskLine("Inserire il Nr. del canale su cui posizionarsi");
   if (!answer || answer->isEmpty()) return;
   const int slot = Base::LeadingNumber(answer->toStdString());
@@ -109,7 +105,6 @@ void ListCommands::VaiAlCanale() {
 }
 
 void ListCommands::CercaCanale() {
-  if (!NeedsChannelView()) return;
   const auto answer = session_.dialogs.AskLine("Inserire il canale da ricercare");
   if (!answer || answer->isEmpty()) return;
   const auto wanted = Base::FromUtf8(answer->toStdString());
@@ -125,10 +120,6 @@ void ListCommands::CercaCanale() {
     slot = Edit::FindName(session_.document.Tables(), wanted_, slot + 1);
   }
   session_.dialogs.Message("Canale non trovato", {}, Tone::Information);
-}
-
-void ListCommands::Filtra() {
-  if (NeedsChannelView()) session_.view.Filter().StartTyping();
 }
 
 void ListCommands::CercaSuccessivo() {

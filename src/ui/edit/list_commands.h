@@ -1,6 +1,7 @@
 // The commands that change the list as a whole or go to a place in it.
 #pragma once
 
+#include "ui/session/actions.h"
 #include "ui/session/session.h"
 
 namespace Ui {
@@ -8,6 +9,8 @@ namespace Ui {
 class ListCommands {
  public:
   explicit ListCommands(Session& session) : session_(session) {}
+
+  void Connect(Actions& actions);
 
   void OrdinaPerBouquet();
   void SpostaRadio();
@@ -20,11 +23,9 @@ class ListCommands {
   void CercaCanale();
   // The next match of the filter, or of the name last searched for, without a box.
   void CercaSuccessivo();
-  void Filtra();
 
  private:
   void ChangeTransponders(const char* label, void (*operation)(Routines::State&));
-  bool NeedsChannelView();
   std::optional<int> AskStart(int last);
 
   Session& session_;

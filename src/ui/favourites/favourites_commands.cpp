@@ -1,15 +1,19 @@
 #include "ui/favourites/favourites_commands.h"
 
 #include "ui/favourites/favourites_window.h"
-#include "ui/session/commands.h"
 
-#include <QAction>
 #include <QMainWindow>
 
 namespace Ui {
 
+FavouritesCommands::FavouritesCommands(Session& session, Actions& actions, QMainWindow& window)
+    : session_(session), window_(window), edits_(session) {
+  actions.Connect("VisualizzaPreferiti", [this] { Show(); });
+  QObject::connect(&session_.settings, &SettingsPanel::Clicked, &session_.settings,
+                   [this] { FollowSettings(); });
+}
+
 void FavouritesCommands::Show() {
-  if (!session_.NeedsFlash()) return;
   if (!lists_) {
     lists_ = new FavouritesWindow(session_.document, edits_, window_);
     QObject::connect(&session_.status, &StatusLine::ResultShown, lists_, &FavouritesWindow::ShowResult);
@@ -19,10 +23,11 @@ void FavouritesCommands::Show() {
   lists_->activateWindow();
 }
 
-void FavouritesCommands::Enable(bool on) { CommandAction(window_, "VisualizzaPreferiti").setEnabled(on); }
-
-void FavouritesCommands::CloseWindow() {
-  if (lists_) lists_->close();
+void FavouritesCommands::FollowSettings() {
+  const Routines::Settings chosen = session_.settings.Chosen();
+  if (!Routines::CheckSettings(chosen)) return;
+  session_.favouritesAtHand = chosen.Type() != Routines::FlashType::One;
+  session_.ShowList();
 }
 
 }  // namespace Ui

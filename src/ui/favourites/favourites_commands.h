@@ -2,6 +2,7 @@
 #pragma once
 
 #include "ui/favourites/favourites_edits.h"
+#include "ui/session/actions.h"
 
 #include <QPointer>
 
@@ -13,18 +14,15 @@ class FavouritesWindow;
 
 class FavouritesCommands {
  public:
-  FavouritesCommands(Session& session, QMainWindow& window)
-      : session_(session), window_(window), edits_(session) {}
+  FavouritesCommands(Session& session, Actions& actions, QMainWindow& window);
 
   [[nodiscard]] FavouritesEdits& Edits() { return edits_; }
 
-  // Menu command VisualizzaPreferiti.
-  void Show();
-  void CloseWindow();
-  // Makes that command available or not.
-  void Enable(bool on);
-
  private:
+  void Show();
+  // The receivers of the first type keep no favourites that could be written.
+  void FollowSettings();
+
   Session& session_;
   QMainWindow& window_;
   FavouritesEdits edits_;

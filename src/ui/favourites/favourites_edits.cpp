@@ -10,18 +10,13 @@ using Routines::State;
 
 namespace {
 
-QString Entries(int count) {
-  return count == 1 ? QString("1 preferito") : QString("%1 preferiti").arg(count);
-}
+QString Entries(std::integral auto count) { return Counted(count, "preferito", "preferiti"); }
 
 // What became of the channels that could not be added.
 QString Remarks(const Edit::AddReport& report) {
   QString text;
-  if (report.known > 0)
-    text += QString(report.known == 1 ? ", %1 c'era già" : ", %1 c'erano già").arg(report.known);
-  if (report.empty > 0)
-    text += QString(report.empty == 1 ? ", %1 posto vuoto saltato" : ", %1 posti vuoti saltati")
-                .arg(report.empty);
+  if (report.known > 0) text += ", " + Counted(report.known, "c'era già", "c'erano già");
+  if (report.empty > 0) text += ", " + Counted(report.empty, "posto vuoto saltato", "posti vuoti saltati");
   if (report.full > 0) text += QString(", %1 senza posto: la lista è piena").arg(report.full);
   return text;
 }
@@ -59,11 +54,9 @@ void FavouritesEdits::AddSlots(std::size_t list, int first, int last, std::size_
 
 void FavouritesEdits::Remove(std::size_t list, const Places& places) {
   if (!Any(places)) return;
-  session_.document.Apply("Togli dai preferiti", [&](State& state) {
-    Edit::RemoveFavourites(state, list, places);
-    return Base::Done{};
-  });
-  Tell(QString("%1: %2 in meno").arg(Title(list), Entries(static_cast<int>(places.size()))));
+  session_.document.Apply("Togli dai preferiti",
+                          [&](State& state) { Edit::RemoveFavourites(state, list, places); });
+  Tell(QString("%1: %2 in meno").arg(Title(list), Entries(places.size())));
 }
 
 std::size_t FavouritesEdits::Move(std::size_t list, const Places& places, std::size_t target,
@@ -78,10 +71,8 @@ std::size_t FavouritesEdits::Move(std::size_t list, const Places& places, std::s
 }
 
 void FavouritesEdits::Sort(std::size_t list, Edit::FavouriteOrder order) {
-  session_.document.Apply("Ordina preferiti", [&](State& state) {
-    Edit::SortFavourites(state, list, order);
-    return Base::Done{};
-  });
+  session_.document.Apply("Ordina preferiti",
+                          [&](State& state) { Edit::SortFavourites(state, list, order); });
   Tell(Title(list) +
        (order == Edit::FavouriteOrder::ByName ? ": ordinata per nome" : ": ordinata per numero"));
 }

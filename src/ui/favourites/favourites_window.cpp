@@ -26,7 +26,8 @@ FavouritesWindow::FavouritesWindow(const Document& document, FavouritesEdits& ed
   result_->setObjectName("RisultatoPreferiti");
   target_->setObjectName("ListaCorrente");
   // Undo and redo work here as they do in the main window.
-  for (const char* name : {"Annulla", "Ripeti"}) addAction(&CommandAction(window, name));
+  for (const CommandName name : {CommandName("Annulla"), CommandName("Ripeti")})
+    addAction(&CommandAction(window, name));
   auto* lists = new QWidget(this);
   AddLists(document, *lists);
   auto* column = new QVBoxLayout(this);

@@ -22,6 +22,15 @@ constexpr std::string_view ByteOrderMark = "\xEF\xBB\xBF";
 
 }  // namespace
 
+void ExchangeCommands::Connect(Actions& actions) {
+  actions.Connect("FormatoTesto", [this] { FormatoTesto(); });
+  actions.Connect("FormatoFLASH", [this] { FormatoFLASH(); });
+  actions.Connect("FormatoCSV", [this] { FormatoCSV(); });
+  actions.Connect("DaEsportatoTesto", [this] { DaEsportatoTesto(); });
+  actions.Connect("CaricaImportato", [this] { DaEsportatoTesto(); });
+  actions.Connect("DaEsportato", [this] { DaEsportato(); });
+}
+
 std::string ExchangeCommands::AskExport(const QString& filters) {
   std::string path = PathBytes(session_.dialogs.SaveFile(
       {"Selezionare il file di output", filters,
@@ -40,14 +49,12 @@ void ExchangeCommands::Export(const std::string& path, Base::ByteView bytes) {
 }
 
 void ExchangeCommands::FormatoTesto() {
-  if (!session_.NeedsFlash()) return;
   const std::string path = AskExport("Files di testo(*.txt)|*.txt");
   if (path.empty()) return;
   Export(path, Base::AsBytes(Formats::WriteText(session_.document.Tables())));
 }
 
 void ExchangeCommands::FormatoCSV() {
-  if (!session_.NeedsFlash()) return;
   const State& state = session_.document.Tables();
   const bool transponders = session_.view.Current() == View::Transponders;
   Edit::Slots rows{1, transponders ? state.TransponderCount : state.ChannelCount};
@@ -66,16 +73,7 @@ void ExchangeCommands::FormatoCSV() {
 
 void ExchangeCommands::FormatoFLASH() {
   const Routines::Settings chosen = session_.settings.Chosen();
-  if (!chosen.quantiCanali) {
-    session_.dialogs.Message("Si deve selezionare il numero di canali da esportare", {});
-    session_.settings.PointOutMissing();
-    return;
-  }
   const std::string flash = session_.document.Tables().InputFlash;
-  if (flash.empty()) {
-    session_.dialogs.Message("Si deve caricare prima una FLASH di input", {});
-    return;
-  }
   const std::string path = AskExport("Files di testo(*.fls)|*.fls");
   if (path.empty()) return;
   const auto image = Routines::ReadFlash(flash, "Errore FLASH di Input");
@@ -111,11 +109,10 @@ void ExchangeCommands::FormatoFLASH() {
 
 // An import replaces the list, so what is loaded now does not count.
 std::optional<ExchangeCommands::Preparation> ExchangeCommands::Prepare() {
-  const auto chosen = session_.NeedsSettings();
-  if (!chosen) return std::nullopt;
   const auto rates = session_.LoadSymbolRates();
   if (!rates || !rates->missing.empty()) return std::nullopt;
-  return Preparation{Routines::PlanWrite(*std::make_unique<State>(), *chosen), rates->table};
+  return Preparation{Routines::PlanWrite(*std::make_unique<State>(), session_.settings.Chosen()),
+                     rates->table};
 }
 
 std::optional<Base::Bytes> ExchangeCommands::ReadImport(const QString& title, const QString& filters,
@@ -152,7 +149,10 @@ void ExchangeCommands::Import(const char* label, const std::string& path, const 
       },
       Edit::History::Kind::List);
   if (report.listRead) session_.view.ShowFromStart(View::Channels);
-  if (report.listRead && report.error.empty() && onImported) onImported();
+  if (report.listRead && report.error.empty()) {
+    session_.favouritesAtHand = true;
+    session_.ShowList();
+  }
   TellImported(path, report);
 }
 

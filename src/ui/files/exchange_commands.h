@@ -2,6 +2,7 @@
 #pragma once
 
 #include "formats/import_report.h"
+#include "ui/session/actions.h"
 #include "ui/session/session.h"
 
 namespace Ui {
@@ -10,17 +11,17 @@ class ExchangeCommands {
  public:
   explicit ExchangeCommands(Session& session) : session_(session) {}
 
-  // Tells the window that a whole list has been imported.
-  std::function<void()> onImported;
+  void Connect(Actions& actions);
 
-  void FormatoTesto();
-  void FormatoFLASH();
-  void FormatoCSV();
   // Both ask for the file unless its path is given, as by a file dropped on the window.
   void DaEsportatoTesto(std::string path = {});
   void DaEsportato(std::string path = {});
 
  private:
+  void FormatoTesto();
+  void FormatoFLASH();
+  void FormatoCSV();
+
   // What an import needs before a file is asked for.
   struct Preparation {
     Routines::WritePlan plan;

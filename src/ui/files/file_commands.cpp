@@ -46,6 +46,13 @@ QString LoadResult(const State& state, const Routines::LoadReport& report, bool 
 
 }  // namespace
 
+void FileCommands::Connect(Actions& actions) {
+  actions.Connect("ApriFlashInput", [this] { ApriFlashInput(); });
+  actions.Connect("Salva", [this] { Salva(); });
+  actions.Connect("ApriFlashOutput", [this] { ApriFlashOutput(); });
+  actions.Connect("ConvertiSR", [this] { ConvertiSR(); });
+}
+
 std::string FileCommands::AskFlash(const QString& title, FolderKind folder) {
   return PathBytes(session_.dialogs.OpenFile(
       {title, FlashFilters, PathText(Support::RememberedFolder(session_.programFolder, folder))}));
@@ -64,11 +71,6 @@ std::optional<int> FileCommands::AskAppendStart() {
 }
 
 void FileCommands::ApriFlashInput(std::string path) {
-  if (!session_.settings.Chosen().quantiCanali) {
-    session_.dialogs.Message(Text(Routines::NoCapacityChosen), {});
-    session_.settings.PointOutMissing();
-    return;
-  }
   const auto appendStart = AskAppendStart();
   if (!appendStart) return;
   if (path.empty()) path = AskFlash("Selezionare la flash di input", FolderKind::Input);
@@ -118,14 +120,11 @@ bool FileCommands::RatesMoved(const Support::SymbolRates& rates) const {
 }
 
 std::optional<FileCommands::Preparation> FileCommands::Prepare() {
-  if (!session_.NeedsFlash()) return std::nullopt;
-  const auto chosen = session_.NeedsSettings();
-  if (!chosen) return std::nullopt;
   const auto rates = session_.LoadSymbolRates();
   if (!rates || !rates->missing.empty()) return std::nullopt;
 
   const State& state = session_.document.Tables();
-  Preparation preparation{Routines::PlanWrite(state, *chosen), RatesMoved(*rates)};
+  Preparation preparation{Routines::PlanWrite(state, session_.settings.Chosen()), RatesMoved(*rates)};
   if (!preparation.plan.warning.empty()) session_.dialogs.Message(Text(preparation.plan.warning), {});
   return preparation;
 }
@@ -171,10 +170,7 @@ void FileCommands::Write(const std::string& path, const Base::Bytes& original,
   const Routines::PatchedFlash patched = Routines::PatchFlash(state, original, preparation.plan);
   status.ShowProgress(30);
   const auto saved =
-      Routines::DiffersOnlyInSections(original, patched.image)
-          ? Waiting([&] { return Routines::SaveFlash(path, original, patched.image, session_.backups); })
-          : Base::Error{"Impossibile scrivere " + Base::FileName(path) +
-                        ": la modifica esce dalle sezioni conosciute"};
+      Waiting([&] { return Routines::SaveFlash(path, original, patched.image, session_.backups); });
   status.ShowProgress(100);
   if (!saved) {
     session_.dialogs.Message(Text(saved.error().message), OutputTitle);
@@ -207,11 +203,9 @@ void FileCommands::TellWritten(const std::string& path, const Routines::PatchedF
 }
 
 void FileCommands::ConvertiSR() {
-  if (!session_.NeedsFlash()) return;
-  const auto chosen = session_.NeedsSettings();
-  if (!chosen) return;
+  const auto place = session_.settings.Chosen().Place();
   const int changed = session_.document.Apply(
-      "Converti SR", [&chosen](State& state) { return Routines::ConvertiSR(state, chosen->Place()); });
+      "Converti SR", [place](State& state) { return Routines::ConvertiSR(state, place); });
   session_.view.Show(View::Transponders);
   session_.status.ShowResult(QString("Converti SR: %1 transponder ricodificati").arg(changed));
 }

@@ -3,6 +3,7 @@
 
 #include "model/flash_writer.h"
 #include "support/pos_ini.h"
+#include "ui/session/actions.h"
 #include "ui/session/session.h"
 
 namespace Ui {
@@ -11,16 +12,19 @@ class FileCommands {
  public:
   explicit FileCommands(Session& session) : session_(session) {}
 
+  void Connect(Actions& actions);
+
   // Tells the window that a flash has been opened.
   std::function<void(const std::string&)> onOpened;
 
   // Asks for the image unless its path is given, as by a file dropped on the window.
   void ApriFlashInput(std::string path = {});
+
+ private:
   void Salva();
   void ApriFlashOutput();
   void ConvertiSR();
 
- private:
   // What a write needs before anything is asked for.
   struct Preparation {
     Routines::WritePlan plan;

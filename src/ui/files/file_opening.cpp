@@ -4,32 +4,20 @@
 #include "ui/files/dropped_file.h"
 #include "ui/kit/text.h"
 
-#include <QAction>
 #include <QFileInfo>
 #include <QTimer>
 
 namespace Ui {
 
 FileOpening::FileOpening(Session& session, FileCommands& files, ExchangeCommands& exchange, SdxCommands& sdx,
-                         RecentFiles& recent, const QAction& open, QObject* parent)
-    : QObject(parent),
-      session_(session),
-      files_(files),
-      exchange_(exchange),
-      sdx_(sdx),
-      recent_(recent),
-      open_(open) {
+                         RecentFiles& recent, Actions& actions)
+    : session_(session), files_(files), exchange_(exchange), sdx_(sdx), recent_(recent), actions_(actions) {
   connect(&recent_, &RecentFiles::Chosen, this, &FileOpening::OpenRecent);
   files_.onOpened = [this](const std::string& path) { recent_.Add(PathText(path)); };
 }
 
-// The button stays enabled while the command is not, and says why nothing is opened; so do dropped files.
 void FileOpening::OpenFlash(const std::string& path) {
-  if (open_.isEnabled()) {
-    files_.ApriFlashInput(path);
-  } else {
-    session_.status.ShowResult(open_.statusTip());
-  }
+  if (actions_.Allows("ApriFlashInput")) files_.ApriFlashInput(path);
 }
 
 void FileOpening::OpenWhenChosen(const std::string& path) {
@@ -63,11 +51,11 @@ void FileOpening::Drop(const QMimeData& data) {
     if (file.ending == "dat") {
       OpenFlash(path);
     } else if (file.ending == "sdx") {
-      sdx_.Carica(path);
+      if (actions_.Allows("SDX")) sdx_.Carica(path);
     } else if (file.ending == "txt") {
-      exchange_.DaEsportatoTesto(path);
+      if (actions_.Allows("DaEsportatoTesto")) exchange_.DaEsportatoTesto(path);
     } else if (file.ending == "fls") {
-      exchange_.DaEsportato(path);
+      if (actions_.Allows("DaEsportato")) exchange_.DaEsportato(path);
     } else {
       session_.status.ShowResult(file.refusal);
     }

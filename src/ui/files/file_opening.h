@@ -10,7 +10,6 @@
 
 #include <QObject>
 
-class QAction;
 class QMimeData;
 
 namespace Ui {
@@ -19,18 +18,16 @@ class FileOpening : public QObject {
   Q_OBJECT
 
  public:
-  // `open` is the command ApriFlashInput.
   FileOpening(Session& session, FileCommands& files, ExchangeCommands& exchange, SdxCommands& sdx,
-              RecentFiles& recent, const QAction& open, QObject* parent);
+              RecentFiles& recent, Actions& actions);
 
-  // By the command's own dialog, where `path` is empty.
-  void OpenFlash(const std::string& path = {});
   // As soon as the number of channels has been chosen.
   void OpenWhenChosen(const std::string& path);
   // By the command that fits the file, once the drag is over.
   void Drop(const QMimeData& data);
 
  private:
+  void OpenFlash(const std::string& path);
   void OpenRecent(const QString& path);
 
   Session& session_;
@@ -38,7 +35,7 @@ class FileOpening : public QObject {
   ExchangeCommands& exchange_;
   SdxCommands& sdx_;
   RecentFiles& recent_;
-  const QAction& open_;
+  Actions& actions_;
 };
 
 }  // namespace Ui

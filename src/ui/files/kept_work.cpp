@@ -61,11 +61,11 @@ void RemoveBrokenLock(QLockFile& lock) {
 
 }  // namespace
 
-KeptWork::KeptWork(Session& session, QObject* parent) : QObject(parent), session_(session) {
+KeptWork::KeptWork(Session& session) : session_(session) {
   timer_.setSingleShot(true);
   connect(&timer_, &QTimer::timeout, this, &KeptWork::Write);
   writer_.setMaxThreadCount(1);
-  session_.onChange = [this] { Follow(); };
+  session_.onChange.emplace_back([this] { Follow(); });
   connect(&session_.settings, &SettingsPanel::Clicked, this, &KeptWork::Follow);
   connect(&session_.document, &Document::AboutToReplace, this, &KeptWork::KeepBeforeReplacing);
 }
@@ -140,12 +140,7 @@ void KeptWork::Restore(Edit::Recovery& recovery) {
   session_.settings.Choose(recovery.settings);
   session_.clipboard = std::move(recovery.clipboard);
   document.Apply(
-      "Recupera",
-      [&recovery](Routines::State& state) {
-        state = recovery.state;
-        return Base::Done{};
-      },
-      Edit::History::Kind::List);
+      "Recupera", [&recovery](Routines::State& state) { state = recovery.state; }, Edit::History::Kind::List);
   session_.view.ShowFromStart(View::Channels);
   session_.status.ShowResult("Recuperate le modifiche dell'ultima sessione");
 }

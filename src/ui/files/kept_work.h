@@ -16,7 +16,7 @@ class KeptWork : public QObject {
   Q_OBJECT
 
  public:
-  KeptWork(Session& session, QObject* parent);
+  explicit KeptWork(Session& session);
   ~KeptWork() override;
 
   // Asks for each file that an ended program has left, until one is taken.

@@ -39,16 +39,17 @@ void MakeReachable(QPrintPreviewDialog& dialog) {
   for (auto* number : dialog.findChildren<QLineEdit*>()) number->setAccessibleName("Pagina");
 }
 
-QString PagesText(int pages) { return pages == 1 ? QString("1 pagina") : QString("%1 pagine").arg(pages); }
+QString PagesText(int pages) { return Counted(pages, "pagina", "pagine"); }
 
 }  // namespace
 
+void PrintCommands::Connect(Actions& actions) {
+  actions.Connect("StampaGriglia", [this] { StampaGriglia(); });
+  actions.Connect("StampaSDX", [this] { StampaSDX(); });
+}
+
 void PrintCommands::StampaGriglia() {
   const ListView& view = session_.view;
-  if (view.Current() == View::None) {
-    session_.dialogs.Message("Funzione valida solo in visualizzazione canali", {});
-    return;
-  }
   const State& state = session_.document.Tables();
   const int last =
       view.Current() == View::Channels ? Routines::LastOccupied(state) : LastUsedTransponder(state);

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "ui/files/print_report.h"
+#include "ui/session/actions.h"
 #include "ui/session/session.h"
 #include "ui/sources/sdx_pane.h"
 
@@ -14,10 +15,11 @@ class PrintCommands {
   PrintCommands(Session& session, const SdxPane& pane, QWidget& window)
       : session_(session), pane_(pane), window_(window) {}
 
-  void StampaGriglia();
-  void StampaSDX();
+  void Connect(Actions& actions);
 
  private:
+  void StampaGriglia();
+  void StampaSDX();
   void Print(const Grid& grid, int lastRow, const QString& heading);
   void Preview(const PrintReport& report);
   QString Save(const PrintReport& report, const std::string& path, const QPrinter& printer);

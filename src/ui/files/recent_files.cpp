@@ -18,8 +18,7 @@ constexpr const char* Key = "FileRecenti/Percorsi";
 }  // namespace
 
 RecentFiles::RecentFiles(QString settingsFile, QMainWindow& window)
-    : QObject(&window),
-      settingsFile_(std::move(settingsFile)),
+    : settingsFile_(std::move(settingsFile)),
       open_(CommandAction(window, "ApriFlashInput")),
       menu_(new QMenu("File recenti", &window)) {
   menu_->setObjectName("FileRecenti");

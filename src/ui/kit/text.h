@@ -1,6 +1,8 @@
 // Texts of the core, of records and of the file system as the toolkit has them.
 #pragma once
 
+#include "base/text.h"
+
 #include <QString>
 
 #include <string>
@@ -13,6 +15,10 @@ inline QString Text(std::string_view utf8) {
   return QString::fromUtf8(utf8.data(), static_cast<qsizetype>(utf8.size()));
 }
 QString CodePageText(std::string_view bytes);
+
+inline QString Counted(std::integral auto count, std::string_view one, std::string_view more) {
+  return Text(Base::Counted(count, one, more));
+}
 
 // Paths are the file system's own bytes.
 QString PathText(const std::string& path);

@@ -14,6 +14,12 @@ constexpr std::size_t MostSavedLists = 20;
 
 Document::Document(QObject* parent) : QObject(parent), state_(std::make_unique<State>()) {}
 
+void Document::Keep(const std::string& label, Edit::History::Kind kind, std::unique_ptr<State> before) {
+  if (*before == *state_) return;
+  history_.Push(label, kind, std::move(before));
+  Tell();
+}
+
 void Document::Tell() {
   ++revision_;
   Q_EMIT Changed();

@@ -9,6 +9,7 @@
 
 #include <map>
 #include <memory>
+#include <type_traits>
 
 namespace Ui {
 
@@ -21,18 +22,20 @@ class Document : public QObject {
   [[nodiscard]] const Routines::State& Tables() const { return *state_; }
 
   // Runs `operation` on the tables as one step that can be undone, named `label` (UTF-8), and tells the views
-  // where it changed any. Without a change there is no step. Returns what `operation` returns.
+  // where it changed any. Without a change there is no step. Returns what `operation` returns, if anything.
   template <class Operation>
   auto Apply(const std::string& label, Operation operation,
              Edit::History::Kind kind = Edit::History::Kind::Edit) {
     if (kind == Edit::History::Kind::List) Q_EMIT AboutToReplace();
     auto before = std::make_unique<Routines::State>(*state_);
-    auto result = operation(*state_);
-    if (*before != *state_) {
-      history_.Push(label, kind, std::move(before));
-      Tell();
+    if constexpr (std::is_void_v<std::invoke_result_t<Operation&, Routines::State&>>) {
+      operation(*state_);
+      Keep(label, kind, std::move(before));
+    } else {
+      auto result = operation(*state_);
+      Keep(label, kind, std::move(before));
+      return result;
     }
-    return result;
   }
 
   // Changes what is no part of the list itself, and so no step: where it is written, how rates are shown.
@@ -67,6 +70,8 @@ class Document : public QObject {
   void Changed();
 
  private:
+  // Makes a step of what came after `before`, if anything has changed since.
+  void Keep(const std::string& label, Edit::History::Kind kind, std::unique_ptr<Routines::State> before);
   void Tell();
 
   std::unique_ptr<Routines::State> state_;

@@ -1,5 +1,7 @@
 #include "ui/list/grid.h"
 
+#include "ui/kit/text.h"
+
 #include <QContextMenuEvent>
 #include <QDrag>
 #include <QEvent>
@@ -149,7 +151,7 @@ void Grid::mousePressEvent(QMouseEvent* event) {
 void Grid::startDrag(Qt::DropActions) {
   const auto rows = Selected();
   if (!rows) return;
-  const QString text = rows->Count() == 1 ? QString("1 canale") : QString("%1 canali").arg(rows->Count());
+  const QString text = Counted(rows->Count(), "canale", "canali");
   QPixmap label(fontMetrics().horizontalAdvance(text) + 16, fontMetrics().height() + 8);
   label.fill(palette().color(QPalette::Highlight));
   QPainter painter(&label);

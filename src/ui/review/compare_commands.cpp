@@ -8,8 +8,12 @@
 
 namespace Ui {
 
+void CompareCommands::Connect(Actions& actions) {
+  actions.Connect("Confronta", [this] { Confronta(); });
+  actions.Connect("ConfrontaDisco", [this] { ConfrontaDisco(); });
+}
+
 void CompareCommands::Confronta() {
-  if (!session_.NeedsFlash()) return;
   const std::string folder = Support::RememberedFolder(session_.programFolder, Support::FolderKind::Input);
   const std::string path = PathBytes(
       session_.dialogs.OpenFile({"Selezionare la flash da confrontare", FlashFilters, PathText(folder)}));
@@ -26,7 +30,6 @@ void CompareCommands::Confronta() {
 }
 
 void CompareCommands::ConfrontaDisco() {
-  if (!session_.NeedsFlash()) return;
   const std::string path = OtherFlash::PathOnDisk(session_.document.Tables());
   if (path.empty()) {
     session_.dialogs.Message("La lista non viene da una flash e non è ancora stata salvata", {});
@@ -41,17 +44,13 @@ void CompareCommands::ConfrontaDisco() {
 }
 
 void CompareCommands::Compare(OtherFlash other) {
-  CloseWindow();
+  if (shown_) shown_->close();
   if (other.Compare(session_).Nothing()) {
     session_.dialogs.Message("Nessuna differenza", {}, Tone::Information);
     return;
   }
   shown_ = new CompareWindow(session_, std::move(other), window_);
   shown_->show();
-}
-
-void CompareCommands::CloseWindow() {
-  if (shown_) shown_->close();
 }
 
 }  // namespace Ui

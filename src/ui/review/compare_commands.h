@@ -2,6 +2,7 @@
 #pragma once
 
 #include "ui/review/other_flash.h"
+#include "ui/session/actions.h"
 
 #include <QPointer>
 
@@ -15,11 +16,11 @@ class CompareCommands {
  public:
   CompareCommands(Session& session, QMainWindow& window) : session_(session), window_(window) {}
 
-  void Confronta();
-  void ConfrontaDisco();
-  void CloseWindow();
+  void Connect(Actions& actions);
 
  private:
+  void Confronta();
+  void ConfrontaDisco();
   // Shows the window, or says that there is nothing to show.
   void Compare(OtherFlash other);
 

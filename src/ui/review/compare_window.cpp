@@ -28,10 +28,6 @@ using Routines::State;
 
 namespace {
 
-QString Counted(int count, const char* one, const char* more) {
-  return QString("%1 %2").arg(count).arg(count == 1 ? one : more);
-}
-
 // "2 aggiunti, 1 eliminato, 1 senza posto"
 QString Report(const Edit::TakeOverReport& report) {
   QStringList parts;
@@ -68,7 +64,8 @@ CompareWindow::CompareWindow(Session& session, OtherFlash other, QMainWindow& wi
   rest_->setWordWrap(true);
   result_->setObjectName("RisultatoConfronto");
   // Undo and redo work here as they do in the main window.
-  for (const char* name : {"Annulla", "Ripeti"}) addAction(&CommandAction(window, name));
+  for (const CommandName name : {CommandName("Annulla"), CommandName("Ripeti")})
+    addAction(&CommandAction(window, name));
   SetUpTable();
   auto* column = new QVBoxLayout(this);
   column->addWidget(names_);
@@ -251,8 +248,7 @@ void CompareWindow::GoTo(const QModelIndex& index) {
 void CompareWindow::Apply() {
   const std::vector<Review::Difference> chosen = model_->Ticked();
   const Review::Comparison found = model_->Found();
-  const std::string label =
-      "Applica " + Counted(static_cast<int>(chosen.size()), "differenza", "differenze").toStdString();
+  const std::string label = "Applica " + Base::Counted(chosen.size(), "differenza", "differenze");
   const auto report = session_.document.Apply(label, [&](State& state) {
     return Edit::TakeOver(state, other_.List(), found, chosen, session_.bouquets.tables);
   });

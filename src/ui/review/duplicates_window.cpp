@@ -58,14 +58,9 @@ std::map<int, QString> FavouritesOf(const State& state) {
   return lists;
 }
 
-QString Counted(std::size_t count, const char* one, const char* more) {
-  return QString("%1 %2").arg(count).arg(count == 1 ? one : more);
-}
-
 }  // namespace
 
 void CanaliDoppi(Session& session, QMainWindow& window) {
-  if (!session.NeedsFlash()) return;
   if (auto* open = window.findChild<DuplicatesWindow*>(); open != nullptr && open->isVisible()) {
     open->activateWindow();
     return;
@@ -81,7 +76,8 @@ void CanaliDoppi(Session& session, QMainWindow& window) {
     if (!session.dialogs.YesNo("Nessun canale doppio\nCercare anche i canali con lo stesso nome?")) return;
   }
   auto* found = new DuplicatesWindow(session, rules, &window);
-  for (const char* name : {"Annulla", "Ripeti"}) found->addAction(&CommandAction(window, name));
+  for (const CommandName name : {CommandName("Annulla"), CommandName("Ripeti")})
+    found->addAction(&CommandAction(window, name));
   found->show();
 }
 
@@ -319,8 +315,7 @@ void DuplicatesWindow::GoTo(const QTreeWidgetItem* item) {
 }
 
 void DuplicatesWindow::Delete(const std::vector<int>& slots) {
-  const std::string label = slots.size() == 1 ? "Elimina 1 canale doppio"
-                                              : "Elimina " + std::to_string(slots.size()) + " canali doppi";
+  const std::string label = "Elimina " + Base::Counted(slots.size(), "canale doppio", "canali doppi");
   const auto lost =
       session_.document.Apply(label, [&](State& state) { return Edit::DeleteSlots(state, slots); });
   session_.status.ShowResult(Text(label) + session_.Losses(lost));

@@ -56,11 +56,11 @@ QString RowsTitle(const OverviewLine& line) {
   return "Riepilogo: " + (tellsSection ? Title(line.section) + ' ' : "") + Text(line.text);
 }
 
-QString Counted(const OverviewLine& line) {
+QString CountedRows(const OverviewLine& line) {
   const auto count = line.slots.size();
-  if (line.transponders) return QString("%1 transponder").arg(count);
-  if (line.section == Section::Places) return QString(count == 1 ? "%1 posto" : "%1 posti").arg(count);
-  return QString(count == 1 ? "%1 canale" : "%1 canali").arg(count);
+  if (line.transponders) return Counted(count, "transponder", "transponder");
+  if (line.section == Section::Places) return Counted(count, "posto", "posti");
+  return Counted(count, "canale", "canali");
 }
 
 double ShareOf(const OverviewLine& line) {
@@ -102,11 +102,10 @@ class BarDelegate : public QStyledItemDelegate {
 }  // namespace
 
 void ShowOverview(Session& session, QMainWindow& window) {
-  if (!session.NeedsFlash()) return;
   auto* shown = window.findChild<OverviewWindow*>();
   if (shown == nullptr) {
     shown = new OverviewWindow(session, &window);
-    for (const char* name : {"Annulla", "Ripeti", "CercaSuccessivo"})
+    for (const CommandName name : std::initializer_list<CommandName>{"Annulla", "Ripeti", "CercaSuccessivo"})
       shown->addAction(&CommandAction(window, name));
     // At the right, where it leaves numbers and names of the rows in sight.
     shown->move(window.geometry().topRight() - QPoint(shown->width() + 12, -90));
@@ -250,9 +249,8 @@ void OverviewWindow::TellTotals() {
     const auto checks = std::count_if(lines_.begin(), lines_.end(), [](const OverviewLine& line) {
       return line.section == Section::Checks && !line.slots.empty();
     });
-    text += checks == 0   ? QString("Niente da controllare.")
-            : checks == 1 ? QString("Da controllare: 1 voce, in fondo.")
-                          : QString("Da controllare: %1 voci, in fondo.").arg(checks);
+    text += checks == 0 ? QString("Niente da controllare.")
+                        : "Da controllare: " + Counted(checks, "voce", "voci") + ", in fondo.";
   }
   totals_->setText(text);
   goTo_->setEnabled(!lines_.empty());
@@ -267,7 +265,7 @@ void OverviewWindow::GoTo(const QTreeWidgetItem* item) {
     session_.status.ShowResult(title + ": nessuna riga");
     return;
   }
-  const QString told = title + ": " + Counted(line);
+  const QString told = title + ": " + CountedRows(line);
   const auto find = [&bouquets = session_.bouquets, section = line.section,
                      text = line.text](const State& state) {
     return Review::OverviewSlots(state, bouquets.tables.satellites, section, text);

@@ -2,7 +2,6 @@
 
 #include "ui/kit/menu_letters.h"
 #include "ui/kit/themed_icon.h"
-#include "ui/session/command_tips.h"
 
 #include <QAction>
 #include <QIcon>
@@ -13,24 +12,26 @@
 #include <QToolButton>
 
 #include <algorithm>
-#include <string_view>
+#include <array>
 
 namespace Ui {
 namespace {
 
-QString ButtonName(const char* key) { return "Toolbar1_" + QString(key).replace(' ', '_'); }
+QString ControlName(const ToolbarButton& button) {
+  return "Toolbar1_" + QString(button.name).replace(' ', '_');
+}
 
 void AddCommand(QMainWindow& window, QMenu& menu, const Command& command) {
-  if (command.startsGroup) menu.addSeparator();
+  if (command.Is(Group)) menu.addSeparator();
   auto* action = new QAction(command.caption, &window);
   action->setObjectName(command.name);
   if (*command.icon != '\0') action->setIcon(IconNamed(command.icon));
   if (*command.key != '\0') action->setShortcut(QKeySequence(command.key));
-  if (command.forRows) action->setShortcutContext(Qt::WidgetShortcut);
-  action->setStatusTip(CommandTip(command.name));
-  action->setToolTip(CommandTip(command.name));
-  action->setCheckable(command.checkable);
-  if (command.checkable) action->setIconVisibleInMenu(false);  // it would hide the tick
+  if (command.Is(OnRows)) action->setShortcutContext(Qt::WidgetShortcut);
+  action->setStatusTip(command.tip);
+  action->setToolTip(command.tip);
+  action->setCheckable(command.Is(Tick));
+  if (command.Is(Tick)) action->setIconVisibleInMenu(false);  // it would hide the tick
   action->setEnabled(false);
   menu.addAction(action);
 }
@@ -63,13 +64,13 @@ void BuildToolbar(QMainWindow& window) {
   for (const ToolbarButton& button : ToolbarButtons) {
     if (button.startsGroup) toolbar->addSeparator();
     auto* action = toolbar->addAction(button.hidden ? QIcon() : IconNamed(button.icon), button.tip);
-    action->setObjectName(ButtonName(button.key));
+    action->setObjectName(ControlName(button));
     action->setToolTip(button.tip);
     action->setStatusTip(button.tip);
     action->setEnabled(false);
     action->setVisible(!button.hidden);
     auto* widget = qobject_cast<QToolButton*>(toolbar->widgetForAction(action));
-    widget->setObjectName(ButtonName(button.key));
+    widget->setObjectName(ControlName(button));
     widget->setAccessibleName(button.tip);
   }
   // The toolkit's own, where the window is too narrow for all.
@@ -77,30 +78,14 @@ void BuildToolbar(QMainWindow& window) {
     more->setAccessibleName("Altri pulsanti");
     more->setToolTip("Altri pulsanti");
   }
-  // The recount is a button only; the keyboard has it in the menu, behind the commands for the whole list.
-  const QAction& last = CommandAction(window, "ConvertiSR");
-  auto* utilities = qobject_cast<QMenu*>(last.associatedObjects().value(0));
-  const QList<QAction*> commands = utilities->actions();
-  utilities->insertAction(commands.value(commands.indexOf(&last) + 1),
-                          &ButtonAction(window, "CanaliXTransponder"));
 }
 
-QString CommandTip(std::string_view name) {
-  const auto tip = std::find_if(CommandTips.begin(), CommandTips.end(),
-                                [name](const auto& entry) { return entry.first == name; });
-  return tip == CommandTips.end() ? QString() : QString(tip->second);
+QAction& CommandAction(const QMainWindow& window, CommandName command) {
+  return *window.findChild<QAction*>(command->name);
 }
 
-QAction& CommandAction(const QMainWindow& window, const char* name) {
-  auto* action = window.findChild<QAction*>(name);
-  Q_ASSERT(action != nullptr);
-  return *action;
-}
-
-QAction& ButtonAction(const QMainWindow& window, const char* key) {
-  auto* action = window.findChild<QAction*>(ButtonName(key));
-  Q_ASSERT(action != nullptr);
-  return *action;
+QAction& ButtonAction(const QMainWindow& window, ButtonName button) {
+  return *window.findChild<QAction*>(ControlName(*button));
 }
 
 }  // namespace Ui

@@ -1,11 +1,13 @@
-// Every menu command and toolbar button of the window, in one table: control name, caption, place, key and
-// icon.
+// Every menu command and toolbar button of the window, in one table: name, caption, place, key, what it does and what
+// has to be there for it. Whoever runs one connects it by its name, with Actions.
 #pragma once
 
-#include <QString>
+#include "ui/session/gate.h"
 
-#include <array>
+#include <algorithm>
+#include <iterator>
 #include <string_view>
+#include <type_traits>
 
 class QAction;
 class QMainWindow;
@@ -14,128 +16,214 @@ namespace Ui {
 
 enum class Menu { File, Utilities, Sdx, Import, Export, About };
 
+// How a command stands in its menu.
+enum Place : unsigned {
+  Plain = 0,
+  Group = 1,  // a line divides it from the command above
+  Tick = 2,   // it can be ticked
+  OnRows = 4  // its key counts only while the grid has the focus
+};
+
 struct Command {
   const char* name;  // control name
   const char* caption;
   Menu menu;
-  const char* icon = "";  // file below :/icons, without its ending
-  const char* key = "";
-  bool checkable = false;
-  bool startsGroup = false;  // a line divides it from the command above
-  bool forRows = false;      // its key counts only while the grid has the focus
+  const char* icon;  // file below :/icons, without its ending; may be empty
+  const char* key;   // may be empty
+  const char* tip;   // what it does, in one line
+  Gate gate = {};
+  unsigned place = Plain;
+
+  [[nodiscard]] constexpr bool Is(Place trait) const { return (place & trait) != 0; }
 };
 
-constexpr Command Group(Command command) {
-  command.startsGroup = true;
-  return command;
-}
+inline constexpr Command Commands[] = {
+    {"ApriFlashInput", "Apri Flash Input", Menu::File, "open", "Ctrl+O",
+     "Apre l'immagine della flash di un ricevitore, o la accoda a quella aperta",
+     Gate(Enabled::WithoutFls, Need::Capacity)},
+    {"CaricaAggiuntiva", "Carica Flash aggiuntiva", Menu::File, "", "",
+     "Mostra i canali di una seconda flash, da cui prenderne per la lista"},
+    {"Salva", "Salva", Menu::File, "save", "Ctrl+S", "Riscrive la lista nella flash di output",
+     Gate(Enabled::WithList, Need::List, Need::Settings), Group},
+    {"ApriFlashOutput", "Salva Flash come", Menu::File, "save-as", "Ctrl+Shift+S",
+     "Scrive la lista in un'immagine esistente del ricevitore",
+     Gate(Enabled::WithList, Need::List, Need::Settings)},
+    {"Fine", "Fine", Menu::File, "exit", "",
+     "Chiude il programma; le modifiche non salvate vengono offerte al prossimo avvio", Gate(), Group},
 
-constexpr Command Checkable(Command command) {
-  command.checkable = true;
-  return command;
-}
+    {"Annulla", "Annulla", Menu::Utilities, "undo", "Ctrl+Z",
+     "Torna a com'era la lista prima dell'ultima modifica", Enabled::WithUndo},
+    {"Ripeti", "Ripeti", Menu::Utilities, "redo", "Ctrl+Y", "Rifà la modifica annullata", Enabled::WithRedo},
+    {"Copia", "Copia", Menu::Utilities, "copy", "Ctrl+C", "Copia i canali selezionati", Need::ChannelRows,
+     Group | OnRows},
+    {"Taglia", "Taglia", Menu::Utilities, "cut", "Ctrl+X",
+     "Toglie i canali selezionati per incollarli altrove", Need::ChannelRows, OnRows},
+    {"Incolla", "Incolla", Menu::Utilities, "paste", "Ctrl+V",
+     "Inserisce i canali copiati o tagliati al numero che si indica", Need::ChannelRows, OnRows},
+    {"Elimina", "Elimina", Menu::Utilities, "delete", "Del",
+     "Elimina i canali selezionati; quelli che seguono risalgono", Need::ChannelRows, OnRows},
+    {"SpostaSu", "Sposta su", Menu::Utilities, "", "Alt+Up", "Sposta le righe selezionate di un posto in su",
+     Need::ChannelRows, Group | OnRows},
+    {"SpostaGiu", "Sposta giù", Menu::Utilities, "", "Alt+Down",
+     "Sposta le righe selezionate di un posto in giù", Need::ChannelRows, OnRows},
+    {"SpostaA", "Sposta a…", Menu::Utilities, "", "", "Sposta le righe selezionate al numero che si indica",
+     Need::ChannelRows},
 
-constexpr Command ForRows(Command command) {
-  command.forRows = true;
-  return command;
-}
+    {"CaricaImportato", "Carica Canali da file esportato", Menu::Utilities, "import", "",
+     "Carica una lista esportata in formato Testo", Need::Settings, Group},
+    {"Azzera", "Azzera Canali e Transponder", Menu::Utilities, "", "",
+     "Svuota canali e transponder della lista; i preferiti restano", Need::ListToClear, Group},
+    {"OrdinaPerBouquet", "Ordina Canali per Bouquet", Menu::Utilities, "", "",
+     "Raggruppa i canali per bouquet e transponder", Need::List},
+    {"SpostaRadio", "Raggruppa RADIO e SERVIZI", Menu::Utilities, "", "",
+     "Mette radio e servizi in fondo alla lista, dopo i canali TV", Need::List},
+    {"CanaliDoppi", "Controlla Canali Doppi", Menu::Utilities, "", "",
+     "Cerca i canali che sono nella lista più di una volta", Need::List},
+    {"Confronta", "Confronta con un'altra flash…", Menu::Utilities, "", "",
+     "Confronta la lista con quella di un'altra flash", Need::List, Group},
+    {"ConfrontaDisco", "Confronta con il file su disco", Menu::Utilities, "", "",
+     "Mostra che cosa cambierebbe salvando", Need::List},
+    {"InvertiSatelliti", "Inverti Satelliti", Menu::Utilities, "", "", "Scambia i satelliti A con B, C con D",
+     Need::List, Group},
+    {"RiportaAB", "Riporta tutto a SAT A-B", Menu::Utilities, "", "",
+     "Riporta tutti i transponder ai satelliti A e B", Need::List},
+    {"ConvertiSR", "Converti SR", Menu::Utilities, "convert-sr", "",
+     "Ricodifica i symbol rate come dice Definizione SR 22000",
+     Gate(Enabled::WithList, Need::List, Need::Settings)},
+    {"CanaliXTransponder", "Ricalcola il numero di Canali per transponder", Menu::Utilities, "recount", "",
+     "Ricalcola il numero di Canali per transponder", Need::List},
+    {"VisualizzaCanali", "Visualizza Canali", Menu::Utilities, "channels", "",
+     "Mostra o chiude la lista dei canali", Need::List, Group | Tick},
+    {"VisualizzaTransponder", "Visualizza Transponders", Menu::Utilities, "transponders", "",
+     "Mostra o chiude la lista dei transponder", Need::List, Tick},
+    {"VisualizzaPreferiti", "Visualizza Preferiti", Menu::Utilities, "favourites", "",
+     "Apre le otto liste dei preferiti", Gate(Enabled::WithFavourites, Need::List)},
+    {"VisualizzaBouquet", "Visualizza Struttura per Bouquet", Menu::Utilities, "bouquet", "",
+     "Mostra la lista come albero di satelliti, bouquet e transponder", Need::List, Tick},
+    {"Riepilogo", "Riepilogo", Menu::Utilities, "", "",
+     "Dice che cosa c'è nella lista e che cosa controllare", Need::List},
+    {"CercaCanale", "Ricerca canale per Nome", Menu::Utilities, "find", "Ctrl+F", "Cerca un canale per nome",
+     Gate(Enabled::WithList, Need::ChannelView), Group},
+    {"CercaSuccessivo", "Ricerca successivo", Menu::Utilities, "", "F3", "Va al prossimo canale trovato"},
+    {"Filtra", "Filtro", Menu::Utilities, "", "Ctrl+Shift+F",
+     "Segna nella griglia i canali con un nome, un SID o un transponder", Need::ChannelView},
+    {"VaiAlCanale", "Vai al Canale Nr.", Menu::Utilities, "goto", "Ctrl+G",
+     "Va al canale con il numero che si indica", Gate(Enabled::WithList, Need::ChannelView)},
+    {"StampaGriglia", "Stampa", Menu::Utilities, "print", "Ctrl+P",
+     "Stampa la lista mostrata, o le righe selezionate", Gate(Enabled::WithList, Need::AnyView), Group},
 
-inline constexpr std::array Commands = {
-    Command{"ApriFlashInput", "Apri Flash Input", Menu::File, "open", "Ctrl+O"},
-    Command{"CaricaAggiuntiva", "Carica Flash aggiuntiva", Menu::File},
-    Group({"Salva", "Salva", Menu::File, "save", "Ctrl+S"}),
-    Command{"ApriFlashOutput", "Salva Flash come", Menu::File, "save-as", "Ctrl+Shift+S"},
-    Group({"Fine", "Fine", Menu::File, "exit"}),
+    {"ScaricaInternet", "Scarica da Internet", Menu::Sdx, "internet", "",
+     "Scarica una lista SatcoDX da un indirizzo", Need::ChannelsForDownload},
+    {"SDX", "Carica File (.sdx)", Menu::Sdx, "open-sdx", "", "Carica una lista SatcoDX accanto ai canali",
+     Need::ChannelsForSdx},
+    {"VediSDX", "Visualizza", Menu::Sdx, "", "", "Mostra o chiude la lista accanto ai canali",
+     Enabled::WhenSdxMayShow, Group | Tick},
+    {"RicercaSDX", "Ricerca", Menu::Sdx, "find-sdx", "", "Cerca un canale nella lista SatcoDX",
+     Enabled::WhileSdxShown},
+    {"StampaSDX", "Stampa", Menu::Sdx, "print", "", "Stampa la lista SatcoDX", Enabled::WhileSdxShown},
+    {"ImportaTuttoSDX", "Importa tutto SDX", Menu::Sdx, "import", "",
+     "Porta tutti i canali della lista SatcoDX nella propria",
+     Gate(Enabled::WhileSdxShown, Need::ChannelsForSdxImport), Group},
 
-    Command{"Annulla", "Annulla", Menu::Utilities, "undo", "Ctrl+Z"},
-    Command{"Ripeti", "Ripeti", Menu::Utilities, "redo", "Ctrl+Y"},
-    Group(ForRows({"Copia", "Copia", Menu::Utilities, "copy", "Ctrl+C"})),
-    ForRows({"Taglia", "Taglia", Menu::Utilities, "cut", "Ctrl+X"}),
-    ForRows({"Incolla", "Incolla", Menu::Utilities, "paste", "Ctrl+V"}),
-    ForRows({"Elimina", "Elimina", Menu::Utilities, "delete", "Del"}),
-    Group(ForRows({"SpostaSu", "Sposta su", Menu::Utilities, "", "Alt+Up"})),
-    ForRows({"SpostaGiu", "Sposta giù", Menu::Utilities, "", "Alt+Down"}),
-    Command{"SpostaA", "Sposta a…", Menu::Utilities},
-    Group({"CaricaImportato", "Carica Canali da file esportato", Menu::Utilities, "import"}),
-    Group({"Azzera", "Azzera Canali e Transponder", Menu::Utilities}),
-    Command{"OrdinaPerBouquet", "Ordina Canali per Bouquet", Menu::Utilities},
-    Command{"SpostaRadio", "Raggruppa RADIO e SERVIZI", Menu::Utilities},
-    Command{"CanaliDoppi", "Controlla Canali Doppi", Menu::Utilities},
-    Group({"Confronta", "Confronta con un'altra flash…", Menu::Utilities}),
-    Command{"ConfrontaDisco", "Confronta con il file su disco", Menu::Utilities},
-    Group({"InvertiSatelliti", "Inverti Satelliti", Menu::Utilities}),
-    Command{"RiportaAB", "Riporta tutto a SAT A-B", Menu::Utilities},
-    Command{"ConvertiSR", "Converti SR", Menu::Utilities, "convert-sr"},
-    Group(Checkable({"VisualizzaCanali", "Visualizza Canali", Menu::Utilities, "channels"})),
-    Checkable({"VisualizzaTransponder", "Visualizza Transponders", Menu::Utilities, "transponders"}),
-    Command{"VisualizzaPreferiti", "Visualizza Preferiti", Menu::Utilities, "favourites"},
-    Checkable({"VisualizzaBouquet", "Visualizza Struttura per Bouquet", Menu::Utilities, "bouquet"}),
-    Command{"Riepilogo", "Riepilogo", Menu::Utilities},
-    Group({"CercaCanale", "Ricerca canale per Nome", Menu::Utilities, "find", "Ctrl+F"}),
-    Command{"CercaSuccessivo", "Ricerca successivo", Menu::Utilities, "", "F3"},
-    Command{"Filtra", "Filtro", Menu::Utilities, "", "Ctrl+Shift+F"},
-    Command{"VaiAlCanale", "Vai al Canale Nr.", Menu::Utilities, "goto", "Ctrl+G"},
-    Group({"StampaGriglia", "Stampa", Menu::Utilities, "print", "Ctrl+P"}),
+    {"DaEsportato", "Da formato FLASH", Menu::Import, "", "", "Carica una lista esportata in formato FLASH",
+     Need::Settings},
+    {"DaEsportatoTesto", "Da formato TESTO", Menu::Import, "", "",
+     "Carica una lista esportata in formato Testo", Need::Settings},
+    {"Digiquest", "Da File Digiquest/FortecStar", Menu::Import, "", "",
+     "Carica una lista di testo di altri ricevitori, scegliendone le colonne", Need::ChannelsForSdx},
+    {"Pelko", "Da File Pelko", Menu::Import, "", "",
+     "Carica una lista di testo di altri ricevitori, scegliendone le colonne", Need::ChannelsForSdx},
+    {"FormatoFLASH", "In formato FLASH", Menu::Export, "", "", "Copia la flash aperta in un file .fls",
+     Gate(Need::CapacityToExport, Need::OpenedFlash)},
+    {"FormatoTesto", "In formato Testo", Menu::Export, "", "", "Scrive la lista in un file di testo",
+     Need::List},
+    {"FormatoCSV", "In formato CSV", Menu::Export, "", "", "Scrive la lista in un file per fogli di calcolo",
+     Need::List},
 
-    Command{"ScaricaInternet", "Scarica da Internet", Menu::Sdx, "internet"},
-    Command{"SDX", "Carica File (.sdx)", Menu::Sdx, "open-sdx"},
-    Group(Checkable({"VediSDX", "Visualizza", Menu::Sdx})),
-    Command{"RicercaSDX", "Ricerca", Menu::Sdx, "find-sdx"},
-    Command{"StampaSDX", "Stampa", Menu::Sdx, "print"},
-    Group({"ImportaTuttoSDX", "Importa tutto SDX", Menu::Sdx, "import"}),
+    {"Guida", "&Guida", Menu::About, "", "F1", "Apre la guida"},
+    {"About", "&About", Menu::About, "info", "", "Dice che programma è questo"},
+};
 
-    Command{"DaEsportato", "Da formato FLASH", Menu::Import},
-    Command{"DaEsportatoTesto", "Da formato TESTO", Menu::Import},
-    Command{"Digiquest", "Da File Digiquest/FortecStar", Menu::Import},
-    Command{"Pelko", "Da File Pelko", Menu::Import},
-    Command{"FormatoFLASH", "In formato FLASH", Menu::Export},
-    Command{"FormatoTesto", "In formato Testo", Menu::Export},
-    Command{"FormatoCSV", "In formato CSV", Menu::Export},
+// An entry of a table by its name. A name that is not there does not compile.
+template <const auto& Table>
+class EntryOf {
+ public:
+  using Entry = std::remove_reference_t<decltype(*Table)>;
 
-    Command{"Guida", "&Guida", Menu::About, "", "F1"},
-    Command{"About", "&About", Menu::About, "info"},
+  constexpr EntryOf() = default;  // none
+  consteval EntryOf(const char* name) : entry_(Find(name)) {}
+  constexpr EntryOf(Entry& entry) : entry_(&entry) {}
+
+  constexpr explicit operator bool() const { return entry_ != nullptr; }
+  constexpr Entry* operator->() const { return entry_; }
+  constexpr Entry& operator*() const { return *entry_; }
+  [[nodiscard]] constexpr std::size_t Index() const { return static_cast<std::size_t>(entry_ - Table); }
+
+ private:
+  static constexpr Entry* Find(std::string_view name) {
+    Entry* found = std::find_if(std::begin(Table), std::end(Table),
+                                [name](const Entry& entry) { return entry.name == name; });
+    if (found == std::end(Table)) throw "no such entry";
+    return found;
+  }
+
+  Entry* entry_ = nullptr;
+};
+
+using CommandName = EntryOf<Commands>;
+
+// What a press does while the button's command is disabled.
+enum class Press {
+  Ask,    // runs it all the same, so that it can refuse with its message
+  Follow  // nothing
 };
 
 struct ToolbarButton {
-  const char* key;
+  const char* name;  // the key that tells it from the others
   const char* tip;
   const char* icon;
+  CommandName command = {};  // none where the button does something of its own
+  Press press = Press::Ask;
+  Need need = Need::Nothing;  // before the command's own
   bool startsGroup = false;
   bool hidden = false;
 };
 
-inline constexpr std::array ToolbarButtons = {
-    ToolbarButton{"Open", "Apri Flash", "open"},
-    ToolbarButton{"Save", "Salva Flash", "save"},
-    ToolbarButton{"Canali", "Visualizza Canali", "channels", true},
-    ToolbarButton{"TRANSPONDERS", "Visualizza Transponders", "transponders"},
-    ToolbarButton{"Rectangle", "Rectangle", "", false, true},
-    ToolbarButton{"New", "New", "", false, true},
-    ToolbarButton{"Copy", "Copia canali selezionati", "copy", true},
-    ToolbarButton{"Paste", "Incolla canali salvati con Copia o Taglia", "paste"},
-    ToolbarButton{"Cut", "Taglia canali selezionati", "cut"},
-    ToolbarButton{"Delete", "Elimina i canali selezionati", "delete"},
-    ToolbarButton{"CanaliXTransponder", "Ricalcola il numero di Canali per transponder", "recount"},
-    ToolbarButton{"Goto", "Vai al Canale Nr.", "goto", true},
-    ToolbarButton{"Find", "Ricerca canale per Nome", "find"},
-    ToolbarButton{"Print", "Stampa Canali o Transponders", "print"},
-    ToolbarButton{"Internet", "Collegamento a SotCodx", "internet", true},
-    ToolbarButton{"Apri SDX", "Apri File SDX", "open-sdx"},
-    ToolbarButton{"Copy SDX", "Copia canali selezionati SDX", "copy-sdx"},
-    ToolbarButton{"Find SDX", "Ricerca canale SDX per nome", "find-sdx"},
-    ToolbarButton{"Fine Programma", "Fine Programma", "exit", true},
+constexpr ToolbarButton InNewGroup(ToolbarButton button) {
+  button.startsGroup = true;
+  return button;
+}
+
+inline constexpr ToolbarButton ToolbarButtons[] = {
+    {"Open", "Apri Flash", "open", "ApriFlashInput"},
+    {"Save", "Salva Flash", "save", "ApriFlashOutput"},
+    InNewGroup({"Canali", "Visualizza Canali", "channels", "VisualizzaCanali"}),
+    {"TRANSPONDERS", "Visualizza Transponders", "transponders", "VisualizzaTransponder"},
+    {.name = "Rectangle", .tip = "Rectangle", .icon = "", .hidden = true},
+    {.name = "New", .tip = "New", .icon = "", .hidden = true},
+    InNewGroup({"Copy", "Copia canali selezionati", "copy", "Copia"}),
+    {"Paste", "Incolla canali salvati con Copia o Taglia", "paste", "Incolla"},
+    {"Cut", "Taglia canali selezionati", "cut", "Taglia"},
+    {"Delete", "Elimina i canali selezionati", "delete", "Elimina"},
+    {"CanaliXTransponder", "Ricalcola il numero di Canali per transponder", "recount", "CanaliXTransponder"},
+    InNewGroup({"Goto", "Vai al Canale Nr.", "goto", "VaiAlCanale", Press::Follow}),
+    {"Find", "Ricerca canale per Nome", "find", "CercaCanale"},
+    {"Print", "Stampa Canali o Transponders", "print", "StampaGriglia"},
+    InNewGroup({"Internet", "Collegamento a SotCodx", "internet", "ScaricaInternet"}),
+    {"Apri SDX", "Apri File SDX", "open-sdx", "SDX", Press::Ask, Need::List},
+    {"Copy SDX", "Copia canali selezionati SDX", "copy-sdx"},
+    {"Find SDX", "Ricerca canale SDX per nome", "find-sdx", "RicercaSDX", Press::Follow},
+    InNewGroup({"Fine Programma", "Fine Programma", "exit", "Fine"}),
 };
 
-// Builds menus and toolbar with an action of its own for every command and button, each disabled: whoever
-// makes a command work enables it.
+using ButtonName = EntryOf<ToolbarButtons>;
+
+// Builds menus and toolbar with an action of its own for every command and button, each disabled until somebody runs
+// it (Actions).
 void BuildMenus(QMainWindow& window);
 void BuildToolbar(QMainWindow& window);
 
-// What a menu command does, for the status bar; empty where the name is none.
-QString CommandTip(std::string_view name);
-
-// The action of a menu command, or of a toolbar button by its key. The name must be one of the tables'.
-QAction& CommandAction(const QMainWindow& window, const char* name);
-QAction& ButtonAction(const QMainWindow& window, const char* key);
+QAction& CommandAction(const QMainWindow& window, CommandName command);
+QAction& ButtonAction(const QMainWindow& window, ButtonName button);
 
 }  // namespace Ui

@@ -10,27 +10,11 @@ QString Session::Losses(const std::vector<Edit::LostFavourite>& lost) const {
   return text.empty() ? QString() : ", " + Text(text);
 }
 
-bool Session::NeedsFlash() {
-  if (document.Tables().Loaded) return true;
-  dialogs.Message("Si deve caricare prima una FLASH di input", {});
-  return false;
-}
-
 bool Session::IsFlashOfList(const std::string& path) const {
   if (path.empty()) return false;
   const Routines::State& state = document.Tables();
   const std::string target = Base::ResolvedPath(path);
   return target == Base::ResolvedPath(state.InputFlash) || target == Base::ResolvedPath(state.OutputFlash);
-}
-
-std::optional<Routines::Settings> Session::NeedsSettings() {
-  const Routines::Settings chosen = settings.Chosen();
-  if (const auto complete = Routines::CheckSettings(chosen); !complete) {
-    Message(complete.error());
-    settings.PointOutMissing();
-    return std::nullopt;
-  }
-  return chosen;
 }
 
 std::optional<Support::SymbolRates> Session::LoadSymbolRates() {

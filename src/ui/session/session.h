@@ -34,12 +34,16 @@ struct Session {
   Edit::Clipboard clipboard = {};
   Formats::SdxTable sdx = {};
   bool srIniMissingTold = false;
-  std::function<void()> onChange = {};
+  // What commands are enabled with, beside the list itself; ShowList() tells of a change.
+  bool sdxShown = false;          // the pane of the list on the right
+  bool sdxShownSinceFls = false;  // since the list came from a file of raw records
+  bool favouritesAtHand = false;  // the receiver chosen, or the list imported, has favourites
+  std::vector<std::function<void()>> onChange = {};
 
   // Whatever changed the list or the clipboard ends here: the status bar's figures, and who else wants to know.
   void ShowList() {
     status.ShowList(document.Tables(), document.Unsaved(), clipboard.Count());
-    if (onChange) onChange();
+    for (const auto& tell : onChange) tell();
   }
 
   void Message(const Base::Error& error) { dialogs.Message(Text(error.message), Text(error.title)); }
@@ -47,14 +51,11 @@ struct Session {
   // ", tolti 3 preferiti (Cinema 2, Sport 1)" to stand behind a result; empty where nothing was lost.
   [[nodiscard]] QString Losses(const std::vector<Edit::LostFavourite>& lost) const;
 
-  // Whether a list is loaded; says so where none is.
-  bool NeedsFlash();
+  // Window geometry, recent files and the like.
+  [[nodiscard]] QString SettingsFile() const { return PathText(programFolder + "/trovalis.ini"); }
 
   // Whether a file about to be written is the opened flash or the one of the output, which only a save may write.
   [[nodiscard]] bool IsFlashOfList(const std::string& path) const;
-
-  // The settings, when each group has a choice; says which one is missing where one is.
-  std::optional<Routines::Settings> NeedsSettings();
 
   // The symbol rates of SR.INI as `SRDef` now places them. Where the file is missing it says so, in a box
   // once and in the status bar after that. A malformed file ends the program: nothing comes back then.

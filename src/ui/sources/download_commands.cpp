@@ -16,11 +16,11 @@ DownloadCommands::DownloadCommands(Session& session, SdxCommands& sdx, DownloadF
   connect(&download_, &Download::Finished, this, &DownloadCommands::Take);
 }
 
+void DownloadCommands::Connect(Actions& actions) {
+  actions.Connect("ScaricaInternet", [this] { ScaricaInternet(); });
+}
+
 void DownloadCommands::ScaricaInternet() {
-  if (session_.view.Current() != View::Channels) {
-    session_.dialogs.Message("Per poter importare da Internet si deve visualizzare la griglia Canali", {});
-    return;
-  }
   if (download_.Running()) {
     session_.status.ShowResult("Uno scaricamento è già in corso");
     return;

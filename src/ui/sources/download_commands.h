@@ -20,9 +20,10 @@ class DownloadCommands : public QObject {
   // Tells the window that a list has come and is about to be loaded.
   std::function<void()> onLoad;
 
-  void ScaricaInternet();
+  void Connect(Actions& actions);
 
  private:
+  void ScaricaInternet();
   void Fetch(const QString& address);
   void ShowProgress();
   void Take(bool good, const QByteArray& reply);

@@ -19,6 +19,12 @@ constexpr std::size_t LargestList = 256U << 20U;
 
 }  // namespace
 
+void ForeignCommands::Connect(Actions& actions) {
+  actions.Connect("CaricaAggiuntiva", [this] { CaricaAggiuntiva(); });
+  for (const CommandName kind : {CommandName("Digiquest"), CommandName("Pelko")})
+    actions.Connect(kind, [this, kind] { Importa(kind->name, kind->caption); });
+}
+
 void ForeignCommands::CaricaAggiuntiva() {
   const std::string path = PathBytes(session_.dialogs.OpenFile(
       {"Selezionare la flash aggiuntiva", FlashFilters,
@@ -31,17 +37,16 @@ void ForeignCommands::CaricaAggiuntiva() {
   }
   const auto rates = session_.LoadSymbolRates();
   if (!rates) return;
-  Formats::FlashRows rows = Formats::ReadFlashRows(*image, rates->table, session_.bouquets.tables);
+  Formats::SdxTable table = Formats::ReadFlashRows(*image, rates->table, session_.bouquets.tables);
   const QString file = PathText(Base::FileName(path));
-  QString result = QString("%1: letti %2 canali").arg(file).arg(rows.table.rows.size());
-  if (rows.withoutTransponder > 0)
-    result += QString("; tralasciati %1 senza transponder").arg(rows.withoutTransponder);
-  sdx_.Show(std::move(rows.table), file);
+  QString result = QString("%1: letti %2 canali").arg(file).arg(table.rows.size());
+  if (const int without = table.dropped.Count(Formats::Drop::NoTransponder); without > 0)
+    result += QString("; tralasciati %1 senza transponder").arg(without);
+  sdx_.Show(std::move(table), file);
   session_.status.ShowResult(result);
 }
 
 void ForeignCommands::Importa(const QString& kind, const QString& caption) {
-  if (!sdx_.NeedsChannels()) return;
   const std::string path = PathBytes(session_.dialogs.OpenFile(
       {"Selezionare il file da importare",
        "File di testo(*.txt *.csv *.ini *.dat)|*.txt *.csv *.ini *.dat|Tutti i file (*.*)|*.*|",
@@ -59,23 +64,13 @@ void ForeignCommands::Importa(const QString& kind, const QString& caption) {
     session_.Message(text.error());
     return;
   }
-  const QString ini = PathText(session_.programFolder + "/trovalis.ini");
+  const QString ini = session_.SettingsFile();
   ForeignDialog dialog(caption, PathText(name), *text, RememberedLayout(ini, kind),
                        session_.bouquets.tables.satellites, session_.dialogs, &window_);
   if (dialog.exec() != QDialog::Accepted) return;
   RememberLayout(ini, kind, dialog.Layout());
-  Formats::ForeignList list = Formats::ReadForeign(text->text, dialog.Layout(), dialog.Satellite());
-  const std::string drops = list.DropsText();
-  sdx_.Show(std::move(list.table), PathText(name));
-  TellImported(PathText(name), session_.sdx, drops);
-}
-
-void ForeignCommands::TellImported(const QString& file, const Formats::SdxTable& table,
-                                   const std::string& drops) {
-  QString result = QString("%1: lette %2 righe, prese %3").arg(file).arg(table.lines).arg(table.rows.size());
-  if (!drops.empty()) result += "; scartate: " + Text(drops);
-  session_.status.ShowResult(result);
-  if (table.full) session_.dialogs.Message(SdxTableFull, {});
+  sdx_.Show(Formats::ReadForeign(text->text, dialog.Layout(), dialog.Satellite()), PathText(name));
+  sdx_.TellTaken(PathText(name));
 }
 
 }  // namespace Ui

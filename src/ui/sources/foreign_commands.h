@@ -10,12 +10,12 @@ class ForeignCommands {
   ForeignCommands(Session& session, SdxCommands& sdx, QWidget& window)
       : session_(session), sdx_(sdx), window_(window) {}
 
+  void Connect(Actions& actions);
+
+ private:
   void CaricaAggiuntiva();
   // Menu commands Digiquest and Pelko; `kind` is the control name, under which the choices are remembered.
   void Importa(const QString& kind, const QString& caption);
-
- private:
-  void TellImported(const QString& file, const Formats::SdxTable& table, const std::string& drops);
 
   Session& session_;
   SdxCommands& sdx_;

@@ -234,18 +234,17 @@ void ForeignDialog::ShowOutcome() {
 }
 
 QString ForeignDialog::Outcome() const {
-  const Formats::ForeignList list = Formats::ReadForeign(text_.text, layout_, 0, CountedLines);
-  const int rows = static_cast<int>(list.table.rows.size());
+  const Formats::SdxTable table = Formats::ReadForeign(text_.text, layout_, 0, CountedLines);
+  const int rows = static_cast<int>(table.rows.size());
   QString said;
-  if (list.table.full) {
+  if (table.full) {
     said = QString("Più di %1 righe darebbero canali: saranno prese le prime %1").arg(Number(rows));
   } else {
-    said =
-        QString("%1 su %2 %3")
-            .arg(Lines(rows), Number(list.table.lines), rows == 1 ? "darebbe un canale" : "darebbero canali");
+    said = QString("%1 su %2 %3")
+               .arg(Lines(rows), Number(table.lines), rows == 1 ? "darebbe un canale" : "darebbero canali");
   }
-  if (!list.table.full && list.table.lines == CountedLines) said += " (contate fin qui)";
-  if (const std::string drops = list.DropsText(); !drops.empty()) said += "; le altre: " + Text(drops);
+  if (!table.full && table.lines == CountedLines) said += " (contate fin qui)";
+  if (const std::string drops = table.dropped.Text(); !drops.empty()) said += "; le altre: " + Text(drops);
   said += ".";
   const std::pair<Meaning, const char*> wanted[] = {
       {Meaning::Polarisation, "polarizzazione (sarà verticale)"},

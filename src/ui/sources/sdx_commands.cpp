@@ -37,14 +37,21 @@ QString RowName(const Formats::SdxRow& row) { return CodePageText(Base::TrimmedR
 
 }  // namespace
 
-bool SdxCommands::NeedsChannels() {
-  if (session_.view.Current() == View::Channels) return true;
-  session_.dialogs.Message("Per Caricare un file SDX si deve visualizzare la griglia Canali", {});
-  return false;
+void SdxCommands::Connect(Actions& actions) {
+  actions.Connect("SDX", [this] { Carica(); });
+  actions.Connect("RicercaSDX", [this] { Ricerca(); });
+  actions.Connect("ImportaTuttoSDX", [this] { ImportaTutto(); });
+  actions.ConnectButton("Copy SDX", [this] { CopySDX(); });
+  session_.onChange.emplace_back([this] {
+    session_.sdxShownSinceFls = session_.sdxShownSinceFls && session_.document.Tables().FromFls;
+  });
+  QObject::connect(&pane_, &SdxPane::Chosen, &pane_, [this](int row) { AskAndInsert(row, row); });
+  QObject::connect(&pane_, &SdxPane::CopyWanted, &pane_, [this] { CopySDX(); });
+  QObject::connect(&session_.view, &ListView::SdxDropped, &pane_,
+                   [this](int first, int last, int before) { Drop(first, last, before); });
 }
 
 void SdxCommands::Carica(std::string path) {
-  if (!NeedsChannels()) return;
   if (path.empty()) {
     path = PathBytes(session_.dialogs.OpenFile(
         {"Selezionare il file SDX di input", "SatcoDX files(*.sdx)|*.sdx|Tutti i file (*.*)|*.*|",
@@ -53,10 +60,6 @@ void SdxCommands::Carica(std::string path) {
   if (path.empty()) return;
   Support::RememberFolderOf(session_.programFolder, Support::FolderKind::Foreign, path);
   Load(path);
-}
-
-void SdxCommands::ApriSDX() {
-  if (session_.NeedsFlash()) Carica();
 }
 
 void SdxCommands::Load(const std::string& path) {
@@ -76,12 +79,13 @@ void SdxCommands::Load(const std::string& path) {
   }
   if (dialog.SkipKnown()) {
     for (const auto& [service, slot] : ServicesOn(session_.document.Tables(), options.satellite))
-      options.known.insert(service);
+      options.known.insert({options.satellite, service.first, service.second});
   }
   Formats::SdxTable table = Formats::ReadSatcodx(text, options);
   const QString name = CodePageText(Base::TrimmedRight(table.satelliteName));
   Show(std::move(table), name);
-  TellLoaded(path, options.satellite, text);
+  TellTaken(PathText(Base::FileName(path)));
+  ListMissing(options.satellite, text);
 }
 
 void SdxCommands::Show(Formats::SdxTable table, const QString& name) {
@@ -90,23 +94,13 @@ void SdxCommands::Show(Formats::SdxTable table, const QString& name) {
   pane_.Refresh(name);
 }
 
-void SdxCommands::TellLoaded(const std::string& path, int satellite, std::string_view text) {
+void SdxCommands::TellTaken(const QString& file) {
   const Formats::SdxTable& table = session_.sdx;
   QString result = QString("%1: lette %2 righe, prese %3")
-                       .arg(PathText(Base::FileName(path)), QString::number(table.lines),
-                            QString::number(table.rows.size()));
-  const std::pair<const char*, int> reasons[] = {
-      {"senza PID", table.droppedByPid},   {"tipo", table.droppedByType},
-      {"non MPG2", table.droppedByFormat}, {"symbol rate", table.droppedByRate},
-      {"codifica", table.droppedByCode},   {"filtri", table.droppedByFilter}};
-  QStringList dropped;
-  for (const auto& [reason, count] : reasons) {
-    if (count > 0) dropped += QString("%1 %2").arg(reason).arg(count);
-  }
-  if (!dropped.isEmpty()) result += "; scartate: " + dropped.join(", ");
+                       .arg(file, QString::number(table.lines), QString::number(table.rows.size()));
+  if (const std::string drops = table.dropped.Text(); !drops.empty()) result += "; scartate: " + Text(drops);
   session_.status.ShowResult(result);
-  if (table.full) session_.dialogs.Message(SdxTableFull, {});
-  ListMissing(satellite, text);
+  if (table.full) session_.dialogs.Message("Superato il numero di canali SDX gestibili 4000", {});
 }
 
 void SdxCommands::ListMissing(int satellite, std::string_view text) {
@@ -125,10 +119,11 @@ void SdxCommands::ListMissing(int satellite, std::string_view text) {
 
 void SdxCommands::ShowPane(bool shown) {
   pane_.setVisible(shown);
+  session_.sdxShown = shown;
+  session_.sdxShownSinceFls = session_.sdxShownSinceFls || shown;
+  session_.ShowList();
   if (onShown) onShown(shown);
 }
-
-void SdxCommands::Vedi() { ShowPane(!pane_.isVisible()); }
 
 void SdxCommands::Ricerca() {
   const auto answer = session_.dialogs.AskLine("Inserire il canale da ricercare");
@@ -144,8 +139,6 @@ void SdxCommands::Ricerca() {
   if (!found) session_.dialogs.Message("Canale non trovato", {}, Tone::Information);
 }
 
-void SdxCommands::Insert(int row) { AskAndInsert(row, row); }
-
 void SdxCommands::CopySDX() {
   if (session_.sdx.rows.empty()) {
     session_.dialogs.Message("Canali SDX non caricati", {});
@@ -160,7 +153,7 @@ void SdxCommands::CopySDX() {
 }
 
 void SdxCommands::AskAndInsert(int first, int last) {
-  if (!session_.NeedsFlash()) return;
+  if (!Meets(session_, Need::List)) return;
   const Rows rows = RowsFrom(first, last);
   const auto answer =
       session_.dialogs.AskLine("Inserire la posizione in cui inserire " + RowName(rows.content.front()));
@@ -192,8 +185,7 @@ void SdxCommands::Put(const Rows& rows, int position, bool shift) {
   const int room = session_.document.Tables().ChannelCount - position + 1;
   const int all = static_cast<int>(rows.content.size());
   const int count = std::min(all, room);
-  const std::string label =
-      count == 1 ? "Inserisci 1 canale SDX" : "Inserisci " + std::to_string(count) + " canali SDX";
+  const std::string label = "Inserisci " + Base::Counted(count, "canale SDX", "canali SDX");
   QString result = Text(label) + QString(" dal %1").arg(position);
   std::string message;
   std::vector<Edit::LostFavourite> lost;
@@ -206,7 +198,6 @@ void SdxCommands::Put(const Rows& rows, int position, bool shift) {
     message = import.Message();
     if (import.UnknownRates() > 0)
       result += QString(", %1 con SR che SR.INI non ha").arg(import.UnknownRates());
-    return Base::Done{};
   });
   result += session_.Losses(lost);
   if (session_.view.Current() == View::Channels)
@@ -214,17 +205,12 @@ void SdxCommands::Put(const Rows& rows, int position, bool shift) {
   session_.status.ShowResult(result);
   if (!message.empty()) session_.dialogs.Message(Text(message), {});
   if (const int left = all - count; left > 0) {
-    session_.dialogs.Message(left == 1 ? QString("1 canale SDX non ha trovato posto")
-                                       : QString("%1 canali SDX non hanno trovato posto").arg(left),
-                             {});
+    session_.dialogs.Message(
+        Counted(left, "canale SDX non ha trovato posto", "canali SDX non hanno trovato posto"), {});
   }
 }
 
 void SdxCommands::ImportaTutto() {
-  if (session_.view.Current() != View::Channels) {
-    session_.dialogs.Message("Per importare i canali da SDX deve essere visibile la lista dei canali", {});
-    return;
-  }
   if (session_.sdx.rows.empty()) {
     session_.dialogs.Message("Canali SDX non caricati", {});
     return;

@@ -20,7 +20,7 @@ ChannelMenu::ChannelMenu(Session& session, CellCommands& cells, FavouritesEdits&
     : QObject(&window), session_(session), cells_(cells), menu_(new QMenu(&window)) {
   menu_->setObjectName("MenuCanali");
   MenuLetters::Follow(*menu_);
-  for (const char* name : {"Copia", "Taglia", "Incolla", "Elimina"})
+  for (const CommandName name : std::initializer_list<CommandName>{"Copia", "Taglia", "Incolla", "Elimina"})
     menu_->addAction(&CommandAction(window, name));
   menu_->addSeparator();
   Add(*menu_, "InserisciRiga", "Inserisci riga vuota", [this] { cells_.InsertRows(); });

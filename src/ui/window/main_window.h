@@ -1,22 +1,5 @@
-// The main window. It builds and wires what it is made of; each command lives with its kind.
+// The main window. It builds and lays out what it is made of; each command lives with its kind.
 #pragma once
-
-#include "ui/edit/cell_commands.h"
-#include "ui/edit/edit_commands.h"
-#include "ui/edit/list_commands.h"
-#include "ui/favourites/favourites_commands.h"
-#include "ui/files/exchange_commands.h"
-#include "ui/files/file_commands.h"
-#include "ui/files/file_opening.h"
-#include "ui/files/kept_work.h"
-#include "ui/files/print_commands.h"
-#include "ui/kit/dialogs.h"
-#include "ui/review/compare_commands.h"
-#include "ui/session/session.h"
-#include "ui/sources/download_commands.h"
-#include "ui/sources/foreign_commands.h"
-#include "ui/sources/sdx_commands.h"
-#include "ui/window/tree_commands.h"
 
 #include <QMainWindow>
 
@@ -24,12 +7,24 @@
 
 namespace Ui {
 
+class Actions;
+class Dialogs;
+class Document;
+class FavouritesCommands;
+class TreeCommands;
+struct EditRoom;
+struct FilesRoom;
+struct ReviewRoom;
+struct Session;
+struct SourcesRoom;
+
 class MainWindow : public QMainWindow {
   Q_OBJECT
 
  public:
-  // `programFolder` holds the support files. Without `dialogs` the toolkit's own boxes are used.
-  explicit MainWindow(const std::string& programFolder, std::unique_ptr<Dialogs> dialogs = nullptr);
+  // `programFolder` holds the support files. Asks with the toolkit's own boxes, or with `dialogs`.
+  explicit MainWindow(const std::string& programFolder);
+  MainWindow(const std::string& programFolder, std::unique_ptr<Dialogs> dialogs);
   ~MainWindow() override;
 
   // Reads the symbol rates, as every start does; false where a malformed SR.INI ends the program.
@@ -49,47 +44,27 @@ class MainWindow : public QMainWindow {
   void dropEvent(QDropEvent* event) override;
 
  private:
-  void ConnectFileCommands();
-  void ConnectExchangeCommands();
-  void ConnectListCommands();
-  void ConnectEditCommands();
-  void ConnectCellCommands();
-  void ConnectSdxCommands();
-  void ConnectTreeCommands();
-  void ConnectCompareCommands();
-  void ConnectPrintCommands();
-  void ConnectForeignCommands();
-  void ConnectToolbar();
-  void ConnectFirstMinutes();
-  void ConnectOverview();
-  // Runs `slot` when the command is chosen, and enables it.
-  template <class Slot>
-  void Connect(const char* command, Slot slot);
-  void ToggleView(View view);
-  void VisualizzaCanali();
-  void ShowSteps();
+  // What stands on the screen.
+  struct Screen;
+
+  void StartSession(const std::string& programFolder, QWidget& contents);
+  void OpenRooms(QWidget& contents);
+  void Connect();
   void ShowList();
   void ShowGuide();
-  [[nodiscard]] QString SettingsFile() const;
 
+  // In the order in which they need each other; they go the other way round.
   std::unique_ptr<Dialogs> dialogs_;
-  Document* document_;
+  std::unique_ptr<Document> document_;
   std::unique_ptr<Session> session_;
-  std::unique_ptr<FileCommands> files_;
-  std::unique_ptr<ExchangeCommands> exchange_;
-  std::unique_ptr<EditCommands> edit_;
-  std::unique_ptr<CellCommands> cells_;
+  std::unique_ptr<Actions> actions_;
+  std::unique_ptr<SourcesRoom> sources_;
+  std::unique_ptr<EditRoom> edit_;
   std::unique_ptr<FavouritesCommands> favourites_;
-  std::unique_ptr<ListCommands> lists_;
-  std::unique_ptr<CompareCommands> compare_;
-  std::unique_ptr<SdxCommands> sdx_;
-  std::unique_ptr<PrintCommands> print_;
-  std::unique_ptr<DownloadCommands> download_;
+  std::unique_ptr<ReviewRoom> review_;
+  std::unique_ptr<FilesRoom> files_;
   std::unique_ptr<TreeCommands> trees_;
-  std::unique_ptr<ForeignCommands> foreign_;
-  std::unique_ptr<KeptWork> kept_;
-  FileOpening* opening_ = nullptr;
-  bool sdxShownSinceFls_ = false;
+  std::unique_ptr<Screen> screen_;
 };
 
 }  // namespace Ui

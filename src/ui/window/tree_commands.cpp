@@ -15,17 +15,16 @@ constexpr const char* ClosedKey = "Finestra/TreeView1Chiuso";
 
 }  // namespace
 
-TreeCommands::TreeCommands(Session& session, SdxCommands& sdx, QAction& tick, const QString& settingsFile,
-                           QSplitter& place)
+TreeCommands::TreeCommands(Session& session, SourcesRoom& sources, Actions& actions, QSplitter& place)
     : session_(session),
-      sdx_(sdx),
-      tick_(tick),
-      settingsFile_(settingsFile),
+      sources_(sources),
+      tick_(actions["VisualizzaBouquet"]),
       channels_(new TreePane(session.document, session.bouquets.tables.satellites, ListTree::Shape::Bouquets,
                              "TreeView1", "Canali per bouquet", &place)),
       transponders_(new TreePane(session.document, session.bouquets.tables.satellites,
                                  ListTree::Shape::Transponders, "TreeView2", "Struttura per bouquet",
                                  &place)) {
+  Connect(actions);
   for (TreePane* pane : {channels_, transponders_}) {
     pane->hide();
     place.addWidget(pane);
@@ -42,19 +41,39 @@ TreeCommands::TreeCommands(Session& session, SdxCommands& sdx, QAction& tick, co
   connect(&session.view.ListGrid(), &Grid::SelectionMoved, this, &TreeCommands::ShowSelection);
 }
 
+void TreeCommands::Connect(Actions& actions) {
+  actions.Connect("VisualizzaCanali", [this] { VisualizzaCanali(); });
+  actions.Connect("VisualizzaTransponder", [this] { session_.view.Toggle(View::Transponders); });
+  actions.Connect("VisualizzaBouquet", [this] { VisualizzaBouquet(); });
+  actions.Connect("VediSDX", [this] { VediSDX(); });
+  sources_.sdx.onShown = [this, &actions](bool shown) {
+    actions["VediSDX"].setChecked(shown);
+    if (shown) Hide();
+  };
+  sources_.download.onLoad = [this] { HideTransponders(); };
+}
+
+void TreeCommands::VisualizzaCanali() {
+  session_.view.Toggle(View::Channels);
+  if (session_.view.Current() == View::Channels) BringBack();
+}
+
 void TreeCommands::VisualizzaBouquet() {
-  if (session_.NeedsFlash()) {
-    if (transponders_->isHidden()) {
-      ShowTransponders(true);
-    } else {
-      HideTransponders();
-    }
+  if (transponders_->isHidden()) {
+    ShowTransponders(true);
+  } else {
+    HideTransponders();
   }
-  tick_.setChecked(!transponders_->isHidden());
+}
+
+// TreeView2 takes the place of a pane that is closed.
+void TreeCommands::VediSDX() {
+  sources_.sdx.ShowPane(!sources_.sdx.PaneShown());
+  if (!sources_.sdx.PaneShown() && session_.document.Tables().Loaded) ShowTransponders(true);
 }
 
 void TreeCommands::ShowTransponders(bool shown) {
-  if (shown && sdx_.PaneShown()) sdx_.ShowPane(false);
+  if (shown && sources_.sdx.PaneShown()) sources_.sdx.ShowPane(false);
   if (shown) channels_->hide();
   transponders_->setVisible(shown);
   tick_.setChecked(shown);
@@ -66,29 +85,25 @@ void TreeCommands::HideTransponders() {
   FollowView(session_.view.Current());
 }
 
-void TreeCommands::FollowSdx() {
-  if (session_.document.Tables().Loaded) ShowTransponders(true);
-}
-
 void TreeCommands::Hide() {
   channels_->hide();
   ShowTransponders(false);
 }
 
 void TreeCommands::FollowView(View view) {
-  const bool free = transponders_->isHidden() && !sdx_.PaneShown();
-  const bool closed = QSettings(settingsFile_, QSettings::IniFormat).value(ClosedKey).toBool();
+  const bool free = transponders_->isHidden() && !sources_.sdx.PaneShown();
+  const bool closed = QSettings(session_.SettingsFile(), QSettings::IniFormat).value(ClosedKey).toBool();
   channels_->setVisible(view == View::Channels && free && !closed);
   if (!session_.document.Tables().Loaded) Hide();
 }
 
 void TreeCommands::Close() {
-  QSettings(settingsFile_, QSettings::IniFormat).setValue(ClosedKey, true);
+  QSettings(session_.SettingsFile(), QSettings::IniFormat).setValue(ClosedKey, true);
   channels_->hide();
 }
 
 void TreeCommands::BringBack() {
-  QSettings(settingsFile_, QSettings::IniFormat).remove(ClosedKey);
+  QSettings(session_.SettingsFile(), QSettings::IniFormat).remove(ClosedKey);
   FollowView(View::Channels);
 }
 

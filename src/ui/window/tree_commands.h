@@ -1,10 +1,10 @@
-// The trees beside the list, in the place that they share with the SDX pane: which of the three is shown, and the way
-// between a tree and the grid.
+// Which lists are shown: the channels, the transponders or neither, and beside them one of the two trees or the SDX
+// pane, which share a place; and the way between a tree and the grid.
 #pragma once
 
 #include "ui/list/tree_pane.h"
 #include "ui/session/session.h"
-#include "ui/sources/sdx_commands.h"
+#include "ui/sources/sources_room.h"
 
 class QAction;
 class QSplitter;
@@ -15,19 +15,17 @@ class TreeCommands : public QObject {
   Q_OBJECT
 
  public:
-  // `tick` is the menu command VisualizzaBouquet; `settingsFile` remembers that the user has closed TreeView1.
-  TreeCommands(Session& session, SdxCommands& sdx, QAction& tick, const QString& settingsFile,
-               QSplitter& place);
-
-  void VisualizzaBouquet();
-  // The user has asked for the channel list: TreeView1 comes back although it was closed once.
-  void BringBack();
-  // The SDX pane has been closed: TreeView2 takes its place.
-  void FollowSdx();
-  void HideTransponders();
-  void Hide();
+  TreeCommands(Session& session, SourcesRoom& sources, Actions& actions, QSplitter& place);
 
  private:
+  void Connect(Actions& actions);
+  void VisualizzaCanali();
+  void VisualizzaBouquet();
+  void VediSDX();
+  // The user has asked for the channel list: TreeView1 comes back although it was closed once.
+  void BringBack();
+  void HideTransponders();
+  void Hide();
   void ShowTransponders(bool shown);
   void FollowView(View view);
   void Close();
@@ -37,9 +35,8 @@ class TreeCommands : public QObject {
   void SelectInGrid(int row);
 
   Session& session_;
-  SdxCommands& sdx_;
-  QAction& tick_;
-  QString settingsFile_;
+  SourcesRoom& sources_;
+  QAction& tick_;           // of VisualizzaBouquet
   TreePane* channels_;      // TreeView1
   TreePane* transponders_;  // TreeView2
   bool choosing_ = false;   // the grid follows a tree

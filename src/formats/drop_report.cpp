@@ -1,0 +1,41 @@
+#include "formats/drop_report.h"
+
+#include <numeric>
+#include <string_view>
+
+namespace Formats {
+
+int DropReport::Total() const { return std::accumulate(counts_.begin(), counts_.end(), 0); }
+
+std::string DropReport::Text() const {
+  // In the order of Drop.
+  constexpr std::array<std::string_view, std::tuple_size_v<decltype(counts_)>> Reasons = {
+      "senza PID",
+      "tipo",
+      "non MPG2",
+      "symbol rate",
+      "codifica",
+      "filtri",
+      "senza nome",
+      "senza frequenza",
+      "frequenza non valida",
+      "polarizzazione non valida",
+      "numero non valido",
+      "senza transponder",
+      "non da satellite",
+      "DVB-S2",
+      "altre modulazioni",
+      "H.264/HEVC",
+      "polarizzazione circolare",
+      "satellite non scelto",
+      "fuori banda",
+      "righe non valide"};
+  std::string text;
+  for (std::size_t i = 0; i < counts_.size(); ++i) {
+    if (counts_[i] == 0) continue;
+    text.append(text.empty() ? "" : ", ").append(Reasons[i]).append(" ").append(std::to_string(counts_[i]));
+  }
+  return text;
+}
+
+}  // namespace Formats

@@ -1,0 +1,83 @@
+#include "formats/list_summary.h"
+
+#include "formats/scan_table.h"
+#include "formats/service_rows.h"
+
+#include <algorithm>
+#include <array>
+
+namespace Formats {
+namespace {
+
+using namespace Routines;
+
+constexpr std::size_t Satellites = 32;
+
+bool Matches(const TransponderRecord& record, const ListedTransponder& transponder) {
+  const bool horizontal = transponder.polarisation == Polarisation::Horizontal;
+  return WithinThreeMHz(FrequencyMHz(record), transponder.frequency / 1000.0) &&
+         horizontal == (Get(record, TransponderField::Horizontal) != 0);
+}
+
+struct Overlap {
+  std::array<int, Satellites> all{};                       // transponders of each satellite of the list
+  std::map<int, std::array<int, Satellites>> ofPositions;  // and those that a position has too
+};
+
+Overlap OverlapOf(const State& state, const std::vector<ListedTransponder>& transponders) {
+  Overlap overlap;
+  std::map<int, std::vector<ListedTransponder>> positions;
+  for (const ListedTransponder& transponder : transponders) {
+    if (transponder.position && transponder.frequency != NotSaid)
+      positions[*transponder.position].push_back(transponder);
+  }
+  for (int number = 1; number <= state.TransponderCount; ++number) {
+    const TransponderRecord& record = state.Transponder(number).record;
+    if (IsFree(record)) continue;
+    const std::size_t satellite = Get(record, TransponderField::Satellite);
+    ++overlap.all[satellite];
+    for (const auto& [position, listed] : positions) {
+      const bool has = std::any_of(listed.begin(), listed.end(),
+                                   [&](const ListedTransponder& one) { return Matches(record, one); });
+      overlap.ofPositions[position][satellite] += has ? 1 : 0;
+    }
+  }
+  return overlap;
+}
+
+}  // namespace
+
+ListSummary SummaryOf(ServiceReader& reader) {
+  ListSummary summary;
+  DistinctTransponders distinct;
+  ListedService service;
+  while (reader.Read(service)) {
+    const ListedTransponder& transponder = service.transponder;
+    if (transponder.delivery == Delivery::Other) continue;
+    ++summary.services;
+    ++summary.codings[CodificaOf(service)];
+    if (transponder.position) ++summary.positions[*transponder.position];
+    if (!transponder.position) ++summary.withoutPosition;
+    distinct.Add(transponder);
+  }
+  summary.transponders = std::move(distinct.list);
+  return summary;
+}
+
+std::map<int, int> ProposedSatellites(const State& state,
+                                      const std::vector<ListedTransponder>& transponders) {
+  const Overlap overlap = OverlapOf(state, transponders);
+  std::map<int, int> proposed;
+  for (const auto& [position, common] : overlap.ofPositions) {
+    const auto* const best = std::max_element(common.begin(), common.end());
+    const auto satellite = static_cast<std::size_t>(best - common.begin());
+    const bool most = *best * 2 > overlap.all[satellite];
+    const bool rivalled = std::any_of(
+        overlap.ofPositions.begin(), overlap.ofPositions.end(),
+        [&](const auto& other) { return other.first != position && other.second[satellite] >= *best; });
+    if (most && !rivalled) proposed[position] = static_cast<int>(satellite);
+  }
+  return proposed;
+}
+
+}  // namespace Formats

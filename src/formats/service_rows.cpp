@@ -1,0 +1,180 @@
+#include "formats/service_rows.h"
+
+#include "base/text.h"
+#include "formats/foreign_fields.h"
+
+#include <algorithm>
+#include <bitset>
+#include <charconv>
+
+namespace Formats {
+namespace {
+
+constexpr std::string_view Absent = "65535";
+constexpr std::string_view NoStream = "00000";
+constexpr int Free = 0x04;
+constexpr int LowestMegahertz = 10000;
+constexpr int HighestMegahertz = 13999;
+constexpr int LargestRate = 99999;  // kBd
+
+int Rounded(int thousandths) { return (thousandths + 500) / 1000; }
+
+SdxRow::Number Digits(int value) {
+  std::array<char, 12> digits;
+  const auto written = std::to_chars(digits.data(), digits.data() + digits.size(), value);
+  return std::string_view(digits.data(), static_cast<std::size_t>(written.ptr - digits.data()));
+}
+
+SdxRow::Number PidText(int pid) { return pid > 0 ? Digits(pid) : SdxRow::Number(Absent); }
+
+// A service that nothing tells the type of is taken for television, which it mostly is.
+char TypeOf(const ListedService& service) { return service.type == 0 ? 'T' : service.type; }
+
+bool HasPids(const ListedService& service) {
+  switch (service.type) {
+    case 'T':
+      return service.vpid > 0;
+    case 'R':
+      return service.apid > 0;
+    default:
+      return service.type != 0;
+  }
+}
+
+bool IsCircular(Polarisation polarisation) {
+  return polarisation == Polarisation::Left || polarisation == Polarisation::Right;
+}
+
+class Maker {
+ public:
+  explicit Maker(const ListOptions& options) : options_(options) {
+    for (const std::string& code : options.codes) {
+      if (const auto coding = CodificaIn(code, true)) codings_.set(static_cast<std::size_t>(*coding & 0xFF));
+    }
+  }
+
+  ServiceRows Run(ServiceReader& reader) {
+    SdxTable& table = rows_.table;
+    table.rows.reserve(MostSdxRows);
+    ListedService service;
+    while (!table.full && reader.Next(service)) {
+      ++table.lines;
+      auto drop = DropOf(service.transponder);
+      if (!drop) {
+        reader.TakeStreams(service);
+        drop = DropOf(service);
+      }
+      if (!drop) {
+        reader.TakeIdentity(service);
+        drop = Add(service);
+      }
+      if (drop) table.dropped.Add(*drop);
+    }
+    for (int line = 0; line < reader.Unreadable(); ++line) table.dropped.Add(Drop::Unreadable);
+    table.lines += reader.Unreadable();
+    return std::move(rows_);
+  }
+
+ private:
+  std::optional<Drop> DropOf(const ListedTransponder& transponder) {
+    if (transponder.delivery == Delivery::Other) return Drop::NotSatellite;
+    if (transponder.delivery == Delivery::DvbS2 && !options_.keepHd) return Drop::DvbS2;
+    if (transponder.modulation == Modulation::Other && !options_.keepHd) return Drop::Modulation;
+    if (transponder.frequency == NotSaid) return Drop::NoFrequency;
+    megahertz_ = Rounded(transponder.frequency);
+    if (megahertz_ < LowestMegahertz || megahertz_ > HighestMegahertz) return Drop::OutOfBand;
+    if (IsCircular(transponder.polarisation)) return Drop::Circular;
+    if (transponder.polarisation == Polarisation::Unknown) return Drop::BadPolarisation;
+    if (Rounded(transponder.symbolRate) > LargestRate) return Drop::SymbolRate;
+    return TakeSatellite(transponder) ? std::nullopt : std::optional(Drop::Satellite);
+  }
+
+  bool TakeSatellite(const ListedTransponder& transponder) {
+    satellite_ = options_.satellite;
+    // Beside services that say where they are, one that does not is nowhere.
+    if (!transponder.position) return options_.satellites.empty();
+    const auto chosen = options_.satellites.find(*transponder.position);
+    if (chosen == options_.satellites.end()) return false;
+    satellite_ = chosen->second;
+    return true;
+  }
+
+  std::optional<Drop> DropOf(const ListedService& service) {
+    const bool wanted = service.type == 'T'   ? options_.television
+                        : service.type == 'R' ? options_.radio
+                        : service.type == 'S' ? options_.data
+                                              : options_.television || options_.radio;
+    if (!wanted) return Drop::Type;
+    if (service.video > Video::Mpeg2 && !options_.keepHd) return Drop::Video;
+    codifica_ = CodificaOf(service);
+    const bool coded = options_.allCodes || codings_.test(static_cast<std::size_t>(codifica_));
+    return coded ? std::nullopt : std::optional(Drop::Code);
+  }
+
+  std::optional<Drop> Add(const ListedService& service) {
+    SdxTable& table = rows_.table;
+    if (!service.valid) return Drop::BadNumber;
+    if (service.name.empty()) return Drop::NoName;
+    const int apid = std::max(service.apid, 0);
+    if (options_.LeavesOut(satellite_, service.transponder.tid, service.sid, apid)) return Drop::Filter;
+    if (!HasPids(service)) {
+      Fill(rows_.withoutPids.emplace_back(), service);
+      return Drop::NoPid;
+    }
+    table.full = table.rows.size() == MostSdxRows;
+    if (!table.full) Fill(table.rows.emplace_back(), service);
+    return std::nullopt;
+  }
+
+  void Fill(SdxRow& row, const ListedService& service) const {
+    row.name = service.name;
+    row.type = TypeOf(service);
+    FillTransponder(row, service.transponder);
+    row.vpid = row.type == 'R' ? SdxRow::Number(Absent) : PidText(service.vpid);
+    row.apid = PidText(service.apid);
+    row.pcr = PidText(service.pcr > 0 ? service.pcr : row.type == 'R' ? service.apid : service.vpid);
+    row.sid = Digits(std::max(service.sid, 0));
+    row.codifica = codifica_;
+  }
+
+  void FillTransponder(SdxRow& row, const ListedTransponder& transponder) const {
+    row.satellite = satellite_;
+    row.frequency.Append("0").Append(Digits(megahertz_));
+    row.highBand = megahertz_ >= 11700;
+    row.horizontal = transponder.polarisation == Polarisation::Horizontal;
+    if (transponder.symbolRate > 0) row.symbolRate = RateText(Rounded(transponder.symbolRate));
+    row.fec = FecDigit(transponder.fec);
+    if (transponder.nid != NotSaid) row.nid = Digits(transponder.nid);
+    const SdxRow::Number tid = Digits(std::max(transponder.tid, 0));
+    row.tid.Append(NoStream.substr(std::string_view(tid).size())).Append(tid);
+  }
+
+  static SdxRow::Number RateText(int kilobaud) { return Digits(kilobaud).Append("\\\\\\\\"); }
+
+  // Those that the receiver has no code for are automatic to it.
+  static std::string_view FecDigit(std::string_view fec) {
+    constexpr std::string_view Known[] = {"1/2", "2/3", "3/4", "5/6", "7/8"};
+    return std::find(std::begin(Known), std::end(Known), fec) == std::end(Known) ? "" : fec.substr(0, 1);
+  }
+
+  const ListOptions& options_;
+  std::bitset<256> codings_;
+  ServiceRows rows_;
+  // Of the service at hand.
+  int megahertz_ = 0;
+  int satellite_ = 0;
+  int codifica_ = Free;
+};
+
+}  // namespace
+
+ServiceRows RowsOf(ServiceReader& reader, const ListOptions& options) { return Maker(options).Run(reader); }
+
+int CodificaOf(const ListedService& service) {
+  for (const int caid : service.caids) {
+    if (const auto coding = CodificaOfSystem(caid)) return *coding;
+  }
+  return Free;
+}
+
+}  // namespace Formats

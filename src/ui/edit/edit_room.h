@@ -1,0 +1,22 @@
+// The commands of this room, ready to use.
+#pragma once
+
+#include "ui/edit/cell_commands.h"
+#include "ui/edit/edit_commands.h"
+#include "ui/edit/list_commands.h"
+
+namespace Ui {
+
+struct EditRoom {
+  EditRoom(Session& session, Actions& actions) : cells(session), rows(session), list(session) {
+    session.view.EditWith(cells);
+    rows.Connect(actions);
+    list.Connect(actions);
+  }
+
+  CellCommands cells;
+  EditCommands rows;
+  ListCommands list;
+};
+
+}  // namespace Ui
