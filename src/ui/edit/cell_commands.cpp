@@ -202,8 +202,7 @@ void CellCommands::GoToTransponder() {
     session_.status.ShowResult(QString("Il canale %1 non ha un transponder nella lista").arg(rows->first));
     return;
   }
-  session_.view.Show(View::Transponders);
-  session_.view.ListGrid().Select({number, number});
+  session_.view.GoToRow(View::Transponders, number);
 }
 
 }  // namespace Ui

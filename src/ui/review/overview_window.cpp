@@ -2,10 +2,7 @@
 
 #include "ui/kit/screen_fit.h"
 #include "ui/kit/text.h"
-#include "ui/session/commands.h"
-#include "ui/session/control_tips.h"
 
-#include <QAction>
 #include <QHeaderView>
 #include <QLabel>
 #include <QMainWindow>
@@ -102,28 +99,21 @@ class BarDelegate : public QStyledItemDelegate {
 }  // namespace
 
 void ShowOverview(Session& session, QMainWindow& window) {
-  auto* shown = window.findChild<OverviewWindow*>();
+  auto* shown = OpenWindow<OverviewWindow>(window);
   if (shown == nullptr) {
-    shown = new OverviewWindow(session, &window);
-    for (const CommandName name : std::initializer_list<CommandName>{"Annulla", "Ripeti", "CercaSuccessivo"})
-      shown->addAction(&CommandAction(window, name));
+    shown = new OverviewWindow(session, window);
     // At the right, where it leaves numbers and names of the rows in sight.
     shown->move(window.geometry().topRight() - QPoint(shown->width() + 12, -90));
   }
-  shown->show();
-  shown->raise();
-  shown->activateWindow();
+  shown->BringUp();
 }
 
-OverviewWindow::OverviewWindow(Session& session, QWidget* parent)
-    : QDialog(parent),
+OverviewWindow::OverviewWindow(Session& session, QMainWindow& window)
+    : ToolWindow("FinestraRiepilogo", "Riepilogo", &window),
       session_(session),
       tree_(new QTreeWidget(this)),
-      totals_(new QLabel(this)),
-      goTo_(new QPushButton("Vai alle righe", this)) {
-  setObjectName("FinestraRiepilogo");
-  setWindowTitle("Riepilogo");
-  setAttribute(Qt::WA_DeleteOnClose);
+      totals_(new QLabel(this)) {
+  TakeKeys(window, {"CercaSuccessivo"});
   SetUpTree();
   totals_->setObjectName("RiepilogoTotali");
   totals_->setTextFormat(Qt::PlainText);
@@ -131,12 +121,11 @@ OverviewWindow::OverviewWindow(Session& session, QWidget* parent)
   auto* column = new QVBoxLayout(this);
   column->addWidget(totals_);
   column->addWidget(tree_, 1);
-  column->addWidget(Bottom());
+  column->addLayout(Bottom());
   ResizeOnScreen(*this, {600, 560});
   connect(&session.document, &Document::Changed, this, &OverviewWindow::Refresh);
   Refresh();
   if (!items_.empty()) tree_->setCurrentItem(items_.front());
-  ShowTips(*this);
   tree_->setFocus();
 }
 
@@ -165,23 +154,13 @@ void OverviewWindow::SetUpTree() {
           [this, sectionOf](QTreeWidgetItem* item) { closed_.erase(sectionOf(item)); });
 }
 
-QWidget* OverviewWindow::Bottom() {
-  auto* box = new QWidget(this);
-  auto* row = new QHBoxLayout(box);
-  row->setContentsMargins(0, 0, 0, 0);
-  auto* hint = new QLabel("Un clic o Invio mostra le righe; F3 va alla prossima.");
+QLayout* OverviewWindow::Bottom() {
+  auto* row = new QHBoxLayout;
+  auto* hint = new QLabel("Un clic o Invio mostra le righe; F3 va alla prossima.", this);
   hint->setWordWrap(true);
   row->addWidget(hint, 1);
-  auto* close = new QPushButton("Chiudi", box);
-  close->setObjectName("ChiudiRiepilogo");
-  goTo_->setObjectName("VaiAlleRighe");
-  for (QPushButton* button : {goTo_, close}) {
-    button->setAutoDefault(false);  // Enter goes to the rows
-    row->addWidget(button);
-  }
-  connect(goTo_, &QPushButton::clicked, this, [this] { GoTo(tree_->currentItem()); });
-  connect(close, &QPushButton::clicked, this, &QDialog::close);
-  return box;
+  goTo_ = AddButton(*row, "VaiAlleRighe", "Vai alle righe", [this] { GoTo(tree_->currentItem()); });
+  return WithClose(row, "ChiudiRiepilogo");
 }
 
 void OverviewWindow::Refresh() {
