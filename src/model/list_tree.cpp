@@ -146,7 +146,7 @@ void ListTree::PlaceChannels(const State& state) {
     std::copy_n(Base::AsText(channel.bytes).begin(), here.name.size(), here.name.begin());
     here.slot = static_cast<std::uint16_t>(slot);
     here.group = static_cast<std::uint16_t>(group);
-    here.colour = ChannelColour(state, slot);
+    here.kind = ChannelRowKind(state, slot);
   });
 }
 

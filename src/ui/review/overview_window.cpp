@@ -2,6 +2,7 @@
 
 #include "ui/kit/screen_fit.h"
 #include "ui/kit/text.h"
+#include "ui/list/row_colours.h"
 
 #include <QHeaderView>
 #include <QLabel>
@@ -58,6 +59,24 @@ QString CountedRows(const OverviewLine& line) {
   if (line.transponders) return Counted(count, "transponder", "transponder");
   if (line.section == Section::Places) return Counted(count, "posto", "posti");
   return Counted(count, "canale", "canali");
+}
+
+// Of the rows in the grid where they are of one kind, else one that stands for the section.
+Colour BarColour(const OverviewLine& line) {
+  if (line.wrong) return Colours::Wrong;
+  // In the grid those are white.
+  if (line.kind == Routines::RowKind::FreeTransponder) return ColourOf(Routines::RowKind::EmptySlot);
+  if (line.kind) return ColourOf(*line.kind);
+  switch (line.section) {
+    case Section::Satellite:
+      return {0xD0A060};
+    case Section::Bouquet:
+      return {0x90B040};
+    case Section::Coding:
+      return {0x40A0E0};
+    default:
+      return {0x60B060};
+  }
 }
 
 double ShareOf(const OverviewLine& line) {
@@ -210,7 +229,7 @@ void OverviewWindow::FillTexts() {
     const OverviewLine& line = lines_[i];
     QTreeWidgetItem& item = *items_[i];
     item.setData(Bar, LengthRole, ShareOf(line) / FullShare(lines_, line.section));
-    item.setData(Bar, ColourRole, ToColor(line.colour));
+    item.setData(Bar, ColourRole, ToColor(BarColour(line)));
     item.setText(Count, QString::number(line.slots.size()));
     item.setText(Share, QString::number(100 * ShareOf(line), 'f', 1).replace('.', ','));
   }

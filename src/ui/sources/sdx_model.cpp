@@ -11,10 +11,6 @@ constexpr std::string_view SdxHeader =
     "^Prog.|<Canale                         |^TID    |^SID      |^VPID  |^APID  |^AECM  |^VECM  |^PCR   "
     "|^Codifica|Satellite|Frequenza|NID  |Bouquet       ";
 
-constexpr Routines::Colour Television = 0x80FFFF;
-constexpr Routines::Colour Radio = 0xFFFFC0;
-constexpr Routines::Colour Data = 0xFFC0FF;
-
 }  // namespace
 
 SdxModel::SdxModel(const Formats::SdxTable& table, QObject* parent)
@@ -46,10 +42,9 @@ QString SdxModel::CellText(int number, int column) const {
   return CodePageText(Base::TrimmedRight(cells[static_cast<std::size_t>(column - 1)]));
 }
 
-Routines::Colour SdxModel::CellColour(int number, int column) const {
-  if (column == 0) return Routines::Colours::Header;
-  const char type = table_.rows[static_cast<std::size_t>(number - 1)].type;
-  return type == 'T' ? Television : type == 'R' ? Radio : Data;
+Colour SdxModel::CellColour(int number, int column) const {
+  if (column == 0) return Colours::Header;
+  return SdxColourOf(table_.rows[static_cast<std::size_t>(number - 1)].Kind());
 }
 
 }  // namespace Ui
