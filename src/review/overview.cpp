@@ -110,19 +110,10 @@ class Counter {
     AddKind(Section::Kind, "di cui non attivi", RowKind::Inactive, inactive_, used_.size());
   }
 
-  [[nodiscard]] std::string SatelliteText(std::uint32_t number) const {
-    TransponderRecord record;
-    Set(record, TransponderField::Satellite, number);
-    std::string label = SatelliteLabel(record);
-    for (const Satellite& satellite : satellites_) {
-      if (satellite.label == label) return label + "  " + satellite.name;
-    }
-    return label;
-  }
-
   void AddSatellites() {
     for (auto& [number, slots] : bySatellite_) {
-      Add(Section::Satellite, Base::ToUtf8(SatelliteText(number)), std::move(slots), used_.size());
+      Add(Section::Satellite, Base::ToUtf8(SatelliteText(number, satellites_)), std::move(slots),
+          used_.size());
     }
     AddLost(Section::Satellite);
   }
@@ -131,8 +122,7 @@ class Counter {
     std::vector<std::pair<std::string, Slots>> groups;
     for (auto& [key, slots] : byBouquet_) {
       const auto& [satellite, name] = key;
-      const std::string label = SatelliteText(satellite).substr(0, 5);
-      groups.emplace_back(Base::ToUtf8(name + "  (" + label + ")"), std::move(slots));
+      groups.emplace_back(Base::ToUtf8(name + "  (" + SatelliteLabel(satellite) + ")"), std::move(slots));
     }
     AddByCount(Section::Bouquet, std::move(groups));
     AddLost(Section::Bouquet);

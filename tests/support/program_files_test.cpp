@@ -23,7 +23,6 @@ TEST(BouquetsTxt, ReadsSatellitesAndTheirBouquets) {
   for (const auto& bouquet : bouquets) told += bouquet.name + "," + bouquet.code + "=" + bouquet.label + ";";
   EXPECT_EQ(told, "Hotbird=SAT A;Astra=SAT b;Orfano,07=;Tel\xE9,23=SAT A;Altro,04=SAT b;");
   EXPECT_EQ(bouquets[1].megahertz, 10758.5);
-  EXPECT_EQ(bouquets[2].satelliteCode, 8) << "the low 8 bits of (98 - 65) x 8";
   EXPECT_EQ(FindBouquet(read.tables, 10761, "SAT A"), &bouquets[1]);
   EXPECT_EQ(FindBouquet(read.tables, 10762, "SAT A"), nullptr);
 }

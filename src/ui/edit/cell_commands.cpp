@@ -56,8 +56,8 @@ QStringList Texts(const std::vector<std::string>& utf8) {
 // Every satellite that the list can tell apart by a letter, with its name where it has one.
 QStringList Satellites(const std::vector<Routines::Satellite>& named) {
   QStringList texts;
-  for (char letter = 'A'; letter <= 'Z'; ++letter) {
-    const std::string label = std::string("SAT ") + letter;
+  for (std::uint32_t satellite = 0; satellite < 26; ++satellite) {
+    const std::string label = Routines::SatelliteLabel(satellite);
     const auto found =
         std::find_if(named.begin(), named.end(), [&](const auto& one) { return one.label == label; });
     texts += Text(label) + (found == named.end() ? QString() : " " + CodePageText(found->name).trimmed());

@@ -35,7 +35,7 @@ QString SdxModel::CellText(int number, int column) const {
   if (column == 0) return Text(Base::ZeroPadded(number, 4));
   if (std::string_view(row.name).starts_with('\0')) return {};
   const std::string codifica = Base::HexByte(row.codifica);
-  const std::string satellite = std::string("SAT ") + static_cast<char>('A' + row.satellite);
+  const std::string satellite = Routines::SatelliteLabel(static_cast<std::uint32_t>(row.satellite));
   const std::string_view cells[] = {row.name,      row.tid,  row.sid,    row.vpid, row.apid,
                                     row.aecm,      row.vecm, row.pcr,    codifica, satellite,
                                     row.frequency, row.nid,  row.bouquet};
