@@ -123,11 +123,10 @@ std::vector<LostFavourite> ShiftDown(State& state, int position, int count) {
   return Rearrange(state, map);
 }
 
-bool MakeRoom(State& state, int position, int count, std::vector<LostFavourite>& lost) {
+Base::Result<std::vector<LostFavourite>> MakeRoom(State& state, int position, int count) {
   const int last = LastOccupied(state);
-  if (last >= position && last + count > state.ChannelCount) return false;
-  lost = ShiftDown(state, position, count);
-  return true;
+  if (last >= position && last + count > state.ChannelCount) return Base::Error{std::string(InvalidPosition)};
+  return ShiftDown(state, position, count);
 }
 
 void MoveChannels(State& state, Slots slots, int to) {

@@ -375,7 +375,8 @@ ImportReport ReadText(State& state, std::string_view text, const std::string& fi
   ImportReport report;
   const char* broken = reader.Run(report);
   report.changed = reader.Changed();
-  if (broken != nullptr) report.error = std::string("Formato file invalido (") + broken + ") per " + fileName;
+  if (broken != nullptr)
+    report.whole = Base::Error{std::string("Formato file invalido (") + broken + ") per " + fileName};
   return report;
 }
 

@@ -139,18 +139,17 @@ void CellCommands::Rename() {
 void CellCommands::InsertRows() {
   const auto rows = Rows();
   if (!rows) return;
-  std::vector<Edit::LostFavourite> lost;
   const std::string label = rows->Count() == 1
                                 ? "Inserisci riga vuota"
                                 : "Inserisci " + std::to_string(rows->Count()) + " righe vuote";
-  const bool room = session_.document.Apply(
-      label, [&](State& state) { return Edit::MakeRoom(state, rows->first, rows->Count(), lost); });
-  if (!room) {
-    session_.dialogs.Message(Text(Edit::InvalidPosition), {});
+  const auto lost = session_.document.Apply(
+      label, [&](State& state) { return Edit::MakeRoom(state, rows->first, rows->Count()); });
+  if (!lost) {
+    session_.Message(lost.error());
     return;
   }
   session_.view.ListGrid().Select(*rows);
-  session_.status.ShowResult(Text(label) + QString(" al %1").arg(rows->first) + session_.Losses(lost));
+  session_.status.ShowResult(Text(label) + QString(" al %1").arg(rows->first) + session_.Losses(*lost));
 }
 
 void CellCommands::SetColumn(int column, const QString& value) {

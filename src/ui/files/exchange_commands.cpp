@@ -137,7 +137,7 @@ void ExchangeCommands::Import(const char* label, const std::string& path, const 
       },
       Edit::History::Kind::List);
   if (report.listRead) session_.view.ShowFromStart(View::Channels);
-  if (report.listRead && report.error.empty()) {
+  if (report.listRead && report.whole) {
     session_.favouritesAtHand = true;
     session_.ShowList();
   }
@@ -158,7 +158,7 @@ void ExchangeCommands::TellImported(const std::string& path, const Formats::Impo
       text += QString(", %1 transponder con SR che SR.INI non ha").arg(report.unknownRates);
     session_.status.ShowResult(text);
   }
-  if (!report.error.empty()) session_.dialogs.Message(Text(report.error), {});
+  if (!report.whole) session_.Message(report.whole.error());
 }
 
 void ExchangeCommands::DaEsportatoTesto(std::string path) {
@@ -185,7 +185,7 @@ void ExchangeCommands::DaEsportato(std::string path) {
   Import("Importa da formato FLASH", path, *preparation, [&](State& state) {
     auto report = Formats::ReadFls(state, *bytes, session_.bouquets.tables);
     if (report.changed) state.MaxChannels = state.ChannelCount = preparation->plan.maxChannels;
-    if (report.error.empty()) state.FromFls = true;
+    if (report.whole) state.FromFls = true;
     return report;
   });
 }

@@ -16,21 +16,20 @@ void Session::GoToChannel(int slot) {
 }
 
 std::string Session::AskOpen(const QString& title, const QString& filters, FolderKind kind) const {
-  return PathBytes(
-      dialogs.OpenFile({title, filters, PathText(Support::RememberedFolder(programFolder, kind))}));
+  return PathBytes(dialogs.OpenFile({title, filters, PathText(Support::LoadFolder(programFolder, kind))}));
 }
 
 std::string Session::AskSave(const QString& title, const QString& filters, FolderKind kind,
                              const char* refusal) const {
   std::string path =
-      PathBytes(dialogs.SaveFile({title, filters, PathText(Support::RememberedFolder(programFolder, kind))}));
+      PathBytes(dialogs.SaveFile({title, filters, PathText(Support::LoadFolder(programFolder, kind))}));
   if (!IsFlashOfList(path)) return path;
   status.ShowResult(QString("%1: %2").arg(refusal, FlashOfListChosen));
   return {};
 }
 
 void Session::RememberFolder(FolderKind kind, const std::string& path) const {
-  Support::RememberFolderOf(programFolder, kind, path);
+  Support::SaveFolderOf(programFolder, kind, path);
 }
 
 bool Session::IsFlashOfList(const std::string& path) const {

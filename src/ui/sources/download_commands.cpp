@@ -24,7 +24,7 @@ void DownloadCommands::ScaricaInternet() {
     session_.status.ShowResult("Uno scaricamento è già in corso");
     return;
   }
-  const auto addresses = Support::ReadSdxIni(session_.programFolder);
+  const auto addresses = Support::LoadAddresses(session_.programFolder);
   if (!addresses) {
     session_.Message(addresses.error());
     return;
