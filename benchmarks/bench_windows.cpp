@@ -3,6 +3,8 @@
 #include "base/file.h"
 #include "full_list.h"
 #include "support/pos_ini.h"
+#include "ui/kit/dialogs.h"
+#include "ui/kit/text.h"
 
 #include <QAbstractButton>
 #include <QAction>
@@ -112,7 +114,7 @@ ListWindow::ListWindow(int channels) {
   const std::string flash = folder + "/lista.dat";
   if (!Base::ReplaceFile(flash, Image(channels))) std::abort();
   // As where the last flash came from the same folder.
-  Support::RememberFolderOf(folder, Support::FolderKind::Input, flash);
+  Support::SaveFolderOf(folder, Support::FolderKind::Input, flash);
   window_ = std::make_unique<Ui::MainWindow>(folder, std::make_unique<Answers>(Ui::PathText(flash)));
   window_->resize(1280, 800);  // where every column is in view, for ours as for the plain table
   window_->show();

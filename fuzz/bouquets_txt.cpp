@@ -22,8 +22,7 @@ void CheckTables(const BouquetTables& tables) {
   for (const Bouquet& bouquet : tables.bouquets) {
     Require(bouquet.code.size() == 2, "a code has two characters");
     Require(std::isfinite(bouquet.megahertz), "a frequency is a number");
-    Require(bouquet.name.find(',') == std::string::npos && bouquet.frequency.find(',') == std::string::npos,
-            "fields end at their commas");
+    Require(bouquet.name.find(',') == std::string::npos, "fields end at their commas");
     Require(
         bouquet.label.empty() || std::any_of(tables.satellites.begin(), tables.satellites.end(),
                                              [&](const Satellite& s) { return s.label == bouquet.label; }),
@@ -49,7 +48,8 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     const double hertz = (bouquet.megahertz - 9750) * 1000000;
     if (hertz < 1 || hertz > 4e9) continue;
     Set(row.record, TransponderField::Frequency, static_cast<std::uint32_t>(hertz));
-    Set(row.record, TransponderField::Satellite, static_cast<unsigned char>(bouquet.satelliteCode) / 8U);
+    Set(row.record, TransponderField::Satellite,
+        bouquet.label.empty() ? 0U : static_cast<std::uint32_t>(bouquet.label.back() - 'A'));
     NameBouquet(row, tables);
     const bool found = FindBouquet(tables, FrequencyMHz(row.record), SatelliteLabel(row.record)) != nullptr;
     Require(found || row.BouquetCode() == "  ", "a bouquet that was not found has no code");

@@ -38,7 +38,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
   *state = *again = *empty;
   const Formats::ImportReport report = Formats::ReadFls(*state, Base::AsBytes(file), Bouquets());
   Require(report.changed || *state == *empty, "an import without a list changes nothing");
-  Require(report.listRead || !report.error.empty(), "an import that stops says so");
+  Require(report.listRead || !report.whole, "an import that stops says so");
   // The window goes by the capacity that its user chose, whatever the file says.
   state->MaxChannels = state->ChannelCount = CapacityOf(size);
   CheckList(*state);
@@ -46,7 +46,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
   if (!report.listRead) return 0;
 
   const Formats::ImportReport second = Formats::ReadFls(*again, Formats::WriteFls(*state), Bouquets());
-  Require(second.listRead && second.error.empty() == !state->FavouritesBlock.empty(),
+  Require(second.listRead && static_cast<bool>(second.whole) == !state->FavouritesBlock.empty(),
           "an exported list can be imported");
   Require(std::equal(state->ChannelTable.begin() + 1, state->ChannelTable.begin() + 1 + state->ChannelCount,
                      again->ChannelTable.begin() + 1),

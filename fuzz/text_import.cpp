@@ -23,7 +23,7 @@ bool Read(State& state, std::string_view text) {
   Require(state.MaxChannels == state.ChannelCount, "an import's count is the list's");
   Require(!report.listRead || (report.changed && report.transpondersRead),
           "a list read has changed the tables");
-  Require(report.listRead || !report.error.empty(), "an import that stops says so");
+  Require(report.listRead || !report.whole, "an import that stops says so");
   return report.listRead;
 }
 

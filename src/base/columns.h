@@ -41,13 +41,7 @@ inline void PutNumber(char* line, const Column& column, std::uint32_t value) {
 // The value of the digits at the front of a column of at most nine places, blanks before them left out; 0 where there
 // are none.
 inline std::uint32_t ColumnNumber(std::string_view column) {
-  std::uint32_t value = 0;
-  for (const char character : TrimmedLeft(column)) {
-    const auto digit = static_cast<std::uint32_t>(character - '0');
-    if (digit > 9) break;
-    value = value * 10 + digit;
-  }
-  return value;
+  return static_cast<std::uint32_t>(LeadingCount(column, 999999999));
 }
 
 // The line grows as far as it must.

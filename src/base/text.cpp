@@ -10,24 +10,6 @@ std::vector<std::string_view> Lines(std::string_view text) {
   return lines;
 }
 
-int LeadingNumber(std::string_view text) {
-  int value = 0;
-  for (const char c : LeadingDigits(text)) {
-    value = value * 10 + (c - '0');
-    if (value > 65535) return 0;
-  }
-  return value;
-}
-
-int LeadingCount(std::string_view text, int most) {
-  int value = 0;
-  for (const char c : LeadingDigits(text)) {
-    value = value * 10 + (c - '0');
-    if (value > most) return most;
-  }
-  return value;
-}
-
 std::string ZeroPadded(int value, int width) {
   std::string digits = std::to_string(value);
   const auto size = static_cast<std::size_t>(width);

@@ -4,6 +4,7 @@
 #include <algorithm>
 #include <concepts>
 #include <cstddef>
+#include <cstdint>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -41,11 +42,31 @@ inline std::string_view LeadingDigits(std::string_view text) {
   return text.substr(0, digits);
 }
 
-// Their value, 0 where there are none; a value above 65535 is 0, as it fits no field.
-int LeadingNumber(std::string_view text);
+// Takes the decimal digits at the front off `text`: their value, `most` + 1 where it is larger than `most`, -1 where there
+// are none.
+inline int TakeNumber(std::string_view& text, int most) {
+  std::size_t digits = 0;
+  std::int64_t value = 0;
+  for (; digits < text.size(); ++digits) {
+    const auto digit = static_cast<unsigned>(text[digits] - '0');
+    if (digit > 9) break;
+    value = std::min(value * 10 + digit, std::int64_t{most} + 1);
+  }
+  text.remove_prefix(digits);
+  return digits == 0 ? -1 : static_cast<int>(value);
+}
 
-// Their value, or `most` where it is larger: counts are cut to what they count.
-int LeadingCount(std::string_view text, int most);
+// The value of the leading digits, blanks before them left out: 0 where there are none, `most` where it is larger.
+inline int LeadingCount(std::string_view text, int most) {
+  text = TrimmedLeft(text);
+  return std::clamp(TakeNumber(text, most), 0, most);
+}
+
+// A value above 65535 is 0, as it fits no field.
+inline int LeadingNumber(std::string_view text) {
+  const int value = LeadingCount(text, 65536);
+  return value > 65535 ? 0 : value;
+}
 
 // `value` (0 or more) in decimal, with zeros in front up to `width` digits.
 std::string ZeroPadded(int value, int width);

@@ -58,9 +58,12 @@ std::vector<LostFavourite> CutChannels(State& state, Slots slots, Clipboard& cli
 Base::Result<PasteReport> Paste(State& state, const Clipboard& clipboard, int position, PasteWay way,
                                 const BouquetTables& bouquets) {
   PasteReport report;
-  const bool fits = position >= 1 && position + clipboard.Count() - 1 <= state.ChannelCount;
-  if (!fits || (way == PasteWay::Move && !MakeRoom(state, position, clipboard.Count(), report.lost))) {
+  if (position < 1 || position + clipboard.Count() - 1 > state.ChannelCount)
     return Base::Error{std::string(InvalidPosition)};
+  if (way == PasteWay::Move) {
+    auto lost = MakeRoom(state, position, clipboard.Count());
+    if (!lost) return lost.error();
+    report.lost = std::move(*lost);
   }
   for (std::size_t i = 0; i < clipboard.channels.size(); ++i) {
     ChannelRecord channel = clipboard.channels[i];

@@ -46,8 +46,6 @@ enum class PasteWay { Move, Overwrite };
 Base::Result<PasteReport> Paste(State& state, const Clipboard& clipboard, int position, PasteWay way,
                                 const Routines::BouquetTables& bouquets);
 
-inline constexpr std::string_view InvalidPosition = "Posizione di inserimento invalida";
-
 // The channels as lines of tab-separated cells, as a spreadsheet takes them; bytes of the code page.
 std::string TabSeparated(const State& state, Slots slots);
 

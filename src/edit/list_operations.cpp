@@ -69,6 +69,14 @@ bool IsGap(const ChannelRecord& channel) {
   return channel.Empty() || Base::AsText(channel.bytes).starts_with("     ");
 }
 
+template <class Change>
+void ChangeSatellites(State& state, Change change) {
+  for (int slot = 1; slot <= state.TransponderCount; ++slot) {
+    TransponderRecord& record = state.Transponder(slot).record;
+    Set(record, TransponderField::Satellite, change(Get(record, TransponderField::Satellite)));
+  }
+}
+
 }  // namespace
 
 std::vector<LostFavourite> Rearrange(State& state, const SlotMap& map) {
@@ -115,11 +123,10 @@ std::vector<LostFavourite> ShiftDown(State& state, int position, int count) {
   return Rearrange(state, map);
 }
 
-bool MakeRoom(State& state, int position, int count, std::vector<LostFavourite>& lost) {
+Base::Result<std::vector<LostFavourite>> MakeRoom(State& state, int position, int count) {
   const int last = LastOccupied(state);
-  if (last >= position && last + count > state.ChannelCount) return false;
-  lost = ShiftDown(state, position, count);
-  return true;
+  if (last >= position && last + count > state.ChannelCount) return Base::Error{std::string(InvalidPosition)};
+  return ShiftDown(state, position, count);
 }
 
 void MoveChannels(State& state, Slots slots, int to) {
@@ -170,11 +177,11 @@ int Azzera(State& state) {
 }
 
 void InvertiSatelliti(State& state) {
-  for (int slot = 1; slot <= state.TransponderCount; ++slot) state.Transponder(slot).record.bytes[11] ^= 8U;
+  ChangeSatellites(state, [](std::uint32_t satellite) { return satellite ^ 1U; });
 }
 
 void RiportaAB(State& state) {
-  for (int slot = 1; slot <= state.TransponderCount; ++slot) state.Transponder(slot).record.bytes[11] &= 15U;
+  ChangeSatellites(state, [](std::uint32_t satellite) { return satellite & 1U; });
 }
 
 void CanaliXTransponder(State& state) {

@@ -2,6 +2,7 @@
 // use is its channel count.
 #pragma once
 
+#include "base/result.h"
 #include "edit/renumber.h"
 #include "model/routines.h"
 
@@ -34,9 +35,11 @@ bool IsPosition(const State& state, int position, int count);
 // Moves all channels from `position` on down by `count` slots; those at the list's end drop off.
 std::vector<LostFavourite> ShiftDown(State& state, int position, int count);
 
-// Makes `count` empty slots from `position` on by moving all channels there down; false, with nothing changed, where
-// that would push a channel past the channel count. Entries on empty slots that are pushed out are `lost`.
-bool MakeRoom(State& state, int position, int count, std::vector<LostFavourite>& lost);
+inline constexpr std::string_view InvalidPosition = "Posizione di inserimento invalida";
+
+// Makes `count` empty slots from `position` on by moving all channels there down, and returns the entries on empty slots
+// that were pushed out. InvalidPosition, with nothing changed, where that would push a channel past the channel count.
+Base::Result<std::vector<LostFavourite>> MakeRoom(State& state, int position, int count);
 
 // Moves a run so that it begins at slot `to`; the channels between close up. `to` is clamped so that it fits.
 void MoveChannels(State& state, Slots slots, int to);

@@ -72,7 +72,7 @@ Base::Bytes WriteFls(const State& state) {
 
 ImportReport ReadFls(State& state, Base::ByteView file, const BouquetTables& bouquets) {
   ImportReport report;
-  report.error = "Formato input sconosciuto";
+  report.whole = Base::Error{"Formato input sconosciuto"};
   Records records(file);
   const int channels = CountBehind(records.Next(), Channels, file.size());
   if (channels <= 0) return report;
@@ -103,7 +103,7 @@ ImportReport ReadFls(State& state, Base::ByteView file, const BouquetTables& bou
   const std::size_t whole = (block.size() + RecordSize - 1) / RecordSize * RecordSize;
   block.resize(static_cast<std::size_t>(CountBehind(header, Favourites, whole)), '\0');
   state.FavouritesBlock.assign(block.begin(), block.end());
-  report.error.clear();
+  report.whole = Base::Done{};
   return report;
 }
 

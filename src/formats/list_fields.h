@@ -1,6 +1,7 @@
 // What the readers of channel lists share: fields, numbers, positions and names.
 #pragma once
 
+#include "base/text.h"
 #include "formats/listed_service.h"
 
 #include <algorithm>
@@ -15,17 +16,9 @@ inline std::string_view TakeField(std::string_view& rest, char separator) {
   return field;
 }
 
-// Takes the digits at the front off `rest`: their value, `most` + 1 where it is larger than `most`, NotSaid where there are
-// none.
-inline int TakeNumber(std::string_view& rest, int most) {
-  constexpr std::size_t MostDigits = 18;  // that a value has room for
-  std::size_t digits = 0;
-  std::int64_t value = 0;
-  for (; digits < rest.size() && rest[digits] >= '0' && rest[digits] <= '9'; ++digits)
-    value = digits < MostDigits ? value * 10 + (rest[digits] - '0') : INT64_MAX;
-  rest.remove_prefix(digits);
-  return digits == 0 ? NotSaid : static_cast<int>(std::min(value, std::int64_t{most} + 1));
-}
+// A number that is not there is NotSaid.
+using Base::TakeNumber;
+static_assert(NotSaid == -1);
 
 // Takes the hexadecimal digits; nothing where there are none or more than 32 bits.
 inline std::optional<std::uint32_t> TakeHex(std::string_view& rest) {

@@ -11,10 +11,7 @@ using namespace Routines;
 
 // The leading digits of a row's text; numbers above 65535 keep their low 16 bits.
 std::uint32_t Low16(std::string_view text) {
-  std::uint32_t value = 0;
-  for (const char digit : Base::LeadingDigits(text))
-    value = value * 10 + static_cast<std::uint32_t>(digit - '0');
-  return value & 0xFFFFU;
+  return static_cast<std::uint32_t>(Base::LeadingCount(text, 999999)) & 0xFFFFU;
 }
 
 int Megahertz(const SdxRow& row) { return Base::LeadingCount(row.frequency, 999999); }

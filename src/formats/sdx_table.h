@@ -4,6 +4,7 @@
 
 #include "base/short_text.h"
 #include "formats/drop_report.h"
+#include "model/row_kind.h"
 #include "model/transponder.h"
 
 #include <optional>
@@ -34,6 +35,12 @@ struct SdxRow {
   Base::ShortText<Routines::TransponderRow::BouquetNameSize> bouquet = "Nessuno";
   // Of a channel from a flash: its transponder to the last bit, of which the texts above show the most.
   std::optional<Routines::TransponderRecord> transponder;
+
+  [[nodiscard]] Routines::RowKind Kind() const {
+    return type == 'T'   ? Routines::RowKind::Tv
+           : type == 'R' ? Routines::RowKind::Radio
+                         : Routines::RowKind::Service;
+  }
 
   friend bool operator==(const SdxRow&, const SdxRow&) = default;
 };

@@ -291,13 +291,13 @@ class Reader {
     return 5;
   }
 
-  // The flags byte as a sum; a satellite letter that makes it overflow leaves it cleared.
+  // The byte as a sum; a satellite letter that makes it overflow leaves it cleared.
   static void TakeTuning(std::string_view line, TransponderRecord& record) {
     const std::string_view satellite = Cut(line, TransponderLine::Satellite);
     const int letter = satellite.empty() ? 0 : static_cast<unsigned char>(satellite[0]);
     const int flags = (Base::Trimmed(Cut(line, TransponderLine::Tone)) == "On" ? 1 : 0) +
                       (Cut(line, TransponderLine::Polarisation) == "H" ? 2 : 0) + 8 * (letter - 'A');
-    if (flags >= 0 && flags <= 255) record.bytes[11] = static_cast<Base::Byte>(flags);
+    if (flags >= 0 && flags <= 255) Set(record, TransponderField::Tuning, static_cast<std::uint32_t>(flags));
   }
 
   bool ReadFavourites() {
@@ -375,7 +375,8 @@ ImportReport ReadText(State& state, std::string_view text, const std::string& fi
   ImportReport report;
   const char* broken = reader.Run(report);
   report.changed = reader.Changed();
-  if (broken != nullptr) report.error = std::string("Formato file invalido (") + broken + ") per " + fileName;
+  if (broken != nullptr)
+    report.whole = Base::Error{std::string("Formato file invalido (") + broken + ") per " + fileName};
   return report;
 }
 

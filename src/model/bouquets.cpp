@@ -2,6 +2,14 @@
 
 namespace Routines {
 
+std::string SatelliteText(std::uint32_t satellite, const std::vector<Satellite>& satellites) {
+  const std::string label = SatelliteLabel(satellite);
+  for (const Satellite& named : satellites) {
+    if (named.label == label) return label + "  " + named.name;
+  }
+  return label;
+}
+
 const Bouquet* FindBouquet(const BouquetTables& tables, int frequencyMHz, std::string_view label) {
   for (const Bouquet& bouquet : tables.bouquets) {
     if (WithinThreeMHz(bouquet.megahertz, frequencyMHz) && bouquet.label == label) return &bouquet;

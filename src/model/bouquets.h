@@ -17,11 +17,9 @@ struct Satellite {
 
 struct Bouquet {
   std::string name;
-  std::string frequency;   // as written
-  std::string label;       // of its satellite
-  std::string code;        // two digits
-  char satelliteCode = 0;  // the satellite number where a transponder's flags byte has it (bits 3 to 7)
-  double megahertz = 0;    // `frequency` as a number, 0 where it is none
+  std::string label;     // of its satellite
+  std::string code;      // two digits
+  double megahertz = 0;  // 0 where its frequency is no number
 };
 
 struct BouquetTables {
@@ -31,6 +29,9 @@ struct BouquetTables {
   std::vector<Satellite> satellites;
   std::vector<Bouquet> bouquets;
 };
+
+// "SAT B  Hotbird", or the label alone where the satellite has no name.
+std::string SatelliteText(std::uint32_t satellite, const std::vector<Satellite>& satellites);
 
 // The first bouquet of that satellite less than 3 MHz away, or null.
 const Bouquet* FindBouquet(const BouquetTables& tables, int frequencyMHz, std::string_view label);

@@ -11,14 +11,6 @@ std::string Decimal(const Record& record, const Field<Record>& field) {
   return std::to_string(Get(record, field));
 }
 
-// A transponder that no receiver could tune to: outside the band, or without a symbol rate.
-bool Doubtful(const State& state, const TransponderRecord& record) {
-  const int frequency = FrequencyMHz(record);
-  const std::string_view rate =
-      SymbolRateText(state.SymbolRateTable, Get(record, TransponderField::SymbolRate));
-  return frequency < 10700 || frequency > 12750 || rate.find_first_of("0123456789") == std::string_view::npos;
-}
-
 }  // namespace
 
 std::string ChannelCell(const State& state, int slot, int column) {
@@ -52,15 +44,6 @@ std::string ChannelCell(const State& state, int slot, int column) {
   }
 }
 
-Colour ChannelColour(const State& state, int slot) {
-  const ChannelRecord& channel = state.Channel(slot);
-  const ChannelKind kind = KindOf(channel);
-  if (kind == ChannelKind::Empty) return Colours::EmptySlot;
-  if (Get(channel, ChannelField::Active) == 0) return Colours::Inactive;
-  if (kind == ChannelKind::Tv) return Colours::Tv;
-  return kind == ChannelKind::Radio ? Colours::Radio : Colours::Service;
-}
-
 std::string TransponderCell(const State& state, int slot, int column) {
   using namespace TransponderField;
   const TransponderRow& row = state.Transponder(slot);
@@ -69,7 +52,7 @@ std::string TransponderCell(const State& state, int slot, int column) {
     case TransponderColumn::Number:
       return Base::ZeroPadded(slot, 3);
     case TransponderColumn::Frequency:
-      return record.bytes[0] == 0 ? "0" : std::to_string(FrequencyMHz(record));
+      return ShowsNoFrequency(record) ? "0" : std::to_string(FrequencyMHz(record));
     case TransponderColumn::Tid:
       return Decimal(record, Tid);
     case TransponderColumn::Nid:
@@ -91,13 +74,6 @@ std::string TransponderCell(const State& state, int slot, int column) {
     default:
       return {};
   }
-}
-
-Colour TransponderColour(const State& state, int slot, int column) {
-  const TransponderRecord& record = state.Transponder(slot).record;
-  if (column == TransponderColumn::Frequency && record.bytes[0] == 0) return Colours::NoFrequency;
-  if (!IsFree(record) && Doubtful(state, record)) return Colours::DoubtfulTransponder;
-  return Colours::Transponder;
 }
 
 }  // namespace Routines

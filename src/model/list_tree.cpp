@@ -32,14 +32,6 @@ bool SameGroup(const State& state, ListTree::Kind level, int one, int other) {
   return SatelliteOf(state, one) == SatelliteOf(state, other);
 }
 
-std::string SatelliteText(const TransponderRecord& record, const std::vector<Satellite>& satellites) {
-  std::string label = SatelliteLabel(record);
-  for (const Satellite& satellite : satellites) {
-    if (satellite.label == label) return label + "  " + satellite.name;
-  }
-  return label;
-}
-
 std::string TransponderText(const State& state, int slot) {
   const TransponderRecord& record = RowOf(state, slot).record;
   return Base::ZeroPadded(slot, 3) + "  " + std::to_string(FrequencyMHz(record)) +
@@ -111,7 +103,7 @@ void ListTree::AddGroups(const State& state, const std::vector<Satellite>& satel
       added.parent = group;
       if (level == Kind::Satellite) {
         added.number = static_cast<int>(SatelliteOf(state, transponder));
-        added.text = SatelliteText(RowOf(state, transponder).record, satellites);
+        added.text = SatelliteText(SatelliteOf(state, transponder), satellites);
       } else if (level == Kind::Bouquet) {
         added.code = std::string(RowOf(state, transponder).BouquetCode());
         added.text = BouquetOf(state, transponder);
@@ -146,7 +138,7 @@ void ListTree::PlaceChannels(const State& state) {
     std::copy_n(Base::AsText(channel.bytes).begin(), here.name.size(), here.name.begin());
     here.slot = static_cast<std::uint16_t>(slot);
     here.group = static_cast<std::uint16_t>(group);
-    here.colour = ChannelColour(state, slot);
+    here.kind = ChannelRowKind(state, slot);
   });
 }
 

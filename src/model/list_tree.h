@@ -3,7 +3,7 @@
 #pragma once
 
 #include "model/bouquets.h"
-#include "model/cells.h"
+#include "model/row_kind.h"
 
 #include <optional>
 #include <span>
@@ -39,7 +39,7 @@ class ListTree {
     std::array<char, ChannelRecord::NameSize> name{};
     std::uint16_t slot = 0;
     std::uint16_t group = 0;
-    Colour colour = 0;  // of its row in the channel list
+    RowKind kind = RowKind::EmptySlot;  // of its row in the channel list
 
     [[nodiscard]] std::string_view Name() const;
     friend bool operator==(const Channel&, const Channel&) = default;

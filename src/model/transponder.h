@@ -28,6 +28,7 @@ inline constexpr Field<TransponderRecord> Nid{.offset = 6, .size = 2, .width = 1
 inline constexpr Field<TransponderRecord> ChannelCount{8};
 inline constexpr Field<TransponderRecord> SymbolRate{9};  // code, see symbol_rates.h
 inline constexpr Field<TransponderRecord> Fec{10};        // code, see FecText
+inline constexpr Field<TransponderRecord> Tuning{11};     // the three below, and a bit of no known meaning
 inline constexpr Field<TransponderRecord> HighBand{.offset = 11, .shift = 0, .width = 1};  // 22 kHz tone on
 inline constexpr Field<TransponderRecord> Horizontal{.offset = 11, .shift = 1, .width = 1};
 inline constexpr Field<TransponderRecord> Satellite{
@@ -68,8 +69,12 @@ constexpr bool SameTransponder(const TransponderRecord& one, const TransponderRe
 }
 
 // "SAT A" for satellite 0; the character behind "Z" and up for those above 25.
+inline std::string SatelliteLabel(std::uint32_t satellite) {
+  return std::string("SAT ") + static_cast<char>('A' + satellite);
+}
+
 inline std::string SatelliteLabel(const TransponderRecord& transponder) {
-  return std::string("SAT ") + static_cast<char>('A' + Get(transponder, TransponderField::Satellite));
+  return SatelliteLabel(Get(transponder, TransponderField::Satellite));
 }
 
 constexpr std::string_view FecText(const TransponderRecord& transponder) {

@@ -13,10 +13,6 @@ namespace {
 using namespace Routines;
 using Section = OverviewSection;
 
-constexpr Colour SatelliteColour = 0xD0A060;
-constexpr Colour BouquetColour = 0x90B040;
-constexpr Colour CodingColour = 0x40A0E0;
-constexpr Colour UsedColour = 0x60B060;
 constexpr const char* NoTransponder = "Transponder mancanti";
 
 class Counter {
@@ -69,56 +65,54 @@ class Counter {
       group->insert(group->end(), channels.begin(), channels.end());
     }
     if (channels.empty()) unused_.push_back(slot);
-    if (TransponderColour(state_, slot, TransponderColumn::Number) == Colours::DoubtfulTransponder)
-      doubtful_.push_back(slot);
+    if (TransponderRowKind(state_, slot) == RowKind::DoubtfulTransponder) doubtful_.push_back(slot);
     // Counts stop at 254 or 255.
     constexpr std::size_t Most = 254;
     const std::size_t told = Get(row.record, TransponderField::ChannelCount);
     if (std::min(told, Most) != std::min(channels.size(), Most)) miscounted_.push_back(slot);
   }
 
-  void Add(Section section, std::string text, Colour colour, Slots slots, std::size_t of,
-           bool transponders = false) {
+  OverviewLine& Add(Section section, std::string text, Slots slots, std::size_t of,
+                    bool transponders = false) {
     std::sort(slots.begin(), slots.end());
-    lines_.push_back(
-        {section, std::move(text), transponders, static_cast<int>(of), colour, std::move(slots)});
+    return lines_.emplace_back(OverviewLine{section, std::move(text), transponders, static_cast<int>(of),
+                                            std::nullopt, false, std::move(slots)});
+  }
+
+  void AddKind(Section section, const char* text, RowKind kind, const Slots& slots, std::size_t of) {
+    Add(section, text, slots, of, kind == RowKind::FreeTransponder).kind = kind;
+  }
+
+  void AddWrong(Section section, const char* text, const Slots& slots, std::size_t of,
+                bool transponders = false) {
+    Add(section, text, slots, of, transponders).wrong = true;
   }
 
   // The largest first, those of equal size in the order of their texts.
-  void AddByCount(Section section, Colour colour, std::vector<std::pair<std::string, Slots>> groups) {
+  void AddByCount(Section section, std::vector<std::pair<std::string, Slots>> groups) {
     std::sort(groups.begin(), groups.end(), [](const auto& one, const auto& other) {
       return one.second.size() != other.second.size() ? one.second.size() > other.second.size()
                                                       : one.first < other.first;
     });
     for (auto& [text, slots] : groups) {
-      if (!slots.empty()) Add(section, text, colour, std::move(slots), used_.size());
+      if (!slots.empty()) Add(section, text, std::move(slots), used_.size());
     }
   }
 
   void AddLost(Section section) {
-    if (!lost_.empty()) Add(section, NoTransponder, Colours::DoubtfulTransponder, lost_, used_.size());
+    if (!lost_.empty()) AddWrong(section, NoTransponder, lost_, used_.size());
   }
 
   void AddKinds() {
-    Add(Section::Kind, "TV", Colours::Tv, byKind_[ChannelKind::Tv], used_.size());
-    Add(Section::Kind, "Radio", Colours::Radio, byKind_[ChannelKind::Radio], used_.size());
-    Add(Section::Kind, "Servizi", Colours::Service, byKind_[ChannelKind::Service], used_.size());
-    Add(Section::Kind, "di cui non attivi", Colours::Inactive, inactive_, used_.size());
-  }
-
-  [[nodiscard]] std::string SatelliteText(std::uint32_t number) const {
-    TransponderRecord record;
-    Set(record, TransponderField::Satellite, number);
-    std::string label = SatelliteLabel(record);
-    for (const Satellite& satellite : satellites_) {
-      if (satellite.label == label) return label + "  " + satellite.name;
-    }
-    return label;
+    AddKind(Section::Kind, "TV", RowKind::Tv, byKind_[ChannelKind::Tv], used_.size());
+    AddKind(Section::Kind, "Radio", RowKind::Radio, byKind_[ChannelKind::Radio], used_.size());
+    AddKind(Section::Kind, "Servizi", RowKind::Service, byKind_[ChannelKind::Service], used_.size());
+    AddKind(Section::Kind, "di cui non attivi", RowKind::Inactive, inactive_, used_.size());
   }
 
   void AddSatellites() {
     for (auto& [number, slots] : bySatellite_) {
-      Add(Section::Satellite, Base::ToUtf8(SatelliteText(number)), SatelliteColour, std::move(slots),
+      Add(Section::Satellite, Base::ToUtf8(SatelliteText(number, satellites_)), std::move(slots),
           used_.size());
     }
     AddLost(Section::Satellite);
@@ -128,10 +122,9 @@ class Counter {
     std::vector<std::pair<std::string, Slots>> groups;
     for (auto& [key, slots] : byBouquet_) {
       const auto& [satellite, name] = key;
-      const std::string label = SatelliteText(satellite).substr(0, 5);
-      groups.emplace_back(Base::ToUtf8(name + "  (" + label + ")"), std::move(slots));
+      groups.emplace_back(Base::ToUtf8(name + "  (" + SatelliteLabel(satellite) + ")"), std::move(slots));
     }
-    AddByCount(Section::Bouquet, BouquetColour, std::move(groups));
+    AddByCount(Section::Bouquet, std::move(groups));
     AddLost(Section::Bouquet);
   }
 
@@ -140,30 +133,29 @@ class Counter {
     for (auto& [flags, slots] : byCoding_) {
       groups.emplace_back(Base::HexByte(static_cast<int>(flags)), std::move(slots));
     }
-    AddByCount(Section::Coding, CodingColour, std::move(groups));
+    AddByCount(Section::Coding, std::move(groups));
   }
 
   void AddPlaces() {
     const std::size_t transponders = usedTransponders_.size() + freeTransponders_.size();
-    Add(Section::Transponders, "Occupati", UsedColour, usedTransponders_, transponders, true);
-    Add(Section::Transponders, "Liberi", Colours::EmptySlot, freeTransponders_, transponders, true);
+    Add(Section::Transponders, "Occupati", usedTransponders_, transponders, true);
+    AddKind(Section::Transponders, "Liberi", RowKind::FreeTransponder, freeTransponders_, transponders);
     const std::size_t places = used_.size() + gaps_.size() + rest_.size();
-    Add(Section::Places, "Occupati", UsedColour, used_, places);
-    Add(Section::Places, "Vuoti fra i canali", Colours::EmptySlot, gaps_, places);
-    Add(Section::Places, "Liberi in fondo", Colours::EmptySlot, rest_, places);
+    Add(Section::Places, "Occupati", used_, places);
+    AddKind(Section::Places, "Vuoti fra i canali", RowKind::EmptySlot, gaps_, places);
+    AddKind(Section::Places, "Liberi in fondo", RowKind::EmptySlot, rest_, places);
   }
 
   void AddChecks() {
     Slots twice;
     for (const Slots& group : FindDuplicates(state_, {}))
       twice.insert(twice.end(), group.begin(), group.end());
-    constexpr Colour Wrong = Colours::DoubtfulTransponder;
-    Add(Section::Checks, "Canali su transponder mancanti", Wrong, lost_, used_.size());
-    Add(Section::Checks, "Canali doppi", Wrong, std::move(twice), used_.size());
+    AddWrong(Section::Checks, "Canali su transponder mancanti", lost_, used_.size());
+    AddWrong(Section::Checks, "Canali doppi", twice, used_.size());
     const std::size_t used = usedTransponders_.size();
-    Add(Section::Checks, "Transponder senza canali", Wrong, unused_, used, true);
-    Add(Section::Checks, "Transponder fuori banda o senza SR", Wrong, doubtful_, used, true);
-    Add(Section::Checks, "Transponder con conteggio errato", Wrong, miscounted_, used, true);
+    AddWrong(Section::Checks, "Transponder senza canali", unused_, used, true);
+    AddWrong(Section::Checks, "Transponder fuori banda o senza SR", doubtful_, used, true);
+    AddWrong(Section::Checks, "Transponder con conteggio errato", miscounted_, used, true);
   }
 
   const State& state_;

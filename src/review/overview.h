@@ -3,8 +3,9 @@
 #pragma once
 
 #include "model/bouquets.h"
-#include "model/cells.h"
+#include "model/row_kind.h"
 
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -14,11 +15,12 @@ enum class OverviewSection { Kind, Satellite, Bouquet, Coding, Transponders, Pla
 
 struct OverviewLine {
   OverviewSection section;
-  std::string text;             // UTF-8; no other line of the section has the same
-  bool transponders = false;    // its slots are transponders, not channels
-  int of = 0;                   // how many slots are the whole that its share is of
-  Routines::Colour colour = 0;  // of such rows in the grid, or one that stands for the section
-  std::vector<int> slots;       // ascending
+  std::string text;                       // UTF-8; no other line of the section has the same
+  bool transponders = false;              // its slots are transponders, not channels
+  int of = 0;                             // how many slots are the whole that its share is of
+  std::optional<Routines::RowKind> kind;  // of all its rows, where the line is about their kind
+  bool wrong = false;                     // its rows should be looked at
+  std::vector<int> slots;                 // ascending
 };
 
 // The lines of all sections, in the order of the sections. Channels count from slot 1 to the channel count, where they

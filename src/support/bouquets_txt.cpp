@@ -55,8 +55,6 @@ class Reader {
     std::string label(line.substr(line.size() - 5));
     std::replace(label.begin(), label.end(), '=', ' ');
     satellites.push_back({std::string(line.substr(0, line.find(','))), label});
-    // The letter counts as it is written: a small one gives another satellite number.
-    satelliteCode_ = static_cast<char>((letter - 'A') * 8);
   }
 
   void TakeBouquet(std::string_view line) {
@@ -73,13 +71,12 @@ class Reader {
     }
     const std::string_view frequency = line.substr(first + 1, second - first - 1);
     const std::string code = "00" + std::string(Base::Trimmed(line.substr(second + 1)));
-    tables.bouquets.push_back({std::string(line.substr(0, first)), std::string(frequency),
+    tables.bouquets.push_back({std::string(line.substr(0, first)),
                                tables.satellites.empty() ? "" : tables.satellites.back().label,
-                               code.substr(code.size() - 2), satelliteCode_, Megahertz(frequency)});
+                               code.substr(code.size() - 2), Megahertz(frequency)});
   }
 
   BouquetDefinitions definitions_;
-  char satelliteCode_ = 0;
 };
 
 }  // namespace

@@ -42,11 +42,11 @@ std::string PosIniOf(const Folders& folders) {
   return text;
 }
 
-std::string RememberedFolder(const std::string& programFolder, FolderKind kind) {
+std::string LoadFolder(const std::string& programFolder, FolderKind kind) {
   return ReadFolders(programFolder)[static_cast<std::size_t>(kind)];
 }
 
-void RememberFolderOf(const std::string& programFolder, FolderKind kind, const std::string& path) {
+void SaveFolderOf(const std::string& programFolder, FolderKind kind, const std::string& path) {
   Folders folders = ReadFolders(programFolder);
   const Folders before = folders;
   SetFolderOf(folders, kind, path);

@@ -22,10 +22,10 @@ void SetFolderOf(Folders& folders, FolderKind kind, const std::string& path);
 // The text of the file that holds them.
 std::string PosIniOf(const Folders& folders);
 
-// The remembered folder, as bytes of the file system; empty where there is none.
-std::string RememberedFolder(const std::string& programFolder, FolderKind kind);
+// The folder that POS.ini remembers for a kind, as bytes of the file system; empty where there is none.
+std::string LoadFolder(const std::string& programFolder, FolderKind kind);
 
-// Remembers the folder of a chosen file.
-void RememberFolderOf(const std::string& programFolder, FolderKind kind, const std::string& path);
+// Has it remember the folder of a chosen file.
+void SaveFolderOf(const std::string& programFolder, FolderKind kind, const std::string& path);
 
 }  // namespace Support

@@ -11,8 +11,8 @@ std::vector<std::string> AddressesOf(std::string_view text) {
   return addresses;
 }
 
-Base::Result<std::vector<std::string>> ReadSdxIni(const std::string& programFolder) {
-  const std::string path = programFolder + "/SDX.INI";
+Base::Result<std::vector<std::string>> LoadAddresses(const std::string& folder) {
+  const std::string path = folder + "/SDX.INI";
   const auto bytes = Base::ReadFile(path, 1U << 20U);
   if (!bytes) return Base::Error{"File SDX.INI non trovato: " + path};
   return AddressesOf(Base::AsText(*bytes));

@@ -12,8 +12,8 @@ namespace Support {
 // The lines of a file's text.
 std::vector<std::string> AddressesOf(std::string_view text);
 
-// The lines of SDX.INI of the program's folder, as bytes of the code page; an error with the sentence to show where
-// the file is not there.
-Base::Result<std::vector<std::string>> ReadSdxIni(const std::string& programFolder);
+// Those of SDX.INI of the program's folder, as bytes of the code page; an error with the sentence to show where the file is
+// not there.
+Base::Result<std::vector<std::string>> LoadAddresses(const std::string& folder);
 
 }  // namespace Support

@@ -91,7 +91,7 @@ void RandomCommand(Junk& junk, State& state, Clipboard& clipboard) {
   }
   if (command == 3) MoveChannels(state, slots, RandomSlots(junk, state).first);
   if (command == 4) OrdinaPerBouquet(state, slots.first);
-  if (command == 5) MakeRoom(state, slots.first, 2, lost);
+  if (command == 5) static_cast<void>(MakeRoom(state, slots.first, 2));
   if (command == 6) InvertiSatelliti(state);
   if (command == 7) Regroup(state, slots.first);
   if (command == 8 && slots.last > 1) DeleteSlots(state, {slots.last, 1});

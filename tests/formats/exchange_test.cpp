@@ -74,7 +74,7 @@ TEST(TextFormat, ReadsBackWithTheKnownLosses) {
   read->Channel(2) = MakeChannel("sparisce", 1, 1, 1, 1);
   read->Channel(9) = MakeChannel("resta", 1, 1, 1, 1);
   const ImportReport report = Read(*read, WriteText(*written));
-  EXPECT_EQ(report.error, "");
+  EXPECT_TRUE(report.whole);
   EXPECT_TRUE(report.listRead);
   // "N" loses the coding; behind "Auto" a transponder is vertical, without tone, on satellite A; names get blanks.
   std::string expected = WriteText(*written);
@@ -97,7 +97,7 @@ TEST(TextFormat, AHandEditedListIsTakenAsItStands) {
   state->SymbolRateTable = SmallList()->SymbolRateTable;
   const auto read = [&](std::string_view from, const std::string& to) {
     ImportReport report = Read(*state, Replaced(text, from, to));
-    EXPECT_EQ(report.error, "") << to;
+    EXPECT_TRUE(report.whole) << to;
     return report;
   };
   for (const char* line : {"0042 Mosso            012 99999 00001 00002 65535 65535 00001 B4 S", "0000 x",
@@ -137,7 +137,8 @@ TEST(TextFormat, ABrokenSectionIsNamedAndWhatWasReadStays) {
   for (const auto& [broken, section] : cases) {
     State state;
     const ImportReport report = Read(state, broken);
-    EXPECT_EQ(report.error, "Formato file invalido (" + section + ") per lista.txt");
+    ASSERT_FALSE(report.whole);
+    EXPECT_EQ(report.whole.error().message, "Formato file invalido (" + section + ") per lista.txt");
     EXPECT_EQ(report.changed, broken.size() > 20) << broken;
     EXPECT_EQ(report.listRead, section == "PREFERITI") << broken;
     EXPECT_EQ(state == State{}, !report.changed) << broken;
@@ -157,7 +158,7 @@ TEST(FlsFormat, IsMadeOfThirtyByteRecordsAndReadsBackWhole) {
   EXPECT_EQ(record(8).substr(12), std::string(18, ' '));
   EXPECT_EQ(record(11), "[PREFERITI] 2291              ");
   auto read = std::make_unique<State>();
-  EXPECT_EQ(ReadFls(*read, file, {}).error, "");
+  EXPECT_TRUE(ReadFls(*read, file, {}).whole);
   EXPECT_EQ(read->ChannelTable, state->ChannelTable);
   EXPECT_EQ(read->Transponder(3).record, state->Transponder(3).record);
   EXPECT_EQ(read->FavouritesBlock, state->FavouritesBlock);
@@ -170,7 +171,7 @@ TEST(FlsFormat, EveryCutAndEveryWrongCountEndsCleanly) {
     State state;
     const ImportReport report = ReadFls(state, Base::ByteView(file).first(size), {});
     EXPECT_EQ(report.changed, size >= 13) << size;
-    EXPECT_EQ(report.error.empty(), size >= 10 * 30 + 12) << size;
+    EXPECT_EQ(static_cast<bool>(report.whole), size >= 10 * 30 + 12) << size;
     EXPECT_EQ(report.listRead, size >= 6 * 30 + 16) << size;
   }
   for (const char* header :
@@ -179,14 +180,15 @@ TEST(FlsFormat, EveryCutAndEveryWrongCountEndsCleanly) {
     std::string text(header);
     text.resize(30, ' ');
     const ImportReport report = ReadFls(state, Base::AsBytes(text), {});
-    EXPECT_EQ(report.error, "Formato input sconosciuto");
+    ASSERT_FALSE(report.whole);
+    EXPECT_EQ(report.whole.error().message, "Formato input sconosciuto");
     EXPECT_FALSE(report.changed) << header;
   }
   std::string greedy = "[CANALI] 9999" + std::string(17, ' ') + std::string(30 * 9999, 'c') +
                        "[TRANSPONDERS] 300" + std::string(12, ' ') + std::string(30 * 300, 't') +
                        "[PREFERITI] 65535" + std::string(13, ' ') + "x";
   State state;
-  EXPECT_EQ(ReadFls(state, Base::AsBytes(greedy), {}).error, "");
+  EXPECT_TRUE(ReadFls(state, Base::AsBytes(greedy), {}).whole);
   EXPECT_EQ(state.TransponderCount, 254);
   EXPECT_EQ(state.FavouritesBlock.size(), 30U) << "no more than there is";
 }

@@ -115,7 +115,7 @@ TEST(SdxImport, RowsFindOrMakeTheirTransponder) {
   state->TransponderCount = 2;
   state->Transponder(2).record = MakeTransponder(10721, true, 0, 9, 0);
   state->Channel(3) = MakeChannel("vecchio", 2, 1, 1, 1);
-  const BouquetTables bouquets{{}, {{"Nuovo", "12092", "SAT A", "05", 0, 12092}}};
+  const BouquetTables bouquets{{}, {{"Nuovo", "SAT A", "05", 12092}}};
   SdxImport import(*state, bouquets);
   import.Put(RowAt(10719), 3, 1);
   ChannelRecord expected = MakeChannel("Canale 5 Europa", 2, 4903, 512, 650, 0x84);

@@ -125,10 +125,10 @@ TEST(FlashLoader, FavouritesComeFromConfigPre) {
 
 TEST(FlashLoader, BouquetsAreFoundBySatelliteAndLessThanThreeMegahertz) {
   BouquetTables tables;
-  tables.bouquets = {{"Altro", "11000", "SAT B", "01", 8, 11000},
-                     {"Lontano", "11003", "SAT A", "02", 0, 11003},
-                     {"Giusto", "11002", "SAT A", "03", 0, 11002},
-                     {"Dopo", "11000", "SAT A", "04", 0, 11000}};
+  tables.bouquets = {{"Altro", "SAT B", "01", 11000},
+                     {"Lontano", "SAT A", "02", 11003},
+                     {"Giusto", "SAT A", "03", 11002},
+                     {"Dopo", "SAT A", "04", 11000}};
   ImageBuilder image(10);
   image.PutRecords(1, 0, 16, "TPT", std::vector{At(11000), At(11500)});
   State state;

@@ -23,7 +23,6 @@ TEST(BouquetsTxt, ReadsSatellitesAndTheirBouquets) {
   for (const auto& bouquet : bouquets) told += bouquet.name + "," + bouquet.code + "=" + bouquet.label + ";";
   EXPECT_EQ(told, "Hotbird=SAT A;Astra=SAT b;Orfano,07=;Tel\xE9,23=SAT A;Altro,04=SAT b;");
   EXPECT_EQ(bouquets[1].megahertz, 10758.5);
-  EXPECT_EQ(bouquets[2].satelliteCode, 8) << "the low 8 bits of (98 - 65) x 8";
   EXPECT_EQ(FindBouquet(read.tables, 10761, "SAT A"), &bouquets[1]);
   EXPECT_EQ(FindBouquet(read.tables, 10762, "SAT A"), nullptr);
 }
@@ -53,19 +52,19 @@ TEST(BouquetsTxt, TablesEndWhereTheyAreFull) {
 
 TEST(PosIni, RemembersAFolderForEachKindByItsLine) {
   const Tests::TestFolder folder;
-  EXPECT_EQ(RememberedFolder(folder.Path(), FolderKind::Input), "");
-  RememberFolderOf(folder.Path(), FolderKind::Output, "/home/anna/Città/lista.dat");
-  RememberFolderOf(folder.Path(), FolderKind::Input, "C:\\lista.dat");
-  RememberFolderOf(folder.Path(), FolderKind::Foreign, "senza cartella");
-  RememberFolderOf(folder.Path(), FolderKind::Foreign, "/due\nrighe/lista.sdx");
+  EXPECT_EQ(LoadFolder(folder.Path(), FolderKind::Input), "");
+  SaveFolderOf(folder.Path(), FolderKind::Output, "/home/anna/Città/lista.dat");
+  SaveFolderOf(folder.Path(), FolderKind::Input, "C:\\lista.dat");
+  SaveFolderOf(folder.Path(), FolderKind::Foreign, "senza cartella");
+  SaveFolderOf(folder.Path(), FolderKind::Foreign, "/due\nrighe/lista.sdx");
   EXPECT_EQ(Base::AsText(Contents(folder.Path("POS.ini"))), "0:C:\r\n1:\r\n2:/home/anna/Città\r\n");
-  EXPECT_EQ(RememberedFolder(folder.Path(), FolderKind::Output), "/home/anna/Città");
+  EXPECT_EQ(LoadFolder(folder.Path(), FolderKind::Output), "/home/anna/Città");
   folder.Write("POS.ini", "2:/uno  \n/home\nx\n");
-  EXPECT_EQ(RememberedFolder(folder.Path(), FolderKind::Input), "/uno");
-  EXPECT_EQ(RememberedFolder(folder.Path(), FolderKind::Foreign), "ome");
-  EXPECT_EQ(RememberedFolder(folder.Path(), FolderKind::Output), "");
+  EXPECT_EQ(LoadFolder(folder.Path(), FolderKind::Input), "/uno");
+  EXPECT_EQ(LoadFolder(folder.Path(), FolderKind::Foreign), "ome");
+  EXPECT_EQ(LoadFolder(folder.Path(), FolderKind::Output), "");
   folder.Write("POS.ini", "0:/uno\r\n1:/due\r\n");
-  EXPECT_EQ(RememberedFolder(folder.Path(), FolderKind::Input), "") << "fewer than three lines read as empty";
+  EXPECT_EQ(LoadFolder(folder.Path(), FolderKind::Input), "") << "fewer than three lines read as empty";
 }
 
 TEST(SrIni, ReadsTheInputSectionAlone) {

@@ -1,5 +1,10 @@
 #include "ui/list/grid.h"
 
+#include "image_builder.h"
+#include "model/symbol_rates.h"
+#include "ui/list/list_model.h"
+#include "ui/sources/sdx_model.h"
+
 #include <QtTest>
 #include <QtWidgets>
 
@@ -18,8 +23,60 @@ class Rows : public TableModel {
 
  protected:
   [[nodiscard]] QString CellText(int row, int) const override { return QString::number(row); }
-  [[nodiscard]] Routines::Colour CellColour(int, int) const override { return Routines::Colours::Tv; }
+  [[nodiscard]] Colour CellColour(int, int) const override { return {}; }
 };
+
+// What a column says of its rows, divided by blanks: colours as they are told, blue first, with a star where the text is
+// white, and the words for those who do not see them.
+QString Colours(const TableModel& list, int column) {
+  QStringList colours;
+  for (int row = 0; row < list.rowCount(); ++row) {
+    const QModelIndex cell = list.index(row, column);
+    const QRgb ground = cell.data(Qt::BackgroundRole).value<QBrush>().color().rgb();
+    const bool white = cell.data(Qt::ForegroundRole).value<QBrush>().color() == Qt::white;
+    colours += QString("%1%2")
+                   .arg(qRgb(qBlue(ground), qGreen(ground), qRed(ground)) & 0xFFFFFFU, 6, 16, QChar('0'))
+                   .arg(white ? "*" : "");
+  }
+  return colours.join(' ').toUpper();
+}
+
+QString Words(const TableModel& list) {
+  QStringList words;
+  for (int row = 0; row < list.rowCount(); ++row)
+    words += list.index(row, 1).data(Qt::AccessibleDescriptionRole).toString();
+  return words.join(';');
+}
+
+TEST(Grid, EachKindOfRowHasItsColourAndItsWord) {
+  using namespace Samples;
+  Document document;
+  document.Adjust([](Routines::State& state) {
+    state.SymbolRateTable = Routines::EmptySymbolRateTable();
+    PlaceUsualRates(state.SymbolRateTable, Routines::Sr22000::Come2);
+    state.ChannelCount = 5;
+    state.Channel(1) = MakeChannel("Uno", 1, 1, 512, 650);
+    state.Channel(2) = MakeChannel("Due", 1, 2, 0, 650);
+    state.Channel(3) = MakeChannel("Tre", 1, 3, 65535, 0);
+    state.Channel(4) = MakeChannel("Quattro", 1, 4, 512, 650, 0x20);
+    state.TransponderCount = 3;
+    state.Transponder(1).record = MakeTransponder(12092, true, 1, 3, 5);
+    state.Transponder(2).record = MakeTransponder(10699, true, 1, 3, 5);
+  });
+  const ListModel channels(document, ListModel::Channels, nullptr);
+  EXPECT_EQ(Colours(channels, 0), "C0FFC0 C0FFC0 C0FFC0 C0FFC0 C0FFC0");
+  EXPECT_EQ(Colours(channels, 1), "00FFFF FFFF80 FF80FF C0C0C0 E0E0E0");
+  EXPECT_EQ(Words(channels), "TV;Radio;Servizio;Non attivo;Posto vuoto");
+  const ListModel transponders(document, ListModel::Transponders, nullptr);
+  EXPECT_EQ(Colours(transponders, 1), "FFFFFF 8080FF 008000*");
+  EXPECT_EQ(Colours(transponders, 2), "FFFFFF 8080FF FFFFFF");
+  EXPECT_EQ(Words(transponders), ";Fuori banda o senza SR;Posto libero");
+  Formats::SdxTable table;
+  for (const char type : {'T', 'R', 'S'}) table.rows.emplace_back().type = type;
+  SdxModel sdx(table, nullptr);
+  sdx.Refresh();
+  EXPECT_EQ(Colours(sdx, 1), "80FFFF FFFFC0 FFC0FF");
+}
 
 TEST(Grid, ColumnsShareTheSpareWidthExceptThoseThatTheUserHasSet) {
   Rows list;

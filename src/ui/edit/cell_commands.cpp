@@ -56,8 +56,8 @@ QStringList Texts(const std::vector<std::string>& utf8) {
 // Every satellite that the list can tell apart by a letter, with its name where it has one.
 QStringList Satellites(const std::vector<Routines::Satellite>& named) {
   QStringList texts;
-  for (char letter = 'A'; letter <= 'Z'; ++letter) {
-    const std::string label = std::string("SAT ") + letter;
+  for (std::uint32_t satellite = 0; satellite < 26; ++satellite) {
+    const std::string label = Routines::SatelliteLabel(satellite);
     const auto found =
         std::find_if(named.begin(), named.end(), [&](const auto& one) { return one.label == label; });
     texts += Text(label) + (found == named.end() ? QString() : " " + CodePageText(found->name).trimmed());
@@ -139,18 +139,17 @@ void CellCommands::Rename() {
 void CellCommands::InsertRows() {
   const auto rows = Rows();
   if (!rows) return;
-  std::vector<Edit::LostFavourite> lost;
   const std::string label = rows->Count() == 1
                                 ? "Inserisci riga vuota"
                                 : "Inserisci " + std::to_string(rows->Count()) + " righe vuote";
-  const bool room = session_.document.Apply(
-      label, [&](State& state) { return Edit::MakeRoom(state, rows->first, rows->Count(), lost); });
-  if (!room) {
-    session_.dialogs.Message(Text(Edit::InvalidPosition), {});
+  const auto lost = session_.document.Apply(
+      label, [&](State& state) { return Edit::MakeRoom(state, rows->first, rows->Count()); });
+  if (!lost) {
+    session_.Message(lost.error());
     return;
   }
   session_.view.ListGrid().Select(*rows);
-  session_.status.ShowResult(Text(label) + QString(" al %1").arg(rows->first) + session_.Losses(lost));
+  session_.status.ShowResult(Text(label) + QString(" al %1").arg(rows->first) + session_.Losses(*lost));
 }
 
 void CellCommands::SetColumn(int column, const QString& value) {
@@ -202,8 +201,7 @@ void CellCommands::GoToTransponder() {
     session_.status.ShowResult(QString("Il canale %1 non ha un transponder nella lista").arg(rows->first));
     return;
   }
-  session_.view.Show(View::Transponders);
-  session_.view.ListGrid().Select({number, number});
+  session_.view.GoToRow(View::Transponders, number);
 }
 
 }  // namespace Ui

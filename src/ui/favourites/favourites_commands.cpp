@@ -14,13 +14,12 @@ FavouritesCommands::FavouritesCommands(Session& session, Actions& actions, QMain
 }
 
 void FavouritesCommands::Show() {
-  if (!lists_) {
-    lists_ = new FavouritesWindow(session_.document, edits_, window_);
-    QObject::connect(&session_.status, &StatusLine::ResultShown, lists_, &FavouritesWindow::ShowResult);
+  auto* lists = OpenWindow<FavouritesWindow>(window_);
+  if (lists == nullptr) {
+    lists = new FavouritesWindow(session_.document, edits_, window_);
+    QObject::connect(&session_.status, &StatusLine::ResultShown, lists, &FavouritesWindow::ShowResult);
   }
-  lists_->show();
-  lists_->raise();
-  lists_->activateWindow();
+  lists->BringUp();
 }
 
 void FavouritesCommands::FollowSettings() {

@@ -4,13 +4,9 @@
 #include "ui/favourites/favourites_edits.h"
 #include "ui/session/actions.h"
 
-#include <QPointer>
-
 class QMainWindow;
 
 namespace Ui {
-
-class FavouritesWindow;
 
 class FavouritesCommands {
  public:
@@ -26,7 +22,6 @@ class FavouritesCommands {
   Session& session_;
   QMainWindow& window_;
   FavouritesEdits edits_;
-  QPointer<FavouritesWindow> lists_;
 };
 
 }  // namespace Ui

@@ -91,8 +91,7 @@ void FavouritesEdits::GoTo(int slot) {
     Tell(QString("Il posto %1 non c'è nella lista").arg(slot));
     return;
   }
-  session_.view.Show(View::Channels);
-  session_.view.ListGrid().Select({slot, slot});
+  session_.GoToChannel(slot);
 }
 
 }  // namespace Ui

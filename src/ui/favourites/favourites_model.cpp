@@ -1,10 +1,10 @@
 #include "ui/favourites/favourites_model.h"
 
 #include "base/text.h"
-#include "model/cells.h"
 #include "model/favourites.h"
 #include "ui/kit/dialogs.h"
 #include "ui/kit/text.h"
+#include "ui/list/row_colours.h"
 #include "ui/list/table_model.h"
 
 #include <QBrush>
@@ -57,8 +57,7 @@ QVariant FavouritesModel::data(const QModelIndex& index, int role) const {
       return number + CodePageText(Base::TrimmedRight(state.Channel(slot).Name()));
     }
     case Qt::BackgroundRole:
-      return QBrush(
-          ToColor(inList ? Routines::ChannelColour(state, slot) : Routines::Colours::DoubtfulTransponder));
+      return QBrush(ToColor(inList ? ColourOf(Routines::ChannelRowKind(state, slot)) : Colours::Wrong));
     case Qt::ForegroundRole:
       return QBrush(Qt::black);
     default:

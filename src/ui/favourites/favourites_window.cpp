@@ -4,8 +4,6 @@
 #include "ui/kit/elided_label.h"
 #include "ui/kit/flow_layout.h"
 #include "ui/kit/screen_fit.h"
-#include "ui/session/commands.h"
-#include "ui/session/control_tips.h"
 
 #include <QGridLayout>
 #include <QListView>
@@ -16,18 +14,13 @@
 namespace Ui {
 
 FavouritesWindow::FavouritesWindow(const Document& document, FavouritesEdits& edits, QMainWindow& window)
-    : QDialog(&window),
+    : ToolWindow("ListePreferiti", "Liste Preferiti", &window),
       edits_(edits),
       target_(new ElidedLabel(Qt::ElideRight, this)),
       result_(new ElidedLabel(Qt::ElideRight, this)) {
-  setObjectName("ListePreferiti");
-  setWindowTitle("Liste Preferiti");
-  setAttribute(Qt::WA_DeleteOnClose);
   result_->setObjectName("RisultatoPreferiti");
   target_->setObjectName("ListaCorrente");
-  // Undo and redo work here as they do in the main window.
-  for (const CommandName name : {CommandName("Annulla"), CommandName("Ripeti")})
-    addAction(&CommandAction(window, name));
+  TakeKeys(window);
   auto* lists = new QWidget(this);
   AddLists(document, *lists);
   auto* column = new QVBoxLayout(this);
@@ -41,7 +34,6 @@ FavouritesWindow::FavouritesWindow(const Document& document, FavouritesEdits& ed
   ShowCurrent();
   ShowResult(
       "Trascinare qui i canali dalla griglia; Canc toglie, Alt+Su e Alt+Giù spostano, Invio va al canale.");
-  ShowTips(*this);
   lists_.front()->Entries().setFocus();
   ResizeOnScreen(*this, {900, 620});
 }
@@ -66,10 +58,9 @@ QLayout* FavouritesWindow::Buttons() {
   target_->setMinimumWidth(Letters(*target_, 14));
   row->addWidget(target_, 1);
   row->addLayout(buttons);
-  connect(AddButton(*buttons, "AggiungiSelezionati", "Aggiungi i canali selezionati"), &QPushButton::clicked,
-          this, [this] { edits_.AddSelected(current_); });
-  connect(AddButton(*buttons, "TogliPreferiti", "Togli"), &QPushButton::clicked, this,
-          [this] { Current().RemoveSelected(); });
+  AddButton(*buttons, "AggiungiSelezionati", "Aggiungi i canali selezionati",
+            [this] { edits_.AddSelected(current_); });
+  AddButton(*buttons, "TogliPreferiti", "Togli", [this] { Current().RemoveSelected(); });
   move_ = AddButton(*buttons, "SpostaPreferiti", "Sposta in");
   move_->setMenu(new QMenu(move_));
   connect(move_->menu(), &QMenu::aboutToShow, this, &FavouritesWindow::FillMoveMenu);
@@ -79,16 +70,8 @@ QLayout* FavouritesWindow::Buttons() {
   orders->addAction("Per nome", this, [this] { edits_.Sort(current_, Edit::FavouriteOrder::ByName); })
       ->setObjectName("OrdinaPerNome");
   AddButton(*buttons, "OrdinaPreferiti", "Ordina")->setMenu(orders);
-  connect(AddButton(*buttons, "ChiudiPreferiti", "Chiudi"), &QPushButton::clicked, this, &QDialog::close);
+  AddButton(*buttons, "ChiudiPreferiti", "Chiudi", [this] { close(); });
   return row;
-}
-
-QPushButton* FavouritesWindow::AddButton(QLayout& row, const char* name, const QString& caption) {
-  auto* button = new QPushButton(caption, this);
-  button->setObjectName(name);
-  button->setAutoDefault(false);
-  row.addWidget(button);
-  return button;
 }
 
 void FavouritesWindow::FillMoveMenu() {

@@ -2,17 +2,13 @@
 #pragma once
 
 #include "ui/favourites/favourites_list.h"
-
-#include <QDialog>
-
-class QMainWindow;
-class QPushButton;
+#include "ui/session/tool_window.h"
 
 namespace Ui {
 
 class ElidedLabel;
 
-class FavouritesWindow : public QDialog {
+class FavouritesWindow : public ToolWindow {
   Q_OBJECT
 
  public:
@@ -25,7 +21,6 @@ class FavouritesWindow : public QDialog {
  private:
   void AddLists(const Document& document, QWidget& place);
   QLayout* Buttons();
-  QPushButton* AddButton(QLayout& row, const char* name, const QString& caption);
   void FillMoveMenu();
   void ShowCurrent();
   [[nodiscard]] FavouritesList& Current() const { return *lists_[current_]; }

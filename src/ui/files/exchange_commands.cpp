@@ -6,7 +6,6 @@
 #include "formats/fls_format.h"
 #include "formats/text_format.h"
 #include "model/flash_loader.h"
-#include "support/pos_ini.h"
 #include "ui/kit/text.h"
 #include "ui/kit/toolkit.h"
 
@@ -32,14 +31,7 @@ void ExchangeCommands::Connect(Actions& actions) {
 }
 
 std::string ExchangeCommands::AskExport(const QString& filters) {
-  std::string path = PathBytes(session_.dialogs.SaveFile(
-      {"Selezionare il file di output", filters,
-       PathText(Support::RememberedFolder(session_.programFolder, Support::FolderKind::Input))}));
-  if (session_.IsFlashOfList(path)) {
-    session_.status.ShowResult(QString("Non esportato: ") + FlashOfListChosen);
-    return {};
-  }
-  return path;
+  return session_.AskSave("Selezionare il file di output", filters, FolderKind::Input, "Non esportato");
 }
 
 void ExchangeCommands::Export(const std::string& path, Base::ByteView bytes) {
@@ -117,11 +109,7 @@ std::optional<ExchangeCommands::Preparation> ExchangeCommands::Prepare() {
 
 std::optional<Base::Bytes> ExchangeCommands::ReadImport(const QString& title, const QString& filters,
                                                         std::string& path) {
-  if (path.empty()) {
-    path = PathBytes(session_.dialogs.OpenFile(
-        {title, filters,
-         PathText(Support::RememberedFolder(session_.programFolder, Support::FolderKind::Input))}));
-  }
+  if (path.empty()) path = session_.AskOpen(title, filters, FolderKind::Input);
   if (path.empty()) return std::nullopt;
   auto bytes = Waiting([&] { return Base::ReadFile(path, LargestImport); });
   if (bytes) return std::move(*bytes);
@@ -149,7 +137,7 @@ void ExchangeCommands::Import(const char* label, const std::string& path, const 
       },
       Edit::History::Kind::List);
   if (report.listRead) session_.view.ShowFromStart(View::Channels);
-  if (report.listRead && report.error.empty()) {
+  if (report.listRead && report.whole) {
     session_.favouritesAtHand = true;
     session_.ShowList();
   }
@@ -170,7 +158,7 @@ void ExchangeCommands::TellImported(const std::string& path, const Formats::Impo
       text += QString(", %1 transponder con SR che SR.INI non ha").arg(report.unknownRates);
     session_.status.ShowResult(text);
   }
-  if (!report.error.empty()) session_.dialogs.Message(Text(report.error), {});
+  if (!report.whole) session_.Message(report.whole.error());
 }
 
 void ExchangeCommands::DaEsportatoTesto(std::string path) {
@@ -197,7 +185,7 @@ void ExchangeCommands::DaEsportato(std::string path) {
   Import("Importa da formato FLASH", path, *preparation, [&](State& state) {
     auto report = Formats::ReadFls(state, *bytes, session_.bouquets.tables);
     if (report.changed) state.MaxChannels = state.ChannelCount = preparation->plan.maxChannels;
-    if (report.error.empty()) state.FromFls = true;
+    if (report.whole) state.FromFls = true;
     return report;
   });
 }

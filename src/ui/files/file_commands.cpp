@@ -4,7 +4,6 @@
 #include "model/flash_loader.h"
 #include "model/flash_writer.h"
 #include "model/symbol_rates.h"
-#include "support/pos_ini.h"
 #include "ui/kit/text.h"
 #include "ui/kit/toolkit.h"
 
@@ -13,7 +12,6 @@
 namespace Ui {
 
 using Routines::State;
-using Support::FolderKind;
 
 namespace {
 
@@ -53,11 +51,6 @@ void FileCommands::Connect(Actions& actions) {
   actions.Connect("ConvertiSR", [this] { ConvertiSR(); });
 }
 
-std::string FileCommands::AskFlash(const QString& title, FolderKind folder) {
-  return PathBytes(session_.dialogs.OpenFile(
-      {title, FlashFilters, PathText(Support::RememberedFolder(session_.programFolder, folder))}));
-}
-
 // 0 to replace what is loaded; nothing where the user gives up.
 std::optional<int> FileCommands::AskAppendStart() {
   Dialogs& ask = session_.dialogs;
@@ -73,14 +66,14 @@ std::optional<int> FileCommands::AskAppendStart() {
 void FileCommands::ApriFlashInput(std::string path) {
   const auto appendStart = AskAppendStart();
   if (!appendStart) return;
-  if (path.empty()) path = AskFlash("Selezionare la flash di input", FolderKind::Input);
+  if (path.empty()) path = session_.AskOpen("Selezionare la flash di input", FlashFilters, FolderKind::Input);
   if (path.empty()) return;
   const auto image = ReadWaiting(path, InputTitle);
   if (!image) {
     session_.Message(image.error());
     return;
   }
-  Support::RememberFolderOf(session_.programFolder, FolderKind::Input, path);
+  session_.RememberFolder(FolderKind::Input, path);
   Load(path, *image, *appendStart);
 }
 
@@ -150,7 +143,8 @@ void FileCommands::Salva() {
 }
 
 void FileCommands::AskAndWrite(const Preparation& preparation) {
-  const std::string path = AskFlash("Selezionare la flash di output", FolderKind::Output);
+  const std::string path =
+      session_.AskOpen("Selezionare la flash di output", FlashFilters, FolderKind::Output);
   if (path.empty()) return;
   const auto original = ReadWaiting(path, OutputTitle);
   if (!original) {
@@ -158,7 +152,7 @@ void FileCommands::AskAndWrite(const Preparation& preparation) {
     session_.Message(vanished ? Routines::WrongFlashSize(0, OutputTitle) : original.error());
     return;
   }
-  Support::RememberFolderOf(session_.programFolder, FolderKind::Output, path);
+  session_.RememberFolder(FolderKind::Output, path);
   Write(path, *original, preparation);
 }
 

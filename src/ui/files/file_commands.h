@@ -2,7 +2,6 @@
 #pragma once
 
 #include "model/flash_writer.h"
-#include "support/pos_ini.h"
 #include "ui/session/actions.h"
 #include "ui/session/session.h"
 
@@ -39,7 +38,6 @@ class FileCommands {
   void Write(const std::string& path, const Base::Bytes& original, const Preparation& preparation);
   void TellWritten(const std::string& path, const Routines::PatchedFlash& patched,
                    const Preparation& preparation);
-  std::string AskFlash(const QString& title, Support::FolderKind folder);
 
   Session& session_;
 };

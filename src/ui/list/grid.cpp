@@ -26,7 +26,7 @@ QString HeaderStyle() {
   return QString(
              "QHeaderView::section { background-color: %1; color: black; padding: 3px 4px;"
              " border: 0; border-right: 1px solid #7fb97f; border-bottom: 1px solid #7fb97f; }")
-      .arg(ToColor(Routines::Colours::Header).name());
+      .arg(ToColor(Colours::Header).name());
 }
 
 }  // namespace

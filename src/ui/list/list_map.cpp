@@ -1,7 +1,6 @@
 #include "ui/list/list_map.h"
 
-#include "model/cells.h"
-#include "ui/list/list_model.h"
+#include "ui/list/row_colours.h"
 
 #include <QMouseEvent>
 #include <QPainter>
@@ -11,13 +10,13 @@
 namespace Ui {
 namespace {
 
-// The colour that most of the slots have.
-Routines::Colour MostlyIn(const Routines::State& state, int first, int end) {
-  std::map<Routines::Colour, int> counts;
-  Routines::Colour most = Routines::Colours::EmptySlot;
+// What most of the slots are.
+Routines::RowKind MostlyIn(const Routines::State& state, int first, int end) {
+  std::map<Routines::RowKind, int> counts;
+  Routines::RowKind most = Routines::RowKind::EmptySlot;
   for (int slot = first; slot < end; ++slot) {
-    const Routines::Colour colour = Routines::ChannelColour(state, slot);
-    if (++counts[colour] > counts[most]) most = colour;
+    const Routines::RowKind kind = Routines::ChannelRowKind(state, slot);
+    if (++counts[kind] > counts[most]) most = kind;
   }
   return most;
 }
@@ -52,7 +51,7 @@ void ListMap::Draw() {
   const Routines::State& state = document_.Tables();
   for (int y = 0; y < height(); ++y) {
     const int first = SlotAt(y);
-    bands_.setPixelColor(0, y, ToColor(MostlyIn(state, first, std::max(SlotAt(y + 1), first + 1))));
+    bands_.setPixelColor(0, y, ToColor(ColourOf(MostlyIn(state, first, std::max(SlotAt(y + 1), first + 1)))));
   }
 }
 

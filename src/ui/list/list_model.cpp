@@ -5,9 +5,6 @@
 #include "ui/kit/text.h"
 
 #include <QMimeData>
-#include <QStringList>
-
-#include <map>
 
 namespace Ui {
 
@@ -19,13 +16,13 @@ constexpr int NameColumn = 1;  // of a transponder, its frequency
 
 }  // namespace
 
-const ListModel::Kind ListModel::Channels = {
-    Routines::ChannelHeader, [](const State& state) { return state.ChannelCount; }, Routines::ChannelCell,
-    [](const State& state, int slot, int) { return Routines::ChannelColour(state, slot); }, true};
+const ListModel::Kind ListModel::Channels = {Routines::ChannelHeader,
+                                             [](const State& state) { return state.ChannelCount; },
+                                             Routines::ChannelCell, Routines::ChannelRowKind, true};
 
 const ListModel::Kind ListModel::Transponders = {
     Routines::TransponderHeader, [](const State& state) { return state.TransponderCount; },
-    Routines::TransponderCell, Routines::TransponderColour, false};
+    Routines::TransponderCell, Routines::TransponderRowKind, false};
 
 ListModel::ListModel(const Document& document, const Kind& kind, QObject* parent)
     : TableModel(kind.header, parent), document_(document), kind_(kind), rows_(kind.rows(document.Tables())) {
@@ -39,35 +36,30 @@ QString ListModel::CellText(int slot, int column) const {
 }
 
 // What the colours say, for those who do not see them.
-QString ListModel::SpokenColour(int slot) const {
-  using namespace Routines;
-  static const std::map<Colour, QString> Told = {{Colours::Tv, "TV"},
-                                                 {Colours::Radio, "Radio"},
-                                                 {Colours::Service, "Servizio"},
-                                                 {Colours::Inactive, "Non attivo"},
-                                                 {Colours::EmptySlot, "Posto vuoto"},
-                                                 {Colours::DoubtfulTransponder, "Fuori banda o senza SR"},
-                                                 {Colours::NoFrequency, "Posto libero"}};
-  const auto row = Told.find(kind_.colour(document_.Tables(), slot, NameColumn));
-  QStringList parts;
-  if (row != Told.end()) parts += row->second;
-  if (!marks_.empty() && marks_[static_cast<std::size_t>(slot)] != Mark::None) parts += "trovato";
-  return parts.join(", ");
+QString ListModel::SpokenKind(int slot) const {
+  const bool found = !marks_.empty() && marks_[static_cast<std::size_t>(slot)] != Mark::None;
+  const QString kind = Text(Routines::RowKindText(kind_.rowKind(document_.Tables(), slot)));
+  if (!found) return kind;
+  return kind.isEmpty() ? QString("trovato") : kind + ", trovato";
 }
 
 // Once a row, with its name or frequency.
 QVariant ListModel::data(const QModelIndex& index, int role) const {
   if (role == Qt::AccessibleDescriptionRole && index.isValid())
-    return index.column() == NameColumn ? SpokenColour(index.row() + 1) : QString();
+    return index.column() == NameColumn ? SpokenKind(index.row() + 1) : QString();
   return TableModel::data(index, role);
 }
 
-Routines::Colour ListModel::CellColour(int slot, int column) const {
+Colour ListModel::CellColour(int slot, int column) const {
   const Mark mark = marks_.empty() ? Mark::None : marks_[static_cast<std::size_t>(slot)];
-  if (mark == Mark::Found) return Routines::Colours::Found;
-  if (column == 0) return Routines::Colours::Header;
-  if (mark == Mark::Filtered) return Routines::Colours::Filtered;
-  return kind_.colour(document_.Tables(), slot, column);
+  if (mark == Mark::Found) return Colours::Found;
+  if (column == 0) return Colours::Header;
+  if (mark == Mark::Filtered) return Colours::Filtered;
+  const State& state = document_.Tables();
+  if (!OfChannels() && column == Routines::TransponderColumn::Frequency &&
+      Routines::ShowsNoFrequency(state.Transponder(slot).record))
+    return Colours::NoFrequency;
+  return ColourOf(kind_.rowKind(state, slot));
 }
 
 void ListModel::SetMark(int slot, Mark mark) {

@@ -16,7 +16,7 @@ class ListModel : public TableModel {
     std::string_view header;
     int (*rows)(const Routines::State&);
     std::string (*cell)(const Routines::State&, int slot, int column);
-    Routines::Colour (*colour)(const Routines::State&, int slot, int column);
+    Routines::RowKind (*rowKind)(const Routines::State&, int slot);
     bool movable;  // rows can be dragged to other places
   };
   static const Kind Channels;
@@ -49,11 +49,11 @@ class ListModel : public TableModel {
 
  protected:
   [[nodiscard]] QString CellText(int slot, int column) const override;
-  [[nodiscard]] Routines::Colour CellColour(int slot, int column) const override;
+  [[nodiscard]] Colour CellColour(int slot, int column) const override;
 
  private:
   void Refresh();
-  [[nodiscard]] QString SpokenColour(int slot) const;
+  [[nodiscard]] QString SpokenKind(int slot) const;
 
   const Document& document_;
   const Kind& kind_;

@@ -143,6 +143,16 @@ void ListView::FinishEditing() {
   }
 }
 
+void ListView::GoToRow(View view, int slot) {
+  Show(view);
+  SelectInMiddle(slot);
+}
+
+void ListView::SelectInMiddle(int slot) {
+  grid_->Select({slot, slot});
+  grid_->scrollTo(grid_->currentIndex(), QAbstractItemView::PositionAtCenter);
+}
+
 void ListView::ShowFound(int slot) {
   channels_.SetMark(slot, ListModel::Mark::Found);
   GoTo(slot);
@@ -178,8 +188,7 @@ void ListView::StepMatch(bool forward) {
                     : std::lower_bound(matches.begin(), matches.end(), here);
   if (forward && at == matches.end()) at = matches.begin();
   if (!forward) at = (at == matches.begin() ? matches.end() : at) - 1;
-  grid_->Select({*at, *at});
-  grid_->scrollTo(grid_->model()->index(*at - 1, 1), QAbstractItemView::PositionAtCenter);
+  SelectInMiddle(*at);
 }
 
 }  // namespace Ui

@@ -49,6 +49,8 @@ class ListView : public QWidget {
   // Takes what is in an open editor, or drops it where it is refused.
   void FinishEditing();
 
+  // Shows a list with one of its rows selected and in the middle.
+  void GoToRow(View view, int slot);
   // Makes a channel current and the first visible one, with nothing selected.
   void GoTo(int slot);
   // Does so with a channel that a search has found, and paints its row.
@@ -69,6 +71,7 @@ class ListView : public QWidget {
   void ShowHint();
   void MarkMatches();
   void StepMatch(bool forward);
+  void SelectInMiddle(int slot);
 
   const Document& document_;
   QAction& showChannels_;

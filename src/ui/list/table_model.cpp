@@ -7,11 +7,6 @@
 
 namespace Ui {
 
-QColor ToColor(Routines::Colour colour) {
-  return {static_cast<int>(colour & 255U), static_cast<int>(colour >> 8U & 255U),
-          static_cast<int>(colour >> 16U & 255U)};
-}
-
 TableModel::TableModel(std::string_view header, QObject* parent)
     : QAbstractTableModel(parent), header_(ParseHeader(header)) {}
 
@@ -38,8 +33,7 @@ QVariant TableModel::data(const QModelIndex& index, int role) const {
     case Qt::BackgroundRole:
       return QBrush(ToColor(CellColour(row, index.column())));
     case Qt::ForegroundRole:
-      return QBrush(CellColour(row, index.column()) == Routines::Colours::NoFrequency ? Qt::white
-                                                                                      : Qt::black);
+      return QBrush(TextOn(CellColour(row, index.column())));
     default:
       return {};
   }

@@ -1,15 +1,12 @@
 // What a grid shows: a table with a header of its own.
 #pragma once
 
-#include "model/cells.h"
 #include "ui/list/header_format.h"
+#include "ui/list/row_colours.h"
 
 #include <QAbstractTableModel>
-#include <QColor>
 
 namespace Ui {
-
-QColor ToColor(Routines::Colour colour);
 
 // Dragged rows, as "FIRST LAST" from 1 on: of the channel list and of the SDX table.
 inline constexpr const char* SlotsType = "application/x-trovalis-slots";
@@ -29,7 +26,7 @@ class TableModel : public QAbstractTableModel {
  protected:
   // Text and colour of a cell; `row` counts from 1.
   [[nodiscard]] virtual QString CellText(int row, int column) const = 0;
-  [[nodiscard]] virtual Routines::Colour CellColour(int row, int column) const = 0;
+  [[nodiscard]] virtual Colour CellColour(int row, int column) const = 0;
 
   // The rows of some cells as dragged data of a type.
   [[nodiscard]] static QMimeData* RowsAs(const char* type, const QModelIndexList& indexes);

@@ -2,7 +2,7 @@
 
 #include "ui/kit/dialogs.h"
 #include "ui/kit/text.h"
-#include "ui/list/table_model.h"
+#include "ui/list/row_colours.h"
 
 #include <utility>
 
@@ -85,7 +85,7 @@ QVariant TreeModel::data(const QModelIndex& index, int role) const {
     case Qt::EditRole:
       return CodePageText(channel != nullptr ? channel->Name() : GroupOf(index)->text);
     case Qt::DecorationRole:
-      return channel != nullptr ? QVariant(ToColor(channel->colour)) : QVariant();
+      return channel != nullptr ? QVariant(ToColor(ColourOf(channel->kind))) : QVariant();
     default:
       return {};
   }

@@ -1,7 +1,5 @@
 #include "ui/review/compare_commands.h"
 
-#include "support/pos_ini.h"
-#include "ui/kit/text.h"
 #include "ui/review/compare_window.h"
 
 #include <QMainWindow>
@@ -14,9 +12,8 @@ void CompareCommands::Connect(Actions& actions) {
 }
 
 void CompareCommands::Confronta() {
-  const std::string folder = Support::RememberedFolder(session_.programFolder, Support::FolderKind::Input);
-  const std::string path = PathBytes(
-      session_.dialogs.OpenFile({"Selezionare la flash da confrontare", FlashFilters, PathText(folder)}));
+  const std::string path =
+      session_.AskOpen("Selezionare la flash da confrontare", FlashFilters, FolderKind::Input);
   if (path.empty()) return;
   const auto rates = session_.LoadSymbolRates();
   if (!rates) return;
@@ -25,7 +22,7 @@ void CompareCommands::Confronta() {
     session_.Message(read.error());
     return;
   }
-  Support::RememberFolderOf(session_.programFolder, Support::FolderKind::Input, path);
+  session_.RememberFolder(FolderKind::Input, path);
   Compare(std::move(other));
 }
 
@@ -44,13 +41,12 @@ void CompareCommands::ConfrontaDisco() {
 }
 
 void CompareCommands::Compare(OtherFlash other) {
-  if (shown_) shown_->close();
+  if (auto* open = OpenWindow<CompareWindow>(window_)) open->close();
   if (other.Compare(session_).Nothing()) {
     session_.dialogs.Message("Nessuna differenza", {}, Tone::Information);
     return;
   }
-  shown_ = new CompareWindow(session_, std::move(other), window_);
-  shown_->show();
+  (new CompareWindow(session_, std::move(other), window_))->BringUp();
 }
 
 }  // namespace Ui

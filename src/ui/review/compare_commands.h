@@ -4,13 +4,9 @@
 #include "ui/review/other_flash.h"
 #include "ui/session/actions.h"
 
-#include <QPointer>
-
 class QMainWindow;
 
 namespace Ui {
-
-class CompareWindow;
 
 class CompareCommands {
  public:
@@ -26,7 +22,6 @@ class CompareCommands {
 
   Session& session_;
   QMainWindow& window_;
-  QPointer<CompareWindow> shown_;
 };
 
 }  // namespace Ui

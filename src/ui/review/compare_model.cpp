@@ -3,7 +3,7 @@
 #include "base/text.h"
 #include "ui/kit/dialogs.h"
 #include "ui/kit/text.h"
-#include "ui/list/table_model.h"
+#include "ui/list/row_colours.h"
 
 #include <QBrush>
 
@@ -159,7 +159,8 @@ QVariant CompareModel::data(const QModelIndex& index, int role) const {
                                     : QVariant();
     case Qt::BackgroundRole:
       if (!channel || slot == 0) return {};
-      return QBrush(ToColor(Routines::ChannelColour(index.column() == Here ? *here_ : *there_, slot)));
+      return QBrush(
+          ToColor(ColourOf(Routines::ChannelRowKind(index.column() == Here ? *here_ : *there_, slot))));
     case Qt::ForegroundRole:
       return channel && slot != 0 ? QVariant(QBrush(Qt::black)) : QVariant();
     default:

@@ -5,10 +5,7 @@
 #include "ui/kit/flow_layout.h"
 #include "ui/kit/screen_fit.h"
 #include "ui/kit/text.h"
-#include "ui/session/commands.h"
-#include "ui/session/control_tips.h"
 
-#include <QAction>
 #include <QCheckBox>
 #include <QHeaderView>
 #include <QKeyEvent>
@@ -47,7 +44,8 @@ QString Report(const Edit::TakeOverReport& report) {
 }  // namespace
 
 CompareWindow::CompareWindow(Session& session, OtherFlash other, QMainWindow& window)
-    : QDialog(&window),
+    : ToolWindow("FinestraConfronto",
+                 other.OnDisk() ? "Confronto con il file su disco" : "Confronto con un'altra flash", &window),
       session_(session),
       other_(std::move(other)),
       model_(new CompareModel(Other(), this)),
@@ -55,17 +53,12 @@ CompareWindow::CompareWindow(Session& session, OtherFlash other, QMainWindow& wi
       names_(new ElidedLabel(Qt::ElideMiddle, this)),
       rest_(new QLabel(this)),
       result_(new ElidedLabel(Qt::ElideRight, this)) {
-  setObjectName("FinestraConfronto");
-  setWindowTitle(other_.OnDisk() ? "Confronto con il file su disco" : "Confronto con un'altra flash");
-  setAttribute(Qt::WA_DeleteOnClose);
   names_->setObjectName("NomiConfronto");
   rest_->setObjectName("AltreDifferenze");
   rest_->setTextFormat(Qt::PlainText);
   rest_->setWordWrap(true);
   result_->setObjectName("RisultatoConfronto");
-  // Undo and redo work here as they do in the main window.
-  for (const CommandName name : {CommandName("Annulla"), CommandName("Ripeti")})
-    addAction(&CommandAction(window, name));
+  TakeKeys(window);
   SetUpTable();
   auto* column = new QVBoxLayout(this);
   column->addWidget(names_);
@@ -84,7 +77,6 @@ CompareWindow::CompareWindow(Session& session, OtherFlash other, QMainWindow& wi
   Refresh();
   if (model_->rowCount() > 0) table_->selectRow(0);
   Tell("Un clic porta al canale; la barra spaziatrice segna le righe selezionate.");
-  ShowTips(*this);
   table_->setFocus();
 }
 
@@ -129,32 +121,15 @@ void CompareWindow::SetUpTable() {
 }
 
 QLayout* CompareWindow::Buttons() {
-  auto* row = new QHBoxLayout;
   auto* left = new FlowLayout;
-  row->addLayout(left, 1);
-  goTo_ = AddButton(*left, "VaiAlDiverso", "Vai al canale");
-  connect(goTo_, &QPushButton::clicked, this, [this] { GoTo(table_->currentIndex()); });
-  connect(AddButton(*left, "SegnaTutti", "Segna tutti"), &QPushButton::clicked, this,
-          [this] { TickAll(true); });
-  connect(AddButton(*left, "TogliSegni", "Togli i segni"), &QPushButton::clicked, this,
-          [this] { TickAll(false); });
-  apply_ = AddButton(*left, "ApplicaSegnati", "Applica i segnati");
-  connect(apply_, &QPushButton::clicked, this, &CompareWindow::Apply);
+  goTo_ = AddButton(*left, "VaiAlDiverso", "Vai al canale", [this] { GoTo(table_->currentIndex()); });
+  AddButton(*left, "SegnaTutti", "Segna tutti", [this] { TickAll(true); });
+  AddButton(*left, "TogliSegni", "Togli i segni", [this] { TickAll(false); });
+  apply_ = AddButton(*left, "ApplicaSegnati", "Applica i segnati", [this] { Apply(); });
   order_ = AddButton(*left, "PrendiOrdine",
-                     other_.OnDisk() ? "Prendi l'ordine del disco" : "Prendi l'ordine dell'altra");
-  connect(order_, &QPushButton::clicked, this, &CompareWindow::TakeOrder);
-  QPushButton* close = AddButton(*row, "ChiudiConfronto", "Chiudi");
-  row->setAlignment(close, Qt::AlignBottom);
-  connect(close, &QPushButton::clicked, this, &QDialog::close);
-  return row;
-}
-
-QPushButton* CompareWindow::AddButton(QLayout& row, const char* name, const QString& caption) {
-  auto* button = new QPushButton(caption, this);
-  button->setObjectName(name);
-  button->setAutoDefault(false);
-  row.addWidget(button);
-  return button;
+                     other_.OnDisk() ? "Prendi l'ordine del disco" : "Prendi l'ordine dell'altra",
+                     [this] { TakeOrder(); });
+  return WithClose(left, "ChiudiConfronto");
 }
 
 void CompareWindow::Refresh() {
@@ -238,11 +213,7 @@ void CompareWindow::GoTo(const QModelIndex& index) {
     Tell("Il canale non è in questa lista.");
     return;
   }
-  session_.view.Show(View::Channels);
-  Grid& grid = session_.view.ListGrid();
-  grid.Select({slot, slot});
-  grid.scrollTo(grid.currentIndex(), QAbstractItemView::PositionAtCenter);
-  session_.status.ShowResult(QString("Canale %1").arg(slot));
+  session_.GoToChannel(slot);
 }
 
 void CompareWindow::Apply() {
@@ -269,14 +240,14 @@ void CompareWindow::TakeOrder() {
 }
 
 bool CompareWindow::eventFilter(QObject* watched, QEvent* event) {
-  if (watched != table_ || event->type() != QEvent::KeyPress) return QDialog::eventFilter(watched, event);
+  if (watched != table_ || event->type() != QEvent::KeyPress) return ToolWindow::eventFilter(watched, event);
   const int key = static_cast<QKeyEvent*>(event)->key();
   if (key == Qt::Key_Space) {
     TickSelected();
   } else if (key == Qt::Key_Return || key == Qt::Key_Enter) {
     GoTo(table_->currentIndex());
   } else {
-    return QDialog::eventFilter(watched, event);
+    return ToolWindow::eventFilter(watched, event);
   }
   return true;
 }

@@ -5,20 +5,17 @@
 #include "edit/take_over.h"
 #include "ui/review/compare_model.h"
 #include "ui/review/other_flash.h"
-
-#include <QDialog>
+#include "ui/session/tool_window.h"
 
 class QCheckBox;
 class QLabel;
-class QMainWindow;
-class QPushButton;
 class QTableView;
 
 namespace Ui {
 
 class ElidedLabel;
 
-class CompareWindow : public QDialog {
+class CompareWindow : public ToolWindow {
   Q_OBJECT
 
  public:
@@ -31,7 +28,6 @@ class CompareWindow : public QDialog {
   QLayout* KindBoxes();
   void SetUpTable();
   QLayout* Buttons();
-  QPushButton* AddButton(QLayout& row, const char* name, const QString& caption);
 
   // Compares anew; `Fill` shows the same differences by other boxes.
   void Refresh();

@@ -7,10 +7,7 @@
 #include "ui/kit/flow_layout.h"
 #include "ui/kit/screen_fit.h"
 #include "ui/kit/text.h"
-#include "ui/session/commands.h"
-#include "ui/session/control_tips.h"
 
-#include <QAction>
 #include <QCheckBox>
 #include <QHeaderView>
 #include <QLabel>
@@ -31,8 +28,6 @@ namespace {
 constexpr int SlotRole = Qt::UserRole;
 constexpr int ColumnGap = 12;
 constexpr bool IsNumber(int column) { return column >= 3 && column <= 5; }
-
-const ChannelRecord& ChannelAt(const State& state, int slot) { return state.Channel(slot); }
 
 QString NameOf(const ChannelRecord& channel) { return CodePageText(Base::TrimmedRight(channel.Name())); }
 
@@ -61,8 +56,8 @@ std::map<int, QString> FavouritesOf(const State& state) {
 }  // namespace
 
 void CanaliDoppi(Session& session, QMainWindow& window) {
-  if (auto* open = window.findChild<DuplicatesWindow*>(); open != nullptr && open->isVisible()) {
-    open->activateWindow();
+  if (auto* open = OpenWindow<DuplicatesWindow>(window)) {
+    open->BringUp();
     return;
   }
   const State& state = session.document.Tables();
@@ -75,31 +70,28 @@ void CanaliDoppi(Session& session, QMainWindow& window) {
     }
     if (!session.dialogs.YesNo("Nessun canale doppio\nCercare anche i canali con lo stesso nome?")) return;
   }
-  auto* found = new DuplicatesWindow(session, rules, &window);
-  for (const CommandName name : {CommandName("Annulla"), CommandName("Ripeti")})
-    found->addAction(&CommandAction(window, name));
-  found->show();
+  (new DuplicatesWindow(session, rules, window))->BringUp();
 }
 
-DuplicatesWindow::DuplicatesWindow(Session& session, const Review::DuplicateRules& rules, QWidget* parent)
-    : QDialog(parent), session_(session), tree_(new QTreeWidget(this)), counts_(new QLabel(this)) {
-  setObjectName("FinestraCanaliDoppi");
-  setWindowTitle("Canali Doppi");
-  setAttribute(Qt::WA_DeleteOnClose);
+DuplicatesWindow::DuplicatesWindow(Session& session, const Review::DuplicateRules& rules, QMainWindow& window)
+    : ToolWindow("FinestraCanaliDoppi", "Canali Doppi", &window),
+      session_(session),
+      tree_(new QTreeWidget(this)),
+      counts_(new QLabel(this)) {
+  TakeKeys(window);
   counts_->setObjectName("ConteggioDoppi");
   SetUpTree();
   auto* column = new QVBoxLayout(this);
   column->addWidget(RuleBoxes(rules));
   column->addWidget(tree_, 1);
   column->addWidget(counts_);
-  column->addWidget(Buttons());
+  column->addLayout(Buttons());
   ResizeOnScreen(*this, {760, 480});
   setTabOrder(name_, tree_);
   setTabOrder(tree_, goTo_);
 
   connect(&session.document, &Document::Changed, this, &DuplicatesWindow::Refresh);
   Refresh();
-  ShowTips(*this);
   tree_->setFocus();
 }
 
@@ -121,26 +113,14 @@ QWidget* DuplicatesWindow::RuleBoxes(const Review::DuplicateRules& rules) {
   return box;
 }
 
-QWidget* DuplicatesWindow::Buttons() {
-  auto* box = new QWidget(this);
-  auto* row = new QHBoxLayout(box);
-  row->setContentsMargins(0, 0, 0, 0);
+QLayout* DuplicatesWindow::Buttons() {
   auto* left = new FlowLayout;
-  row->addLayout(left, 1);
-  const auto add = [&](QLayout& place, const char* name, const char* caption, const auto& run) {
-    auto* button = new QPushButton(caption, box);
-    button->setObjectName(name);
-    button->setAutoDefault(false);  // Enter goes to the channel
-    connect(button, &QPushButton::clicked, this, run);
-    place.addWidget(button);
-    return button;
-  };
-  goTo_ = add(*left, "VaiAlDoppio", "Vai al canale", [this] { GoTo(tree_->currentItem()); });
-  deleteChosen_ = add(*left, "EliminaScelti", "Elimina scelti", [this] { Delete(Chosen()); });
-  deleteOthers_ = add(*left, "EliminaTranneIlPrimo", "Elimina tutti tranne il primo",
-                      [this] { Delete(Review::Surplus(session_.document.Tables(), Rules(), groups_)); });
-  row->setAlignment(add(*row, "ChiudiDoppi", "Chiudi", [this] { close(); }), Qt::AlignBottom);
-  return box;
+  goTo_ = AddButton(*left, "VaiAlDoppio", "Vai al canale", [this] { GoTo(tree_->currentItem()); });
+  deleteChosen_ = AddButton(*left, "EliminaScelti", "Elimina scelti", [this] { Delete(Chosen()); });
+  deleteOthers_ = AddButton(*left, "EliminaTranneIlPrimo", "Elimina tutti tranne il primo", [this] {
+    Delete(Review::Surplus(session_.document.Tables(), Rules(), groups_));
+  });
+  return WithClose(left, "ChiudiDoppi");
 }
 
 void DuplicatesWindow::SetUpTree() {
@@ -173,7 +153,7 @@ void DuplicatesWindow::Refresh() {
   std::vector<std::vector<ChannelRecord>> channels;
   for (const auto& group : groups_) {
     auto& records = channels.emplace_back();
-    for (const int slot : group) records.push_back(ChannelAt(state, slot));
+    for (const int slot : group) records.push_back(state.Channel(slot));
   }
   const bool rebuild = channels != shown_;
   shown_ = std::move(channels);
@@ -268,7 +248,7 @@ void DuplicatesWindow::FillTexts() {
 void DuplicatesWindow::FillChannel(QTreeWidgetItem& item, int slot, const QString& favourites) {
   const State& state = session_.document.Tables();
   const auto cell = [&](int column) { return CodePageText(Routines::ChannelCell(state, slot, column)); };
-  const ChannelRecord& channel = ChannelAt(state, slot);
+  const ChannelRecord& channel = state.Channel(slot);
   item.setData(0, SlotRole, slot);
   const QString texts[] = {cell(0), NameOf(channel), TransponderOf(state, channel), cell(3), cell(4),
                            cell(5), favourites};
@@ -305,13 +285,7 @@ std::vector<int> DuplicatesWindow::Chosen() const {
 }
 
 void DuplicatesWindow::GoTo(const QTreeWidgetItem* item) {
-  if (item == nullptr) return;
-  const int slot = item->data(0, SlotRole).toInt();
-  session_.view.Show(View::Channels);
-  session_.view.ListGrid().Select({slot, slot});
-  session_.view.ListGrid().scrollTo(session_.view.ListGrid().currentIndex(),
-                                    QAbstractItemView::PositionAtCenter);
-  session_.status.ShowResult(QString("Canale %1").arg(slot));
+  if (item != nullptr) session_.GoToChannel(item->data(0, SlotRole).toInt());
 }
 
 void DuplicatesWindow::Delete(const std::vector<int>& slots) {

@@ -3,15 +3,12 @@
 
 #include "review/duplicates.h"
 #include "ui/session/session.h"
-
-#include <QDialog>
+#include "ui/session/tool_window.h"
 
 #include <map>
 
 class QCheckBox;
 class QLabel;
-class QMainWindow;
-class QPushButton;
 class QTreeWidget;
 class QTreeWidgetItem;
 
@@ -20,15 +17,15 @@ namespace Ui {
 // The command: shows the window, or says that there is nothing to show.
 void CanaliDoppi(Session& session, QMainWindow& window);
 
-class DuplicatesWindow : public QDialog {
+class DuplicatesWindow : public ToolWindow {
   Q_OBJECT
 
  public:
-  DuplicatesWindow(Session& session, const Review::DuplicateRules& rules, QWidget* parent);
+  DuplicatesWindow(Session& session, const Review::DuplicateRules& rules, QMainWindow& window);
 
  private:
   QWidget* RuleBoxes(const Review::DuplicateRules& rules);
-  QWidget* Buttons();
+  QLayout* Buttons();
   void SetUpTree();
 
   // A channel's row in the tree, and what the user did there.

@@ -2,10 +2,8 @@
 
 #include "ui/kit/screen_fit.h"
 #include "ui/kit/text.h"
-#include "ui/session/commands.h"
-#include "ui/session/control_tips.h"
+#include "ui/list/row_colours.h"
 
-#include <QAction>
 #include <QHeaderView>
 #include <QLabel>
 #include <QMainWindow>
@@ -63,6 +61,24 @@ QString CountedRows(const OverviewLine& line) {
   return Counted(count, "canale", "canali");
 }
 
+// Of the rows in the grid where they are of one kind, else one that stands for the section.
+Colour BarColour(const OverviewLine& line) {
+  if (line.wrong) return Colours::Wrong;
+  // In the grid those are white.
+  if (line.kind == Routines::RowKind::FreeTransponder) return ColourOf(Routines::RowKind::EmptySlot);
+  if (line.kind) return ColourOf(*line.kind);
+  switch (line.section) {
+    case Section::Satellite:
+      return {0xD0A060};
+    case Section::Bouquet:
+      return {0x90B040};
+    case Section::Coding:
+      return {0x40A0E0};
+    default:
+      return {0x60B060};
+  }
+}
+
 double ShareOf(const OverviewLine& line) {
   return line.of == 0 ? 0.0 : static_cast<double>(line.slots.size()) / line.of;
 }
@@ -102,28 +118,21 @@ class BarDelegate : public QStyledItemDelegate {
 }  // namespace
 
 void ShowOverview(Session& session, QMainWindow& window) {
-  auto* shown = window.findChild<OverviewWindow*>();
+  auto* shown = OpenWindow<OverviewWindow>(window);
   if (shown == nullptr) {
-    shown = new OverviewWindow(session, &window);
-    for (const CommandName name : std::initializer_list<CommandName>{"Annulla", "Ripeti", "CercaSuccessivo"})
-      shown->addAction(&CommandAction(window, name));
+    shown = new OverviewWindow(session, window);
     // At the right, where it leaves numbers and names of the rows in sight.
     shown->move(window.geometry().topRight() - QPoint(shown->width() + 12, -90));
   }
-  shown->show();
-  shown->raise();
-  shown->activateWindow();
+  shown->BringUp();
 }
 
-OverviewWindow::OverviewWindow(Session& session, QWidget* parent)
-    : QDialog(parent),
+OverviewWindow::OverviewWindow(Session& session, QMainWindow& window)
+    : ToolWindow("FinestraRiepilogo", "Riepilogo", &window),
       session_(session),
       tree_(new QTreeWidget(this)),
-      totals_(new QLabel(this)),
-      goTo_(new QPushButton("Vai alle righe", this)) {
-  setObjectName("FinestraRiepilogo");
-  setWindowTitle("Riepilogo");
-  setAttribute(Qt::WA_DeleteOnClose);
+      totals_(new QLabel(this)) {
+  TakeKeys(window, {"CercaSuccessivo"});
   SetUpTree();
   totals_->setObjectName("RiepilogoTotali");
   totals_->setTextFormat(Qt::PlainText);
@@ -131,12 +140,11 @@ OverviewWindow::OverviewWindow(Session& session, QWidget* parent)
   auto* column = new QVBoxLayout(this);
   column->addWidget(totals_);
   column->addWidget(tree_, 1);
-  column->addWidget(Bottom());
+  column->addLayout(Bottom());
   ResizeOnScreen(*this, {600, 560});
   connect(&session.document, &Document::Changed, this, &OverviewWindow::Refresh);
   Refresh();
   if (!items_.empty()) tree_->setCurrentItem(items_.front());
-  ShowTips(*this);
   tree_->setFocus();
 }
 
@@ -165,23 +173,13 @@ void OverviewWindow::SetUpTree() {
           [this, sectionOf](QTreeWidgetItem* item) { closed_.erase(sectionOf(item)); });
 }
 
-QWidget* OverviewWindow::Bottom() {
-  auto* box = new QWidget(this);
-  auto* row = new QHBoxLayout(box);
-  row->setContentsMargins(0, 0, 0, 0);
-  auto* hint = new QLabel("Un clic o Invio mostra le righe; F3 va alla prossima.");
+QLayout* OverviewWindow::Bottom() {
+  auto* row = new QHBoxLayout;
+  auto* hint = new QLabel("Un clic o Invio mostra le righe; F3 va alla prossima.", this);
   hint->setWordWrap(true);
   row->addWidget(hint, 1);
-  auto* close = new QPushButton("Chiudi", box);
-  close->setObjectName("ChiudiRiepilogo");
-  goTo_->setObjectName("VaiAlleRighe");
-  for (QPushButton* button : {goTo_, close}) {
-    button->setAutoDefault(false);  // Enter goes to the rows
-    row->addWidget(button);
-  }
-  connect(goTo_, &QPushButton::clicked, this, [this] { GoTo(tree_->currentItem()); });
-  connect(close, &QPushButton::clicked, this, &QDialog::close);
-  return box;
+  goTo_ = AddButton(*row, "VaiAlleRighe", "Vai alle righe", [this] { GoTo(tree_->currentItem()); });
+  return WithClose(row, "ChiudiRiepilogo");
 }
 
 void OverviewWindow::Refresh() {
@@ -231,7 +229,7 @@ void OverviewWindow::FillTexts() {
     const OverviewLine& line = lines_[i];
     QTreeWidgetItem& item = *items_[i];
     item.setData(Bar, LengthRole, ShareOf(line) / FullShare(lines_, line.section));
-    item.setData(Bar, ColourRole, ToColor(line.colour));
+    item.setData(Bar, ColourRole, ToColor(BarColour(line)));
     item.setText(Count, QString::number(line.slots.size()));
     item.setText(Share, QString::number(100 * ShareOf(line), 'f', 1).replace('.', ','));
   }

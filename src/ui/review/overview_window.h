@@ -4,14 +4,11 @@
 
 #include "review/overview.h"
 #include "ui/session/session.h"
-
-#include <QDialog>
+#include "ui/session/tool_window.h"
 
 #include <set>
 
 class QLabel;
-class QMainWindow;
-class QPushButton;
 class QTreeWidget;
 class QTreeWidgetItem;
 
@@ -20,17 +17,17 @@ namespace Ui {
 // The command: shows the window, or says that there is nothing to show.
 void ShowOverview(Session& session, QMainWindow& window);
 
-class OverviewWindow : public QDialog {
+class OverviewWindow : public ToolWindow {
   Q_OBJECT
 
  public:
-  OverviewWindow(Session& session, QWidget* parent);
+  OverviewWindow(Session& session, QMainWindow& window);
 
  private:
   using Lines = std::vector<Review::OverviewLine>;
 
   void SetUpTree();
-  QWidget* Bottom();
+  QLayout* Bottom();
   void Refresh();
   // Makes the tree's items anew; sections that were closed stay closed.
   void Rebuild();
@@ -44,7 +41,7 @@ class OverviewWindow : public QDialog {
   std::set<Review::OverviewSection> closed_;
   QTreeWidget* tree_;
   QLabel* totals_;
-  QPushButton* goTo_;
+  QPushButton* goTo_ = nullptr;
 };
 
 }  // namespace Ui

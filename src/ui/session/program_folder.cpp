@@ -44,7 +44,7 @@ void FillProgramFolder(const std::string& shipped, const std::string& folder) {
   if (!copied.contains(demo)) return;
   for (const auto kind :
        {Support::FolderKind::Input, Support::FolderKind::Foreign, Support::FolderKind::Output}) {
-    Support::RememberFolderOf(folder, kind, PathBytes(to + demo));
+    Support::SaveFolderOf(folder, kind, PathBytes(to + demo));
   }
 }
 

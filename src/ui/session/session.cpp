@@ -10,6 +10,28 @@ QString Session::Losses(const std::vector<Edit::LostFavourite>& lost) const {
   return text.empty() ? QString() : ", " + Text(text);
 }
 
+void Session::GoToChannel(int slot) {
+  view.GoToRow(View::Channels, slot);
+  status.ShowResult(QString("Canale %1").arg(slot));
+}
+
+std::string Session::AskOpen(const QString& title, const QString& filters, FolderKind kind) const {
+  return PathBytes(dialogs.OpenFile({title, filters, PathText(Support::LoadFolder(programFolder, kind))}));
+}
+
+std::string Session::AskSave(const QString& title, const QString& filters, FolderKind kind,
+                             const char* refusal) const {
+  std::string path =
+      PathBytes(dialogs.SaveFile({title, filters, PathText(Support::LoadFolder(programFolder, kind))}));
+  if (!IsFlashOfList(path)) return path;
+  status.ShowResult(QString("%1: %2").arg(refusal, FlashOfListChosen));
+  return {};
+}
+
+void Session::RememberFolder(FolderKind kind, const std::string& path) const {
+  Support::SaveFolderOf(programFolder, kind, path);
+}
+
 bool Session::IsFlashOfList(const std::string& path) const {
   if (path.empty()) return false;
   const Routines::State& state = document.Tables();

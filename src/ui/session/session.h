@@ -5,6 +5,7 @@
 #include "formats/satcodx.h"
 #include "model/flash_file.h"
 #include "support/bouquets_txt.h"
+#include "support/pos_ini.h"
 #include "support/sr_ini.h"
 #include "ui/kit/dialogs.h"
 #include "ui/kit/text.h"
@@ -20,6 +21,8 @@ namespace Ui {
 
 // Why nothing but a save goes into a file that IsFlashOfList knows.
 inline constexpr const char* FlashOfListChosen = "il file scelto è la flash aperta o quella di output";
+
+using Support::FolderKind;
 
 struct Session {
   std::string programFolder;
@@ -53,6 +56,18 @@ struct Session {
 
   // Window geometry, recent files and the like.
   [[nodiscard]] QString SettingsFile() const { return PathText(programFolder + "/trovalis.ini"); }
+
+  // Shows a channel of the list and tells its number.
+  void GoToChannel(int slot);
+
+  // The file that the user chooses, asked for in the folder remembered for its kind; empty where the user gives up.
+  [[nodiscard]] std::string AskOpen(const QString& title, const QString& filters, FolderKind kind) const;
+  // Does so for a file to write, which the flash of the list must not be: the status bar says that and, in `refusal`,
+  // what has not been done.
+  [[nodiscard]] std::string AskSave(const QString& title, const QString& filters, FolderKind kind,
+                                    const char* refusal) const;
+  // Makes the folder of a chosen file the one for its kind.
+  void RememberFolder(FolderKind kind, const std::string& path) const;
 
   // Whether a file about to be written is the opened flash or the one of the output, which only a save may write.
   [[nodiscard]] bool IsFlashOfList(const std::string& path) const;

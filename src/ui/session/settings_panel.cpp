@@ -30,7 +30,7 @@ class SettingsGroup : public QGroupBox {
   void paintEvent(QPaintEvent* event) override {
     QGroupBox::paintEvent(event);
     if (!standsOut_) return;
-    QColor colour = ToColor(Routines::Colours::Found);
+    QColor colour = ToColor(Colours::Found);
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setPen(QPen(colour, 3));

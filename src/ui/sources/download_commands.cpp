@@ -1,7 +1,6 @@
 #include "ui/sources/download_commands.h"
 
 #include "base/file.h"
-#include "support/pos_ini.h"
 #include "support/sdx_ini.h"
 #include "ui/kit/text.h"
 
@@ -25,7 +24,7 @@ void DownloadCommands::ScaricaInternet() {
     session_.status.ShowResult("Uno scaricamento è già in corso");
     return;
   }
-  const auto addresses = Support::ReadSdxIni(session_.programFolder);
+  const auto addresses = Support::LoadAddresses(session_.programFolder);
   if (!addresses) {
     session_.Message(addresses.error());
     return;
@@ -41,16 +40,10 @@ void DownloadCommands::Fetch(const QString& address) {
     return;
   }
   frame_.hide();
-  const auto kind = Support::FolderKind::Foreign;
-  path_ = PathBytes(
-      session_.dialogs.SaveFile({"Selezionare il file SDX di OUTPUT", "SatcoDX files(*.sdx)|*.sdx|",
-                                 PathText(Support::RememberedFolder(session_.programFolder, kind))}));
+  path_ = session_.AskSave("Selezionare il file SDX di OUTPUT", "SatcoDX files(*.sdx)|*.sdx|",
+                           FolderKind::Foreign, "Non scaricato");
   if (path_.empty()) return;
-  if (session_.IsFlashOfList(path_)) {
-    session_.status.ShowResult(QString("Non scaricato: ") + FlashOfListChosen);
-    return;
-  }
-  Support::RememberFolderOf(session_.programFolder, kind, path_);
+  session_.RememberFolder(FolderKind::Foreign, path_);
   // Whatever becomes of the transfer, the file no longer holds an older list.
   if (const auto emptied = Base::ReplaceFile(path_, {}); !emptied) {
     session_.Message(emptied.error());

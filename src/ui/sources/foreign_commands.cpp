@@ -3,15 +3,12 @@
 #include "base/file.h"
 #include "formats/flash_rows.h"
 #include "formats/foreign_list.h"
-#include "support/pos_ini.h"
 #include "ui/kit/text.h"
 #include "ui/kit/toolkit.h"
 #include "ui/sources/foreign_dialog.h"
 #include "ui/sources/foreign_settings.h"
 
 namespace Ui {
-
-using Support::FolderKind;
 
 namespace {
 
@@ -26,9 +23,8 @@ void ForeignCommands::Connect(Actions& actions) {
 }
 
 void ForeignCommands::CaricaAggiuntiva() {
-  const std::string path = PathBytes(session_.dialogs.OpenFile(
-      {"Selezionare la flash aggiuntiva", FlashFilters,
-       PathText(Support::RememberedFolder(session_.programFolder, FolderKind::Input))}));
+  const std::string path =
+      session_.AskOpen("Selezionare la flash aggiuntiva", FlashFilters, FolderKind::Input);
   if (path.empty()) return;
   const auto image = Waiting([&] { return Routines::ReadFlash(path, "Errore FLASH di Input"); });
   if (!image) {
@@ -47,12 +43,12 @@ void ForeignCommands::CaricaAggiuntiva() {
 }
 
 void ForeignCommands::Importa(const QString& kind, const QString& caption) {
-  const std::string path = PathBytes(session_.dialogs.OpenFile(
-      {"Selezionare il file da importare",
-       "File di testo(*.txt *.csv *.ini *.dat)|*.txt *.csv *.ini *.dat|Tutti i file (*.*)|*.*|",
-       PathText(Support::RememberedFolder(session_.programFolder, FolderKind::Foreign))}));
+  const std::string path = session_.AskOpen(
+      "Selezionare il file da importare",
+      "File di testo(*.txt *.csv *.ini *.dat)|*.txt *.csv *.ini *.dat|Tutti i file (*.*)|*.*|",
+      FolderKind::Foreign);
   if (path.empty()) return;
-  Support::RememberFolderOf(session_.programFolder, FolderKind::Foreign, path);
+  session_.RememberFolder(FolderKind::Foreign, path);
   const auto bytes = Waiting([&] { return Base::ReadFile(path, LargestList); });
   if (!bytes) {
     session_.Message(bytes.error());

@@ -3,7 +3,6 @@
 #include "base/file.h"
 #include "base/text.h"
 #include "formats/sdx_import.h"
-#include "support/pos_ini.h"
 #include "ui/kit/text.h"
 #include "ui/kit/toolkit.h"
 #include "ui/sources/sdx_dialogs.h"
@@ -53,12 +52,11 @@ void SdxCommands::Connect(Actions& actions) {
 
 void SdxCommands::Carica(std::string path) {
   if (path.empty()) {
-    path = PathBytes(session_.dialogs.OpenFile(
-        {"Selezionare il file SDX di input", "SatcoDX files(*.sdx)|*.sdx|Tutti i file (*.*)|*.*|",
-         PathText(Support::RememberedFolder(session_.programFolder, Support::FolderKind::Foreign))}));
+    path = session_.AskOpen("Selezionare il file SDX di input",
+                            "SatcoDX files(*.sdx)|*.sdx|Tutti i file (*.*)|*.*|", FolderKind::Foreign);
   }
   if (path.empty()) return;
-  Support::RememberFolderOf(session_.programFolder, Support::FolderKind::Foreign, path);
+  session_.RememberFolder(FolderKind::Foreign, path);
   Load(path);
 }
 
@@ -113,8 +111,8 @@ void SdxCommands::ListMissing(int satellite, std::string_view text) {
                  .arg(slot, 4, 10, QChar('0'))
                  .arg(CodePageText(Base::TrimmedRight(state.Channel(slot).Name())));
   }
-  if (auto* earlier = window_.findChild<QDialog*>("ElencoNonInSDX")) earlier->close();
-  if (!lines.isEmpty()) (new MissingWindow(lines, session_.dialogs, &window_))->show();
+  if (auto* earlier = OpenWindow<MissingWindow>(window_)) earlier->close();
+  if (!lines.isEmpty()) (new MissingWindow(lines, session_, &window_))->BringUp();
 }
 
 void SdxCommands::ShowPane(bool shown) {

@@ -2,6 +2,7 @@
 
 #include "base/code_page.h"
 #include "base/file.h"
+#include "ui/kit/flow_layout.h"
 #include "ui/kit/screen_fit.h"
 #include "ui/kit/text.h"
 #include "ui/session/control_tips.h"
@@ -144,33 +145,29 @@ SdxImportDialog::SdxImportDialog(QWidget* parent) : QDialog(parent) {
 
 QString SdxImportDialog::Start() const { return fromStart_->isChecked() ? QString("1") : start_->text(); }
 
-MissingWindow::MissingWindow(const QString& text, Dialogs& dialogs, QWidget* parent) : QDialog(parent) {
-  setObjectName("ElencoNonInSDX");
-  setWindowTitle("Elenco canali Non in SDX");
-  setAttribute(Qt::WA_DeleteOnClose);
+MissingWindow::MissingWindow(const QString& text, Session& session, QWidget* parent)
+    : ToolWindow("ElencoNonInSDX", "Elenco canali Non in SDX", parent), session_(session), text_(text) {
   auto* lines = new QPlainTextEdit(text, this);
   lines->setObjectName("RigheNonInSDX");
   lines->setAccessibleName(windowTitle());
   // Not to be changed, but with a cursor, by which keys and screen readers go from line to line.
   lines->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
-  auto* buttons = new QDialogButtonBox(this);
-  auto* copy = buttons->addButton("Copia", QDialogButtonBox::ActionRole);
-  auto* save = buttons->addButton("Salva come testo…", QDialogButtonBox::ActionRole);
-  buttons->addButton(QDialogButtonBox::Close);
-  connect(copy, &QPushButton::clicked, this, [text] { QApplication::clipboard()->setText(text); });
-  connect(save, &QPushButton::clicked, this, [text, &dialogs] {
-    const std::string path =
-        PathBytes(dialogs.SaveFile({"Salva l'elenco", "Files di testo(*.txt)|*.txt", {}}));
-    if (path.empty()) return;
-    const std::string bytes = Base::FromUtf8Lossy(QString(text).replace("\n", "\r\n").toStdString());
-    const auto written = Base::ReplaceFile(path, Base::AsBytes(bytes));
-    if (!written) dialogs.Message(Text(written.error().message), {});
-  });
-  connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::close);
+  auto* buttons = new FlowLayout;
+  AddButton(*buttons, "CopiaNonInSDX", "Copia", [text] { QApplication::clipboard()->setText(text); });
+  AddButton(*buttons, "SalvaNonInSDX", "Salva come testo…", [this] { Save(); });
   auto* column = new QVBoxLayout(this);
   column->addWidget(lines);
-  column->addWidget(buttons);
+  column->addLayout(WithClose(buttons, "ChiudiNonInSDX"));
   ResizeOnScreen(*this, {420, 480});
+}
+
+void MissingWindow::Save() {
+  const std::string path =
+      session_.AskSave("Salva l'elenco", "Files di testo(*.txt)|*.txt", FolderKind::Foreign, "Non salvato");
+  if (path.empty()) return;
+  const std::string bytes = Base::FromUtf8Lossy(QString(text_).replace("\n", "\r\n").toStdString());
+  if (const auto written = Base::ReplaceFile(path, Base::AsBytes(bytes)); !written)
+    session_.Message(written.error());
 }
 
 }  // namespace Ui

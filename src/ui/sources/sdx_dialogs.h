@@ -3,9 +3,8 @@
 
 #include "formats/satcodx.h"
 #include "model/bouquets.h"
-#include "ui/kit/dialogs.h"
-
-#include <QDialog>
+#include "ui/session/session.h"
+#include "ui/session/tool_window.h"
 
 class QCheckBox;
 class QComboBox;
@@ -60,11 +59,17 @@ class SdxImportDialog : public QDialog {
 };
 
 // `ElencoNonInSDX`: lines that can be copied and saved.
-class MissingWindow : public QDialog {
+class MissingWindow : public ToolWindow {
   Q_OBJECT
 
  public:
-  MissingWindow(const QString& text, Dialogs& dialogs, QWidget* parent);
+  MissingWindow(const QString& text, Session& session, QWidget* parent);
+
+ private:
+  void Save();
+
+  Session& session_;
+  QString text_;
 };
 
 }  // namespace Ui

@@ -11,10 +11,6 @@ constexpr std::string_view SdxHeader =
     "^Prog.|<Canale                         |^TID    |^SID      |^VPID  |^APID  |^AECM  |^VECM  |^PCR   "
     "|^Codifica|Satellite|Frequenza|NID  |Bouquet       ";
 
-constexpr Routines::Colour Television = 0x80FFFF;
-constexpr Routines::Colour Radio = 0xFFFFC0;
-constexpr Routines::Colour Data = 0xFFC0FF;
-
 }  // namespace
 
 SdxModel::SdxModel(const Formats::SdxTable& table, QObject* parent)
@@ -39,17 +35,16 @@ QString SdxModel::CellText(int number, int column) const {
   if (column == 0) return Text(Base::ZeroPadded(number, 4));
   if (std::string_view(row.name).starts_with('\0')) return {};
   const std::string codifica = Base::HexByte(row.codifica);
-  const std::string satellite = std::string("SAT ") + static_cast<char>('A' + row.satellite);
+  const std::string satellite = Routines::SatelliteLabel(static_cast<std::uint32_t>(row.satellite));
   const std::string_view cells[] = {row.name,      row.tid,  row.sid,    row.vpid, row.apid,
                                     row.aecm,      row.vecm, row.pcr,    codifica, satellite,
                                     row.frequency, row.nid,  row.bouquet};
   return CodePageText(Base::TrimmedRight(cells[static_cast<std::size_t>(column - 1)]));
 }
 
-Routines::Colour SdxModel::CellColour(int number, int column) const {
-  if (column == 0) return Routines::Colours::Header;
-  const char type = table_.rows[static_cast<std::size_t>(number - 1)].type;
-  return type == 'T' ? Television : type == 'R' ? Radio : Data;
+Colour SdxModel::CellColour(int number, int column) const {
+  if (column == 0) return Colours::Header;
+  return SdxColourOf(table_.rows[static_cast<std::size_t>(number - 1)].Kind());
 }
 
 }  // namespace Ui

@@ -21,7 +21,7 @@ class SdxModel : public TableModel {
 
  protected:
   [[nodiscard]] QString CellText(int row, int column) const override;
-  [[nodiscard]] Routines::Colour CellColour(int row, int column) const override;
+  [[nodiscard]] Colour CellColour(int row, int column) const override;
 
  private:
   const Formats::SdxTable& table_;

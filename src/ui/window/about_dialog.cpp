@@ -22,7 +22,7 @@ AboutDialog::AboutDialog(QWidget* parent) : QDialog(parent) {
   large.setBold(true);
   large.setPointSizeF(large.pointSizeF() * 1.8);
   name->setFont(large);
-  auto* version = new QLabel("Versione 1.0ß", this);
+  auto* version = new QLabel("Versione " TROVALIS_VERSION, this);
   version->setObjectName("Versione");
   auto* text = new QLabel(
       "Editor delle liste canali dei ricevitori satellitari digitali: apre l'immagine della flash, ne mostra "

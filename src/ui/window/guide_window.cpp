@@ -5,7 +5,6 @@
 #include <QHBoxLayout>
 #include <QLineEdit>
 #include <QListWidget>
-#include <QPushButton>
 #include <QScrollBar>
 #include <QShortcut>
 #include <QSplitter>
@@ -39,10 +38,10 @@ class Page : public QTextBrowser {
 }  // namespace
 
 GuideWindow::GuideWindow(QWidget* parent)
-    : QDialog(parent), sections_(new QListWidget(this)), page_(new Page(this)), field_(new QLineEdit(this)) {
-  setObjectName("FinestraGuida");
-  setWindowTitle("Guida a Trovalis");
-  setAttribute(Qt::WA_DeleteOnClose);
+    : ToolWindow("FinestraGuida", "Guida a Trovalis", parent),
+      sections_(new QListWidget(this)),
+      page_(new Page(this)),
+      field_(new QLineEdit(this)) {
   page_->setObjectName("PaginaGuida");
   page_->setAccessibleName("Guida");
   page_->setSource(QUrl(GuidePage), QTextDocument::MarkdownResource);
@@ -62,10 +61,6 @@ GuideWindow::GuideWindow(QWidget* parent)
   connect(field_, &QLineEdit::returnPressed, this, &GuideWindow::Find);
   auto* find = new QShortcut(QKeySequence::Find, this);
   connect(find, &QShortcut::activated, field_, qOverload<>(&QWidget::setFocus));
-  auto* close = new QPushButton("Chiudi", this);
-  close->setObjectName("ChiudiGuida");
-  close->setAutoDefault(false);
-  connect(close, &QPushButton::clicked, this, &QDialog::close);
 
   auto* parts = new QSplitter(this);
   parts->addWidget(sections_);
@@ -73,10 +68,9 @@ GuideWindow::GuideWindow(QWidget* parent)
   parts->setStretchFactor(1, 1);
   auto* bottom = new QHBoxLayout;
   bottom->addWidget(field_, 1);
-  bottom->addWidget(close);
   auto* column = new QVBoxLayout(this);
   column->addWidget(parts, 1);
-  column->addLayout(bottom);
+  column->addLayout(WithClose(bottom, "ChiudiGuida"));
   ResizeOnScreen(*this, {940, 640});
   const int widest = sections_->sizeHintForColumn(0) + 2 * sections_->frameWidth() +
                      sections_->verticalScrollBar()->sizeHint().width();

@@ -1,7 +1,7 @@
 // The guide as a page of the program, with its sections at the side and a field to search it.
 #pragma once
 
-#include <QDialog>
+#include "ui/session/tool_window.h"
 
 class QLineEdit;
 class QListWidget;
@@ -9,7 +9,7 @@ class QTextBrowser;
 
 namespace Ui {
 
-class GuideWindow : public QDialog {
+class GuideWindow : public ToolWindow {
   Q_OBJECT
 
  public:

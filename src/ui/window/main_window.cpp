@@ -169,11 +169,8 @@ void MainWindow::ShowList() {
 }
 
 void MainWindow::ShowGuide() {
-  auto* guide = findChild<GuideWindow*>();
-  if (guide == nullptr) guide = new GuideWindow(this);
-  guide->show();
-  guide->raise();
-  guide->activateWindow();
+  auto* open = OpenWindow<GuideWindow>(*this);
+  (open != nullptr ? open : new GuideWindow(this))->BringUp();
 }
 
 void MainWindow::dragEnterEvent(QDragEnterEvent* event) {

@@ -111,24 +111,17 @@ void TreeCommands::GoToChannel(int slot) {
   const QScopedValueRollback<bool> choosing(choosing_, true);
   // The keys go on walking the tree.
   QWidget* focus = session_.view.window()->focusWidget();
-  session_.view.Show(View::Channels);
-  SelectInGrid(slot);
+  session_.view.GoToRow(View::Channels, slot);
   if (focus != nullptr) focus->setFocus();
 }
 
 void TreeCommands::GoToTransponder(int slot, int firstChannel) {
   const QScopedValueRollback<bool> choosing(choosing_, true);
   if (session_.view.Current() == View::Transponders) {
-    SelectInGrid(slot);
+    session_.view.GoToRow(View::Transponders, slot);
   } else if (firstChannel != 0) {
     GoToChannel(firstChannel);
   }
-}
-
-void TreeCommands::SelectInGrid(int row) {
-  Grid& grid = session_.view.ListGrid();
-  grid.Select({row, row});
-  grid.scrollTo(grid.model()->index(row - 1, 0), QAbstractItemView::PositionAtCenter);
 }
 
 void TreeCommands::ShowSelection() {

@@ -32,7 +32,6 @@ class TreeCommands : public QObject {
   void GoToChannel(int slot);
   void GoToTransponder(int slot, int firstChannel);
   void ShowSelection();
-  void SelectInGrid(int row);
 
   Session& session_;
   SourcesRoom& sources_;
