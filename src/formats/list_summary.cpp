@@ -50,8 +50,8 @@ Overlap OverlapOf(const State& state, const std::vector<ListedTransponder>& tran
 ListSummary SummaryOf(ServiceReader& reader) {
   ListSummary summary;
   DistinctTransponders distinct;
-  ListedService service;
-  while (reader.Read(service)) {
+  while (reader.Read()) {
+    const ListedService& service = reader.Service();
     const ListedTransponder& transponder = service.transponder;
     if (transponder.delivery == Delivery::Other) continue;
     ++summary.services;
