@@ -168,6 +168,47 @@ void AddForeign(Seeds& seeds, const std::string& samples) {
             Bytes({0, 0, 0, 0xFF, 0xFE, 'a', 0, '\t', 0, '1', 0, '\n', 0, 0xAC, 0x20}));
 }
 
+// Behind five bytes of options where a list has services.
+void AddListed(Seeds& seeds) {
+  const std::string channels =
+      "Uno,U;Rai:11766:VC34M2S0:S13E:27500:163+1202=2:650=ita@3;652:577:1,648,D95:12003:1:89:0\n:@201 "
+      "Gruppo\n"
+      "Citt\xC3\xA0:12187:HC23M5O35P0S1:S19.2E:22000:5101=27:0;5106=deu@106:0:0:3:1:1:0\n"
+      "Radio:10719:L:S5W:5632:0:652:0:0:4435:0:65535:0\nCavo:394:M256:C:6900:1:2:0:0:7:1:1:0\n";
+  const std::string blocks =
+      "[Uno]\n\tSERVICE_ID = 16\n\tNETWORK_ID = 1\n\tVIDEO_PID = 512\n\tAUDIO_PID = 650 651\n\tFREQUENCY = "
+      "11766500\n"
+      "\tPOLARIZATION = VERTICAL\n\tSYMBOL_RATE = 27500000\n\tINNER_FEC = 3/4\n\tDELIVERY_SYSTEM = "
+      "DVBS\n[CHANNEL]\n"
+      "\tFREQUENCY = 12000000\n\tPOLARIZATION = LEFT\n";
+  const std::string services =
+      "eDVB services /4/\ntransponders\n00820000:0001:013e\n\ts "
+      "11766000:27500000:1:3:130:2:0\n/\nend\nservices\n"
+      "1f40:00820000:0001:013e:1:0\nUno\np:Rai,c:000200,c:01028a,c:030201,C:0648\nend\n";
+  const std::string lines =
+      "eDVB services /5/\nt:00820000:0001:013e,s:11766000:27500000:1:3:-50:2:0:1:2:0:2\n"
+      "s:1f40:00820000:0001:013e:25:7:0,\"Uno\",p:Rai,c:000200,c:050001\ns:2:0dde0000:1:2:2:0:0,\"Due\",p:,c:"
+      "01028a\n";
+  const std::string table = "[SATTYPE]\n1=0130\n2=Hot Bird\n[DVB]\n0=1\n1=11919,V,27500,23,S2,8PSK\n";
+  const std::string bouquet =
+      "#NAME Mio\n#SERVICE 1:0:1:1F40:1:13E:820000:0:0:0:\n#DESCRIPTION Uno\n#SERVICE "
+      "1:64:1:0:0:0:0:0:0:0::Film\n";
+  const std::string order = "1;Uno;318-1-8000\n;Due;0x13E-0x1-0x1F41\nTre\n";
+  const std::string options = Bytes({0x34, 3, 0, 1, 2});
+  seeds.Add("vdr_channels", "channels", options + channels);
+  seeds.Add("dvbv5", "blocks", options + blocks);
+  seeds.Add("dvbv5", "zap", Bytes({0x80, 0, 0, 0, 0}) + "ZDF:11954:h:0:27500:110:120:28006\n");
+  seeds.Add("lamedb", "four", options + services);
+  seeds.Add("lamedb", "five", options + lines);
+  seeds.Add("scan_table", "ini", table);
+  seeds.Add("scan_table", "name", "Hotbird-13.0E");
+  seeds.Add("userbouquet", "bouquet", bouquet);
+  seeds.Add("order_text", "order", order);
+  int number = 0;
+  for (const std::string& list : {channels, blocks, services, lines, table, bouquet, order})
+    seeds.Add("list_format", std::to_string(++number), list);
+}
+
 // Behind the choices, the satellite and the transponders.
 void AddSatcodx(Seeds& seeds) {
   const std::string list = Samples::DemoSdx().substr(0, 20 * 129);
@@ -203,6 +244,7 @@ int main(int argc, char** argv) {
   AddExchangeFiles(seeds);
   AddRecovery(seeds);
   AddForeign(seeds, argv[1]);
+  AddListed(seeds);
   AddSatcodx(seeds);
   AddSupportFiles(seeds, argv[1]);
   if (!seeds.Failure().empty()) std::fprintf(stderr, "%s\n", seeds.Failure().c_str());

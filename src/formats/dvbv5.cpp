@@ -134,26 +134,21 @@ bool IsZapLine(std::string_view line) {
 bool IsDvbV5(std::string_view text) { return HasBlocks(text, true); }
 bool IsDvbV5ScanTable(std::string_view text) { return HasBlocks(text, false); }
 
-bool DvbV5Reader::Next(ListedService& service) {
-  while (TakeBlock(text_, name_, found_, unreadable_)) {
-    if (!IsService(found_)) {
-      ++unreadable_;
-      continue;
-    }
-    service.transponder = found_.transponder;
-    return true;
+bool DvbV5Reader::Next() {
+  while (TakeBlock(text_, name_, service_, unreadable_)) {
+    if (IsService(service_)) return true;
+    ++unreadable_;
   }
   return false;
 }
 
-void DvbV5Reader::TakeStreams(ListedService& service) {
-  service = found_;
-  // A scan leaves out what it did not find.
-  for (int* pid : {&service.vpid, &service.apid}) *pid = std::max(*pid, 0);
-  service.type = TypeByPids(service);
+// A block is read as a whole. A scan leaves out what it did not find.
+void DvbV5Reader::TakeStreams() {
+  for (int* pid : {&service_.vpid, &service_.apid}) *pid = std::max(*pid, 0);
+  service_.type = TypeByPids(service_);
 }
 
-void DvbV5Reader::TakeIdentity(ListedService& service) { TakeName(service.name, name_); }
+void DvbV5Reader::TakeIdentity() { TakeName(service_.name, name_); }
 
 TransponderList ReadDvbV5Transponders(std::string_view text) {
   TransponderList list;
@@ -169,11 +164,12 @@ TransponderList ReadDvbV5Transponders(std::string_view text) {
 
 bool IsZap(std::string_view text) { return MostLines(text, "#", IsZapLine); }
 
-bool ZapReader::ReadTransponder(std::string_view line, ListedTransponder& transponder) {
+bool ZapReader::ReadTransponder(std::string_view line) {
   if (!IsZapLine(line)) return false;
   rest_ = line;
   name_ = TakeField(rest_, Separator);
-  transponder = {};
+  service_ = {};
+  ListedTransponder& transponder = service_.transponder;
   transponder.frequency = KilohertzIn(TakeField(rest_, Separator));
   transponder.polarisation = PolarisationIn(TakeField(rest_, Separator));
   TakeField(rest_, Separator);  // the place on the switch
@@ -182,10 +178,10 @@ bool ZapReader::ReadTransponder(std::string_view line, ListedTransponder& transp
   return true;
 }
 
-bool ZapReader::Next(ListedService& service) {
+bool ZapReader::Next() {
   while (!text_.empty()) {
     const std::string_view line = Base::TakeLine(text_);
-    if (ReadTransponder(line, service.transponder)) {
+    if (ReadTransponder(line)) {
       ++number_;
       return true;
     }
@@ -194,21 +190,18 @@ bool ZapReader::Next(ListedService& service) {
   return false;
 }
 
-void ZapReader::TakeStreams(ListedService& service) {
-  const ListedTransponder transponder = service.transponder;
-  service = {};
-  service.transponder = transponder;
-  for (int* pid : {&service.vpid, &service.apid}) {
-    *pid = std::max(0, TakePid(rest_, service.valid));
-    service.valid = TakeEnd(rest_, Separator) && service.valid;
+void ZapReader::TakeStreams() {
+  for (int* pid : {&service_.vpid, &service_.apid}) {
+    *pid = std::max(0, TakePid(rest_, service_.valid));
+    service_.valid = TakeEnd(rest_, Separator) && service_.valid;
   }
-  service.type = TypeByPids(service);
+  service_.type = TypeByPids(service_);
 }
 
-void ZapReader::TakeIdentity(ListedService& service) {
-  service.number = number_;
-  service.sid = TakeId(rest_, Separator, service.valid);
-  TakeName(service.name, name_);
+void ZapReader::TakeIdentity() {
+  service_.number = number_;
+  service_.sid = TakeId(rest_, Separator, service_.valid);
+  TakeName(service_.name, name_);
 }
 
 }  // namespace Formats

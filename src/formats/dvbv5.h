@@ -14,13 +14,12 @@ class DvbV5Reader final : public ServiceReader {
   // `text` must stay as long as the reader does.
   explicit DvbV5Reader(std::string_view text) : text_(text) {}
 
-  bool Next(ListedService& service) override;
-  void TakeStreams(ListedService& service) override;
-  void TakeIdentity(ListedService& service) override;
+  bool Next() override;
+  void TakeStreams() override;
+  void TakeIdentity() override;
 
  private:
   std::string_view text_;
-  ListedService found_;
   std::string_view name_;
 };
 
@@ -33,12 +32,12 @@ class ZapReader final : public ServiceReader {
  public:
   explicit ZapReader(std::string_view text) : text_(text) {}
 
-  bool Next(ListedService& service) override;
-  void TakeStreams(ListedService& service) override;
-  void TakeIdentity(ListedService& service) override;
+  bool Next() override;
+  void TakeStreams() override;
+  void TakeIdentity() override;
 
  private:
-  bool ReadTransponder(std::string_view line, ListedTransponder& transponder);
+  bool ReadTransponder(std::string_view line);
 
   std::string_view text_;
   std::string_view name_;

@@ -186,20 +186,23 @@ bool LamedbReader::TakeApart(std::string_view line) {
   return sid && *sid <= 0xFFFF && TakeEnd(ids_, Separator);
 }
 
-bool LamedbReader::FindTransponder(ListedTransponder& transponder) {
+bool LamedbReader::FindTransponder() {
   const auto key = TakeKey(ids_);
   if (!key) return false;
+  sameTransponder_ = key_ == key;
+  if (sameTransponder_) return true;
+  key_ = key;
   const auto place = places_.find(*key);
-  transponder = place == places_.end() ? Keyed(*key) : transponders_[place->second];
+  service_.transponder = place == places_.end() ? Keyed(*key) : transponders_[place->second];
   return true;
 }
 
-bool LamedbReader::Next(ListedService& service) {
+bool LamedbReader::Next() {
   while (!text_.empty()) {
     const std::string_view line = Base::TakeLine(text_);
     if (line == EndOfSection) text_ = {};
     if (line == EndOfSection || SaysNothing(line)) continue;
-    if (!TakeApart(line) || !FindTransponder(service.transponder)) {
+    if (!TakeApart(line) || !FindTransponder()) {
       ++unreadable_;
       continue;
     }
@@ -212,22 +215,22 @@ bool LamedbReader::Next(ListedService& service) {
   return false;
 }
 
-void LamedbReader::TakeStreams(ListedService& service) {
-  service.vpid = service.apid = service.pcr = NotSaid;
-  service.caids.clear();
+void LamedbReader::TakeStreams() {
+  service_.vpid = service_.apid = service_.pcr = NotSaid;
+  service_.caids.clear();
   const auto type = TakeWhole(ids_, 255);
-  service.valid = type.has_value();
-  service.type = TypeOf(type.value_or(0));
-  service.video = VideoOfType(type.value_or(0));
+  service_.valid = type.has_value();
+  service_.type = TypeOf(type.value_or(0));
+  service_.video = VideoOfType(type.value_or(0));
   provider_ = {};
-  TakeData(data_, service, provider_);
+  TakeData(data_, service_, provider_);
 }
 
-void LamedbReader::TakeIdentity(ListedService& service) {
-  service.sid = sid_;
-  service.number = TakeWhole(ids_, 999999).value_or(0);
-  TakeName(service.name, name_);
-  TakeName(service.provider, provider_);
+void LamedbReader::TakeIdentity() {
+  service_.sid = sid_;
+  service_.number = TakeWhole(ids_, 999999).value_or(0);
+  TakeName(service_.name, name_);
+  TakeName(service_.provider, provider_);
 }
 
 TransponderList ReadLamedbTransponders(std::string_view text) {

@@ -16,9 +16,9 @@ class LamedbReader final : public ServiceReader {
   explicit LamedbReader(std::string_view text);
 
   // A service whose transponder is not in the list has the position that its namespace gives, and no frequency.
-  bool Next(ListedService& service) override;
-  void TakeStreams(ListedService& service) override;
-  void TakeIdentity(ListedService& service) override;
+  bool Next() override;
+  void TakeStreams() override;
+  void TakeIdentity() override;
 
   // In the order of the file. Those that could not be read count as unreadable from the start.
   [[nodiscard]] const std::vector<ListedTransponder>& Transponders() const { return transponders_; }
@@ -28,7 +28,7 @@ class LamedbReader final : public ServiceReader {
   void ReadTransponderLines();
   void AddTransponder(std::string_view ids, std::string_view tuning);
   bool TakeApart(std::string_view line);
-  bool FindTransponder(ListedTransponder& transponder);
+  bool FindTransponder();
 
   std::string_view text_;
   bool oneLine_;  // as in 5
@@ -37,6 +37,7 @@ class LamedbReader final : public ServiceReader {
   // Of the service that Next went to: its numbers, and later those behind the transponder's; its name and all the rest.
   std::string_view ids_, name_, data_, provider_;
   int sid_ = NotSaid;
+  std::optional<std::uint64_t> key_;  // that gave the transponder at hand
 };
 
 TransponderList ReadLamedbTransponders(std::string_view text);

@@ -74,22 +74,7 @@ std::string PositionText(int position) {
 
 Polarisation PolarisationIn(std::string_view text) {
   text = Bare(text);
-  switch (text.empty() ? '\0' : text.front()) {
-    case 'H':
-    case 'h':
-      return Polarisation::Horizontal;
-    case 'V':
-    case 'v':
-      return Polarisation::Vertical;
-    case 'L':
-    case 'l':
-      return Polarisation::Left;
-    case 'R':
-    case 'r':
-      return Polarisation::Right;
-    default:
-      return Polarisation::Unknown;
-  }
+  return text.empty() ? Polarisation::Unknown : PolarisationOf(text.front());
 }
 
 Base::ShortText<4> FecOfDigits(int digits) {

@@ -74,7 +74,22 @@ constexpr int PositionOf(int eastwards) { return eastwards > 1800 ? eastwards - 
 // "19.2E"
 std::string PositionText(int position);
 
-// By its first letter, small or large.
+// Of a letter, small or large.
+constexpr Polarisation PolarisationOf(char letter) {
+  switch (letter | 0x20) {
+    case 'h':
+      return Polarisation::Horizontal;
+    case 'v':
+      return Polarisation::Vertical;
+    case 'l':
+      return Polarisation::Left;
+    case 'r':
+      return Polarisation::Right;
+    default:
+      return Polarisation::Unknown;
+  }
+}
+// By its first letter.
 Polarisation PolarisationIn(std::string_view text);
 // "3/4" for 34; empty for what is no pair of digits.
 Base::ShortText<4> FecOfDigits(int digits);

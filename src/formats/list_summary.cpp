@@ -50,8 +50,8 @@ Overlap OverlapOf(const State& state, const std::vector<ListedTransponder>& tran
 ListSummary SummaryOf(ServiceReader& reader) {
   ListSummary summary;
   DistinctTransponders distinct;
-  ListedService service;
-  while (reader.Read(service)) {
+  while (reader.Read()) {
+    const ListedService& service = reader.Service();
     const ListedTransponder& transponder = service.transponder;
     if (transponder.delivery == Delivery::Other) continue;
     ++summary.services;
@@ -68,14 +68,14 @@ std::map<int, int> ProposedSatellites(const State& state,
                                       const std::vector<ListedTransponder>& transponders) {
   const Overlap overlap = OverlapOf(state, transponders);
   std::map<int, int> proposed;
-  for (const auto& [position, common] : overlap.ofPositions) {
-    const auto* const best = std::max_element(common.begin(), common.end());
-    const auto satellite = static_cast<std::size_t>(best - common.begin());
+  for (const auto& one : overlap.ofPositions) {
+    const auto* const best = std::max_element(one.second.begin(), one.second.end());
+    const auto satellite = static_cast<std::size_t>(best - one.second.begin());
     const bool most = *best * 2 > overlap.all[satellite];
     const bool rivalled = std::any_of(
         overlap.ofPositions.begin(), overlap.ofPositions.end(),
-        [&](const auto& other) { return other.first != position && other.second[satellite] >= *best; });
-    if (most && !rivalled) proposed[position] = static_cast<int>(satellite);
+        [&](const auto& other) { return other.first != one.first && other.second[satellite] >= *best; });
+    if (most && !rivalled) proposed[one.first] = static_cast<int>(satellite);
   }
   return proposed;
 }

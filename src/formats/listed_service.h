@@ -58,20 +58,23 @@ class ServiceReader {
   virtual ~ServiceReader() = default;
 
   // Goes to the next service; false behind the last one.
-  bool Read(ListedService& service) {
-    if (!Next(service)) return false;
-    TakeStreams(service);
-    TakeIdentity(service);
+  bool Read() {
+    if (!Next()) return false;
+    TakeStreams();
+    TakeIdentity();
     return true;
   }
+  // The one it went to last.
+  [[nodiscard]] const ListedService& Service() const { return service_; }
 
-  // The same in three steps, so that a service which nobody wants costs no more than it takes to see that. Next fills in
-  // the transponder without its ids, and leaves the rest as it was; TakeStreams PIDs, video, type and encryption;
-  // TakeIdentity ids, names and number, behind which it is known whether all is valid. Each of the latter two at most once
-  // behind a Next, in this order.
-  virtual bool Next(ListedService& service) = 0;
-  virtual void TakeStreams(ListedService& service) = 0;
-  virtual void TakeIdentity(ListedService& service) = 0;
+  // Read in three steps, so that a service which nobody wants costs no more than it takes to see that. Next gives the
+  // transponder without its ids; TakeStreams PIDs, video, type and encryption; TakeIdentity ids, names and number, behind
+  // which it is known whether all is valid. Each of the latter two at most once behind a Next, in this order.
+  virtual bool Next() = 0;
+  virtual void TakeStreams() = 0;
+  virtual void TakeIdentity() = 0;
+  // Whether the transponder that Next gave is, but for its ids, the one before: neighbours mostly share theirs.
+  [[nodiscard]] bool SameTransponder() const { return sameTransponder_; }
 
   // What stood so far where a service belongs and is none.
   [[nodiscard]] int Unreadable() const { return unreadable_; }
@@ -81,6 +84,8 @@ class ServiceReader {
   ServiceReader(const ServiceReader&) = default;
   ServiceReader& operator=(const ServiceReader&) = default;
 
+  ListedService service_;
+  bool sameTransponder_ = false;
   int unreadable_ = 0;
 };
 

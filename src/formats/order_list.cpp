@@ -39,7 +39,7 @@ bool TakeEntry(std::string_view line, OrderEntry& entry) {
   const std::size_t last = line.rfind(Separator);
   if (first == std::string_view::npos) {
     TakeName(entry.name, line);
-    return true;
+    return !entry.name.empty();
   }
   const std::string_view number = Bare(line.substr(0, first));
   if (!number.empty()) entry.number = WholeNumber(number, HighestNumber).value_or(NotSaid);
@@ -90,8 +90,8 @@ std::string WriteOrderText(const Order& order) {
 
 Order OrderOf(ServiceReader& reader) {
   Order order;
-  ListedService service;
-  while (reader.Read(service)) {
+  while (reader.Read()) {
+    const ListedService& service = reader.Service();
     const ListedTransponder& transponder = service.transponder;
     order.entries.push_back(
         {service.number, service.name, transponder.position, transponder.nid, transponder.tid, service.sid});

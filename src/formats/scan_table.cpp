@@ -84,8 +84,7 @@ void DistinctTransponders::Add(const ListedTransponder& transponder) {
 
 TransponderList TranspondersOf(ServiceReader& reader) {
   DistinctTransponders distinct;
-  ListedService service;
-  while (reader.Read(service)) distinct.Add(service.transponder);
+  while (reader.Read()) distinct.Add(reader.Service().transponder);
   TransponderList list;
   list.transponders = std::move(distinct.list);
   list.unreadable = reader.Unreadable();

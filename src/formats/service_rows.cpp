@@ -56,19 +56,12 @@ class Maker {
   ServiceRows Run(ServiceReader& reader) {
     SdxTable& table = rows_.table;
     table.rows.reserve(MostSdxRows);
-    ListedService service;
-    while (!table.full && reader.Next(service)) {
+    const ListedService& service = reader.Service();
+    std::optional<Drop> untuned;  // why the transponder at hand is none for a row
+    while (!table.full && reader.Next()) {
       ++table.lines;
-      auto drop = DropOf(service.transponder);
-      if (!drop) {
-        reader.TakeStreams(service);
-        drop = DropOf(service);
-      }
-      if (!drop) {
-        reader.TakeIdentity(service);
-        drop = Add(service);
-      }
-      if (drop) table.dropped.Add(*drop);
+      if (!reader.SameTransponder()) untuned = DropOf(service.transponder);
+      if (const auto drop = untuned ? untuned : Add(reader)) table.dropped.Add(*drop);
     }
     for (int line = 0; line < reader.Unreadable(); ++line) table.dropped.Add(Drop::Unreadable);
     table.lines += reader.Unreadable();
@@ -111,8 +104,13 @@ class Maker {
     return coded ? std::nullopt : std::optional(Drop::Code);
   }
 
-  std::optional<Drop> Add(const ListedService& service) {
+  // Makes a row, or says why there is none.
+  std::optional<Drop> Add(ServiceReader& reader) {
+    const ListedService& service = reader.Service();
     SdxTable& table = rows_.table;
+    reader.TakeStreams();
+    if (const auto drop = DropOf(service)) return drop;
+    reader.TakeIdentity();
     if (!service.valid) return Drop::BadNumber;
     if (service.name.empty()) return Drop::NoName;
     const int apid = std::max(service.apid, 0);

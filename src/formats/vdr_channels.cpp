@@ -25,14 +25,15 @@ bool IsChannel(std::string_view line) {
 void TakeParameters(std::string_view text, ListedTransponder& transponder) {
   constexpr int Automatic = 999;
   while (!text.empty()) {
-    const char key = static_cast<char>(text.front() & ~0x20);  // a capital of either
-    const Polarisation polarisation = PolarisationIn(text.substr(0, 1));
+    const char letter = text.front();
     text.remove_prefix(1);
     const int value = TakeNumber(text, Automatic);
+    const Polarisation polarisation = PolarisationOf(letter);
     if (polarisation != Polarisation::Unknown) transponder.polarisation = polarisation;
-    if (key == 'C') transponder.fec = FecOfDigits(value);
-    if (key == 'S' && value > 0) transponder.delivery = Delivery::DvbS2;
-    if (key == 'M' && value > 0 && value < Automatic)
+    const int key = letter | 0x20;
+    if (key == 'c') transponder.fec = FecOfDigits(value);
+    if (key == 's' && value > 0) transponder.delivery = Delivery::DvbS2;
+    if (key == 'm' && value > 0 && value < Automatic)
       transponder.modulation = value == 2 ? Modulation::Qpsk : Modulation::Other;
   }
 }
@@ -89,7 +90,8 @@ void VdrReader::TakeGroup(std::string_view line) {
 bool VdrReader::ReadTransponder(std::string_view line) {
   rest_ = line;
   name_ = TakeField(rest_, Separator);
-  if (!tuning_.empty() && rest_.starts_with(tuning_)) {
+  sameTransponder_ = !tuning_.empty() && rest_.starts_with(tuning_);
+  if (sameTransponder_) {
     rest_.remove_prefix(tuning_.size());
     return true;
   }
@@ -99,24 +101,24 @@ bool VdrReader::ReadTransponder(std::string_view line) {
   const std::string_view source = TakeField(rest_, Separator);
   std::string_view rate = TakeField(rest_, Separator);
   if (source.empty() || !IsCapital(source.front())) return false;
-  tuning_ = fields.substr(0, fields.size() - rest_.size());
-  transponder_ = {};
-  transponder_.frequency = KilohertzIn(frequency);
+  // With the separator behind them, or the next line's rate might go on where this one ends.
+  tuning_ = rest_.empty() ? rest_ : fields.substr(0, fields.size() - rest_.size());
+  ListedTransponder& transponder = service_.transponder = {};
+  transponder.frequency = KilohertzIn(frequency);
   const int kilobaud = TakeNumber(rate, 999999);
-  transponder_.symbolRate = kilobaud == NotSaid ? NotSaid : kilobaud * 1000;
-  TakeParameters(parameters, transponder_);
-  transponder_.position = PositionIn(source.substr(1));
-  if (source.front() != 'S') transponder_.delivery = Delivery::Other;
+  transponder.symbolRate = kilobaud == NotSaid ? NotSaid : kilobaud * 1000;
+  TakeParameters(parameters, transponder);
+  transponder.position = PositionIn(source.substr(1));
+  if (source.front() != 'S') transponder.delivery = Delivery::Other;
   return true;
 }
 
-bool VdrReader::Next(ListedService& service) {
+bool VdrReader::Next() {
   while (!text_.empty()) {
     const std::string_view line = Base::TakeLine(text_);
     if (line.starts_with(Separator)) {
       TakeGroup(line);
     } else if (ReadTransponder(line)) {
-      service.transponder = transponder_;
       ++number_;
       return true;
     } else if (!Bare(line).empty() && line.front() != '#') {
@@ -126,29 +128,30 @@ bool VdrReader::Next(ListedService& service) {
   return false;
 }
 
-void VdrReader::TakeStreams(ListedService& service) {
-  service.valid = true;
-  TakeVideo(rest_, service);
-  service.apid = std::max(0, TakePid(rest_, service.valid));
+void VdrReader::TakeStreams() {
+  bool& valid = service_.valid = true;
+  TakeVideo(rest_, service_);
+  service_.apid = std::max(0, TakePid(rest_, valid));
   TakeEnd(rest_, Separator);    // further ones, and languages
   TakeField(rest_, Separator);  // teletext
-  TakeCaids(rest_, service);
-  service.type = TypeByPids(service);
+  TakeCaids(rest_, service_);
+  service_.type = TypeByPids(service_);
 }
 
 // Names are "name,short;provider", where "|" stands for a colon.
-void VdrReader::TakeIdentity(ListedService& service) {
-  service.number = number_;
-  service.sid = TakeId(rest_, Separator, service.valid);
-  service.transponder.nid = TakeId(rest_, Separator, service.valid);
+void VdrReader::TakeIdentity() {
+  bool& valid = service_.valid;
+  service_.number = number_;
+  service_.sid = TakeId(rest_, Separator, valid);
+  service_.transponder.nid = TakeId(rest_, Separator, valid);
   // A line that ends before it is not whole; some leave out the radio's id behind it.
-  service.valid = service.valid && !rest_.empty();
-  service.transponder.tid = TakeId(rest_, Separator, service.valid);
+  valid = valid && !rest_.empty();
+  service_.transponder.tid = TakeId(rest_, Separator, valid);
   std::string_view provider = name_;
   const std::string_view names = TakeField(provider, ';');
-  TakeName(service.name, names.substr(0, names.rfind(',')));
-  TakeName(service.provider, provider);
-  for (std::string* text : {&service.name, &service.provider})
+  TakeName(service_.name, names.substr(0, names.rfind(',')));
+  TakeName(service_.provider, provider);
+  for (std::string* text : {&service_.name, &service_.provider})
     std::replace(text->begin(), text->end(), '|', Separator);
 }
 

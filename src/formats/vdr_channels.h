@@ -12,9 +12,9 @@ class VdrReader final : public ServiceReader {
   // `text` must stay as long as the reader does.
   explicit VdrReader(std::string_view text) : text_(text) {}
 
-  bool Next(ListedService& service) override;
-  void TakeStreams(ListedService& service) override;
-  void TakeIdentity(ListedService& service) override;
+  bool Next() override;
+  void TakeStreams() override;
+  void TakeIdentity() override;
 
  private:
   bool ReadTransponder(std::string_view line);
@@ -24,9 +24,7 @@ class VdrReader final : public ServiceReader {
   // Of the channel that Next went to: its name, and its fields behind the symbol rate.
   std::string_view name_;
   std::string_view rest_;
-  // Neighbours mostly share their transponder: the fields that gave the last one, and what they gave.
-  std::string_view tuning_;
-  ListedTransponder transponder_;
+  std::string_view tuning_;  // the fields that gave the transponder at hand
   int number_ = 0;
 };
 

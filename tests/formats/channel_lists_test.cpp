@@ -39,7 +39,7 @@ Texts Services(std::string_view bytes, std::string_view id) {
     return {format == nullptr ? "not recognised" : std::string(format->id)};
   const auto reader = format->Services(text.View());
   Texts texts;
-  for (ListedService service; reader->Read(service);) texts.push_back(ServiceText(service));
+  while (reader->Read()) texts.push_back(ServiceText(reader->Service()));
   texts.push_back(std::to_string(reader->Unreadable()));
   return texts;
 }
