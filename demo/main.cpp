@@ -401,8 +401,8 @@ class Session {
     CheckBoxes();
     bool good = Start();
     PictureBoxes("dialog-recover");
-    driver_->ExpectQuestion("Esistono modifiche non salvate dell' ultima sessione. Si desidera recuperarle?",
-                            true);
+    driver_->ExpectDialog(
+        "Trovalis", [](QDialog& box) { dynamic_cast<QMessageBox&>(box).button(QMessageBox::Yes)->click(); });
     window_->OfferKeptWork();
     const Routines::State& after = window_->List().Tables();
     good =

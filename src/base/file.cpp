@@ -30,9 +30,10 @@ std::string Utf8(const std::filesystem::path& path) {
   return {text.begin(), text.end()};
 }
 
-// Writes, flushes to the disk and compares what the file then holds.
+// Writes, flushes to the disk and compares what the disk then holds.
 int WriteAndCompare(const SystemFile& file, ByteView bytes) {
   if (const int code = file.Write(bytes); code != 0) return code;
+  file.LeaveMemory();
   Bytes back;
   if (const int code = file.Read(bytes.size() + 1, back); code != 0) return code;
   return std::equal(back.begin(), back.end(), bytes.begin(), bytes.end()) ? 0 : EIO;
@@ -149,7 +150,8 @@ Result<Bytes> ReadFile(const std::string& path, std::size_t limit) {
   return bytes;
 }
 
-Outcome ReplaceFile(const std::string& path, ByteView bytes, const std::string& like) {
+Outcome ReplaceFile(const std::string& path, ByteView bytes, const std::string& like,
+                    const std::function<Outcome()>& lastLook) {
   const std::string target = ResolvedPath(path);
   const FileStatus old = StatusOf(target);
   if (const int refused = Refusal(target, old); refused != 0) return WriteFailure(path, refused);
@@ -163,10 +165,11 @@ Outcome ReplaceFile(const std::string& path, ByteView bytes, const std::string& 
   if (const int code = CreateTemporary(file, folder, rights); code != 0) return WriteFailure(path, code);
   int code = hasModel ? file.TakeOver(model) : 0;
   if (code == 0) code = WriteAndCompare(file, bytes);
-  if (code == 0) code = file.MoveTo(target);
-  if (code == 0) return Done{};
+  Outcome looked = code == 0 && lastLook ? lastLook() : Done{};
+  if (code == 0 && looked) code = file.MoveTo(target);
+  if (code == 0 && looked) return Done{};
   file.Remove();
-  return WriteFailure(path, code);
+  return looked ? WriteFailure(path, code) : looked;
 }
 
 Outcome OverwriteInPlace(const std::string& path, ByteView before, ByteView bytes) {

@@ -6,6 +6,7 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <functional>
 #include <string>
 #include <string_view>
 
@@ -34,7 +35,9 @@ Result<Bytes> ReadFile(const std::string& path, std::size_t limit);
 // Writes a file beside `path`, flushes it, reads it back, and puts it in the place of `path` in one step. Follows
 // a symbolic link and keeps the permissions of an existing file, its access list too; a new one takes those of the file
 // `like`, if it is given. After an error the old file is as it was. What a save that was killed has left in the folder goes away.
-Outcome ReplaceFile(const std::string& path, ByteView bytes, const std::string& like = {});
+// `lastLook` runs when all that is left to do is the step itself; its error is one of the whole.
+Outcome ReplaceFile(const std::string& path, ByteView bytes, const std::string& like = {},
+                    const std::function<Outcome()>& lastLook = {});
 
 // For a folder that takes no new file: overwrites an existing file of the same size where it lies, flushes it
 // and reads it back. `before` is what it holds now; after an error those bytes are written again.

@@ -44,12 +44,19 @@ class SystemFile {
   int Open(const std::string& path, Access access);
   // A new file, held until it is closed. EEXIST where the name is taken.
   int Create(const std::string& path, Rights rights);
+  // Opens a file, or makes it, and holds it until it is closed or this program ends; then it goes away. EBUSY where a
+  // running program holds it, be it on another computer, as far as the file system tells; what it contains and who has
+  // left it does not matter.
+  int Hold(const std::string& path);
+  [[nodiscard]] bool IsOpen() const { return handle_ != -1; }
   // Owner and permissions of another file, as far as the system lets a program give them.
   int TakeOver(const std::string& model) const;
   // Appends up to `limit` bytes from the start of the file.
   int Read(std::size_t limit, Bytes& bytes) const;
   // Writes from the start of the file and flushes it to the disk.
   int Write(ByteView bytes) const;
+  // What has been flushed is read from the disk from now on, where the system can be told so.
+  void LeaveMemory() const;
   // Puts a created file in the place of `target` in one step, and its name on the disk.
   int MoveTo(const std::string& target) const;
   // Takes a created file away.
@@ -58,6 +65,7 @@ class SystemFile {
  private:
   std::intptr_t handle_ = -1;
   std::string path_;
+  bool held_ = false;  // to be removed when it is closed
 };
 
 }  // namespace Base

@@ -79,6 +79,7 @@ void RemoveUnlessHeld(const std::string& path) {
 unsigned ProgramNumber() { return static_cast<unsigned>(::getpid()); }
 
 SystemFile::~SystemFile() {
+  if (held_) Remove();
   if (handle_ >= 0) ::close(Number(handle_));
 }
 
@@ -104,6 +105,29 @@ int SystemFile::Create(const std::string& path, Rights rights) {
   handle_ = file;
   path_ = path;
   return 0;
+}
+
+int SystemFile::Hold(const std::string& path) {
+  constexpr int MostTries = 100;
+  for (int i = 0; i < MostTries; ++i) {
+    int file = ::open(path.c_str(), O_RDWR | O_CREAT | O_CLOEXEC, 0666);
+    if (file < 0 && errno == EACCES) file = ::open(path.c_str(), O_RDONLY | O_CLOEXEC);  // another user's
+    if (file < 0) return errno;
+    // Where a file system knows no locks, nothing is held.
+    const bool busy = ::flock(file, LOCK_EX | LOCK_NB) != 0 && errno == EWOULDBLOCK;
+    // The one who held it may have removed it before it was locked.
+    struct stat status {};
+    const bool there = !busy && ::fstat(file, &status) == 0 && status.st_nlink > 0;
+    if (there) {
+      handle_ = file;
+      path_ = path;
+      held_ = true;
+      return 0;
+    }
+    ::close(file);
+    if (busy) return EBUSY;
+  }
+  return ENOLCK;
 }
 
 // Ownership follows as far as the system lets it.
@@ -137,6 +161,8 @@ int SystemFile::Write(ByteView bytes) const {
   const int file = Number(handle_);
   return ::lseek(file, 0, SEEK_SET) == 0 && WriteAll(file, bytes) && ::fsync(file) == 0 ? 0 : errno;
 }
+
+void SystemFile::LeaveMemory() const { ::posix_fadvise(Number(handle_), 0, 0, POSIX_FADV_DONTNEED); }
 
 int SystemFile::MoveTo(const std::string& target) const {
   if (::rename(path_.c_str(), target.c_str()) != 0) return errno;

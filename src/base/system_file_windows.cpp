@@ -152,6 +152,13 @@ int SystemFile::Create(const std::string& path, Rights /*rights*/) {
   return handle_ != -1 ? 0 : LastCode();
 }
 
+int SystemFile::Hold(const std::string& path) {
+  handle_ = reinterpret_cast<std::intptr_t>(
+      ::CreateFileW(Wide(path).c_str(), GENERIC_READ | GENERIC_WRITE | DELETE, 0, nullptr, OPEN_ALWAYS,
+                    FILE_ATTRIBUTE_NORMAL | FILE_FLAG_DELETE_ON_CLOSE, nullptr));
+  return handle_ != -1 ? 0 : LastCode();
+}
+
 int SystemFile::TakeOver(const std::string& model) const {
   const std::wstring from = Wide(model);
   const std::wstring own = Wide(path_);
@@ -188,6 +195,9 @@ int SystemFile::Write(ByteView bytes) const {
   }
   return ::FlushFileBuffers(Handle(handle_)) != 0 ? 0 : LastCode();
 }
+
+// Only a second handle could read past the system's cache, and nobody else may open the file while it is written.
+void SystemFile::LeaveMemory() const {}
 
 // By its handle, so that the file is held until it has its name; a rename by path would need it free. The second
 // flush takes the new name to the disk.

@@ -23,6 +23,8 @@ struct Clipboard {
   bool wasCut = false;      // they have been taken out of it
 
   [[nodiscard]] int Count() const { return static_cast<int>(channels.size()); }
+
+  friend bool operator==(const Clipboard&, const Clipboard&) = default;
 };
 
 Clipboard CopyChannels(const State& state, Slots slots);

@@ -1,50 +1,53 @@
 #include "model/flash_file.h"
 
 #include "base/file.h"
+#include "model/flash_copies.h"
 #include "model/flash_image.h"
 #include "model/flash_writer.h"
 
-#include <algorithm>
 #include <cerrno>
 
 namespace Routines {
 namespace {
 
-constexpr int MostBackups = 999;
-constexpr std::size_t LongestName = 240;  // leaves room for the ending in any file system
+constexpr std::size_t LargestCopy = 16U << 20U;  // of what another program has put in an image's place
 
-// Whether a name is taken by something that is no copy of an image.
-bool TakenByAnother(int systemCode) {
-  return systemCode == EFBIG || systemCode == EISDIR || systemCode == Base::NotAFile;
-}
+struct Kept {
+  std::string folder;
+  std::string name;
+};
 
-// Keeps `bytes`, the image at `target`, in `folder` as NAME.bak or the first free name after it, unless one of those
-// holds them already.
-Base::Outcome KeepCopy(const std::string& folder, const std::string& target, Base::ByteView bytes) {
-  const std::string first = folder + "/" + Base::FileName(target).substr(0, LongestName) + ".bak";
-  for (int number = 1; number <= MostBackups; ++number) {
-    const std::string copy = number == 1 ? first : first + std::to_string(number);
-    const auto existing = Base::ReadFile(copy, FlashSize);
-    if (existing && std::equal(existing->begin(), existing->end(), bytes.begin(), bytes.end()))
-      return Base::Done{};
-    if (existing || TakenByAnother(existing.error().systemCode)) continue;
-    if (existing.error().systemCode == ENOENT) return Base::ReplaceFile(copy, bytes, target);
-    return existing.error();
+Base::Result<Kept> BackUp(const std::string& target, Base::ByteView bytes, const Backups& backups) {
+  std::string folder = Base::FolderOf(target);
+  auto name = KeepCopy(folder, target, bytes);
+  if (!name && Base::FolderRefuses(name.error())) {
+    folder = backups.programFolder;
+    name = KeepCopy(folder, target, bytes);
   }
-  return Base::Error{"Troppe copie di sicurezza di " + Base::FileName(target)};
+  if (!name) return name.error();
+  return Kept{folder, *name};
 }
 
-Base::Outcome BackUp(const std::string& target, Base::ByteView before, const Backups& backups) {
-  auto beside = KeepCopy(Base::FolderOf(target), target, before);
-  if (beside || !Base::FolderRefuses(beside.error())) return beside;
-  return KeepCopy(backups.programFolder, target, before);
-}
-
-// In one step, or where the image lies when its folder takes no new file.
-Base::Outcome Overwrite(const std::string& target, Base::ByteView before, Base::ByteView after) {
-  auto replaced = Base::ReplaceFile(target, after);
+// In one step, or where the image lies when its folder takes no new file. Up to the last moment another program may
+// save there too: what it leaves is kept.
+Base::Outcome Overwrite(const std::string& target, Base::ByteView before, Base::ByteView after,
+                        const Backups& backups, Saved& saved) {
+  Base::Bytes last(before.begin(), before.end());
+  const auto lookAgain = [&]() -> Base::Outcome {
+    auto now = Base::ReadFile(target, LargestCopy);
+    if (!now && now.error().systemCode == ENOENT) return Base::Done{};
+    if (!now) return now.error();
+    if (*now == last) return Base::Done{};
+    const auto kept = BackUp(target, *now, backups);
+    if (!kept) return kept.error();
+    saved.othersCopy = kept->name;
+    last = std::move(*now);
+    return Base::Done{};
+  };
+  auto replaced = Base::ReplaceFile(target, after, {}, lookAgain);
   if (replaced || !Base::FolderRefuses(replaced.error())) return replaced;
-  return Base::OverwriteInPlace(target, before, after);
+  if (auto looked = lookAgain(); !looked) return looked;
+  return Base::OverwriteInPlace(target, last, after);
 }
 
 }  // namespace
@@ -62,21 +65,26 @@ Base::Result<Base::Bytes> ReadFlash(const std::string& path, const std::string& 
   return bytes;
 }
 
-Base::Outcome SaveFlash(const std::string& path, Base::ByteView before, Base::ByteView after,
-                        Backups& backups) {
+Base::Result<Saved> SaveFlash(const std::string& path, Base::ByteView before, Base::ByteView after,
+                              Backups& backups) {
   if (!DiffersOnlyInSections(before, after))
     return Base::Error{"Impossibile scrivere " + Base::FileName(path) +
                        ": la modifica esce dalle sezioni conosciute"};
   const std::string target = Base::ResolvedPath(path);
   const auto last = backups.written.find(target);
+  Saved saved;
+  std::string folder;
   if (last == backups.written.end() || Base::AsText(last->second) != Base::AsText(before)) {
-    auto kept = BackUp(target, before, backups);
-    if (!kept) return kept;
+    const auto kept = BackUp(target, before, backups);
+    if (!kept) return kept.error();
+    folder = kept->folder;
   }
-  auto written = Overwrite(target, before, after);
+  const auto written = Overwrite(target, before, after, backups, saved);
   // A failed attempt does not count: the file may hold something else by the next one.
-  if (written) backups.written[target].assign(after.begin(), after.end());
-  return written;
+  if (!written) return written.error();
+  backups.written[target].assign(after.begin(), after.end());
+  if (!folder.empty()) saved.removedCopies = RemoveOldCopies(folder, target);
+  return saved;
 }
 
 }  // namespace Routines

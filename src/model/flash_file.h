@@ -22,10 +22,17 @@ struct Backups {
   std::map<std::string, Base::Bytes> written;  // the last image by resolved path
 };
 
-// Overwrites the image at `path`, which holds `before`, with `after`. Where they differ outside of the sections that a
-// write may change, that is an error and nothing is written. Unless the old bytes are what the last save wrote, they are
-// kept as NAME.bak beside it (NAME.bak2, … where another one exists); without that copy nothing is written.
-Base::Outcome SaveFlash(const std::string& path, Base::ByteView before, Base::ByteView after,
-                        Backups& backups);
+struct Saved {
+  // Name of the copy of what another program has saved there meanwhile, empty for none.
+  std::string othersCopy;
+  int removedCopies = 0;  // old ones that have given way to newer ones
+};
+
+// Overwrites the image at `path`, which held `before` when it was read, with `after`. Where they differ outside of the
+// sections that a write may change, that is an error and nothing is written. Unless the old bytes are what the last save
+// wrote, they are kept as NAME.bak beside it (NAME.bak2, … where another one exists), and so is what the file holds by the
+// time it is replaced, if that is something else; without those copies nothing is written.
+Base::Result<Saved> SaveFlash(const std::string& path, Base::ByteView before, Base::ByteView after,
+                              Backups& backups);
 
 }  // namespace Routines

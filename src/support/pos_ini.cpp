@@ -12,18 +12,21 @@ constexpr std::size_t SizeLimit = 1U << 20U;
 
 std::string PathIn(const std::string& programFolder) { return programFolder + "/POS.ini"; }
 
-Folders ReadFolders(const std::string& programFolder) {
+std::string ReadText(const std::string& programFolder) {
   const auto bytes = Base::ReadFile(PathIn(programFolder), SizeLimit);
-  return bytes ? FoldersOf(Base::AsText(*bytes)) : Folders{};
+  return bytes ? std::string(Base::AsText(*bytes)) : std::string();
 }
 
 }  // namespace
 
 Folders FoldersOf(std::string_view text) {
+  return Base::Lines(text).size() < Folders().size() ? Folders() : KnownFoldersOf(text);
+}
+
+Folders KnownFoldersOf(std::string_view text) {
   Folders folders;
   const auto lines = Base::Lines(text);
-  if (lines.size() < folders.size()) return folders;
-  for (std::size_t i = 0; i < folders.size(); ++i) {
+  for (std::size_t i = 0; i < std::min(lines.size(), folders.size()); ++i) {
     folders[i] = Base::TrimmedRight(lines[i].substr(std::min<std::size_t>(2, lines[i].size())));
   }
   return folders;
@@ -43,15 +46,15 @@ std::string PosIniOf(const Folders& folders) {
 }
 
 std::string LoadFolder(const std::string& programFolder, FolderKind kind) {
-  return ReadFolders(programFolder)[static_cast<std::size_t>(kind)];
+  return FoldersOf(ReadText(programFolder))[static_cast<std::size_t>(kind)];
 }
 
 void SaveFolderOf(const std::string& programFolder, FolderKind kind, const std::string& path) {
-  Folders folders = ReadFolders(programFolder);
-  const Folders before = folders;
+  const std::string text = ReadText(programFolder);
+  Folders folders = KnownFoldersOf(text);
   SetFolderOf(folders, kind, path);
   // Most files come from where the last one did, and a flush to the disk is what a user would wait for.
-  if (folders == before) return;
+  if (folders == FoldersOf(text)) return;
   // Nothing to be done where it cannot be written: the next dialog opens in its default folder.
   static_cast<void>(Base::ReplaceFile(PathIn(programFolder), Base::AsBytes(PosIniOf(folders))));
 }

@@ -15,6 +15,9 @@ enum class FolderKind { Input = 0, Foreign = 1, Output = 2 };
 using Folders = std::array<std::string, 3>;
 Folders FoldersOf(std::string_view text);
 
+// Those of the lines that there are, for a file that is about to be written again.
+Folders KnownFoldersOf(std::string_view text);
+
 // Puts the folder of a chosen file, the path before its last separator, in the place of the one of its kind. A path
 // without a folder, or with a line end in it, changes nothing.
 void SetFolderOf(Folders& folders, FolderKind kind, const std::string& path);

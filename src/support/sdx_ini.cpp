@@ -3,6 +3,8 @@
 #include "base/file.h"
 #include "base/text.h"
 
+#include <cerrno>
+
 namespace Support {
 
 std::vector<std::string> AddressesOf(std::string_view text) {
@@ -14,7 +16,8 @@ std::vector<std::string> AddressesOf(std::string_view text) {
 Base::Result<std::vector<std::string>> LoadAddresses(const std::string& folder) {
   const std::string path = folder + "/SDX.INI";
   const auto bytes = Base::ReadFile(path, 1U << 20U);
-  if (!bytes) return Base::Error{"File SDX.INI non trovato: " + path};
+  if (!bytes && bytes.error().systemCode == ENOENT) return Base::Error{"File SDX.INI non trovato: " + path};
+  if (!bytes) return bytes.error();
   return AddressesOf(Base::AsText(*bytes));
 }
 

@@ -13,7 +13,7 @@ namespace Support {
 std::vector<std::string> AddressesOf(std::string_view text);
 
 // Those of SDX.INI of the program's folder, as bytes of the code page; an error with the sentence to show where the file is
-// not there.
+// not there, or cannot be read.
 Base::Result<std::vector<std::string>> LoadAddresses(const std::string& folder);
 
 }  // namespace Support

@@ -81,7 +81,9 @@ TEST(File, ReadingStopsAtTheLimitAndAtWhatIsNoFile) {
   const TestFolder folder;
   const std::string path = folder.Write("flash.dat", Old);
   EXPECT_EQ(*ReadFile(path, Old.size()), Old);
-  EXPECT_FALSE(ReadFile(path, Old.size() - 1));
+  ::chmod(path.c_str(), 0);
+  const OrdinaryUser user;
+  EXPECT_EQ(ReadFile(path, Old.size() - 1).error().systemCode, EFBIG) << "before it is opened";
   EXPECT_EQ(ReadFile(folder.Path(), 10).error().systemCode, EISDIR);
   ASSERT_EQ(::mkfifo(folder.Path("pipe").c_str(), 0600), 0);
   EXPECT_FALSE(ReadFile(folder.Path("pipe"), 10)) << "a pipe would be waited for";

@@ -13,17 +13,20 @@
 #include <csignal>
 #include <cstdio>
 #include <fcntl.h>
+#include <functional>
 #include <random>
 #include <sys/stat.h>
 #include <sys/wait.h>
 #include <thread>
 #include <unistd.h>
+#include <utility>
 
 namespace {
 
 int callsLeft = -1;  // before one fails; below 0 none does
 int failure = 0;
-bool lying = false;  // a disk that tells nobody what it got wrong, for one write
+bool lying = false;               // a disk that tells nobody what it got wrong, for one file
+std::function<void()> meanwhile;  // runs once, while a file is on its way to the disk
 bool tracing = false;
 std::string trace;  // a letter for each call
 
@@ -40,11 +43,13 @@ bool Fails(char letter) {
 int RealOpen(const char* path, int flags, mode_t mode) __asm__("__real_open");
 ssize_t RealWrite(int file, const void* bytes, std::size_t count) __asm__("__real_write");
 int RealFsync(int file) __asm__("__real_fsync");
+int RealForget(int file, off_t from, off_t count, int advice) __asm__("__real_posix_fadvise");
 int RealRename(const char* from, const char* to) __asm__("__real_rename");
 
 int WrappedOpen(const char* path, int flags, mode_t mode) __asm__("__wrap_open");
 ssize_t WrappedWrite(int file, const void* bytes, std::size_t count) __asm__("__wrap_write");
 int WrappedFsync(int file) __asm__("__wrap_fsync");
+int WrappedForget(int file, off_t from, off_t count, int advice) __asm__("__wrap_posix_fadvise");
 int WrappedRename(const char* from, const char* to) __asm__("__wrap_rename");
 
 int WrappedOpen(const char* path, int flags, mode_t mode) {
@@ -53,11 +58,6 @@ int WrappedOpen(const char* path, int flags, mode_t mode) {
 
 // A failing write leaves a part behind first, as a full disk does.
 ssize_t WrappedWrite(int file, const void* bytes, std::size_t count) {
-  if (lying) {
-    lying = false;
-    const std::string wrong(count, 'x');
-    return RealWrite(file, wrong.data(), count);
-  }
   if (!Fails('w')) return RealWrite(file, bytes, count);
   const ssize_t part = RealWrite(file, bytes, count / 3);
   errno = failure;
@@ -65,6 +65,14 @@ ssize_t WrappedWrite(int file, const void* bytes, std::size_t count) {
 }
 
 int WrappedFsync(int file) { return Fails('f') ? -1 : RealFsync(file); }
+
+// While the bytes are in memory they are read from there; what the disk made of them shows behind this call.
+int WrappedForget(int file, off_t from, off_t count, int advice) {
+  if (tracing) trace += 'd';
+  if (const auto run = std::exchange(meanwhile, {})) run();
+  if (std::exchange(lying, false) && ::pwrite(file, "x", 1, 100000) != 1) std::abort();
+  return RealForget(file, from, count, advice);
+}
 int WrappedRename(const char* from, const char* to) { return Fails('r') ? -1 : RealRename(from, to); }
 
 namespace Routines {
@@ -164,7 +172,7 @@ TEST(InterruptedSave, FileAndFolderAreFlushedInTheirTurn) {
   tracing = true;
   ASSERT_TRUE(Base::ReplaceFile(path, New));
   tracing = false;
-  EXPECT_EQ(trace, "owfrof");
+  EXPECT_EQ(trace, "owfdrof");
 }
 
 // In place too: there the old bytes are written again.
@@ -232,6 +240,20 @@ TEST(FlashFile, InALockedFolderNothingIsWrittenWithoutACopyElsewhere) {
   EXPECT_TRUE(SaveFlash(path, Old, New, elsewhere));
   EXPECT_EQ(Contents(path), New);
   EXPECT_EQ(Contents(program.Path("a.dat.bak")), Old);
+}
+
+TEST(FlashFile, WhatAnotherProgramSavesMeanwhileIsKept) {
+  const TestFolder folder;
+  const std::string path = folder.Write("a.dat", Old);
+  Backups session{folder.Path(), {}};
+  ASSERT_TRUE(SaveFlash(path, Old, New, session));
+  const Base::Bytes others(300, '5');
+  meanwhile = [&] { folder.Write("a.dat", others); };
+  const auto saved = SaveFlash(path, New, Old, session);
+  ASSERT_TRUE(saved);
+  EXPECT_EQ(Contents(path), Old);
+  EXPECT_EQ(saved->othersCopy, "a.dat.bak2");
+  EXPECT_EQ(Contents(path + ".bak2"), others);
 }
 
 // The copy of a failed attempt is not the copy of what the file holds by the next one.

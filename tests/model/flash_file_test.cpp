@@ -1,9 +1,14 @@
 #include "model/flash_file.h"
 
+#include "base/file.h"
 #include "image_builder.h"
+#include "model/flash_image.h"
 #include "support/test_folder.h"
 
 #include <gtest/gtest.h>
+
+#include <chrono>
+#include <filesystem>
 
 namespace Routines {
 
@@ -54,6 +59,29 @@ TEST(FlashFile, AWriterThatLeavesTheSectionsIsStopped) {
     EXPECT_EQ(Contents(path), Old);
     EXPECT_EQ(folder.Files(), 1);
   }
+}
+
+TEST(FlashFile, TheFirstCopyAndTheTwentyNewestStay) {
+  const TestFolder folder;
+  const std::string path = folder.Write("a.dat", Old);
+  for (int number = 1; number <= 31; ++number) {
+    const std::string copy = path + ".bak" + (number == 1 ? "" : std::to_string(number));
+    std::filesystem::resize_file(folder.Write(Base::FileName(copy), ""), FlashSize);
+    const auto age = std::chrono::hours(number == 2 ? 0 : number == 1 ? 500 : 100 - number);
+    std::filesystem::last_write_time(copy, std::filesystem::file_time_type::clock::now() - age);
+  }
+  for (const char* other : {"a.dat.bak03", "a.dat.bak3x", "b.dat.bak3"})
+    std::filesystem::copy(path + ".bak", folder.Path(other));
+  folder.Write("a.dat.bak40", "breve");
+  std::filesystem::create_directory(folder.Path("a.dat.bak41"));
+  Backups session{folder.Path(), {}};
+  const auto saved = SaveFlash(path, Old, New, session);
+  ASSERT_TRUE(saved);
+  EXPECT_EQ(saved->removedCopies, 11);
+  for (int number = 3; number <= 31; ++number)
+    EXPECT_EQ(std::filesystem::exists(path + ".bak" + std::to_string(number)), number > 13) << number;
+  EXPECT_EQ(Contents(path + ".bak42"), Old);
+  EXPECT_EQ(folder.Files(), 1 + 31 + 1 - 11 + 5);
 }
 
 }  // namespace Routines

@@ -1,6 +1,7 @@
 // The files of the program folder that people write by hand, and the one that remembers their folders.
 #include "support/bouquets_txt.h"
 #include "support/pos_ini.h"
+#include "support/sdx_ini.h"
 #include "support/sr_ini.h"
 #include "support/test_folder.h"
 
@@ -65,6 +66,16 @@ TEST(PosIni, RemembersAFolderForEachKindByItsLine) {
   EXPECT_EQ(LoadFolder(folder.Path(), FolderKind::Output), "");
   folder.Write("POS.ini", "0:/uno\r\n1:/due\r\n");
   EXPECT_EQ(LoadFolder(folder.Path(), FolderKind::Input), "") << "fewer than three lines read as empty";
+  SaveFolderOf(folder.Path(), FolderKind::Input, "/uno/lista.dat");
+  EXPECT_EQ(Base::AsText(Contents(folder.Path("POS.ini"))), "0:/uno\r\n1:/due\r\n2:\r\n");
+}
+
+TEST(SdxIni, OnlyAMissingFileIsNotFound) {
+  const Tests::TestFolder folder;
+  EXPECT_EQ(LoadAddresses(folder.Path()).error().message, "File SDX.INI non trovato: " + folder.Path("SDX.INI"));
+  folder.Write("SDX.INI", std::string((1U << 20U) + 1, 'h'));
+  EXPECT_EQ(LoadAddresses(folder.Path()).error().message,
+            "Impossibile leggere SDX.INI: il file supera la dimensione consentita");
 }
 
 TEST(SrIni, ReadsTheInputSectionAlone) {

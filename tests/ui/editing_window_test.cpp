@@ -26,6 +26,22 @@ TEST_F(Window, CutMovePasteAndUndoByKeysAndToolbar) {
   EXPECT_EQ(List().ChannelTable, before.ChannelTable);
   EXPECT_EQ(List().FavouritesBlock, before.FavouritesBlock) << "the cut entries are back";
   Tells("Toolbar1_Paste", "Messun canale copiato");
+  const auto selected = [this] {
+    const auto rows = driver_->Grid().Selected();
+    return rows ? std::pair(rows->first, rows->last) : std::pair(0, 0);
+  };
+  driver_->SelectRows(10, 12);
+  driver_->Key(Qt::Key_X, Qt::ControlModifier);
+  EXPECT_EQ(selected(), std::pair(10, 10)) << "the rows that moved up are others";
+  for (const auto key : {Qt::Key_Z, Qt::Key_Z, Qt::Key_Y, Qt::Key_Y}) driver_->Key(key, Qt::ControlModifier);
+  EXPECT_EQ(driver_->TextOf("CanaliCopiati"), "Appunti 3") << "they are nowhere else";
+  EXPECT_EQ(selected(), std::pair(10, 10));
+  driver_->Key(Qt::Key_Z, Qt::ControlModifier);
+  EXPECT_EQ(List().ChannelTable, before.ChannelTable);
+  EXPECT_EQ(selected(), std::pair(10, 12)) << "what came back";
+  Delete(10, 12);
+  EXPECT_EQ(selected(), std::pair(10, 10));
+  driver_->Key(Qt::Key_Z, Qt::ControlModifier);
 
   EXPECT_EQ(Action("Annulla").text(), "Annulla Incolla 3 canali");
   ASSERT_TRUE(driver_->Choose("Annulla"));

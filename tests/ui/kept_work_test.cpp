@@ -10,10 +10,18 @@ class KeptWorkWindow : public Window {
  protected:
   void SetUp() override { OpenDemo(); }
 
-  void StartAndAnswer(bool yes) {
-    StartEmpty();
-    driver_->ExpectQuestion("Esistono modifiche non salvate dell' ultima sessione. Si desidera recuperarle?",
+  [[nodiscard]] QString FileAndTime(const char* name) const {
+    const QFileInfo file(PathText(folder_.Path(name)));
+    return QString(name) + file.lastModified().toString(" (dd/MM/yyyy HH:mm)");
+  }
+  void ExpectOffer(const char* name, bool yes) {
+    driver_->ExpectQuestion("Esistono modifiche non salvate dell'ultima sessione in " + FileAndTime(name) +
+                                ". Si desidera recuperarle?",
                             yes);
+  }
+  void StartAndAnswer(bool yes, const char* name = "trovalis.recupero") {
+    StartEmpty();
+    ExpectOffer(name, yes);
     window_->OfferKeptWork();
     EXPECT_TRUE(driver_->Idle());
   }
@@ -38,7 +46,8 @@ TEST_F(KeptWorkWindow, ClosingAsksNothingAndTheNextStartGoesOn) {
   const Routines::State before = List();
 
   StartAndAnswer(true);
-  EXPECT_EQ(Said(), "Recuperate le modifiche dell'ultima sessione");
+  EXPECT_EQ(Said(), "Recuperate le modifiche dell'ultima sessione da " +
+                        FileAndTime("trovalis.recupero").toStdString());
   Routines::State after = List();
   after.ListNumber = before.ListNumber;
   EXPECT_TRUE(after == before);
@@ -79,7 +88,7 @@ TEST_F(KeptWorkWindow, ARefusedOrDamagedOrReplacedFileIsSetAside) {
 
   folder_.Write("trovalis.recupero", Base::ByteView(kept).first(kept.size() - 1));
   folder_.Write("trovalis-2.recupero", kept);
-  StartAndAnswer(true);
+  StartAndAnswer(true, "trovalis-2.recupero");
   EXPECT_EQ(Contents(file_ + ".danneggiato").size(), kept.size() - 1);
   EXPECT_EQ(driver_->TextOf("CanaliUsati"), "Canali 619 di 3996");
 
@@ -113,6 +122,37 @@ TEST_F(KeptWorkWindow, AnImportLeavesTheUnsavedListBeforeIt) {
   EXPECT_TRUE(std::filesystem::exists(file_ + ".old2"));
 }
 
+// Whoever left them, on whatever computer, except for what a running program holds.
+TEST_F(KeptWorkWindow, EveryFileThatIsThereIsOffered) {
+  Delete(1, 1);
+  EXPECT_TRUE(window_->close());
+  const Base::Bytes first = Contents(file_);
+  window_->show();
+  Delete(1, 1);
+  EXPECT_TRUE(window_->close());
+  window_.reset();
+  for (const char* name : {"trovalis-2.recupero", "trovalis-3.recupero"}) folder_.Write(name, first);
+  const std::string stranger = "4711\ntrovalis\nun-altro-pc\n0123456789abcdef\nfedcba9876543210\n";
+  folder_.Write("trovalis.recupero.lock", stranger);
+  folder_.Write("trovalis-2.recupero.lock", stranger);
+  folder_.Write("trovalis-3.recupero.lock", "");
+  Base::SystemFile running;
+  ASSERT_EQ(running.Hold(folder_.Path("trovalis-2.recupero.lock")), 0);
+  StartEmpty();
+  ExpectOffer("trovalis.recupero", true);
+  ExpectOffer("trovalis-3.recupero", true);
+  const std::string others = FileAndTime("trovalis-2.recupero").toStdString();
+  window_->OfferKeptWork();
+  EXPECT_NE(Said().find("; " + others + ": modifiche di un altro Trovalis aperto; "), std::string::npos)
+      << Said();
+  EXPECT_EQ(driver_->TextOf("CanaliUsati"), "Canali 619 di 3996");
+  const auto aside = Edit::DecodeRecovery(Contents(file_ + ".old"));
+  ASSERT_TRUE(aside) << "the other list's work";
+  ASSERT_TRUE(driver_->Choose("Annulla"));
+  EXPECT_TRUE(aside->state.ChannelTable == List().ChannelTable);
+  EXPECT_EQ(Contents(folder_.Path("trovalis-2.recupero")), first);
+}
+
 TEST_F(KeptWorkWindow, TwoProgramsHaveAFileEach) {
   Delete(1, 1);
   ASSERT_TRUE(FileIs(true));
@@ -131,6 +171,8 @@ TEST_F(KeptWorkWindow, TwoProgramsHaveAFileEach) {
 }
 
 TEST_F(KeptWorkWindow, WhatCannotBeKeptIsToldAndAskedAboutOnlyAtTheEnd) {
+  const std::string text = folder_.Path("lista.txt");
+  Export("FormatoTesto", text);
   std::filesystem::create_directory(folder_.Path("altrove"));
   {
     ::chmod(folder_.Path().c_str(), 0555);
@@ -150,6 +192,22 @@ TEST_F(KeptWorkWindow, WhatCannotBeKeptIsToldAndAskedAboutOnlyAtTheEnd) {
     EXPECT_FALSE(window_->close());
     driver_->ExpectDialog("Trovalis", [](QDialog& box) { QTest::keyClick(&box, Qt::Key_Return); });
     EXPECT_FALSE(window_->close()) << "Enter loses nothing";
+    const Routines::State before = List();
+    const auto staysLoaded = [&](const QString& dialog, const std::string& path, const char* command) {
+      driver_->ExpectFile(dialog, PathText(path));
+      driver_->ExpectQuestion(
+          "Impossibile scrivere trovalis.recupero: permesso negato\n\nLe modifiche non salvate andrebbero "
+          "perse. Si "
+          "desidera continuare?",
+          false);
+      ASSERT_TRUE(driver_->Choose(command));
+      EXPECT_TRUE(List() == before) << command;
+    };
+    driver_->ExpectQuestion("Si desidera accodare la nuova Flash a quella già caricata?", false);
+    staysLoaded(InputDialog, flash_, "ApriFlashInput");
+    staysLoaded("Selezionare il file di testo contenente i CANALI e i TRANSPONDERS", text,
+                "DaEsportatoTesto");
+    staysLoaded("Selezionare il file di output", folder_.Path("altrove/a.fls"), "FormatoFLASH");
   }
   ::chmod(folder_.Path().c_str(), 0777);
   EXPECT_TRUE(FileIs(true)) << "tried again and again";

@@ -1,4 +1,5 @@
 // Opening, looking, saving.
+#include "model/flash_image.h"
 #include "ui/kit/text.h"
 #include "ui/session/commands.h"
 #include "ui/window_fixture.h"
@@ -153,15 +154,18 @@ TEST_F(Window, WhatASaveLeavesOutIsTold) {
   EXPECT_FALSE(Action("VisualizzaPreferiti").isEnabled()) << "receivers of the first type have none to write";
   ASSERT_TRUE(driver_->Pick("SRDef_1"));
   const std::string copy = folder_.Write("copia.dat", Contents(flash_));
+  for (int number = 2; number <= 22; ++number)
+    folder_.Write("copia.dat.bak" + std::to_string(number), Base::Bytes(Routines::FlashSize, 'x'));
   driver_->ExpectMessage(
       "Impossibile gestire più di 999 canali sulla FLASH tipo D- 1-x (999 canali)\nne verranno salvati solo "
       "999");
   driver_->ExpectFile(OutputDialog, PathText(copy));
   Summary(*driver_, 2, 647, false);
   ASSERT_TRUE(driver_->Choose("ApriFlashOutput"));
-  EXPECT_EQ(Said(),
-            "Scritta copia.dat: 238 canali non scritti, 344 canali in più nell'immagine - SR 22000 spostato "
-            "senza Converti SR");
+  EXPECT_EQ(
+      Said(),
+      "Scritta copia.dat: 238 canali non scritti, 344 canali in più nell'immagine - SR 22000 spostato "
+      "senza Converti SR - tolta 1 copia di sicurezza di troppo: restano copia.dat.bak e le 20 più recenti");
   EXPECT_EQ(driver_->TextOf("ModificheNonSalvate"), "Modifiche non salvate") << "even an untouched list";
 }
 

@@ -1,6 +1,7 @@
 #include "ui/edit/edit_commands.h"
 
 #include "base/text.h"
+#include "edit/changed_rows.h"
 #include "ui/kit/text.h"
 
 #include <QAction>
@@ -52,16 +53,15 @@ bool EditCommands::MayReplaceClipboard() {
          session_.dialogs.YesNo("Esistono Canali Copiati e non ancora Scaricati - Continuo?");
 }
 
-void EditCommands::TakeToClipboard(Slots slots) {
-  const State& state = session_.document.Tables();
-  session_.clipboard = Edit::CopyChannels(state, slots);
-  QApplication::clipboard()->setText(CodePageText(Edit::TabSeparated(state, slots)));
+void EditCommands::GiveToOthers(Slots slots) {
+  QApplication::clipboard()->setText(CodePageText(Edit::TabSeparated(session_.document.Tables(), slots)));
 }
 
 void EditCommands::Copy() {
   const auto slots = SelectedChannels();
   if (!slots || !MayReplaceClipboard()) return;
-  TakeToClipboard(*slots);
+  GiveToOthers(*slots);
+  session_.document.Copy(Edit::CopyChannels(session_.document.Tables(), *slots));
   session_.ShowList();
   session_.status.ShowResult("Copia " + Text(CountText(slots->Count())));
 }
@@ -69,11 +69,13 @@ void EditCommands::Copy() {
 void EditCommands::Cut() {
   const auto slots = SelectedChannels();
   if (!slots || !MayReplaceClipboard()) return;
-  TakeToClipboard(*slots);
+  GiveToOthers(*slots);
   const std::string label = "Taglia " + CountText(slots->Count());
-  const auto lost = session_.document.Apply(
-      label, [&](State& state) { return Edit::CutChannels(state, *slots, session_.clipboard); });
-  session_.ShowList();
+  const auto lost = session_.document.Apply(label, [&](State& state, Edit::Clipboard& clipboard) {
+    clipboard = Edit::CopyChannels(state, *slots);
+    return Edit::CutChannels(state, *slots, clipboard);
+  });
+  session_.view.ListGrid().Select({slots->first, slots->first});
   session_.status.ShowResult(Text(label) + session_.Losses(lost));
 }
 
@@ -83,6 +85,7 @@ void EditCommands::Delete() {
   const std::string label = "Elimina " + CountText(slots->Count());
   const auto lost =
       session_.document.Apply(label, [&](State& state) { return Edit::DeleteChannels(state, *slots); });
+  session_.view.ListGrid().Select({slots->first, slots->first});
   session_.status.ShowResult(Text(label) + session_.Losses(lost));
 }
 
@@ -105,18 +108,18 @@ void EditCommands::Paste() {
                                          .arg(position)
                                          .arg(count));
   if (way == Answer::Cancel) return;
-  const auto pasted = session_.document.Apply("Incolla " + CountText(count), [&](State& state) {
-    return Edit::Paste(state, session_.clipboard, position,
-                       way == Answer::Yes ? Edit::PasteWay::Move : Edit::PasteWay::Overwrite,
-                       session_.bouquets.tables);
-  });
+  const auto pasted =
+      session_.document.Apply("Incolla " + CountText(count), [&](State& state, Edit::Clipboard& clipboard) {
+        auto report = Edit::Paste(state, clipboard, position,
+                                  way == Answer::Yes ? Edit::PasteWay::Move : Edit::PasteWay::Overwrite,
+                                  session_.bouquets.tables);
+        if (report) clipboard = {};
+        return report;
+      });
   if (!pasted) {
     session_.Message(pasted.error());
     return;
   }
-  pastedLabel_ = session_.document.Steps().UndoLabel();
-  pasted_ = std::exchange(session_.clipboard, {});
-  session_.ShowList();
   TellPasted(count, position, *pasted);
 }
 
@@ -188,32 +191,30 @@ void EditCommands::InsertCopy(Slots slots, int before) {
 }
 
 void EditCommands::Undo() {
-  const std::string label = session_.document.Steps().UndoLabel();
-  const int list = session_.document.Tables().ListNumber;
-  session_.document.Undo();
-  // What a paste had used up can be pasted again.
-  if (label == pastedLabel_ && session_.clipboard.Count() == 0) session_.clipboard = pasted_;
-  movedTo_ = 0;
-  FollowList(list);
-  session_.status.ShowResult("Annullato: " + Text(label));
+  TakeStep(&Document::Undo, "Annullato: " + Text(session_.document.Steps().UndoLabel()));
 }
 
 void EditCommands::Redo() {
-  const std::string label = session_.document.Steps().RedoLabel();
-  const int list = session_.document.Tables().ListNumber;
-  session_.document.Redo();
-  if (label == pastedLabel_) session_.clipboard = {};
-  movedTo_ = 0;
-  FollowList(list);
-  session_.status.ShowResult("Ripetuto: " + Text(label));
+  TakeStep(&Document::Redo, "Ripetuto: " + Text(session_.document.Steps().RedoLabel()));
 }
 
 // A list that came back is shown from its start; one that went away no longer is.
-void EditCommands::FollowList(int listBefore) {
-  session_.ShowList();
-  const State& state = session_.document.Tables();
-  if (state.ListNumber == listBefore) return;
-  session_.view.ShowFromStart(state.Loaded ? View::Channels : View::None);
+void EditCommands::TakeStep(void (Document::*step)(), const QString& result) {
+  Document& document = session_.document;
+  const auto before = std::make_unique<State>(document.Tables());
+  (document.*step)();
+  movedTo_ = 0;
+  const State& state = document.Tables();
+  if (state.ListNumber != before->ListNumber) {
+    session_.view.ShowFromStart(state.Loaded ? View::Channels : View::None);
+  } else if (session_.view.Current() != View::None) {
+    const bool channels = session_.view.Current() == View::Channels;
+    // The grid selects one run of rows.
+    const Slots changed = Edit::FirstRun(channels ? Edit::ChannelsToShow(*before, state)
+                                                  : Edit::TranspondersToShow(*before, state));
+    if (changed.Count() > 0) session_.view.ListGrid().Select(changed);
+  }
+  session_.status.ShowResult(result);
 }
 
 }  // namespace Ui

@@ -32,16 +32,15 @@ class EditCommands {
   void ShowSteps(Actions& actions);
   std::optional<Edit::Slots> SelectedChannels();
   bool MayReplaceClipboard();
-  void TakeToClipboard(Edit::Slots slots);
+  // As text, for other programs.
+  void GiveToOthers(Edit::Slots slots);
   void Move(Edit::Slots slots, int to);
   void InsertCopy(Edit::Slots slots, int before);
   void TellPasted(int count, int position, const Edit::PasteReport& report);
-  void FollowList(int listBefore);
+  void TakeStep(void (Document::*step)(), const QString& result);
 
   Session& session_;
-  Edit::Clipboard pasted_;   // what the last paste used up
-  std::string pastedLabel_;  // of its step
-  int movedTo_ = 0;          // first slot of the rows moved last
+  int movedTo_ = 0;  // first slot of the rows moved last
 };
 
 }  // namespace Ui

@@ -80,13 +80,15 @@ void ExchangeCommands::FormatoFLASH() {
   Routines::LoadFlash(*reloaded, *image, chosen.Capacity(), 0, session_.bouquets.tables);
   reloaded->SymbolRateTable = rates->table;
   reloaded->FromFls = document.Tables().FromFls;
+  // The list gives way to the image only where it is another one.
+  const bool another = *reloaded != document.Tables();
+  if (another && !session_.mayReplaceList()) return;
   const auto written = Base::ReplaceFile(path, Formats::WriteFls(*reloaded));
   if (!written) {
     session_.status.ShowResult(Text(written.error().message));
     return;
   }
-  // The list gives way to the image only where it is another one.
-  if (*reloaded != document.Tables()) reloaded->ListNumber = document.NextListNumber();
+  if (another) reloaded->ListNumber = document.NextListNumber();
   document.Apply(
       "Ricarica Flash per l'esportazione",
       [&reloaded](State& state) {
@@ -120,6 +122,7 @@ std::optional<Base::Bytes> ExchangeCommands::ReadImport(const QString& title, co
 template <class Read>
 void ExchangeCommands::Import(const char* label, const std::string& path, const Preparation& preparation,
                               Read read) {
+  if (!session_.mayReplaceList()) return;
   Document& document = session_.document;
   const auto report = document.Apply(
       label,

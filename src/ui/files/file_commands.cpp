@@ -30,6 +30,20 @@ Base::Result<Base::Bytes> ReadWaiting(const std::string& path, const char* title
   return Waiting([&] { return Routines::ReadFlash(path, title); });
 }
 
+QString CopiesText(const std::string& path, const Routines::Saved& saved) {
+  QString text;
+  if (!saved.othersCopy.empty())
+    text += " - quello che un altro programma vi ha salvato intanto resta come " + PathText(saved.othersCopy);
+  if (saved.removedCopies > 0) {
+    text +=
+        QString(" - %1 di troppo: restano %2.bak e le 20 più recenti")
+            .arg(saved.removedCopies == 1 ? QString("tolta 1 copia di sicurezza")
+                                          : QString("tolte %1 copie di sicurezza").arg(saved.removedCopies),
+                 ShortName(path));
+  }
+  return text;
+}
+
 QString LoadResult(const State& state, const Routines::LoadReport& report, bool appended) {
   QString text = (appended ? "accodati " : "letti ") + QString::number(report.channelsRead);
   if (report.channelsInImage > report.channelsRead) text += QString(" di %1").arg(report.channelsInImage);
@@ -82,6 +96,7 @@ void FileCommands::Load(const std::string& path, const Base::Bytes& image, int a
   if (!rates) return;
   const int capacity = session_.settings.Chosen().Capacity();
   const bool appended = appendStart > 0;
+  if (!appended && !session_.mayReplaceList()) return;
   session_.status.ShowProgress(30);
   const bool ratesMoved = appended && RatesMoved(*rates);
   Document& document = session_.document;
@@ -170,11 +185,11 @@ void FileCommands::Write(const std::string& path, const Base::Bytes& original,
     session_.dialogs.Message(Text(saved.error().message), OutputTitle);
     return;
   }
-  TellWritten(path, patched, preparation);
+  TellWritten(path, patched, preparation, *saved);
 }
 
 void FileCommands::TellWritten(const std::string& path, const Routines::PatchedFlash& patched,
-                               const Preparation& preparation) {
+                               const Preparation& preparation, const Routines::Saved& saved) {
   Document& document = session_.document;
   const Routines::Unwritten unwritten =
       Routines::FindUnwritten(document.Tables(), patched.image, preparation.plan);
@@ -192,7 +207,7 @@ void FileCommands::TellWritten(const std::string& path, const Routines::PatchedF
   QString result = "Scritta " + ShortName(path);
   if (!unwritten.Nothing()) result += ": " + Text(unwritten.Text());
   if (preparation.ratesMoved) result += RatesMovedText;
-  session_.status.ShowResult(result);
+  session_.status.ShowResult(result + CopiesText(path, saved));
   session_.dialogs.Message(Text(Routines::WriteSummary(document.Tables(), patched)), {}, Tone::Information);
 }
 

@@ -1,6 +1,7 @@
 // The commands that read and write flash images, and the symbol-rate conversion that goes with them.
 #pragma once
 
+#include "model/flash_file.h"
 #include "model/flash_writer.h"
 #include "ui/session/actions.h"
 #include "ui/session/session.h"
@@ -37,7 +38,7 @@ class FileCommands {
   void AskAndWrite(const Preparation& preparation);
   void Write(const std::string& path, const Base::Bytes& original, const Preparation& preparation);
   void TellWritten(const std::string& path, const Routines::PatchedFlash& patched,
-                   const Preparation& preparation);
+                   const Preparation& preparation, const Routines::Saved& saved);
 
   Session& session_;
 };

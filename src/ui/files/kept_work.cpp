@@ -30,9 +30,10 @@ bool Exists(const std::string& path) {
 }
 
 // Beside what was set aside before; where no name is free in the place of the oldest. Returns the name it has now, empty
-// where it stayed.
-std::string SetAside(const std::string& path, const std::string& ending) {
+// where there was no such file.
+Base::Result<std::string> SetAside(const std::string& path, const std::string& ending) {
   constexpr int MostSetAside = 99;
+  if (!Exists(path)) return std::string();
   std::error_code error;
   std::string aside;
   auto oldest = std::filesystem::file_time_type::max();
@@ -45,18 +46,14 @@ std::string SetAside(const std::string& path, const std::string& ending) {
     aside = name;
   }
   std::filesystem::rename(SystemPath(path), SystemPath(aside), error);
-  return error ? std::string() : aside;
+  if (!error) return Base::FileName(aside);
+  return Base::Error{"Impossibile mettere da parte " + Base::FileName(path) + ": " +
+                     Base::SystemReason(error.default_error_condition().value())};
 }
 
-// A lock that names no program is what a power cut has left of one, unless its program is just about to write it.
-void RemoveBrokenLock(QLockFile& lock) {
-  constexpr int Seconds = 10;
-  qint64 program = 0;
-  QString host;
-  QString name;
-  const QFileInfo file(lock.fileName());
-  const bool old = file.lastModified().secsTo(QDateTime::currentDateTime()) > Seconds;
-  if (old && !lock.getLockInfo(&program, &host, &name)) QFile::remove(lock.fileName());
+// What a refused or damaged file is called now.
+QString AsideText(const QString& what, const Base::Result<std::string>& aside) {
+  return aside ? what + " come " + PathText(*aside) : Text(aside.error().message);
 }
 
 }  // namespace
@@ -66,6 +63,7 @@ KeptWork::KeptWork(Session& session) : session_(session) {
   connect(&timer_, &QTimer::timeout, this, &KeptWork::Write);
   writer_.setMaxThreadCount(1);
   session_.onChange.emplace_back([this] { Follow(); });
+  session_.mayReplaceList = [this] { return MayReplace(); };
   connect(&session_.settings, &SettingsPanel::Clicked, this, &KeptWork::Follow);
   connect(&session_.document, &Document::AboutToReplace, this, &KeptWork::KeepBeforeReplacing);
 }
@@ -77,21 +75,22 @@ std::string KeptWork::PathOf(int number) const {
   return session_.programFolder + "/trovalis" + suffix + ".recupero";
 }
 
+QString KeptWork::FileAndTime(int number) const {
+  const QFileInfo file(PathText(PathOf(number)));
+  return file.fileName() + " (" + file.lastModified().toString("dd/MM/yyyy HH:mm") + ")";
+}
+
+// Where the folder takes no lock the file is tried all the same: its error is the one to tell.
 std::optional<KeptWork::Place> KeptWork::Claim(int number) const {
-  auto lock = std::make_unique<QLockFile>(PathText(PathOf(number)) + ".lock");
-  lock->setStaleLockTime(0);  // only the end of its program makes a lock stale
-  RemoveBrokenLock(*lock);
-  if (!lock->tryLock(0) && lock->error() == QLockFile::LockFailedError) return std::nullopt;
-  // Where the folder takes no lock the file is tried all the same: its error is the one to tell.
+  auto lock = std::make_unique<Base::SystemFile>();
+  if (lock->Hold(PathOf(number) + ".lock") == EBUSY) return std::nullopt;
   return Place{PathOf(number), std::move(lock)};
 }
 
 // Files that nobody has been asked about yet are left for the next start.
 Base::Outcome KeptWork::FindPlace() {
   // A disk without room for the lock may have it again, and another program may have come to the file since.
-  if (own_.lock && !own_.lock->isLocked() && !own_.lock->tryLock(0) &&
-      own_.lock->error() == QLockFile::LockFailedError)
-    own_ = {};
+  if (own_.lock && !own_.lock->IsOpen() && own_.lock->Hold(own_.path + ".lock") == EBUSY) own_ = {};
   for (int number = 1; own_.path.empty() && number <= MostPrograms; ++number) {
     if (Exists(PathOf(number))) continue;
     if (auto place = Claim(number)) own_ = std::move(*place);
@@ -101,33 +100,28 @@ Base::Outcome KeptWork::FindPlace() {
 }
 
 void KeptWork::Offer() {
-  for (int number = 1; number <= MostPrograms; ++number) {
-    if (!Exists(PathOf(number))) continue;
-    auto place = Claim(number);
-    if (!place || !Take(place->path)) continue;
-    own_ = std::move(*place);
-    return;
-  }
+  QStringList results;
+  for (int number = 1; number <= MostPrograms; ++number)
+    if (Exists(PathOf(number))) results += OfferOne(number);
+  results.removeAll(QString());
+  if (!results.isEmpty()) session_.status.ShowResult(results.join("; "));
 }
 
-bool KeptWork::Take(const std::string& path) {
-  const auto bytes = Base::ReadFile(path, LargestFile);
+QString KeptWork::OfferOne(int number) {
+  const QString file = FileAndTime(number);
+  auto place = Claim(number);
+  if (!place) return file + ": modifiche di un altro Trovalis aperto";
+  const auto bytes = Base::ReadFile(place->path, LargestFile);
   auto recovery = bytes ? Edit::DecodeRecovery(*bytes) : bytes.error();
-  if (!recovery) {
-    const std::string aside = SetAside(path, Damaged);
-    session_.status.ShowResult(Text(recovery.error().message) +
-                               (aside.empty() ? QString(", non si può mettere da parte")
-                                              : ", messo da parte come " + PathText(Base::FileName(aside))));
-    return false;
-  }
-  if (!session_.dialogs.YesNo(
-          "Esistono modifiche non salvate dell' ultima sessione. Si desidera recuperarle?")) {
-    if (const std::string aside = SetAside(path, Old); !aside.empty())
-      session_.status.ShowResult("Modifiche messe da parte come " + PathText(Base::FileName(aside)));
-    return false;
-  }
+  if (!recovery)
+    return AsideText(Text(recovery.error().message) + ", messo da parte", SetAside(place->path, Damaged));
+  if (!session_.dialogs.YesNo("Esistono modifiche non salvate dell'ultima sessione in " + file +
+                              ". Si desidera recuperarle?"))
+    return AsideText("Modifiche messe da parte", SetAside(place->path, Old));
+  if (!MayReplace()) return {};
   Restore(*recovery);
-  return true;
+  own_ = std::move(*place);
+  return "Recuperate le modifiche dell'ultima sessione da " + file;
 }
 
 // List numbers count within one session, so the list gets a new one, and the clipboard with it where it came from
@@ -135,14 +129,19 @@ bool KeptWork::Take(const std::string& path) {
 void KeptWork::Restore(Edit::Recovery& recovery) {
   Document& document = session_.document;
   const bool sameList = recovery.clipboard.listNumber == recovery.state.ListNumber;
-  recovery.state.ListNumber = keptList_ = document.NextListNumber();
-  recovery.clipboard.listNumber = sameList ? keptList_ : document.NextListNumber();
+  const int number = document.NextListNumber();
+  recovery.state.ListNumber = number;
+  recovery.clipboard.listNumber = sameList ? number : document.NextListNumber();
   session_.settings.Choose(recovery.settings);
-  session_.clipboard = std::move(recovery.clipboard);
   document.Apply(
-      "Recupera", [&recovery](Routines::State& state) { state = recovery.state; }, Edit::History::Kind::List);
+      "Recupera",
+      [&recovery](Routines::State& state, Edit::Clipboard& clipboard) {
+        state = recovery.state;
+        clipboard = recovery.clipboard;
+      },
+      Edit::History::Kind::List);
+  keptList_ = number;
   session_.view.ShowFromStart(View::Channels);
-  session_.status.ShowResult("Recuperate le modifiche dell'ultima sessione");
 }
 
 // Without a list there is nowhere to paste what was cut: the file of the list that was undone is set aside with it.
@@ -170,16 +169,10 @@ void KeptWork::Write() {
     return;
   }
   sinceWrite_.start();
-  if (NothingToKeep()) {
-    Discard();
-    Written(Base::Done{});
+  if (const auto ready = MakeReady(); !ready || NothingToKeep()) {
+    Written(ready);
     return;
   }
-  if (const auto place = FindPlace(); !place) {
-    Written(place);
-    return;
-  }
-  SetReplacedAside();
   writing_ = true;
   writer_.start([this, path = own_.path, bytes = Contents()] {
     auto outcome = Base::ReplaceFile(path, bytes);
@@ -217,31 +210,42 @@ Base::Outcome KeptWork::Flush() {
 }
 
 Base::Outcome KeptWork::WriteNow() {
-  if (NothingToKeep()) {
-    Discard();
-    return Base::Done{};
-  }
-  if (auto place = FindPlace(); !place) return place;
-  SetReplacedAside();
+  if (auto ready = MakeReady(); !ready || NothingToKeep()) return ready;
   return Base::ReplaceFile(own_.path, Contents());
+}
+
+// Another list may have taken the place of the one in the file, which was never saved: an import is unsaved at once.
+Base::Outcome KeptWork::MakeReady() {
+  const bool replaced = !own_.path.empty() && session_.document.Tables().ListNumber != keptList_;
+  if (replaced) {
+    if (auto aside = SetAside(own_.path, Old); !aside) return aside.error();
+  }
+  if (!NothingToKeep()) return FindPlace();
+  // What the file holds is saved or taken back.
+  std::error_code error;
+  if (!own_.path.empty()) std::filesystem::remove(SystemPath(own_.path), error);
+  return Base::Done{};
+}
+
+bool KeptWork::MayReplace() {
+  if (!session_.document.Unsaved()) return true;
+  const auto aside = PutAside();
+  if (aside) return true;
+  return session_.dialogs.FinalYesNo(Text(aside.error().message) + WorkWouldBeLost +
+                                     " Si desidera continuare?");
+}
+
+Base::Outcome KeptWork::PutAside() {
+  if (auto kept = Flush(); !kept) return kept;
+  if (auto aside = SetAside(own_.path, Old); !aside) return aside.error();
+  setAside_ = session_.document.Revision();
+  Follow();  // the list may yet stay
+  return Base::Done{};
 }
 
 // The file is what remains of a list that another one replaces, so it has to hold the last changes too.
 void KeptWork::KeepBeforeReplacing() {
-  if (timer_.isActive()) static_cast<void>(Flush());
-}
-
-// Another list may have taken the place of the one in the file, which was never saved: an import is unsaved at once.
-void KeptWork::SetReplacedAside() {
-  if (session_.document.Tables().ListNumber != keptList_) SetAside(own_.path, Old);
-}
-
-// What the file holds is saved or taken back, or else set aside.
-void KeptWork::Discard() {
-  if (own_.path.empty()) return;
-  SetReplacedAside();
-  std::error_code error;
-  std::filesystem::remove(SystemPath(own_.path), error);
+  if (timer_.isActive() && session_.document.Revision() != setAside_) static_cast<void>(Flush());
 }
 
 }  // namespace Ui

@@ -1,11 +1,11 @@
 #include "ui/files/recent_files.h"
 
+#include "ui/kit/settings_file.h"
 #include "ui/session/commands.h"
 
 #include <QAction>
 #include <QMainWindow>
 #include <QMenu>
-#include <QSettings>
 
 namespace Ui {
 namespace {
@@ -44,7 +44,7 @@ RecentFiles::RecentFiles(QString settingsFile, QMainWindow& window)
 RecentFiles::~RecentFiles() { Write(); }
 
 QStringList RecentFiles::Paths() const {
-  QStringList paths = QSettings(settingsFile_, QSettings::IniFormat).value(Key).toStringList();
+  QStringList paths = Setting(settingsFile_, Key).toStringList();
   if (!unwritten_.isEmpty()) {
     paths.removeAll(unwritten_);
     paths.prepend(unwritten_);
@@ -73,7 +73,7 @@ void RecentFiles::Write() {
 void RecentFiles::Store(const QStringList& paths) {
   write_.stop();
   unwritten_.clear();
-  QSettings(settingsFile_, QSettings::IniFormat).setValue(Key, paths);
+  KeepSetting(settingsFile_, Key, paths);
 }
 
 void RecentFiles::FillMenu() {

@@ -1,5 +1,6 @@
 #include "ui/kit/qt_dialogs.h"
 
+#include "ui/kit/breaking_label.h"
 #include "ui/kit/screen_fit.h"
 
 #include <QComboBox>
@@ -10,6 +11,7 @@
 #include <QLabel>
 #include <QMessageBox>
 #include <QRegularExpression>
+#include <QScreen>
 #include <QTreeView>
 
 namespace Ui {
@@ -28,18 +30,24 @@ QString AnyCase(const QString& pattern) {
   return result;
 }
 
-// A box breaks lines between words only; a long file name gets places where it may be broken too.
-QString Breakable(QString text) {
-  static const QRegularExpression LongWord("(\\S{60})(?=\\S)");
-  return text.replace(LongWord, QString("\\1") + QChar(0x200B));
+// The box's own label, which keeps the text, breaks lines between words only: a path would be cut off.
+void BreakLines(QMessageBox& box) {
+  constexpr int Widest = 500;
+  auto* own = box.findChild<QLabel*>("qt_msgbox_label");
+  if (own == nullptr || box.layout() == nullptr) return;
+  const int room = box.screen()->availableGeometry().width() / 2;
+  auto* lines = new BreakingLabel(box.text(), std::min(Widest, room), &box);
+  delete box.layout()->replaceWidget(own, lines);
+  own->hide();
 }
 
 QMessageBox::StandardButton Show(QWidget* parent, QMessageBox::Icon icon, const QString& text,
                                  const QString& title, QMessageBox::StandardButtons buttons,
                                  QMessageBox::StandardButton onEnter = QMessageBox::NoButton) {
-  QMessageBox box(icon, title.isEmpty() ? QString("Trovalis") : title, Breakable(text), buttons, parent);
+  QMessageBox box(icon, title.isEmpty() ? QString("Trovalis") : title, text, buttons, parent);
   box.setDefaultButton(onEnter);
   box.setTextFormat(Qt::PlainText);
+  BreakLines(box);
   return static_cast<QMessageBox::StandardButton>(box.exec());
 }
 

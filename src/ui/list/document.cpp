@@ -14,9 +14,11 @@ constexpr std::size_t MostSavedLists = 20;
 
 Document::Document(QObject* parent) : QObject(parent), state_(std::make_unique<State>()) {}
 
-void Document::Keep(const std::string& label, Edit::History::Kind kind, std::unique_ptr<State> before) {
-  if (*before == *state_) return;
-  history_.Push(label, kind, std::move(before));
+void Document::Keep(const std::string& label, Edit::History::Kind kind, std::unique_ptr<State> before,
+                    const Edit::Clipboard& copied) {
+  const bool same = *before == *state_;
+  if (same && copied == clipboard_) return;
+  if (!same) history_.Push(label, kind, std::move(before), copied, clipboard_);
   Tell();
 }
 
@@ -38,11 +40,11 @@ bool Document::Unsaved() const {
 }
 
 void Document::Undo() {
-  if (history_.Undo(state_)) Tell();
+  if (history_.Undo(state_, clipboard_)) Tell();
 }
 
 void Document::Redo() {
-  if (history_.Redo(state_)) Tell();
+  if (history_.Redo(state_, clipboard_)) Tell();
 }
 
 void Document::MarkSaved(const std::string& path) {

@@ -20,20 +20,26 @@ class Document : public QObject {
   explicit Document(QObject* parent = nullptr);
 
   [[nodiscard]] const Routines::State& Tables() const { return *state_; }
+  // The channels copied or cut.
+  [[nodiscard]] const Edit::Clipboard& Copied() const { return clipboard_; }
+  // What is copied is no part of the list, and so no step.
+  void Copy(Edit::Clipboard channels) { clipboard_ = std::move(channels); }
 
   // Runs `operation` on the tables as one step that can be undone, named `label` (UTF-8), and tells the views
-  // where it changed any. Without a change there is no step. Returns what `operation` returns, if anything.
+  // where it changed any. Without a change there is no step. One that takes the clipboard as well, as cutting and pasting
+  // do, changes both in that step. Returns what `operation` returns, if anything.
   template <class Operation>
   auto Apply(const std::string& label, Operation operation,
              Edit::History::Kind kind = Edit::History::Kind::Edit) {
     if (kind == Edit::History::Kind::List) Q_EMIT AboutToReplace();
     auto before = std::make_unique<Routines::State>(*state_);
-    if constexpr (std::is_void_v<std::invoke_result_t<Operation&, Routines::State&>>) {
-      operation(*state_);
-      Keep(label, kind, std::move(before));
+    const Edit::Clipboard copied = clipboard_;
+    if constexpr (std::is_void_v<decltype(Run(operation))>) {
+      Run(operation);
+      Keep(label, kind, std::move(before), copied);
     } else {
-      auto result = operation(*state_);
-      Keep(label, kind, std::move(before));
+      auto result = Run(operation);
+      Keep(label, kind, std::move(before), copied);
       return result;
     }
   }
@@ -70,11 +76,21 @@ class Document : public QObject {
   void Changed();
 
  private:
-  // Makes a step of what came after `before`, if anything has changed since.
-  void Keep(const std::string& label, Edit::History::Kind kind, std::unique_ptr<Routines::State> before);
+  template <class Operation>
+  auto Run(Operation& operation) {
+    if constexpr (std::is_invocable_v<Operation&, Routines::State&, Edit::Clipboard&>) {
+      return operation(*state_, clipboard_);
+    } else {
+      return operation(*state_);
+    }
+  }
+  // Makes a step of what came after `before` and `copied`, if anything has changed since.
+  void Keep(const std::string& label, Edit::History::Kind kind, std::unique_ptr<Routines::State> before,
+            const Edit::Clipboard& copied);
   void Tell();
 
   std::unique_ptr<Routines::State> state_;
+  Edit::Clipboard clipboard_;
   struct Saved {
     std::string path;  // resolved, as one image may have many names
     std::unique_ptr<Routines::State> state;

@@ -34,7 +34,7 @@ struct Session {
   ListView& view;
   StatusLine& status;
   std::function<void()> endProgram;
-  Edit::Clipboard clipboard = {};
+  const Edit::Clipboard& clipboard = document.Copied();
   Formats::SdxTable sdx = {};
   bool srIniMissingTold = false;
   // What commands are enabled with, beside the list itself; ShowList() tells of a change.
@@ -42,6 +42,8 @@ struct Session {
   bool sdxShownSinceFls = false;  // since the list came from a file of raw records
   bool favouritesAtHand = false;  // the receiver chosen, or the list imported, has favourites
   std::vector<std::function<void()>> onChange = {};
+  // Asked before another list takes the place of the loaded one; false where the user would rather keep it.
+  std::function<bool()> mayReplaceList = [] { return true; };
 
   // Whatever changed the list or the clipboard ends here: the status bar's figures, and who else wants to know.
   void ShowList() {

@@ -2,6 +2,7 @@
 
 #include "base/code_page.h"
 #include "ui/kit/dialogs.h"
+#include "ui/kit/settings_file.h"
 #include "ui/kit/text.h"
 
 #include <QSettings>
@@ -10,8 +11,9 @@ namespace Ui {
 
 using namespace Formats;
 
-void RememberLayout(const QString& iniFile, const QString& group, const ForeignLayout& layout) {
-  QSettings settings(iniFile, QSettings::IniFormat);
+namespace {
+
+void Store(QSettings& settings, const QString& group, const ForeignLayout& layout) {
   settings.remove(group);
   settings.beginGroup(group);
   settings.setValue("Separatore", static_cast<int>(layout.separator));
@@ -30,8 +32,7 @@ void RememberLayout(const QString& iniFile, const QString& group, const ForeignL
   settings.endArray();
 }
 
-std::optional<ForeignLayout> RememberedLayout(const QString& iniFile, const QString& group) {
-  QSettings settings(iniFile, QSettings::IniFormat);
+std::optional<ForeignLayout> Stored(QSettings& settings, const QString& group) {
   settings.beginGroup(group);
   const int separator = settings.value("Separatore", -1).toInt();
   if (separator < 0 || separator > static_cast<int>(Separator::Columns)) return std::nullopt;
@@ -50,6 +51,18 @@ std::optional<ForeignLayout> RememberedLayout(const QString& iniFile, const QStr
     layout.columns.push_back({static_cast<Meaning>(meaning), settings.value("Esadecimale").toBool(),
                               Base::FromUtf8Lossy(settings.value("Titolo").toString().toStdString())});
   }
+  return layout;
+}
+
+}  // namespace
+
+void RememberLayout(const QString& iniFile, const QString& group, const ForeignLayout& layout) {
+  ChangeSettings(iniFile, [&](QSettings& settings) { Store(settings, group, layout); });
+}
+
+std::optional<ForeignLayout> RememberedLayout(const QString& iniFile, const QString& group) {
+  std::optional<ForeignLayout> layout;
+  ReadSettings(iniFile, [&](QSettings& settings) { layout = Stored(settings, group); });
   return layout;
 }
 

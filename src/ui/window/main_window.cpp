@@ -6,6 +6,7 @@
 #include "ui/kit/qt_dialogs.h"
 #include "ui/kit/screen_fit.h"
 #include "ui/kit/scroll_strip.h"
+#include "ui/kit/settings_file.h"
 #include "ui/kit/text.h"
 #include "ui/kit/themed_icon.h"
 #include "ui/review/review_room.h"
@@ -27,7 +28,6 @@
 #include <QDropEvent>
 #include <QMimeData>
 #include <QPointer>
-#include <QSettings>
 #include <QSplitter>
 #include <QStatusBar>
 #include <QVBoxLayout>
@@ -87,7 +87,9 @@ MainWindow::MainWindow(const std::string& programFolder, std::unique_ptr<Dialogs
   ShowTips(*this);
   setAcceptDrops(true);
   ResizeOnScreen(*this, {1024, 700});
-  restoreGeometry(QSettings(session_->SettingsFile(), QSettings::IniFormat).value(GeometryKey).toByteArray());
+  if (const QString fault = SettingsFault(session_->SettingsFile()); !fault.isEmpty())
+    session_->status.ShowResult(fault + ": le impostazioni non vengono conservate");
+  restoreGeometry(Setting(session_->SettingsFile(), GeometryKey).toByteArray());
 }
 
 MainWindow::~MainWindow() = default;
@@ -190,14 +192,13 @@ void MainWindow::closeEvent(QCloseEvent* event) {
   session_->view.FinishEditing();
   const auto kept = files_->kept.Flush();
   if (!kept &&
-      !dialogs_->FinalYesNo(Text(kept.error().message) +
-                            "\n\nLe modifiche non salvate andrebbero perse. Si desidera chiudere?")) {
+      !dialogs_->FinalYesNo(Text(kept.error().message) + WorkWouldBeLost + " Si desidera chiudere?")) {
     event->ignore();
     QWidget& goOn = focus && focus->isVisible() ? *focus : session_->view.ListGrid();
     goOn.setFocus();
     return;
   }
-  QSettings(session_->SettingsFile(), QSettings::IniFormat).setValue(GeometryKey, saveGeometry());
+  KeepSetting(session_->SettingsFile(), GeometryKey, saveGeometry());
   for (QDialog* window : screen_->ToolWindows()) window->close();
   event->accept();
 }

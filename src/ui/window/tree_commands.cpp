@@ -1,8 +1,9 @@
 #include "ui/window/tree_commands.h"
 
+#include "ui/kit/settings_file.h"
+
 #include <QAction>
 #include <QScopedValueRollback>
-#include <QSettings>
 #include <QSplitter>
 
 namespace Ui {
@@ -92,18 +93,18 @@ void TreeCommands::Hide() {
 
 void TreeCommands::FollowView(View view) {
   const bool free = transponders_->isHidden() && !sources_.sdx.PaneShown();
-  const bool closed = QSettings(session_.SettingsFile(), QSettings::IniFormat).value(ClosedKey).toBool();
+  const bool closed = Setting(session_.SettingsFile(), ClosedKey).toBool();
   channels_->setVisible(view == View::Channels && free && !closed);
   if (!session_.document.Tables().Loaded) Hide();
 }
 
 void TreeCommands::Close() {
-  QSettings(session_.SettingsFile(), QSettings::IniFormat).setValue(ClosedKey, true);
+  KeepSetting(session_.SettingsFile(), ClosedKey, true);
   channels_->hide();
 }
 
 void TreeCommands::BringBack() {
-  QSettings(session_.SettingsFile(), QSettings::IniFormat).remove(ClosedKey);
+  KeepSetting(session_.SettingsFile(), ClosedKey, {});
   FollowView(View::Channels);
 }
 
