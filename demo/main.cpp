@@ -1,6 +1,7 @@
 // Plays one session of the real window, from the first choice to a saved list, and leaves pictures of it:
 //   trovalis_demo DEMO.dat SUPPORT_FOLDER OUTPUT_FOLDER
 // Every step is printed with what came of it; the first that fails ends the session with an error.
+#include "model/cells.h"
 #include "ui/kit/text.h"
 #include "ui/kit/toolkit.h"
 #include "ui/list/document.h"
@@ -17,6 +18,7 @@
 #include <QLineEdit>
 #include <QListWidget>
 #include <QMenu>
+#include <QMessageBox>
 #include <QPushButton>
 #include <QScreen>
 #include <QTableView>

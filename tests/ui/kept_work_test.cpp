@@ -1,4 +1,5 @@
 // Work that is not saved outlives the window and the program.
+#include "base/system_file.h"
 #include "edit/recovery.h"
 #include "ui/kit/text.h"
 #include "ui/window_fixture.h"
