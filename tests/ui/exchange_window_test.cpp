@@ -40,7 +40,12 @@ TEST_F(Window, RawRecordsComeFromTheFlashOnTheDisk) {
   Delete(1, 1);
   {
     const Tests::FileSizeLimit limit(1000);
-    Export("FormatoFLASH", path);
+    driver_->ExpectFile("Selezionare il file di output", PathText(path));
+    driver_->ExpectQuestion(
+        "Impossibile scrivere trovalis.recupero: il file supera la dimensione consentita\n\n"
+        "Le modifiche non salvate andrebbero perse. Si desidera continuare?",
+        true);
+    ASSERT_TRUE(driver_->Choose("FormatoFLASH"));
     EXPECT_EQ(Said(), "Impossibile scrivere lista.fls: il file supera la dimensione consentita");
     EXPECT_EQ(driver_->Cell(1, 1), "Rete Italia HD") << "a failed export leaves the edits";
   }
