@@ -93,11 +93,12 @@ void TakeData(std::string_view data, ListedService& service, std::string_view& p
   while (!data.empty()) {
     const char kind = data.size() > 1 && data[1] == Separator ? data[0] : '\0';
     if (kind != '\0') data.remove_prefix(2);
-    if (kind == 'p') {
-      provider = TakeField(data, ',');
+    if (kind != 'c' && kind != 'C') {
+      const std::string_view other = TakeField(data, ',');
+      if (kind == 'p') provider = other;
       continue;
     }
-    const auto number = kind == 'c' || kind == 'C' ? TakeHex(data) : std::nullopt;
+    const auto number = TakeHex(data);
     if (!TakeEnd(data, ',') || !number) continue;
     if (kind == 'c') TakeCached(*number, service);
     if (kind == 'C' && *number <= 0xFFFF) service.caids.push_back(static_cast<int>(*number));
