@@ -91,6 +91,10 @@ TEST_F(Window, ASatcodxListGoesIntoTheChannelList) {
   EXPECT_EQ(Said(), "prova.sdx: lette 4 righe, prese 3; scartate: symbol rate 1");
   auto* missing = window_->findChild<QDialog*>("ElencoNonInSDX");
   ASSERT_NE(missing, nullptr) << "the demo's own channels are not in that list";
+  const Base::Bytes image = Contents(flash_);
+  ExpectOpenedFlashChosen("Salva l'elenco");
+  missing->findChild<QPushButton*>("SalvaNonInSDX")->click();
+  EXPECT_EQ(Contents(flash_), image) << "no text is saved over the opened flash";
   missing->close();
   auto* pane = window_->findChild<Ui::Grid*>("GrigliaSDX");
   EXPECT_TRUE(pane->isVisible());

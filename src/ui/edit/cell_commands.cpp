@@ -160,7 +160,7 @@ void CellCommands::SetColumn(int column, const QString& value) {
   const auto changed = session_.document.Apply(
       label, [&](State& state) { return Edit::EditChannels(state, *rows, column, value.toStdString()); });
   if (!changed) {
-    session_.dialogs.Message(Text(changed.error().message), {});
+    session_.Message(changed.error());
     return;
   }
   session_.status.ShowResult(Text(label) + ": " + Counted(*changed, "canale", "canali"));

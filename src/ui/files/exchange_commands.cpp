@@ -90,11 +90,7 @@ void ExchangeCommands::FormatoFLASH() {
   }
   if (another) reloaded->ListNumber = document.NextListNumber();
   document.Apply(
-      "Ricarica Flash per l'esportazione",
-      [&reloaded](State& state) {
-        state = *reloaded;
-        return Base::Done{};
-      },
+      "Ricarica Flash per l'esportazione", [&reloaded](State& state) { state = *reloaded; },
       Edit::History::Kind::List);
   document.MarkSaved(document.Tables().InputFlash);
   session_.status.ShowResult("Esportato " + PathText(Base::FileName(path)) + "; ricaricata la flash " +

@@ -35,11 +35,9 @@ QString CopiesText(const std::string& path, const Routines::Saved& saved) {
   if (!saved.othersCopy.empty())
     text += " - quello che un altro programma vi ha salvato intanto resta come " + PathText(saved.othersCopy);
   if (saved.removedCopies > 0) {
-    text +=
-        QString(" - %1 di troppo: restano %2.bak e le 20 più recenti")
-            .arg(saved.removedCopies == 1 ? QString("tolta 1 copia di sicurezza")
-                                          : QString("tolte %1 copie di sicurezza").arg(saved.removedCopies),
-                 ShortName(path));
+    text += (saved.removedCopies == 1 ? " - tolta " : " - tolte ") +
+            Counted(saved.removedCopies, "copia di sicurezza", "copie di sicurezza") +
+            QString(" di troppo: restano %1.bak e le 20 più recenti").arg(ShortName(path));
   }
   return text;
 }
