@@ -137,10 +137,6 @@ std::string FavouritesText(const State& state) {
   return text + "[END PREFERITI]" + LineEnd;
 }
 
-bool Blank(const Base::Bytes& block) {
-  return std::all_of(block.begin(), block.end(), [](Base::Byte byte) { return byte == 0 || byte == ' '; });
-}
-
 // The leading digits of a column of at most five places; nothing when the number is larger than `most`.
 inline std::optional<std::uint32_t> NumberIn(std::string_view line, const Column& column,
                                              std::uint32_t most) {
@@ -365,7 +361,7 @@ std::string WriteText(const State& state) {
     if (!IsFree(row.record)) text += TransponderText(state, row, number);
   }
   text += "[END TRANSPONDERS] " + transponders;
-  if (!Blank(state.FavouritesBlock)) text += FavouritesText(state);
+  if (!IsBlankFavourites(state.FavouritesBlock)) text += FavouritesText(state);
   return text;
 }
 

@@ -14,6 +14,7 @@ struct PatchedFlash {
   Base::Bytes image;
   int channelSections = 0;
   bool favouritesWritten = false;
+  int favouritesCleared = 0;  // bytes behind a short block that held something and are zero now
 };
 
 // `original` has FlashSize bytes. Slots 1..plan.maxChannels are written as far as the image's sections reach.
@@ -31,7 +32,7 @@ std::string WriteSummary(const State& state, const PatchedFlash& patched);
 struct Unwritten {
   int channels = 0;       // channels that are missing or different
   int extraChannels = 0;  // channels where the list has an empty slot
-  int transponders = 0;
+  int transponders = 0;   // that are missing, different, or there where the list has none
   bool favourites = false;
   bool favouriteNames = false;
 
@@ -42,7 +43,8 @@ struct Unwritten {
   [[nodiscard]] std::string Text() const;
 };
 
-// `written` is loaded as the receiver that `plan` was made for does, up to the channels it can take.
+// `written` is loaded as the receiver that `plan` was made for does, up to the channels it can take. Whatever its
+// type, the favourites count too, unless the list has none.
 Unwritten FindUnwritten(const State& state, Base::ByteView written, const WritePlan& plan);
 
 }  // namespace Routines

@@ -4,6 +4,7 @@
 #include "base/file.h"
 #include "formats/csv_format.h"
 #include "formats/fls_format.h"
+#include "formats/list_import.h"
 #include "formats/text_format.h"
 #include "model/flash_loader.h"
 #include "ui/kit/text.h"
@@ -127,15 +128,11 @@ void ExchangeCommands::Import(const char* label, const std::string& path, const 
   const auto report = document.Apply(
       label,
       [&](State& state) {
-        const std::string rates = state.SymbolRateTable;
-        state.SymbolRateTable = preparation.symbolRates;
-        Formats::ImportReport told = read(state);
-        if (!told.transpondersRead) state.SymbolRateTable = rates;
+        Formats::ImportReport told = Formats::ImportList(state, preparation.symbolRates, read);
         if (told.changed) {
           state.OutputFlash.clear();
           state.ListNumber = document.NextListNumber();
         }
-        if (told.listRead) state.Loaded = true;
         return told;
       },
       Edit::History::Kind::List);
@@ -148,18 +145,17 @@ void ExchangeCommands::Import(const char* label, const std::string& path, const 
 }
 
 void ExchangeCommands::TellImported(const std::string& path, const Formats::ImportReport& report) {
-  const State& state = session_.document.Tables();
-  if (report.changed) {
-    QString text =
-        PathText(Base::FileName(path)) + QString(": importati %1 canali").arg(Routines::UsedChannels(state));
-    const int beyond = static_cast<int>(std::count_if(state.ChannelTable.begin() + 1 + state.ChannelCount,
-                                                      state.ChannelTable.end(),
-                                                      [](const auto& channel) { return !channel.Empty(); }));
-    if (beyond > 0)
-      text += QString(", altri %1 restano oltre i %2 posti della lista").arg(beyond).arg(state.ChannelCount);
+  if (report.listRead) {
+    QString text = PathText(Base::FileName(path)) + QString(": importati %1 canali").arg(report.channelsRead);
     if (report.unknownRates > 0)
       text += QString(", %1 transponder con SR che SR.INI non ha").arg(report.unknownRates);
     session_.status.ShowResult(text);
+  } else if (report.changed) {
+    session_.status.ShowResult(QString("Importazione interrotta: letti %1 canali, %2")
+                                   .arg(report.channelsRead)
+                                   .arg(session_.document.Tables().Loaded
+                                            ? "scritti fra quelli della lista: Annulla la riporta com'era"
+                                            : "non usati"));
   }
   if (!report.whole) session_.Message(report.whole.error());
 }
@@ -187,7 +183,7 @@ void ExchangeCommands::DaEsportato(std::string path) {
   if (!bytes) return;
   Import("Importa da formato FLASH", path, *preparation, [&](State& state) {
     auto report = Formats::ReadFls(state, *bytes, session_.bouquets.tables);
-    if (report.changed) state.MaxChannels = state.ChannelCount = preparation->plan.maxChannels;
+    if (report.changed) state.ChannelCount = preparation->plan.maxChannels;
     if (report.whole) state.FromFls = true;
     return report;
   });

@@ -206,6 +206,8 @@ void FileCommands::TellWritten(const std::string& path, const Routines::PatchedF
 
   QString result = "Scritta " + ShortName(path);
   if (!unwritten.Nothing()) result += ": " + Text(unwritten.Text());
+  if (patched.favouritesCleared > 0)
+    result += QString(", azzerati %1 byte in fondo all'area dei preferiti").arg(patched.favouritesCleared);
   if (preparation.ratesMoved) result += RatesMovedText;
   session_.status.ShowResult(result + CopiesText(path, saved));
   session_.dialogs.Message(Text(Routines::WriteSummary(document.Tables(), patched)), {}, Tone::Information);
