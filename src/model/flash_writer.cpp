@@ -100,9 +100,9 @@ void CompareChannels(const State& state, const State& reloaded, Unwritten& unwri
     const ChannelRecord& ours = state.Channel(slot);
     const ChannelRecord& theirs = reloaded.Channel(slot);
     if (ours.Empty()) {
-      if (!theirs.Empty()) ++unwritten.extraChannels;
+      if (!theirs.Empty()) unwritten.extraChannels.push_back(slot);
     } else if (ours != theirs) {
-      ++unwritten.channels;
+      unwritten.channels.push_back(slot);
     }
   }
 }
@@ -160,11 +160,11 @@ std::string WriteSummary(const State& state, const PatchedFlash& patched) {
 std::string Unwritten::Text() const {
   std::string text;
   const auto add = [&text](std::string_view part) { text.append(text.empty() ? "" : ", ").append(part); };
-  const auto count = [&add](int number, std::string_view one, std::string_view many) {
+  const auto count = [&add](auto number, std::string_view one, std::string_view many) {
     if (number > 0) add(Base::Counted(number, one, many));
   };
-  count(channels, "canale non scritto", "canali non scritti");
-  count(extraChannels, "canale in più nell'immagine", "canali in più nell'immagine");
+  count(channels.size(), "canale non scritto", "canali non scritti");
+  count(extraChannels.size(), "canale in più nell'immagine", "canali in più nell'immagine");
   count(transponders, "transponder diverso", "transponder diversi");
   if (favourites) add("preferiti non scritti");
   if (favouriteNames && !favourites) add("nomi delle liste persi");

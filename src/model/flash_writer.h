@@ -30,14 +30,14 @@ std::string WriteSummary(const State& state, const PatchedFlash& patched);
 
 // What loading a written image would not give back.
 struct Unwritten {
-  int channels = 0;       // channels that are missing or different
-  int extraChannels = 0;  // channels where the list has an empty slot
-  int transponders = 0;   // that are missing, different, or there where the list has none
+  std::vector<int> channels;       // slots whose channel is missing or different
+  std::vector<int> extraChannels;  // empty slots of the list where the image has a channel
+  int transponders = 0;            // that are missing, different, or there where the list has none
   bool favourites = false;
   bool favouriteNames = false;
 
   [[nodiscard]] bool Nothing() const {
-    return channels == 0 && extraChannels == 0 && transponders == 0 && !favourites && !favouriteNames;
+    return channels.empty() && extraChannels.empty() && transponders == 0 && !favourites && !favouriteNames;
   }
   // "344 canali non scritti, preferiti non scritti"; empty when nothing is missing.
   [[nodiscard]] std::string Text() const;

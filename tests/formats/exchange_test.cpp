@@ -75,13 +75,19 @@ TEST(TextFormat, ReadsBackWithTheKnownLosses) {
   read->SymbolRateTable = written->SymbolRateTable;
   read->Channel(2) = MakeChannel("sparisce", 1, 1, 1, 1);
   read->Channel(9) = MakeChannel("resta", 1, 1, 1, 1);
+  Set(written->Channel(5), ChannelField::Flags, 0x8D);
   const ImportReport report = Read(*read, WriteText(*written));
   EXPECT_TRUE(report.whole);
+  EXPECT_EQ(report.codings.Text(), "1 canale diventa non attivo, 1 codifica cambiata");
+  EXPECT_EQ(CodingsLostAsText(*written).Text(), report.codings.Text());
   EXPECT_TRUE(report.listRead);
   // "N" loses the coding; behind "Auto" a transponder is vertical, without tone, on satellite A; names get blanks.
   std::string expected = WriteText(*written);
-  for (const auto& [was, is] :
-       {std::pair{"B0 N", "00 N"}, {"SAT `", "SAT A"}, {"e [E", "e  E"}, {"e d\r", "e d          \r"}})
+  for (const auto& [was, is] : {std::pair{"B0 N", "00 N"},
+                                {"8D S", "80 N"},
+                                {"SAT `", "SAT A"},
+                                {"e [E", "e  E"},
+                                {"e d\r", "e d          \r"}})
     expected = Replaced(expected, was, is);
   EXPECT_EQ(WriteText(*read), expected);
   EXPECT_EQ(read->Channel(4).Name(), " END CANALI] 1  ") << "a name does not end its section";

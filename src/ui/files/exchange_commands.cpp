@@ -18,7 +18,6 @@ namespace {
 
 // A whole list is some 300 KB in either format.
 constexpr std::size_t LargestImport = 16U << 20U;
-constexpr std::string_view ByteOrderMark = "\xEF\xBB\xBF";
 
 }  // namespace
 
@@ -35,16 +34,18 @@ std::string ExchangeCommands::AskExport(const QString& filters) {
   return session_.AskSave("Selezionare il file di output", filters, FolderKind::Input, "Non esportato");
 }
 
-void ExchangeCommands::Export(const std::string& path, Base::ByteView bytes) {
+void ExchangeCommands::Export(const std::string& path, Base::ByteView bytes, const std::string& lost) {
   const auto written = Base::ReplaceFile(path, bytes);
-  session_.status.ShowResult(written ? "Esportato " + PathText(Base::FileName(path))
+  session_.status.ShowResult(written ? "Esportato " + PathText(Base::FileName(path)) +
+                                           (lost.empty() ? QString() : ": " + Text(lost))
                                      : Text(written.error().message));
 }
 
 void ExchangeCommands::FormatoTesto() {
   const std::string path = AskExport("Files di testo(*.txt)|*.txt");
   if (path.empty()) return;
-  Export(path, Base::AsBytes(Formats::WriteText(session_.document.Tables())));
+  const State& state = session_.document.Tables();
+  Export(path, Base::AsBytes(Formats::WriteText(state)), Formats::CodingsLostAsText(state).Text());
 }
 
 void ExchangeCommands::FormatoCSV() {
@@ -89,7 +90,13 @@ void ExchangeCommands::FormatoFLASH() {
     session_.status.ShowResult(Text(written.error().message));
     return;
   }
-  if (another) reloaded->ListNumber = document.NextListNumber();
+  QString replaced;
+  if (another) {
+    reloaded->ListNumber = document.NextListNumber();
+    replaced = QString(" al posto della lista di %1 canali%2: Ctrl+Z la riporta")
+                   .arg(Routines::UsedChannels(document.Tables()))
+                   .arg(document.Unsaved() ? " con modifiche non salvate" : "");
+  }
   document.Apply(
       "Ricarica Flash per l'esportazione",
       [&reloaded](State& state) {
@@ -99,13 +106,13 @@ void ExchangeCommands::FormatoFLASH() {
       Edit::History::Kind::List);
   document.MarkSaved(document.Tables().InputFlash);
   session_.status.ShowResult("Esportato " + PathText(Base::FileName(path)) + "; ricaricata la flash " +
-                             PathText(Base::FileName(flash)));
+                             PathText(Base::FileName(flash)) + replaced);
 }
 
 // An import replaces the list, so what is loaded now does not count.
 std::optional<ExchangeCommands::Preparation> ExchangeCommands::Prepare() {
-  const auto rates = session_.LoadSymbolRates();
-  if (!rates || !rates->missing.empty()) return std::nullopt;
+  const auto rates = session_.NeedsSymbolRates();
+  if (!rates) return std::nullopt;
   return Preparation{Routines::PlanWrite(*std::make_unique<State>(), session_.settings.Chosen()),
                      rates->table};
 }
@@ -149,6 +156,7 @@ void ExchangeCommands::TellImported(const std::string& path, const Formats::Impo
     QString text = PathText(Base::FileName(path)) + QString(": importati %1 canali").arg(report.channelsRead);
     if (report.unknownRates > 0)
       text += QString(", %1 transponder con SR che SR.INI non ha").arg(report.unknownRates);
+    if (const std::string codings = report.codings.Text(); !codings.empty()) text += ", " + Text(codings);
     session_.status.ShowResult(text);
   } else if (report.changed) {
     session_.status.ShowResult(QString("Importazione interrotta: letti %1 canali, %2")
@@ -166,12 +174,7 @@ void ExchangeCommands::DaEsportatoTesto(std::string path) {
   const auto bytes = ReadImport("Selezionare il file di testo contenente i CANALI e i TRANSPONDERS",
                                 "File di testo(*.txt)|*.txt|", path);
   if (!bytes) return;
-  std::string_view text = Base::AsText(*bytes);
-  std::string converted;
-  if (text.starts_with(ByteOrderMark)) {
-    converted = Base::FromUtf8Lossy(text.substr(ByteOrderMark.size()));
-    text = converted;
-  }
+  const std::string text = Base::FromMarkedUtf8(Base::AsText(*bytes));
   Import("Importa da formato TESTO", path, *preparation,
          [&](State& state) { return Formats::ReadText(state, text, path, session_.bouquets.tables); });
 }
