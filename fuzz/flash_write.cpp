@@ -51,8 +51,8 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
   Require(!patched.favouritesWritten || (type == FlashType::Two && !full->FavouritesBlock.empty()),
           "favourites are written for one type only");
   const Unwritten unwritten = FindUnwritten(*full, patched.image, plan);
-  Require(unwritten.channels <= full->ChannelCount && unwritten.extraChannels == 0 &&
-              unwritten.transponders <= full->TransponderCount,
+  Require(unwritten.channels.size() <= static_cast<std::size_t>(full->ChannelCount) &&
+              unwritten.extraChannels.empty(),
           "no more is missing than there was");
   Require(unwritten.Nothing() == unwritten.Text().empty(), "what is missing is told");
   if (choice % 4 == 0)

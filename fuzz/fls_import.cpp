@@ -42,7 +42,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
   // The window goes by the capacity that its user chose, whatever the file says.
   state->MaxChannels = state->ChannelCount = CapacityOf(size);
   CheckList(*state);
-  Require(state->FavouritesBlock.size() <= file.size() + RecordSize, "no larger than its file");
+  Require(state->FavouritesBlock.size() <= SectorSize, "no larger than any area for it");
   if (!report.listRead) return 0;
 
   const Formats::ImportReport second = Formats::ReadFls(*again, Formats::WriteFls(*state), Bouquets());

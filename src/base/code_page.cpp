@@ -88,6 +88,11 @@ std::string FromUtf8Lossy(std::string_view text) {
   return bytes;
 }
 
+std::string FromMarkedUtf8(std::string_view text) {
+  constexpr std::string_view Mark = "\xEF\xBB\xBF";
+  return text.starts_with(Mark) ? FromUtf8Lossy(text.substr(Mark.size())) : std::string(text);
+}
+
 bool IsUtf8(std::string_view text) {
   bool beyondAscii = false;
   while (!text.empty()) {

@@ -19,6 +19,9 @@ std::optional<std::string> FromUtf8(std::string_view text);
 // The same with one question mark for each character that has no byte, so that columns stay columns.
 std::string FromUtf8Lossy(std::string_view text);
 
+// A text as it stands, or what follows its UTF-8 byte-order mark as FromUtf8Lossy makes it.
+std::string FromMarkedUtf8(std::string_view text);
+
 // Whether a text has characters beyond ASCII and all of them are well-formed UTF-8.
 bool IsUtf8(std::string_view text);
 

@@ -1,5 +1,7 @@
 #include "edit/history.h"
 
+#include <algorithm>
+
 namespace Edit {
 
 using Routines::State;
@@ -10,8 +12,15 @@ void History::Push(std::string label, Kind kind, std::unique_ptr<State> before, 
   auto clipboard = copied == copiedNow ? nullptr : std::make_unique<const Copied>(Copied{copied, copiedNow});
   if (kind == Kind::Continued && done_ > 0 && clipboard == nullptr) return;
   steps_.push_back({std::move(label), kind, std::move(before), std::move(clipboard)});
-  if (steps_.size() > MostSteps) steps_.pop_front();
+  if (steps_.size() > MostSteps) DropOldest();
   done_ = steps_.size();
+}
+
+// The oldest, but for the step that the list came with: as snapshots, those beside a step that is left out fit together.
+void History::DropOldest() {
+  const auto lists =
+      std::count_if(steps_.begin(), steps_.end(), [](const Step& step) { return step.kind == Kind::List; });
+  steps_.erase(steps_.begin() + (steps_.front().kind == Kind::List && lists == 1 ? 1 : 0));
 }
 
 bool History::Undo(std::unique_ptr<State>& state, Clipboard& clipboard) {
@@ -35,6 +44,7 @@ void History::Exchange(Step& step, std::unique_ptr<State>& state) {
   if (step.kind == Kind::List) return;
   state->MaxChannels = step.other->MaxChannels;
   state->OutputFlash = step.other->OutputFlash;
+  state->FromFls = step.other->FromFls;
 }
 
 }  // namespace Edit

@@ -17,6 +17,8 @@ class History {
   enum class Kind { Edit, Continued, List };
 
   // The steps kept; at some 135 KB each they stay below 30 MB, and below 100 MB where each cut the whole list.
+  // The last one that brought a list is always among them: undoing it may be the only way back from what that list makes
+  // unavailable.
   static constexpr std::size_t MostSteps = 200;
 
   // Records a change that has just been made: `before` is what it started from. Forgets what was undone. A step that
@@ -46,6 +48,7 @@ class History {
     std::unique_ptr<const Copied> clipboard;  // of a step that changed it
   };
 
+  void DropOldest();
   static void Exchange(Step& step, std::unique_ptr<Routines::State>& state);
 
   std::deque<Step> steps_;

@@ -112,14 +112,20 @@ bool IsPosition(const State& state, int position, int count) {
   return position > 0 && position + count <= state.ChannelCount;
 }
 
-std::vector<LostFavourite> ShiftDown(State& state, int position, int count) {
-  SlotMap map = SameSlots();
-  for (int slot = position; slot <= state.ChannelCount; ++slot) {
-    map[slot] = slot + count <= state.ChannelCount ? slot + count : 0;
-    const ChannelRecord& channel = state.Channel(slot);
-    if (map[slot] == 0 && !channel.Empty())
-      AddToChannelCount(state, Get(channel, ChannelField::Transponder), -1);
+std::vector<int> PushedOut(const State& state, int position, int count) {
+  std::vector<int> slots;
+  for (int slot = std::max(position, state.ChannelCount - count + 1); slot <= state.ChannelCount; ++slot) {
+    if (!state.Channel(slot).Empty()) slots.push_back(slot);
   }
+  return slots;
+}
+
+std::vector<LostFavourite> ShiftDown(State& state, int position, int count) {
+  for (const int slot : PushedOut(state, position, count))
+    AddToChannelCount(state, Get(state.Channel(slot), ChannelField::Transponder), -1);
+  SlotMap map = SameSlots();
+  for (int slot = position; slot <= state.ChannelCount; ++slot)
+    map[slot] = slot + count <= state.ChannelCount ? slot + count : 0;
   return Rearrange(state, map);
 }
 

@@ -32,8 +32,10 @@ std::vector<LostFavourite> DeleteSlots(State& state, const std::vector<int>& slo
 // Whether `count` channels can be put in at `position`: the rule is position + count <= channel count.
 bool IsPosition(const State& state, int position, int count);
 
-// Moves all channels from `position` on down by `count` slots; those at the list's end drop off.
+// Moves all channels from `position` on down by `count` slots; those at the list's end, which PushedOut tells
+// beforehand, drop off.
 std::vector<LostFavourite> ShiftDown(State& state, int position, int count);
+std::vector<int> PushedOut(const State& state, int position, int count);
 
 inline constexpr std::string_view InvalidPosition = "Posizione di inserimento invalida";
 

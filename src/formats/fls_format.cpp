@@ -1,6 +1,7 @@
 #include "formats/fls_format.h"
 
 #include "base/text.h"
+#include "model/flash_image.h"
 
 namespace Formats {
 namespace {
@@ -99,9 +100,9 @@ ImportReport ReadFls(State& state, Base::ByteView file, const BouquetTables& bou
   if (records.AtEnd()) state.FavouritesBlock.clear();
   const std::string header = records.Next();
   if (!header.starts_with(Favourites)) return report;
+  // A file cut short has less of it: the names lie where the header's length puts them all the same.
   std::string block = records.Rest();
-  const std::size_t whole = (block.size() + RecordSize - 1) / RecordSize * RecordSize;
-  block.resize(static_cast<std::size_t>(CountBehind(header, Favourites, whole)), '\0');
+  block.resize(static_cast<std::size_t>(CountBehind(header, Favourites, SectorSize)), '\0');
   state.FavouritesBlock.assign(block.begin(), block.end());
   report.whole = Base::Done{};
   return report;

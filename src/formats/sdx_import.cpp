@@ -1,6 +1,7 @@
 #include "formats/sdx_import.h"
 
 #include "base/text.h"
+#include "model/favourites.h"
 #include "model/flash_loader.h"
 #include "model/symbol_rates.h"
 
@@ -16,6 +17,13 @@ std::uint32_t Low16(std::string_view text) {
 
 int Megahertz(const SdxRow& row) { return Base::LeadingCount(row.frequency, 999999); }
 
+// Above the local oscillator of the row's band.
+std::int64_t Hertz(const SdxRow& row) {
+  TransponderRecord record;
+  Set(record, TransponderField::HighBand, row.highBand ? 1U : 0U);
+  return std::int64_t{Megahertz(row) - LocalOscillator(record)} * 1000000;
+}
+
 std::uint32_t FecCode(std::string_view digit) {
   constexpr std::string_view Digits = "12357";
   const std::size_t code = digit.empty() ? std::string_view::npos : Digits.find(digit);
@@ -23,6 +31,52 @@ std::uint32_t FecCode(std::string_view digit) {
 }
 
 }  // namespace
+
+bool InBand(const SdxRow& row) {
+  if (row.transponder || Megahertz(row) == 0) return true;
+  const std::int64_t hertz = Hertz(row);
+  return hertz >= 0 && hertz <= 0xFFFFFFFF;
+}
+
+std::vector<int> SlotsFrom(const State& state, int start, int count) {
+  std::vector<int> slots;
+  for (int slot = std::max(start, 1); slot <= state.ChannelCount && slot < start + count; ++slot)
+    slots.push_back(slot);
+  return slots;
+}
+
+std::vector<int> EmptySlots(const State& state, int count) {
+  std::vector<int> slots;
+  for (int slot = 1; slot <= state.ChannelCount && static_cast<int>(slots.size()) < count; ++slot) {
+    if (state.Channel(slot).Empty()) slots.push_back(slot);
+  }
+  return slots;
+}
+
+Overwritten OverwrittenBy(const State& state, const std::vector<int>& slots) {
+  Overwritten overwritten;
+  std::array<bool, LastChannelSlot + 1> taken{};
+  for (const int slot : slots) {
+    taken[static_cast<std::size_t>(slot)] = true;
+    if (!state.Channel(slot).Empty()) ++overwritten.channels;
+  }
+  for (std::size_t list = 0; list < FavouriteLists; ++list) {
+    for (const int slot : FavouriteEntriesOf(state.FavouritesBlock, list)) {
+      if (slot <= LastChannelSlot && taken[static_cast<std::size_t>(slot)]) ++overwritten.favourites;
+    }
+  }
+  return overwritten;
+}
+
+std::string Overwritten::Text() const {
+  std::string text;
+  if (channels > 0) text = Base::Counted(channels, "canale", "canali");
+  if (favourites > 0) {
+    text += text.empty() ? "" : ", ";
+    text += Base::Counted(favourites, "voce di preferiti", "voci di preferiti");
+  }
+  return text;
+}
 
 // The row's code in the symbol-rate table.
 std::optional<std::uint32_t> SdxImport::RateCodeOf(const SdxRow& row) const {
@@ -47,8 +101,7 @@ TransponderRecord SdxImport::RecordOf(const SdxRow& row) const {
   Set(record, TransponderField::HighBand, row.highBand ? 1U : 0U);
   Set(record, TransponderField::Horizontal, row.horizontal ? 1U : 0U);
   Set(record, TransponderField::Satellite, static_cast<std::uint32_t>(row.satellite));
-  const std::int64_t hertz = std::int64_t{Megahertz(row) - LocalOscillator(record)} * 1000000;
-  Set(record, TransponderField::Frequency, static_cast<std::uint32_t>(hertz & 0xFFFFFFFF));
+  Set(record, TransponderField::Frequency, static_cast<std::uint32_t>(Hertz(row) & 0xFFFFFFFF));
   Set(record, TransponderField::Tid, Low16(row.tid));
   Set(record, TransponderField::Nid, Low16(row.nid));
   Set(record, TransponderField::Fec, FecCode(row.fec));
@@ -57,9 +110,7 @@ TransponderRecord SdxImport::RecordOf(const SdxRow& row) const {
 
 int SdxImport::TransponderOf(const SdxRow& row, int position) {
   const TransponderRecord record = RecordOf(row);
-  // One at the oscillator's own frequency would look like a free slot.
-  const TransponderSlot found =
-      IsFree(record) ? TransponderSlot{} : FindOrAddTransponder(state_, record, Megahertz(row));
+  const TransponderSlot found = FindOrAddTransponder(state_, record, Megahertz(row));
   if (found.added) {
     if (!RateCodeOf(row)) ++unknownRates_;
     NameBouquet(state_.Transponder(found.slot), bouquets_);

@@ -6,6 +6,25 @@
 
 namespace Formats {
 
+// Whether a row can have a transponder: its frequency does not lie below every local oscillator, nor above what a
+// record can hold. A row of frequency 0 is an empty one, and one from a flash brings its transponder along.
+bool InBand(const SdxRow& row);
+
+// The slots that `count` rows take: from `start` on, as far as the list goes, or its empty ones.
+std::vector<int> SlotsFrom(const Routines::State& state, int start, int count);
+std::vector<int> EmptySlots(const Routines::State& state, int count);
+
+// What stands in slots before rows are put there: channels, and favourites entries of them.
+struct Overwritten {
+  int channels = 0;
+  int favourites = 0;
+
+  // "261 canali, 20 voci di preferiti"; empty where there is nothing.
+  [[nodiscard]] std::string Text() const;
+};
+
+Overwritten OverwrittenBy(const Routines::State& state, const std::vector<int>& slots);
+
 class SdxImport {
  public:
   // Works on `state`, whose symbol-rate table gives the rates their codes.

@@ -6,6 +6,7 @@
 #include "model/favourites.h"
 #include "model/symbol_rates.h"
 
+#include <charconv>
 #include <optional>
 #include <span>
 #include <vector>
@@ -137,10 +138,6 @@ std::string FavouritesText(const State& state) {
   return text + "[END PREFERITI]" + LineEnd;
 }
 
-bool Blank(const Base::Bytes& block) {
-  return std::all_of(block.begin(), block.end(), [](Base::Byte byte) { return byte == 0 || byte == ' '; });
-}
-
 // The leading digits of a column of at most five places; nothing when the number is larger than `most`.
 inline std::optional<std::uint32_t> NumberIn(std::string_view line, const Column& column,
                                              std::uint32_t most) {
@@ -170,6 +167,29 @@ int CountIn(std::string_view line, const Column& column, int most) {
   return Base::LeadingCount(Cut(line, column), most);
 }
 
+// The coding column is written in hexadecimal and read digit by digit as decimal, letters as 0: that is how lists have
+// always been taken in, and "A4" alone was ever added to it. A channel that is not active loses its coding.
+std::uint32_t CodingTaken(std::string_view coding, bool active) {
+  if (!active) return 0;
+  if (coding == "A4") return 0xA4;
+  const auto digit = [&coding](std::size_t place) {
+    return place < coding.size() && coding[place] >= '0' && coding[place] <= '9'
+               ? static_cast<std::uint32_t>(coding[place] - '0')
+               : 0U;
+  };
+  return 16 * digit(0) + digit(1);
+}
+
+constexpr std::uint32_t ActiveBit = ChannelField::Active.Mask();
+
+void Compare(std::uint32_t meant, std::uint32_t taken, CodingChanges& changes) {
+  if ((meant & ~taken & ActiveBit) != 0) {
+    ++changes.inactive;
+  } else if (meant != taken) {
+    ++changes.codings;
+  }
+}
+
 class Reader {
  public:
   Reader(State& state, std::string_view text, const BouquetTables& bouquets)
@@ -184,6 +204,7 @@ class Reader {
   }
 
   [[nodiscard]] bool Changed() const { return changed_; }
+  [[nodiscard]] const CodingChanges& Codings() const { return codings_; }
 
  private:
   // The next line, when it has the marker in it.
@@ -224,21 +245,13 @@ class Reader {
     SetNumber(channel, ChannelField::Transponder, line, ChannelLine::Transponder);
     ForEach<ChannelLine::Numbers>(
         [&](const auto& number) { SetNumber(channel, number.field, line, number.column); });
-    Set(channel, ChannelField::Flags, Coding(line));
-  }
-
-  // The coding column is written in hexadecimal and read digit by digit as decimal, letters as 0: that is how lists
-  // have always been taken in, and "A4" alone was ever added to it. A channel marked "N" loses its coding.
-  static std::uint32_t Coding(std::string_view line) {
-    if (Cut(line, ChannelLine::Active) == "N") return 0;
     const std::string_view coding = Cut(line, ChannelLine::Coding);
-    if (coding == "A4") return 0xA4;
-    const auto digit = [&coding](std::size_t place) {
-      return place < coding.size() && coding[place] >= '0' && coding[place] <= '9'
-                 ? static_cast<std::uint32_t>(coding[place] - '0')
-                 : 0U;
-    };
-    return 16 * digit(0) + digit(1);
+    const bool active = Cut(line, ChannelLine::Active) != "N";
+    const std::uint32_t taken = CodingTaken(coding, active);
+    Set(channel, ChannelField::Flags, taken);
+    std::uint32_t meant = 0;
+    const auto end = std::from_chars(coding.data(), coding.data() + coding.size(), meant, 16).ptr;
+    if (end == coding.data() + 2) Compare(active ? meant : meant & ~ActiveBit, taken, codings_);
   }
 
   bool ReadTransponders(ImportReport& report) {
@@ -341,6 +354,7 @@ class Reader {
   std::string_view rest_;
   const BouquetTables& bouquets_;
   bool changed_ = false;
+  CodingChanges codings_;
 };
 
 }  // namespace
@@ -365,7 +379,30 @@ std::string WriteText(const State& state) {
     if (!IsFree(row.record)) text += TransponderText(state, row, number);
   }
   text += "[END TRANSPONDERS] " + transponders;
-  if (!Blank(state.FavouritesBlock)) text += FavouritesText(state);
+  if (!IsBlankFavourites(state.FavouritesBlock)) text += FavouritesText(state);
+  return text;
+}
+
+CodingChanges CodingsLostAsText(const State& state) {
+  CodingChanges changes;
+  for (int slot = 1; slot <= state.ChannelCount; ++slot) {
+    const ChannelRecord& channel = state.Channel(slot);
+    if (channel.Empty()) continue;
+    const std::uint32_t flags = Get(channel, ChannelField::Flags);
+    const bool active = Get(channel, ChannelField::Active) != 0;
+    Compare(flags, CodingTaken(Base::HexByte(static_cast<int>(flags)), active), changes);
+  }
+  return changes;
+}
+
+std::string CodingChanges::Text() const {
+  std::string text;
+  if (inactive > 0)
+    text = Base::Counted(inactive, "canale diventa non attivo", "canali diventano non attivi");
+  if (codings > 0) {
+    text += text.empty() ? "" : ", ";
+    text += Base::Counted(codings, "codifica cambiata", "codifiche cambiate");
+  }
   return text;
 }
 
@@ -375,6 +412,7 @@ ImportReport ReadText(State& state, std::string_view text, const std::string& fi
   ImportReport report;
   const char* broken = reader.Run(report);
   report.changed = reader.Changed();
+  report.codings = reader.Codings();
   if (broken != nullptr)
     report.whole = Base::Error{std::string("Formato file invalido (") + broken + ") per " + fileName};
   return report;

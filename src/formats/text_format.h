@@ -15,6 +15,9 @@ namespace Formats {
 
 std::string WriteText(const Routines::State& state);
 
+// What of the list such a text would not give back when it is read.
+CodingChanges CodingsLostAsText(const Routines::State& state);
+
 // Replaces the list by the one in `text`, as far as it can be read. `fileName` stands in messages. The state's
 // symbol-rate table gives the rates their codes.
 ImportReport ReadText(Routines::State& state, std::string_view text, const std::string& fileName,

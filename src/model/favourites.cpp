@@ -6,6 +6,10 @@
 
 namespace Routines {
 
+bool IsBlankFavourites(Base::ByteView block) {
+  return std::all_of(block.begin(), block.end(), [](Base::Byte byte) { return byte == 0 || byte == ' '; });
+}
+
 std::size_t FavouriteRoom(Base::ByteView block, std::size_t list) {
   const std::size_t first = std::min(block.size(), list * FavouriteListSize);
   return std::min(block.size() - first, FavouriteListSize) / 2;

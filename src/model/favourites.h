@@ -18,6 +18,9 @@ inline constexpr std::size_t FavouriteListSize = 2 * FavouriteEntries;
 inline constexpr std::size_t FavouriteListsSize = FavouriteLists * FavouriteListSize;
 inline constexpr std::size_t FavouriteNameSize = 8;
 
+// Whether a block carries nothing: it is empty, or nothing but zero bytes and blanks. Such a one is never written.
+bool IsBlankFavourites(Base::ByteView block);
+
 // How many entries the block has room for in list 0..7: 128, or fewer where it is too short.
 std::size_t FavouriteRoom(Base::ByteView block, std::size_t list);
 

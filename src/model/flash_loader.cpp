@@ -99,6 +99,8 @@ class Loader {
     int slot = FindOrAddTransponder(state_, record).slot;
     if (slot == 0) {
       slot = state_.TransponderCount;
+      unplaced_[static_cast<std::size_t>(number)] = true;
+      ++report_.unplacedTransponders;
       report_.messages.push_back(TooManyTransponders(slot));
     }
     mapping_[static_cast<std::size_t>(number)] = slot;
@@ -119,6 +121,7 @@ class Loader {
       const std::size_t number = Get(channel, ChannelField::Transponder);
       if (number >= mapping_.size() || mapping_[number] == 0) continue;
       Set(channel, ChannelField::Transponder, static_cast<std::uint32_t>(mapping_[number]));
+      if (unplaced_[number]) report_.linkedToLast.push_back(i);
     }
   }
 
@@ -138,6 +141,7 @@ class Loader {
   std::vector<ChannelRecord> firstSection_;
   std::array<int, LastTransponderSlot + 1>
       mapping_{};  // second flash's number -> slot, 0 where there is none
+  std::array<bool, LastTransponderSlot + 1> unplaced_{};  // and that slot is not its own
   LoadReport report_;
 };
 

@@ -75,11 +75,14 @@ class Writer {
   }
 
   void WriteFavourites(const Entry& entry) {
-    if (plan_.type != FlashType::Two || state_.FavouritesBlock.empty()) return;
+    if (plan_.type != FlashType::Two || IsBlankFavourites(state_.FavouritesBlock)) return;
     const auto area = WritableFavouritesAreaOf(original_, entry);
     if (!area) return;
     const Base::ByteView block = state_.FavouritesBlock;
     const std::size_t count = std::min(block.size(), area->count);
+    const Base::ByteView behind = original_.subspan(area->first + count, area->count - count);
+    patched_.favouritesCleared += static_cast<int>(
+        std::count_if(behind.begin(), behind.end(), [](Base::Byte byte) { return byte != 0; }));
     Put(area->first, block.first(count));
     Clear(area->first + count, area->End());
     patched_.favouritesWritten = true;
@@ -97,10 +100,20 @@ void CompareChannels(const State& state, const State& reloaded, Unwritten& unwri
     const ChannelRecord& ours = state.Channel(slot);
     const ChannelRecord& theirs = reloaded.Channel(slot);
     if (ours.Empty()) {
-      if (!theirs.Empty()) ++unwritten.extraChannels;
+      if (!theirs.Empty()) unwritten.extraChannels.push_back(slot);
     } else if (ours != theirs) {
-      ++unwritten.channels;
+      unwritten.channels.push_back(slot);
     }
+  }
+}
+
+// An image may hold more transponders than the list: a write leaves those behind its last one as they are.
+void CompareTransponders(const State& state, const State& reloaded, Unwritten& unwritten) {
+  for (int slot = 1; slot <= std::max(state.TransponderCount, reloaded.TransponderCount); ++slot) {
+    const TransponderRow* ours = TransponderInUse(state, static_cast<std::uint32_t>(slot));
+    const TransponderRow* theirs = TransponderInUse(reloaded, static_cast<std::uint32_t>(slot));
+    const bool same = ours == nullptr || theirs == nullptr ? ours == theirs : ours->record == theirs->record;
+    if (!same) ++unwritten.transponders;
   }
 }
 
@@ -147,12 +160,12 @@ std::string WriteSummary(const State& state, const PatchedFlash& patched) {
 std::string Unwritten::Text() const {
   std::string text;
   const auto add = [&text](std::string_view part) { text.append(text.empty() ? "" : ", ").append(part); };
-  const auto count = [&add](int number, std::string_view one, std::string_view many) {
+  const auto count = [&add](auto number, std::string_view one, std::string_view many) {
     if (number > 0) add(Base::Counted(number, one, many));
   };
-  count(channels, "canale non scritto", "canali non scritti");
-  count(extraChannels, "canale in più nell'immagine", "canali in più nell'immagine");
-  count(transponders, "transponder non scritto", "transponder non scritti");
+  count(channels.size(), "canale non scritto", "canali non scritti");
+  count(extraChannels.size(), "canale in più nell'immagine", "canali in più nell'immagine");
+  count(transponders, "transponder diverso", "transponder diversi");
   if (favourites) add("preferiti non scritti");
   if (favouriteNames && !favourites) add("nomi delle liste persi");
   return text;
@@ -163,13 +176,8 @@ Unwritten FindUnwritten(const State& state, Base::ByteView written, const WriteP
   LoadFlash(*reloaded, written, std::min(state.ChannelCount, plan.maxChannels), 0, {});
   Unwritten unwritten;
   CompareChannels(state, *reloaded, unwritten);
-  for (int slot = 1; slot <= state.TransponderCount; ++slot) {
-    const auto at = static_cast<std::size_t>(slot);
-    const TransponderRecord& ours = state.Transponder(at).record;
-    if (!IsFree(ours) && ours != reloaded->Transponder(at).record) ++unwritten.transponders;
-  }
-  if (plan.type == FlashType::Two && !state.FavouritesBlock.empty())
-    CompareFavourites(state, *reloaded, unwritten);
+  CompareTransponders(state, *reloaded, unwritten);
+  if (!IsBlankFavourites(state.FavouritesBlock)) CompareFavourites(state, *reloaded, unwritten);
   return unwritten;
 }
 

@@ -14,6 +14,7 @@ struct PatchedFlash {
   Base::Bytes image;
   int channelSections = 0;
   bool favouritesWritten = false;
+  int favouritesCleared = 0;  // bytes behind a short block that held something and are zero now
 };
 
 // `original` has FlashSize bytes. Slots 1..plan.maxChannels are written as far as the image's sections reach.
@@ -29,20 +30,21 @@ std::string WriteSummary(const State& state, const PatchedFlash& patched);
 
 // What loading a written image would not give back.
 struct Unwritten {
-  int channels = 0;       // channels that are missing or different
-  int extraChannels = 0;  // channels where the list has an empty slot
-  int transponders = 0;
+  std::vector<int> channels;       // slots whose channel is missing or different
+  std::vector<int> extraChannels;  // empty slots of the list where the image has a channel
+  int transponders = 0;            // that are missing, different, or there where the list has none
   bool favourites = false;
   bool favouriteNames = false;
 
   [[nodiscard]] bool Nothing() const {
-    return channels == 0 && extraChannels == 0 && transponders == 0 && !favourites && !favouriteNames;
+    return channels.empty() && extraChannels.empty() && transponders == 0 && !favourites && !favouriteNames;
   }
   // "344 canali non scritti, preferiti non scritti"; empty when nothing is missing.
   [[nodiscard]] std::string Text() const;
 };
 
-// `written` is loaded as the receiver that `plan` was made for does, up to the channels it can take.
+// `written` is loaded as the receiver that `plan` was made for does, up to the channels it can take. Whatever its
+// type, the favourites count too, unless the list has none.
 Unwritten FindUnwritten(const State& state, Base::ByteView written, const WritePlan& plan);
 
 }  // namespace Routines

@@ -60,12 +60,13 @@ inline int LastOccupied(const State& state) {
   return slot;
 }
 
-// Channels in slots 1..ChannelCount.
-inline int UsedChannels(const State& state) {
+// Channels in slots 1..`last`, which is the channel count where it is not given.
+inline int UsedChannels(const State& state, int last) {
   const auto first = state.ChannelTable.begin() + 1;
   return static_cast<int>(
-      std::count_if(first, first + state.ChannelCount, [](const ChannelRecord& c) { return !c.Empty(); }));
+      std::count_if(first, first + last, [](const ChannelRecord& c) { return !c.Empty(); }));
 }
+inline int UsedChannels(const State& state) { return UsedChannels(state, state.ChannelCount); }
 
 // Transponders in slots 1..TransponderCount.
 inline int UsedTransponders(const State& state) {

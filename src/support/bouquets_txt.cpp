@@ -14,7 +14,7 @@ namespace {
 constexpr std::size_t SizeLimit = 1U << 20U;
 
 double Megahertz(std::string_view text) {
-  text = Base::TrimmedLeft(text);
+  text.remove_prefix(std::min(text.find_first_not_of(" \t"), text.size()));
   double value = 0;
   std::from_chars(text.data(), text.data() + text.size(), value);
   return std::isfinite(value) ? value : 0;
@@ -81,7 +81,7 @@ class Reader {
 
 }  // namespace
 
-BouquetDefinitions BouquetsOf(std::string_view text) { return Reader().Run(text); }
+BouquetDefinitions BouquetsOf(std::string_view text) { return Reader().Run(Base::FromMarkedUtf8(text)); }
 
 BouquetDefinitions LoadBouquets(const std::string& folder) {
   const auto bytes = Base::ReadFile(folder + "/Bouquets.txt", SizeLimit);

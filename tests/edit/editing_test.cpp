@@ -357,11 +357,19 @@ TEST(History, UndoingAnEditKeepsTheOutputAndUndoingALoadGivesItBack) {
   state->MaxChannels = 999;
   history.Push("elimina", History::Kind::Edit, std::make_unique<State>(*state));
   state->ChannelCount = 5;
+  state->FromFls = true;
+  const auto many = static_cast<int>(2 * History::MostSteps);
+  for (int step = 0; step < many; ++step)
+    history.Push("cella", History::Kind::Edit, std::make_unique<State>(*state));
   state->OutputFlash = "scelta.dat";
   state->MaxChannels = 0;
+  state->FromFls = false;
   history.Undo(state, clipboard);
   EXPECT_EQ(state->OutputFlash, "scelta.dat");
   EXPECT_EQ(state->MaxChannels, 0);
+  EXPECT_FALSE(state->FromFls) << "a save has lifted it";
+  while (history.UndoLabel() == "cella") history.Undo(state, clipboard);
+  EXPECT_EQ(history.UndoLabel(), "apri") << "the way back from a list outlives its edits";
   history.Undo(state, clipboard);
   EXPECT_EQ(state->OutputFlash, "");
   history.Push("altro", History::Kind::Edit, std::make_unique<State>(*state));

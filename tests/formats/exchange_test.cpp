@@ -1,9 +1,11 @@
 #include "base/columns.h"
 #include "base/text.h"
 #include "formats/fls_format.h"
+#include "formats/list_import.h"
 #include "formats/text_format.h"
 #include "image_builder.h"
 #include "model/favourites.h"
+#include "model/flash_image.h"
 #include "model/symbol_rates.h"
 
 #include <gtest/gtest.h>
@@ -73,13 +75,19 @@ TEST(TextFormat, ReadsBackWithTheKnownLosses) {
   read->SymbolRateTable = written->SymbolRateTable;
   read->Channel(2) = MakeChannel("sparisce", 1, 1, 1, 1);
   read->Channel(9) = MakeChannel("resta", 1, 1, 1, 1);
+  Set(written->Channel(5), ChannelField::Flags, 0x8D);
   const ImportReport report = Read(*read, WriteText(*written));
   EXPECT_TRUE(report.whole);
+  EXPECT_EQ(report.codings.Text(), "1 canale diventa non attivo, 1 codifica cambiata");
+  EXPECT_EQ(CodingsLostAsText(*written).Text(), report.codings.Text());
   EXPECT_TRUE(report.listRead);
   // "N" loses the coding; behind "Auto" a transponder is vertical, without tone, on satellite A; names get blanks.
   std::string expected = WriteText(*written);
-  for (const auto& [was, is] :
-       {std::pair{"B0 N", "00 N"}, {"SAT `", "SAT A"}, {"e [E", "e  E"}, {"e d\r", "e d          \r"}})
+  for (const auto& [was, is] : {std::pair{"B0 N", "00 N"},
+                                {"8D S", "80 N"},
+                                {"SAT `", "SAT A"},
+                                {"e [E", "e  E"},
+                                {"e d\r", "e d          \r"}})
     expected = Replaced(expected, was, is);
   EXPECT_EQ(WriteText(*read), expected);
   EXPECT_EQ(read->Channel(4).Name(), " END CANALI] 1  ") << "a name does not end its section";
@@ -145,6 +153,28 @@ TEST(TextFormat, ABrokenSectionIsNamedAndWhatWasReadStays) {
   }
 }
 
+// What no view shows would go into a receiver all the same.
+TEST(ListImport, LeavesWhatItsFileFilledAndShowsAllOfIt) {
+  const std::string text = WriteText(*SmallList());
+  auto state = std::make_unique<State>();
+  const auto import = [&](const std::string& file) {
+    *state = *SmallList();
+    state->Channel(2) = state->Channel(900) = MakeChannel("di prima", 1, 1, 1, 1);
+    return ImportList(*state, SmallList()->SymbolRateTable, [&](State& into) { return Read(into, file); });
+  };
+  const std::string far = Replaced(text, "[END CANALI]", "0042 Lontano\n[END CANALI]");
+  for (const std::string& file : {far, far.substr(0, far.find("[PREF"))}) {
+    EXPECT_EQ(import(file).channelsRead, 4);
+    EXPECT_EQ(UsedChannels(*state, LastChannelSlot), 4) << "nothing of the list before";
+    EXPECT_EQ(std::pair(state->ChannelCount, state->MaxChannels), std::pair(42, 42));
+    EXPECT_EQ(IsBlankFavourites(state->FavouritesBlock), file.size() < far.size());
+  }
+  EXPECT_EQ(import(text.substr(0, text.find("[TRANS"))).channelsRead, 3);
+  EXPECT_EQ(state->ChannelCount, 900) << "of a list that breaks off, the others stay and are seen";
+  EXPECT_EQ(import("").changed, false);
+  EXPECT_EQ(state->ChannelCount, 5);
+}
+
 TEST(FlsFormat, IsMadeOfThirtyByteRecordsAndReadsBackWhole) {
   const auto state = SmallList();
   state->FavouritesBlock.resize(2291);
@@ -186,11 +216,13 @@ TEST(FlsFormat, EveryCutAndEveryWrongCountEndsCleanly) {
   }
   std::string greedy = "[CANALI] 9999" + std::string(17, ' ') + std::string(30 * 9999, 'c') +
                        "[TRANSPONDERS] 300" + std::string(12, ' ') + std::string(30 * 300, 't') +
-                       "[PREFERITI] 65535" + std::string(13, ' ') + "x";
+                       "[PREFERITI] 99999" + std::string(13, ' ') + "x";
   State state;
   EXPECT_TRUE(ReadFls(state, Base::AsBytes(greedy), {}).whole);
   EXPECT_EQ(state.TransponderCount, 254);
-  EXPECT_EQ(state.FavouritesBlock.size(), 30U) << "no more than there is";
+  Base::Bytes block(SectorSize, 0);
+  block[0] = 'x';
+  EXPECT_EQ(state.FavouritesBlock, block) << "what is missing is zero, and no more than a sector holds";
 }
 
 }  // namespace Formats

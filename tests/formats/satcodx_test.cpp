@@ -3,6 +3,7 @@
 #include "base/columns.h"
 #include "formats/sdx_import.h"
 #include "image_builder.h"
+#include "model/favourites.h"
 #include "model/symbol_rates.h"
 
 #include <gtest/gtest.h>
@@ -138,11 +139,21 @@ TEST(SdxImport, RowsFindOrMakeTheirTransponder) {
             "Posizione canale SDX 3");
   EXPECT_EQ(Get(state->Channel(6), ChannelField::Transponder), 2U);
   EXPECT_EQ(Get(state->Channel(7), ChannelField::Transponder), 1U) << "one that exists is still found";
-  import.Put(RowAt(9750), 8, 5);
-  EXPECT_EQ(Get(state->Channel(8), ChannelField::Transponder), 2U)
-      << "at the oscillator: no slot to find again";
   import.Put(RowAt(0), 3, 6);
   EXPECT_TRUE(state->Channel(3).Empty()) << "frequency 0 clears the slot";
+
+  for (const auto& [megahertz, inBand] :
+       {std::pair{9749, false}, {3720, false}, {9750, true}, {14894, true}, {14895, false}, {0, true}})
+    EXPECT_EQ(InBand(RowAt(megahertz)), inBand) << megahertz;
+  state->Transponder(1).record = {};
+  import.Put(RowAt(9750), 8, 5);
+  EXPECT_EQ(Get(state->Channel(8), ChannelField::Transponder), 1U) << "at the oscillator: a free slot";
+
+  SetFavouriteEntries(state->FavouritesBlock = Base::Bytes(NormalFavouritesSize, 0), 2, {9, 5, 4000, 6});
+  EXPECT_EQ(EmptySlots(*state, 9), std::vector({1, 2, 3, 9, 10}));
+  EXPECT_EQ(SlotsFrom(*state, 9, 9), std::vector({9, 10}));
+  EXPECT_EQ(OverwrittenBy(*state, SlotsFrom(*state, 5, 2)).Text(), "2 canali, 2 voci di preferiti");
+  EXPECT_EQ(OverwrittenBy(*state, {1}).Text(), "");
 }
 
 }  // namespace Formats

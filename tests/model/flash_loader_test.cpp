@@ -181,6 +181,8 @@ TEST(FlashLoader, AppendingWithoutRoomTellsEachTransponder) {
   const std::string told =
       "Superato il numero di transponders gestibili 2\ncollego i canali restanti sul transponder 2";
   EXPECT_EQ(report.messages, std::vector<std::string>({told, told}));
+  EXPECT_EQ(report.unplacedTransponders, 2);
+  EXPECT_EQ(report.linkedToLast, std::vector<int>({3}));
   EXPECT_EQ(state->MaxChannels, 3996) << "the table ends there";
   EXPECT_EQ(Told(*state, {3}), "b1 2");
 }

@@ -82,7 +82,11 @@ TEST(FlashWriter, EachFlashTypeFillsTheSectionsItsWay) {
 TEST(FlashWriter, TheListsEndAndAShortFavouritesBlockAreFilledWithZeros) {
   const Base::Bytes original = Template().Image();
   const auto state = ListOf(3, 3);
+  state->FavouritesBlock.clear();
   const Base::Bytes image = PatchFlash(*state, original, {FlashType::Two, 3, ""}).image;
+  EXPECT_TRUE(
+      std::equal(image.begin() + FavouritesData - 61, image.end(), original.begin() + FavouritesData - 61))
+      << "without favourites their area stays";
   EXPECT_EQ(Base::Bytes(image.begin() + FirstData + 90, image.begin() + FirstData + 150), Base::Bytes(60, 0));
   EXPECT_TRUE(std::equal(image.begin() + FirstData + 150, image.begin() + FirstData + 187,
                          original.begin() + FirstData + 150))
@@ -91,15 +95,19 @@ TEST(FlashWriter, TheListsEndAndAShortFavouritesBlockAreFilledWithZeros) {
 
   for (const std::size_t size : std::initializer_list<std::size_t>{2291, 4000, 1}) {
     state->FavouritesBlock.assign(size, 3);
-    const Base::Bytes patched = PatchFlash(*state, original, {FlashType::Two, 3, ""}).image;
+    const PatchedFlash patched = PatchFlash(*state, original, {FlashType::Two, 3, ""});
     Base::Bytes expected(std::min(size, NormalFavouritesSize), 3);
     expected.resize(NormalFavouritesSize, 0);
-    const auto written = patched.begin() + FavouritesData;
+    const auto written = patched.image.begin() + FavouritesData;
     EXPECT_EQ(Base::Bytes(written, written + NormalFavouritesSize), expected);
-    EXPECT_TRUE(DiffersOnlyInSections(original, patched));
+    EXPECT_EQ(patched.favouritesCleared, std::count(expected.begin(), expected.end(), 0)) << "they were 9";
+    EXPECT_TRUE(DiffersOnlyInSections(original, patched.image));
   }
-  state->FavouritesBlock.clear();
-  EXPECT_FALSE(PatchFlash(*state, original, {FlashType::Two, 3, ""}).favouritesWritten);
+  for (const Base::Bytes& blank : {Base::Bytes{}, Base::Bytes(2291, ' '), Base::Bytes(4000, 0)}) {
+    state->FavouritesBlock = blank;
+    const PatchedFlash patched = PatchFlash(*state, original, {FlashType::Two, 3, ""});
+    EXPECT_TRUE(patched.image == image && !patched.favouritesWritten) << blank.size();
+  }
 }
 
 // Both sides of every border, and bytes all over the image.
@@ -136,21 +144,26 @@ TEST(FlashWriter, WhatAnImageDoesNotTakeIsTold) {
       << "the sixth lies where no reader looks";
   state = ListOf(5, 5);
   EXPECT_EQ(unwritten(*state, FlashType::Two), "");
-  EXPECT_EQ(unwritten(*state, FlashType::One), "");
+  EXPECT_EQ(unwritten(*state, FlashType::One), "preferiti non scritti");
+  state->FavouritesBlock.assign(2291, ' ');
+  EXPECT_EQ(unwritten(*state, FlashType::One), "") << "there are none to lose";
   state = ListOf(353, 999);
   EXPECT_EQ(unwritten(*state, FlashType::Two), "348 canali non scritti");
   state = ListOf(5, 5);
   state->TransponderCount = 4;
   state->Transponder(4).record = state->Transponder(1).record;
-  EXPECT_EQ(unwritten(*state, FlashType::Three), "1 transponder non scritto");
+  EXPECT_EQ(unwritten(*state, FlashType::Two), "1 transponder diverso");
+  state->TransponderCount = 1;
+  const Base::Bytes full = PatchFlash(*ListOf(5, 5), original, {FlashType::Two, 5, ""}).image;
+  EXPECT_EQ(FindUnwritten(*state, full, {FlashType::Two, 5, ""}).Text(), "1 transponder diverso")
+      << "one more than the list has";
   state = ListOf(5, 5);
   state->FavouritesBlock.assign(2291, 0);
   state->FavouritesBlock[FavouriteNameOffset(2291, 0)] = 'C';
   EXPECT_EQ(unwritten(*state, FlashType::Two), "nomi delle liste persi");
-  EXPECT_EQ(unwritten(*state, FlashType::One), "");
   const Base::Bytes bare = ImageBuilder(3).PutRecords(1, 0, 16, "TCS", Channels(5)).Image();
   EXPECT_EQ(FindUnwritten(*ListOf(5, 5), bare, {FlashType::Two, 5, ""}).Text(),
-            "2 transponder non scritti, preferiti non scritti");
+            "2 transponder diversi, preferiti non scritti");
 }
 
 }  // namespace Routines

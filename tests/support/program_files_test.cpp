@@ -15,7 +15,8 @@ using Tests::Contents;
 
 TEST(BouquetsTxt, ReadsSatellitesAndTheirBouquets) {
   const auto read = BouquetsOf(
-      "# commento con SAT=Z, e, virgole\r\nOrfano,10719,7\r\nHotbird,13 Est,SAT=A\r\nTel\xE9,10758.5,123\r\n"
+      "\xEF\xBB\xBF# commento con SAT=Z, e, virgole\r\nOrfano,10719,7\r\nHotbird,13 "
+      "Est,SAT=A\r\nTel\xC3\xA9, \t10758.5,123\r\n"
       "  Astra, 19.2 , SAT=b  \r\nAltro,abc, 4 \r\n");
   EXPECT_TRUE(read.errors.empty());
   std::string told;
@@ -72,7 +73,8 @@ TEST(PosIni, RemembersAFolderForEachKindByItsLine) {
 
 TEST(SdxIni, OnlyAMissingFileIsNotFound) {
   const Tests::TestFolder folder;
-  EXPECT_EQ(LoadAddresses(folder.Path()).error().message, "File SDX.INI non trovato: " + folder.Path("SDX.INI"));
+  EXPECT_EQ(LoadAddresses(folder.Path()).error().message,
+            "File SDX.INI non trovato: " + folder.Path("SDX.INI"));
   folder.Write("SDX.INI", std::string((1U << 20U) + 1, 'h'));
   EXPECT_EQ(LoadAddresses(folder.Path()).error().message,
             "Impossibile leggere SDX.INI: il file supera la dimensione consentita");

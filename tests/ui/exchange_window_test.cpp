@@ -1,20 +1,25 @@
 // Lists that leave the program and come in: texts, raw records, SatcoDX.
 #include "base/code_page.h"
+#include "formats/sdx_import.h"
 #include "ui/kit/text.h"
 #include "ui/window_fixture.h"
 
 namespace Ui {
 
 TEST_F(Window, AListLeavesAsTextIsEditedAndComesBack) {
+  const std::string output = folder_.Write("copia.dat", Contents(flash_));
+  SaveAs(output, 647);
   const Routines::State before = List();
   const std::string path = folder_.Path("lista.txt");
-  const Base::Bytes image = Contents(flash_);
-  ExpectOpenedFlashChosen("Selezionare il file di output");
-  ASSERT_TRUE(driver_->Choose("FormatoTesto"));
-  EXPECT_EQ(Said(), "Non esportato: il file scelto è la flash aperta o quella di output");
-  EXPECT_EQ(Contents(flash_), image);
+  const Base::Bytes image = Contents(output);
+  for (const std::string& flash : {flash_, output}) {
+    ExpectOpenedFlashChosen("Selezionare il file di output", flash);
+    ASSERT_TRUE(driver_->Choose("FormatoTesto"));
+    EXPECT_EQ(Said(), "Non esportato: il file scelto è la flash aperta o quella di output");
+    EXPECT_EQ(Contents(flash), image);
+  }
   Export("FormatoTesto", path);
-  EXPECT_EQ(Said(), "Esportato lista.txt");
+  EXPECT_EQ(Said(), "Esportato lista.txt: 21 codifiche cambiate");
   std::string text(Base::AsText(Contents(path)));
   text.replace(text.find("Rete Due "), 9, "Rinomina ");
   folder_.Write("lista.txt", "\xEF\xBB\xBF" + Base::ToUtf8(text));  // as editors of today save it
@@ -30,6 +35,9 @@ TEST_F(Window, AListLeavesAsTextIsEditedAndComesBack) {
   folder_.Write("lista.txt", "\xEF\xBB\xBF" + text.substr(0, text.find("[TRANSPONDERS]")));
   driver_->ExpectFile(import, PathText(path));
   Tells("DaEsportatoTesto", "Formato file invalido (Transponders) per " + PathText(path));
+  EXPECT_EQ(Said(),
+            "Importazione interrotta: letti 620 canali, scritti fra quelli della lista: Annulla la riporta "
+            "com'era");
   ASSERT_TRUE(driver_->Choose("Annulla"));
   ASSERT_TRUE(driver_->Choose("Annulla"));
   EXPECT_TRUE(List() == before) << "each import is one step, a broken one too";
@@ -51,13 +59,19 @@ TEST_F(Window, RawRecordsComeFromTheFlashOnTheDisk) {
   }
   Export("FormatoFLASH", path);
   EXPECT_EQ(driver_->Cell(1, 1), "Rete Italia") << "edits give way to the image as it is stored";
+  EXPECT_EQ(Said(),
+            "Esportato lista.fls; ricaricata la flash demo.dat al posto della lista di 619 canali con "
+            "modifiche non "
+            "salvate: Ctrl+Z la riporta");
   EXPECT_EQ(Action("Annulla").text(), "Annulla Ricarica Flash per l'esportazione");
 
   ChooseFile("DaEsportato", "Selezionare il file di da importare", path);
   EXPECT_FALSE(Action("ApriFlashInput").isEnabled());
   EXPECT_EQ(driver_->TextOf("CanaliUsati"), "Canali 620 di 3996");
+  SaveAs(folder_.Write("copia.dat", Contents(flash_)), 647);
+  EXPECT_TRUE(Action("ApriFlashInput").isEnabled())
+      << "nothing is left that another list could take the place of";
   ASSERT_TRUE(driver_->Choose("Annulla"));
-  EXPECT_TRUE(Action("ApriFlashInput").isEnabled());
 
   std::filesystem::remove(flash_);
   std::filesystem::remove(path);
@@ -74,7 +88,9 @@ TEST_F(Window, ASatcodxListGoesIntoTheChannelList) {
            " 0130___     ______29700200" + std::to_string(50 + i) + "0060005000" + std::to_string(70 + i) +
            "0031812300_________NAGV            \r\n";
   }
-  const std::string path = folder_.Write("prova.sdx", sdx + "SATCODX corta\r\n");
+  const std::string low =
+      std::string(sdx).replace(sdx.find("010971"), 6, "003720").substr(0, sdx.find('\n') + 1);
+  const std::string path = folder_.Write("prova.sdx", sdx + "SATCODX corta\r\n" + low);
   const auto take = [this](auto answer) { driver_->ExpectDialog("Opzioni importazione SDX", answer); };
   driver_->ExpectFile("Selezionare il file SDX di input", PathText(path));
   take([this](QDialog& box) {
@@ -88,7 +104,7 @@ TEST_F(Window, ASatcodxListGoesIntoTheChannelList) {
     box.findChild<QPushButton*>("Command1")->click();
   });
   ASSERT_TRUE(driver_->Choose("SDX"));
-  EXPECT_EQ(Said(), "prova.sdx: lette 4 righe, prese 3; scartate: symbol rate 1");
+  EXPECT_EQ(Said(), "prova.sdx: lette 5 righe, prese 4; scartate: symbol rate 1");
   auto* missing = window_->findChild<QDialog*>("ElencoNonInSDX");
   ASSERT_NE(missing, nullptr) << "the demo's own channels are not in that list";
   const Base::Bytes image = Contents(flash_);
@@ -98,7 +114,7 @@ TEST_F(Window, ASatcodxListGoesIntoTheChannelList) {
   missing->close();
   auto* pane = window_->findChild<Ui::Grid*>("GrigliaSDX");
   EXPECT_TRUE(pane->isVisible());
-  EXPECT_EQ(pane->model()->rowCount(), 3);
+  EXPECT_EQ(pane->model()->rowCount(), 4);
 
   Tells("Toolbar1_Copy_SDX", "Nessun canale SDX selezionato");
   pane->Select({2, 3});
@@ -110,16 +126,53 @@ TEST_F(Window, ASatcodxListGoesIntoTheChannelList) {
   EXPECT_EQ(driver_->Cell(2, 1), "Nuovo 3");
   EXPECT_EQ(driver_->Cell(2, 2), "001") << "the transponder at 10971 MHz";
   EXPECT_EQ(driver_->Cell(3, 1), "Rete Italia");
-  driver_->ExpectDialog("Importazione canali SDX", [](QDialog& box) { box.accept(); });
+  driver_->ExpectDialog("Importazione canali SDX", [](QDialog& box) {
+    const auto* outcome = box.findChild<QLabel*>("EsitoImportazione");
+    EXPECT_EQ(box.findChild<QLineEdit*>("Partenza")->text(), "650") << "behind the last channel";
+    EXPECT_EQ(outcome->text(), "3 posti liberi per 3 canali; 1 riga fuori banda");
+    box.findChild<QRadioButton*>("DallInizio")->click();
+    EXPECT_EQ(outcome->text(), "sovrascrive 3 canali; 1 riga fuori banda");
+    box.accept();
+  });
   ASSERT_TRUE(driver_->Choose("ImportaTuttoSDX"));
+  EXPECT_EQ(Said(), "Inseriti 3 canali SDX dal 1, sovrascritti 3 canali, 1 riga fuori banda");
   EXPECT_EQ(driver_->Cell(3, 1) + driver_->Cell(4, 1), "Nuovo 3Rete Italia HD") << "nothing moves";
   driver_->ExpectDialog("Importazione canali SDX", [](QDialog& box) {
-    box.findChild<QRadioButton*>("DalCanale")->click();
     box.findChild<QLineEdit*>("Partenza")->setText("3995");
     box.accept();
   });
   Tells("ImportaTuttoSDX", "1 canale SDX non ha trovato posto");
   EXPECT_EQ(driver_->Cell(3996, 1), "Nuovo 2");
+  EXPECT_EQ(pane->Selected()->first, 3) << "for another place";
+  driver_->ExpectDialog("Importazione canali SDX", [](QDialog& box) {
+    const auto* confirm = box.findChild<QDialogButtonBox*>()->button(QDialogButtonBox::Ok);
+    EXPECT_EQ(box.findChild<QLineEdit*>("Partenza")->text(), "");
+    EXPECT_FALSE(confirm->isEnabled()) << "nothing is free behind the last channel";
+    box.findChild<QRadioButton*>("NeiPostiVuoti")->click();
+    EXPECT_TRUE(confirm->isEnabled());
+    box.accept();
+  });
+  const auto gaps = Formats::EmptySlots(List(), 3);
+  ASSERT_TRUE(driver_->Choose("ImportaTuttoSDX"));
+  EXPECT_EQ(Said(), "Inseriti 3 canali SDX nei posti vuoti, 1 riga fuori banda");
+  EXPECT_EQ(driver_->Cell(gaps[2], 1), "Nuovo 3");
+
+  pane->Select({1, 1});
+  driver_->ExpectLine("Inserire la posizione in cui inserire Nuovo 1", "3996");
+  driver_->ExpectQuestion("Si desidera spostare i canali verso il basso?", true);
+  ASSERT_TRUE(driver_->Press("Toolbar1_Copy_SDX"));
+  EXPECT_EQ(Said(), "Inserito 1 canale SDX dal 3996, persi in fondo: 3996 Nuovo 2");
+  ASSERT_TRUE(driver_->Choose("InvertiSatelliti"));
+  EXPECT_EQ(driver_->TextOf("RisultatoConPerdite"),
+            "⚠ Inserito 1 canale SDX dal 3996, persi in fondo: 3996 Nuovo 2")
+      << "beside what is said later";
+  Click("QualiCanali");
+  auto* lost = window_->findChild<QPlainTextEdit*>("RigheCanaliPersi");
+  ASSERT_NE(lost, nullptr);
+  EXPECT_EQ(lost->toPlainText(), "3996 Nuovo 2\n");
+  lost->window()->close();
+  ASSERT_TRUE(driver_->Choose("Annulla"));
+  EXPECT_FALSE(window_->findChild<QWidget*>("RisultatoConPerdite")->isVisible());
 }
 
 TEST(FileFilters, KeepCaptionsAndMatchAnyCase) {

@@ -87,7 +87,7 @@ TEST_F(Overview, DroppedFilesOpenLikeTheirCommandsOrSayWhyNot) {
   std::filesystem::create_directory(folder_.Path("cartella.dat"));
   const auto file = [](const std::string& path) { return QUrl::fromLocalFile(PathText(path)); };
   const std::pair<QList<QUrl>, const char*> drops[] = {
-      {{file(text)}, "lista.TXT: importati 620 canali"},
+      {{file(text)}, "lista.TXT: importati 620 canali, 21 codifiche cambiate"},
       {{file(raw)}, "lista.fls: importati 620 canali"},
       {{file(flash_)}, "Non disponibile dopo l'importazione da formato FLASH: Annulla la toglie"},
       {{file(folder_.Path("SR.INI"))}, "Non aperto: SR.INI non è un file .dat, .sdx, .txt o .fls"},

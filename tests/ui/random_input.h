@@ -82,6 +82,7 @@ class RandomAnswers : public Dialogs {
   RandomAnswers(Random& random, const Tests::TestFolder& folder) : random_(random), folder_(folder) {}
 
   void Message(const QString&, const QString&, Tone) override {}
+  bool RepeatedMessage(const QString&) override { return random_.Chance(50); }
   bool YesNo(const QString&) override { return yes = random_.Chance(50), ++questions, yes; }
   bool FinalYesNo(const QString&) override { return random_.Chance(50); }
   Answer YesNoCancel(const QString&) override {

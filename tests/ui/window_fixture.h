@@ -113,9 +113,9 @@ class Window : public testing::Test {
     ChooseFile(command, "Selezionare il file di output", path);
   }
 
-  // The opened flash, as the file to be written; the box that asks whether to write over it says yes.
-  void ExpectOpenedFlashChosen(const QString& title) {
-    driver_->ExpectFile(title, PathText(flash_));
+  // The opened flash or another, as the file to be written; the box that asks whether to write over it says yes.
+  void ExpectOpenedFlashChosen(const QString& title, const std::string& other = {}) {
+    driver_->ExpectFile(title, PathText(other.empty() ? flash_ : other));
     driver_->ExpectDialog(
         title, [](QDialog& box) { dynamic_cast<QMessageBox&>(box).button(QMessageBox::Yes)->click(); });
   }

@@ -1,4 +1,5 @@
 // Opening, looking, saving.
+#include "image_builder.h"
 #include "model/flash_image.h"
 #include "ui/kit/text.h"
 #include "ui/session/commands.h"
@@ -88,6 +89,30 @@ TEST_F(Window, AppendingAsksTwice) {
   EXPECT_EQ(driver_->Cell(649, 1), driver_->Cell(1, 1));
   EXPECT_EQ(driver_->TextOf("CanaliUsati"), "Canali 1240 di 3996");
   EXPECT_EQ(driver_->TextOf("ModificheNonSalvate"), "Modifiche non salvate");
+
+  const auto image = [this](const char* name, int megahertz) {
+    Samples::ImageBuilder builder(1);
+    std::vector<Routines::TransponderRecord> transponders;
+    for (int i = 0; i < 4; ++i)
+      transponders.push_back(Samples::MakeTransponder(megahertz + 100 * i, true, 0, 1, 2));
+    builder.PutRecords(1, 0, 16, "TCS", std::vector{Samples::MakeChannel("x", 2, 1, 1, 1)});
+    return folder_.Write(name, builder.PutRecords(1, 1, 900, "TPT", transponders).Image());
+  };
+  Open(image("uno.dat", 10800));
+  driver_->ExpectQuestion(append, true);
+  driver_->ExpectQuestion(sameKind, true);
+  driver_->ExpectFile(InputDialog, PathText(image("due.dat", 11300)));
+  const QString full =
+      "Superato il numero di transponders gestibili 4\ncollego i canali restanti sul transponder 4";
+  driver_->ExpectMessage(full);
+  driver_->ExpectMessage(full);
+  driver_->ExpectDialog("Trovalis", [](QDialog& box) {
+    box.findChild<QCheckBox*>("NonRipetere")->click();
+    box.accept();
+  });
+  ASSERT_TRUE(driver_->Choose("ApriFlashInput"));
+  EXPECT_EQ(Said(),
+            "due.dat: accodati 1 canali, 4 transponder senza posto: 1 canali collegati al transponder 4");
 }
 
 TEST_F(Window, AClosedListIsNotSeenAndTheFirstColumnOfAnOpenOneStays) {
@@ -150,6 +175,9 @@ TEST_F(Window, AFailedSaveLeavesFileAndListAsTheyWere) {
 
 TEST_F(Window, WhatASaveLeavesOutIsTold) {
   EXPECT_TRUE(Action("VisualizzaPreferiti").isEnabled());
+  driver_->SelectRows(12, 17);
+  driver_->Key(Qt::Key_8, Qt::ControlModifier);
+  EXPECT_EQ(driver_->TextOf("ModificheNonSalvate"), "Modifiche non salvate") << "favourites too";
   ASSERT_TRUE(driver_->Pick("FlashScrittura_0"));
   EXPECT_FALSE(Action("VisualizzaPreferiti").isEnabled()) << "receivers of the first type have none to write";
   ASSERT_TRUE(driver_->Pick("SRDef_1"));
@@ -164,9 +192,16 @@ TEST_F(Window, WhatASaveLeavesOutIsTold) {
   ASSERT_TRUE(driver_->Choose("ApriFlashOutput"));
   EXPECT_EQ(
       Said(),
-      "Scritta copia.dat: 238 canali non scritti, 344 canali in più nell'immagine - SR 22000 spostato "
+      "Scritta copia.dat: 238 canali non scritti, 344 canali in più nell'immagine, preferiti non "
+      "scritti - SR 22000 spostato "
       "senza Converti SR - tolta 1 copia di sicurezza di troppo: restano copia.dat.bak e le 20 più recenti");
-  EXPECT_EQ(driver_->TextOf("ModificheNonSalvate"), "Modifiche non salvate") << "even an untouched list";
+  EXPECT_EQ(driver_->TextOf("ModificheNonSalvate"), "Modifiche non salvate")
+      << "receivers of the first type keep no favourites";
+  EXPECT_TRUE(window_->findChild<QWidget*>("QualiCanali")->isVisible());
+  ASSERT_TRUE(driver_->Pick("FlashScrittura_1"));
+  ASSERT_TRUE(driver_->Pick("SRDef_0"));
+  SaveAs(copy, 647);
+  EXPECT_FALSE(window_->findChild<QWidget*>("QualiCanali")->isVisible()) << "a save that lost nothing";
 }
 
 TEST_F(Window, MistakesInBouquetsAreListedAndAMissingSrIniStopsWrites) {
@@ -186,7 +221,8 @@ TEST_F(Window, MistakesInBouquetsAreListedAndAMissingSrIniStopsWrites) {
   EXPECT_FALSE(pane->isVisible());
   Open(flash_);
   ASSERT_TRUE(driver_->Pick("FlashScrittura_1"));
-  ASSERT_TRUE(driver_->Choose("ApriFlashOutput"));
+  for (const char* command : {"ApriFlashOutput", "Salva", "DaEsportato"})
+    Tells(command, "File SR.INI non trovato: " + PathText(folder_.Path("SR.INI")));
   EXPECT_EQ(Said(), "File SR.INI non trovato: " + folder_.Path("SR.INI"));
 }
 

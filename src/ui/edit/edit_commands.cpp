@@ -191,6 +191,7 @@ void EditCommands::InsertCopy(Slots slots, int before) {
 }
 
 void EditCommands::Undo() {
+  session_.status.ForgetEditedLoss();
   TakeStep(&Document::Undo, "Annullato: " + Text(session_.document.Steps().UndoLabel()));
 }
 

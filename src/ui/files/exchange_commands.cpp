@@ -4,6 +4,7 @@
 #include "base/file.h"
 #include "formats/csv_format.h"
 #include "formats/fls_format.h"
+#include "formats/list_import.h"
 #include "formats/text_format.h"
 #include "model/flash_loader.h"
 #include "ui/kit/text.h"
@@ -17,7 +18,6 @@ namespace {
 
 // A whole list is some 300 KB in either format.
 constexpr std::size_t LargestImport = 16U << 20U;
-constexpr std::string_view ByteOrderMark = "\xEF\xBB\xBF";
 
 }  // namespace
 
@@ -34,16 +34,18 @@ std::string ExchangeCommands::AskExport(const QString& filters) {
   return session_.AskSave("Selezionare il file di output", filters, FolderKind::Input, "Non esportato");
 }
 
-void ExchangeCommands::Export(const std::string& path, Base::ByteView bytes) {
+void ExchangeCommands::Export(const std::string& path, Base::ByteView bytes, const std::string& lost) {
   const auto written = Base::ReplaceFile(path, bytes);
-  session_.status.ShowResult(written ? "Esportato " + PathText(Base::FileName(path))
+  session_.status.ShowResult(written ? "Esportato " + PathText(Base::FileName(path)) +
+                                           (lost.empty() ? QString() : ": " + Text(lost))
                                      : Text(written.error().message));
 }
 
 void ExchangeCommands::FormatoTesto() {
   const std::string path = AskExport("Files di testo(*.txt)|*.txt");
   if (path.empty()) return;
-  Export(path, Base::AsBytes(Formats::WriteText(session_.document.Tables())));
+  const State& state = session_.document.Tables();
+  Export(path, Base::AsBytes(Formats::WriteText(state)), Formats::CodingsLostAsText(state).Text());
 }
 
 void ExchangeCommands::FormatoCSV() {
@@ -88,19 +90,25 @@ void ExchangeCommands::FormatoFLASH() {
     session_.status.ShowResult(Text(written.error().message));
     return;
   }
-  if (another) reloaded->ListNumber = document.NextListNumber();
+  QString replaced;
+  if (another) {
+    reloaded->ListNumber = document.NextListNumber();
+    replaced = QString(" al posto della lista di %1 canali%2: Ctrl+Z la riporta")
+                   .arg(Routines::UsedChannels(document.Tables()))
+                   .arg(document.Unsaved() ? " con modifiche non salvate" : "");
+  }
   document.Apply(
       "Ricarica Flash per l'esportazione", [&reloaded](State& state) { state = *reloaded; },
       Edit::History::Kind::List);
   document.MarkSaved(document.Tables().InputFlash);
   session_.status.ShowResult("Esportato " + PathText(Base::FileName(path)) + "; ricaricata la flash " +
-                             PathText(Base::FileName(flash)));
+                             PathText(Base::FileName(flash)) + replaced);
 }
 
 // An import replaces the list, so what is loaded now does not count.
 std::optional<ExchangeCommands::Preparation> ExchangeCommands::Prepare() {
-  const auto rates = session_.LoadSymbolRates();
-  if (!rates || !rates->missing.empty()) return std::nullopt;
+  const auto rates = session_.NeedsSymbolRates();
+  if (!rates) return std::nullopt;
   return Preparation{Routines::PlanWrite(*std::make_unique<State>(), session_.settings.Chosen()),
                      rates->table};
 }
@@ -123,15 +131,11 @@ void ExchangeCommands::Import(const char* label, const std::string& path, const 
   const auto report = document.Apply(
       label,
       [&](State& state) {
-        const std::string rates = state.SymbolRateTable;
-        state.SymbolRateTable = preparation.symbolRates;
-        Formats::ImportReport told = read(state);
-        if (!told.transpondersRead) state.SymbolRateTable = rates;
+        Formats::ImportReport told = Formats::ImportList(state, preparation.symbolRates, read);
         if (told.changed) {
           state.OutputFlash.clear();
           state.ListNumber = document.NextListNumber();
         }
-        if (told.listRead) state.Loaded = true;
         return told;
       },
       Edit::History::Kind::List);
@@ -144,18 +148,18 @@ void ExchangeCommands::Import(const char* label, const std::string& path, const 
 }
 
 void ExchangeCommands::TellImported(const std::string& path, const Formats::ImportReport& report) {
-  const State& state = session_.document.Tables();
-  if (report.changed) {
-    QString text =
-        PathText(Base::FileName(path)) + QString(": importati %1 canali").arg(Routines::UsedChannels(state));
-    const int beyond = static_cast<int>(std::count_if(state.ChannelTable.begin() + 1 + state.ChannelCount,
-                                                      state.ChannelTable.end(),
-                                                      [](const auto& channel) { return !channel.Empty(); }));
-    if (beyond > 0)
-      text += QString(", altri %1 restano oltre i %2 posti della lista").arg(beyond).arg(state.ChannelCount);
+  if (report.listRead) {
+    QString text = PathText(Base::FileName(path)) + QString(": importati %1 canali").arg(report.channelsRead);
     if (report.unknownRates > 0)
       text += QString(", %1 transponder con SR che SR.INI non ha").arg(report.unknownRates);
+    if (const std::string codings = report.codings.Text(); !codings.empty()) text += ", " + Text(codings);
     session_.status.ShowResult(text);
+  } else if (report.changed) {
+    session_.status.ShowResult(QString("Importazione interrotta: letti %1 canali, %2")
+                                   .arg(report.channelsRead)
+                                   .arg(session_.document.Tables().Loaded
+                                            ? "scritti fra quelli della lista: Annulla la riporta com'era"
+                                            : "non usati"));
   }
   if (!report.whole) session_.Message(report.whole.error());
 }
@@ -166,12 +170,7 @@ void ExchangeCommands::DaEsportatoTesto(std::string path) {
   const auto bytes = ReadImport("Selezionare il file di testo contenente i CANALI e i TRANSPONDERS",
                                 "File di testo(*.txt)|*.txt|", path);
   if (!bytes) return;
-  std::string_view text = Base::AsText(*bytes);
-  std::string converted;
-  if (text.starts_with(ByteOrderMark)) {
-    converted = Base::FromUtf8Lossy(text.substr(ByteOrderMark.size()));
-    text = converted;
-  }
+  const std::string text = Base::FromMarkedUtf8(Base::AsText(*bytes));
   Import("Importa da formato TESTO", path, *preparation,
          [&](State& state) { return Formats::ReadText(state, text, path, session_.bouquets.tables); });
 }
@@ -183,7 +182,7 @@ void ExchangeCommands::DaEsportato(std::string path) {
   if (!bytes) return;
   Import("Importa da formato FLASH", path, *preparation, [&](State& state) {
     auto report = Formats::ReadFls(state, *bytes, session_.bouquets.tables);
-    if (report.changed) state.MaxChannels = state.ChannelCount = preparation->plan.maxChannels;
+    if (report.changed) state.ChannelCount = preparation->plan.maxChannels;
     if (report.whole) state.FromFls = true;
     return report;
   });

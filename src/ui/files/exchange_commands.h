@@ -32,7 +32,8 @@ class ExchangeCommands {
   std::string AskExport(const QString& filters);
   // Asks for `path` where it is empty.
   std::optional<Base::Bytes> ReadImport(const QString& title, const QString& filters, std::string& path);
-  void Export(const std::string& path, Base::ByteView bytes);
+  // `lost` says what the file does not give back, if anything.
+  void Export(const std::string& path, Base::ByteView bytes, const std::string& lost = {});
   template <class Read>
   void Import(const char* label, const std::string& path, const Preparation& preparation, Read read);
   void TellImported(const std::string& path, const Formats::ImportReport& report);

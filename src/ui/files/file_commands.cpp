@@ -46,6 +46,12 @@ QString LoadResult(const State& state, const Routines::LoadReport& report, bool 
   QString text = (appended ? "accodati " : "letti ") + QString::number(report.channelsRead);
   if (report.channelsInImage > report.channelsRead) text += QString(" di %1").arg(report.channelsInImage);
   text += " canali";
+  if (report.unplacedTransponders > 0) {
+    text += QString(", %1 transponder senza posto: %2 canali collegati al transponder %3")
+                .arg(report.unplacedTransponders)
+                .arg(report.linkedToLast.size())
+                .arg(state.TransponderCount);
+  }
   if (report.strandedChannels > 0) {
     text += QString(", %1 canali su transponder oltre il %2")
                 .arg(report.strandedChannels)
@@ -114,9 +120,21 @@ void FileCommands::Load(const std::string& path, const Base::Bytes& image, int a
   if (!appended) document.MarkSaved(path);
   session_.status.ShowProgress(100);
   session_.view.ShowFromStart(View::Channels);
-  for (const std::string& message : report.messages) session_.dialogs.Message(Text(message), {});
-  session_.status.ShowResult(ShortName(path) + ": " + LoadResult(document.Tables(), report, appended) +
-                             (ratesMoved ? RatesMovedText : ""));
+  bool tellMore = true;
+  for (const std::string& message : report.messages) {
+    if (&message == &report.messages.front()) {
+      session_.dialogs.Message(Text(message), {});
+    } else if (tellMore) {
+      tellMore = session_.dialogs.RepeatedMessage(Text(message));
+    }
+  }
+  const QString result = ShortName(path) + ": " + LoadResult(document.Tables(), report, appended) +
+                         (ratesMoved ? RatesMovedText : "");
+  if (report.linkedToLast.empty()) {
+    session_.status.ShowResult(result);
+  } else {
+    session_.status.ShowLoss(result, session_.ChannelLines(report.linkedToLast), StatusLine::Loss::Edited);
+  }
   if (onOpened) onOpened(path);
 }
 
@@ -126,8 +144,8 @@ bool FileCommands::RatesMoved(const Support::SymbolRates& rates) const {
 }
 
 std::optional<FileCommands::Preparation> FileCommands::Prepare() {
-  const auto rates = session_.LoadSymbolRates();
-  if (!rates || !rates->missing.empty()) return std::nullopt;
+  const auto rates = session_.NeedsSymbolRates();
+  if (!rates) return std::nullopt;
 
   const State& state = session_.document.Tables();
   Preparation preparation{Routines::PlanWrite(state, session_.settings.Chosen()), RatesMoved(*rates)};
@@ -186,14 +204,22 @@ void FileCommands::Write(const std::string& path, const Base::Bytes& original,
   TellWritten(path, patched, preparation, *saved);
 }
 
+QString FileCommands::LostChannels(const Routines::Unwritten& unwritten) const {
+  QString lines = session_.ChannelLines(unwritten.channels);
+  for (const int slot : unwritten.extraChannels)
+    lines += QString("%1 posto vuoto, nell'immagine c'è un canale\n").arg(slot, 4, 10, QChar('0'));
+  return lines;
+}
+
 void FileCommands::TellWritten(const std::string& path, const Routines::PatchedFlash& patched,
                                const Preparation& preparation, const Routines::Saved& saved) {
   Document& document = session_.document;
   const Routines::Unwritten unwritten =
       Routines::FindUnwritten(document.Tables(), patched.image, preparation.plan);
-  document.Adjust([&path](State& state) {
+  document.Adjust([&](State& state) {
     state.OutputFlash = path;
     state.MaxChannels = 0;
+    if (unwritten.Nothing()) state.FromFls = false;
   });
   document.ForgetSaved(path);
   if (unwritten.Nothing()) {
@@ -204,8 +230,16 @@ void FileCommands::TellWritten(const std::string& path, const Routines::PatchedF
 
   QString result = "Scritta " + ShortName(path);
   if (!unwritten.Nothing()) result += ": " + Text(unwritten.Text());
+  if (patched.favouritesCleared > 0)
+    result += QString(", azzerati %1 byte in fondo all'area dei preferiti").arg(patched.favouritesCleared);
   if (preparation.ratesMoved) result += RatesMovedText;
-  session_.status.ShowResult(result + CopiesText(path, saved));
+  result += CopiesText(path, saved);
+  if (unwritten.Nothing()) {
+    session_.status.ForgetLoss();
+    session_.status.ShowResult(result);
+  } else {
+    session_.status.ShowLoss(result, LostChannels(unwritten), StatusLine::Loss::Saved);
+  }
   session_.dialogs.Message(Text(Routines::WriteSummary(document.Tables(), patched)), {}, Tone::Information);
 }
 

@@ -37,6 +37,8 @@ class FileCommands {
   std::optional<Preparation> Prepare();
   void AskAndWrite(const Preparation& preparation);
   void Write(const std::string& path, const Base::Bytes& original, const Preparation& preparation);
+  // Those that a save left out, for the window that names them.
+  [[nodiscard]] QString LostChannels(const Routines::Unwritten& unwritten) const;
   void TellWritten(const std::string& path, const Routines::PatchedFlash& patched,
                    const Preparation& preparation, const Routines::Saved& saved);
 

@@ -25,6 +25,8 @@ class Dialogs {
 
   // An empty title stands for the program's name.
   virtual void Message(const QString& text, const QString& title, Tone tone = Tone::Warning) = 0;
+  // One more of the same kind within a command: false where the user wants no further ones.
+  virtual bool RepeatedMessage(const QString& text) = 0;
   virtual bool YesNo(const QString& question) = 0;
   // Where a Yes cannot be taken back: Enter says No.
   virtual bool FinalYesNo(const QString& question) = 0;

@@ -3,6 +3,7 @@
 #include "ui/kit/breaking_label.h"
 #include "ui/kit/screen_fit.h"
 
+#include <QCheckBox>
 #include <QComboBox>
 #include <QDir>
 #include <QFileDialog>
@@ -66,6 +67,16 @@ void SetUp(QInputDialog& dialog, const QString& question) {
 void QtDialogs::Message(const QString& text, const QString& title, Tone tone) {
   Show(parent_, tone == Tone::Information ? QMessageBox::Information : QMessageBox::Warning, text, title,
        QMessageBox::Ok);
+}
+
+bool QtDialogs::RepeatedMessage(const QString& text) {
+  QMessageBox box(QMessageBox::Warning, "Trovalis", Breakable(text), QMessageBox::Ok, parent_);
+  box.setTextFormat(Qt::PlainText);
+  auto* noMore = new QCheckBox("Non ripetere per questo caricamento", &box);
+  noMore->setObjectName("NonRipetere");
+  box.setCheckBox(noMore);
+  box.exec();
+  return !noMore->isChecked();
 }
 
 bool QtDialogs::YesNo(const QString& question) {

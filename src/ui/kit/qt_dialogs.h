@@ -14,6 +14,7 @@ class QtDialogs : public Dialogs {
   explicit QtDialogs(QWidget* parent) : parent_(parent) {}
 
   void Message(const QString& text, const QString& title, Tone tone) override;
+  bool RepeatedMessage(const QString& text) override;
   bool YesNo(const QString& question) override;
   bool FinalYesNo(const QString& question) override;
   Answer YesNoCancel(const QString& question) override;

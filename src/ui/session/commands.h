@@ -134,7 +134,9 @@ inline constexpr Command Commands[] = {
      "Carica una lista di testo di altri ricevitori, scegliendone le colonne", Need::ChannelsForSdx},
     {"Pelko", "Da File Pelko", Menu::Import, "", "",
      "Carica una lista di testo di altri ricevitori, scegliendone le colonne", Need::ChannelsForSdx},
-    {"FormatoFLASH", "In formato FLASH", Menu::Export, "", "", "Copia la flash aperta in un file .fls",
+    {"FormatoFLASH", "In formato FLASH", Menu::Export, "", "",
+     "Copia in un file .fls la flash aperta com'è su disco, che prende il posto della lista (Annulla la "
+     "riporta)",
      Gate(Need::CapacityToExport, Need::OpenedFlash)},
     {"FormatoTesto", "In formato Testo", Menu::Export, "", "", "Scrive la lista in un file di testo",
      Need::List},

@@ -10,7 +10,7 @@ namespace Ui {
 namespace {
 
 // By control name; one that ends in an underscore stands for all that begin so.
-constexpr std::array<std::pair<const char*, const char*>, 40> Tips = {{
+constexpr std::array<std::pair<const char*, const char*>, 42> Tips = {{
     {"QuantiCanali_", "Quanti canali ha il ricevitore da cui viene la lista"},
     {"FlashScrittura_", "Il tipo del ricevitore in cui si scrive la lista"},
     {"SRDef_", "Dove il ricevitore tiene il symbol rate 22000 nella sua tabella"},
@@ -49,6 +49,8 @@ constexpr std::array<std::pair<const char*, const char*>, 40> Tips = {{
     {"Chkfiltra", "Lascia fuori i canali che la propria lista ha già"},
     {"DallInizio", "Sovrascrive i canali dal numero 1 in poi"},
     {"DalCanale", "Sovrascrive i canali dal numero scritto sotto in poi"},
+    {"NeiPostiVuoti", "Riempie i posti vuoti della lista, senza sovrascrivere nessun canale"},
+    {"QualiCanali", "Elenca i canali di cui parla l'avviso"},
     {"Virgolette", "Il separatore fra virgolette fa parte del campo"},
     {"Intestazione", "La prima riga non è un canale"},
 }};

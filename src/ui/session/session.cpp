@@ -1,6 +1,7 @@
 #include "ui/session/session.h"
 
 #include "base/file.h"
+#include "base/text.h"
 #include "ui/kit/text.h"
 
 namespace Ui {
@@ -32,6 +33,15 @@ void Session::RememberFolder(FolderKind kind, const std::string& path) const {
   Support::SaveFolderOf(programFolder, kind, path);
 }
 
+QString Session::ChannelLines(const std::vector<int>& slots) const {
+  QString lines;
+  for (const int slot : slots) {
+    const std::string_view name = Base::TrimmedRight(document.Tables().Channel(slot).Name());
+    lines += QString("%1 %2\n").arg(slot, 4, 10, QChar('0')).arg(CodePageText(name));
+  }
+  return lines;
+}
+
 bool Session::IsFlashOfList(const std::string& path) const {
   if (path.empty()) return false;
   const Routines::State& state = document.Tables();
@@ -54,6 +64,14 @@ std::optional<Support::SymbolRates> Session::LoadSymbolRates() {
     status.ShowResult(Text(rates->missing));
   }
   return *rates;
+}
+
+std::optional<Support::SymbolRates> Session::NeedsSymbolRates() {
+  const bool told = std::exchange(srIniMissingTold, false);
+  auto rates = LoadSymbolRates();
+  srIniMissingTold = srIniMissingTold || told;
+  if (rates && !rates->missing.empty()) rates.reset();
+  return rates;
 }
 
 }  // namespace Ui

@@ -71,12 +71,19 @@ struct Session {
   // Makes the folder of a chosen file the one for its kind.
   void RememberFolder(FolderKind kind, const std::string& path) const;
 
+  // "0012 Rai Uno", a line for each slot.
+  [[nodiscard]] QString ChannelLines(const std::vector<int>& slots) const;
+
   // Whether a file about to be written is the opened flash or the one of the output, which only a save may write.
   [[nodiscard]] bool IsFlashOfList(const std::string& path) const;
 
   // The symbol rates of SR.INI as `SRDef` now places them. Where the file is missing it says so, in a box
   // once and in the status bar after that. A malformed file ends the program: nothing comes back then.
   std::optional<Support::SymbolRates> LoadSymbolRates();
+
+  // The same for a command that cannot go on without the file: each time it is missing there is the box, and nothing
+  // comes back.
+  std::optional<Support::SymbolRates> NeedsSymbolRates();
 };
 
 }  // namespace Ui

@@ -6,6 +6,7 @@
 
 #include <QHBoxLayout>
 #include <QProgressBar>
+#include <QPushButton>
 #include <QStatusBar>
 
 namespace Ui {
@@ -13,6 +14,8 @@ namespace Ui {
 StatusLine::StatusLine(QStatusBar& bar)
     : QObject(&bar),
       line_(new QWidget(&bar)),
+      loss_(new ElidedLabel(Qt::ElideRight, line_)),
+      which_(new QPushButton("Quali?", line_)),
       result_(new ElidedLabel(Qt::ElideRight, line_)),
       channels_(AddFigure(bar, "CanaliUsati")),
       transponders_(AddFigure(bar, "TransponderUsati")),
@@ -21,6 +24,16 @@ StatusLine::StatusLine(QStatusBar& bar)
       output_(new ElidedLabel(Qt::ElideMiddle, &bar)),
       progress_(new QProgressBar(line_)) {
   result_->setObjectName("UltimoRisultato");
+  loss_->setObjectName("RisultatoConPerdite");
+  loss_->setContentsMargins(4, 0, 4, 0);
+  loss_->setAutoFillBackground(true);
+  QPalette warning = loss_->palette();
+  warning.setColor(QPalette::Window, QColor(0xFF, 0xD0, 0x80));
+  warning.setColor(QPalette::WindowText, Qt::black);
+  loss_->setPalette(warning);
+  which_->setObjectName("QualiCanali");
+  connect(which_, &QPushButton::clicked, this, [this] { Q_EMIT ChannelsWanted(lost_); });
+  ForgetLoss();
   output_->setObjectName("FlashOutput");
   bar.addPermanentWidget(output_, 1);
 
@@ -35,6 +48,8 @@ StatusLine::StatusLine(QStatusBar& bar)
 
   auto* row = new QHBoxLayout(line_);
   row->setContentsMargins(0, 0, 0, 0);
+  row->addWidget(loss_, 1);
+  row->addWidget(which_);
   row->addWidget(result_, 1);
   row->addWidget(progress_);
 }
@@ -49,7 +64,29 @@ ElidedLabel* StatusLine::AddFigure(QStatusBar& bar, const char* name) {
 
 void StatusLine::ShowResult(const QString& text) {
   result_->Show(text);
+  result_->show();
   Q_EMIT ResultShown(text);
+}
+
+void StatusLine::ShowLoss(const QString& text, const QString& channels, Loss kind) {
+  ShowResult(text);
+  result_->hide();  // it would say the same beside the warning
+  loss_->Show("⚠ " + text);
+  loss_->show();
+  lost_ = channels;
+  which_->setVisible(!channels.isEmpty());
+  kind_ = kind;
+}
+
+void StatusLine::ForgetLoss() {
+  loss_->clear();
+  loss_->hide();
+  which_->hide();
+  result_->show();
+}
+
+void StatusLine::ForgetEditedLoss() {
+  if (kind_ == Loss::Edited) ForgetLoss();
 }
 
 void StatusLine::ShowList(const Routines::State& state, bool unsaved, int clipboard) {

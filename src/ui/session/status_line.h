@@ -8,6 +8,7 @@
 #include <QObject>
 
 class QProgressBar;
+class QPushButton;
 class QStatusBar;
 
 namespace Ui {
@@ -22,6 +23,13 @@ class StatusLine : public QObject {
   [[nodiscard]] QWidget* ResultLine() const { return line_; }
 
   void ShowResult(const QString& text);
+  // A result that lost something stays beside later ones, with a warning sign. `channels` are lines for the window that
+  // "Quali?" opens; without any there is no such button.
+  enum class Loss { Saved, Edited };
+  void ShowLoss(const QString& text, const QString& channels, Loss kind);
+  // Until the next save that lost nothing or, where it was an edit, until that is undone.
+  void ForgetLoss();
+  void ForgetEditedLoss();
   void ShowList(const Routines::State& state, bool unsaved, int clipboard);
   // Whether unsaved work is put aside against a crash, from the next list shown on.
   void SetKept(bool kept) { kept_ = kept; }
@@ -29,12 +37,16 @@ class StatusLine : public QObject {
   void ShowProgress(int percent);
 
  Q_SIGNALS:
+  // The user wants to see the channels of a loss.
+  void ChannelsWanted(const QString& lines);
   void ResultShown(const QString& text);
 
  private:
   ElidedLabel* AddFigure(QStatusBar& bar, const char* name);
 
   QWidget* line_;
+  ElidedLabel* loss_;
+  QPushButton* which_;
   ElidedLabel* result_;
   ElidedLabel* channels_;
   ElidedLabel* transponders_;
@@ -42,6 +54,8 @@ class StatusLine : public QObject {
   ElidedLabel* unsaved_;
   ElidedLabel* output_;
   QProgressBar* progress_;
+  QString lost_;  // lines of the channels
+  Loss kind_ = Loss::Saved;
   bool kept_ = true;
 };
 

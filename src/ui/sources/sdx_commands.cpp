@@ -5,6 +5,7 @@
 #include "formats/sdx_import.h"
 #include "ui/kit/text.h"
 #include "ui/kit/toolkit.h"
+#include "ui/session/lines_window.h"
 #include "ui/sources/sdx_dialogs.h"
 
 namespace Ui {
@@ -30,6 +31,11 @@ std::vector<std::pair<std::pair<int, int>, int>> ServicesOn(const State& state, 
                         slot});
   }
   return services;
+}
+
+// "3 righe fuori banda", which have no transponder they could stand on; empty for none.
+QString OutOfBandText(int rows) {
+  return rows == 0 ? QString() : Counted(rows, "riga fuori banda", "righe fuori banda");
 }
 
 QString RowName(const Formats::SdxRow& row) { return CodePageText(Base::TrimmedRight(row.name)); }
@@ -104,15 +110,15 @@ void SdxCommands::TellTaken(const QString& file) {
 void SdxCommands::ListMissing(int satellite, std::string_view text) {
   const State& state = session_.document.Tables();
   const auto listed = Formats::ServicesOf(text);
-  QString lines;
+  std::vector<int> missing;
   for (const auto& [service, slot] : ServicesOn(state, satellite)) {
-    if (listed.contains(service)) continue;
-    lines += QString("%1 %2\n")
-                 .arg(slot, 4, 10, QChar('0'))
-                 .arg(CodePageText(Base::TrimmedRight(state.Channel(slot).Name())));
+    if (!listed.contains(service)) missing.push_back(slot);
   }
-  if (auto* earlier = OpenWindow<MissingWindow>(window_)) earlier->close();
-  if (!lines.isEmpty()) (new MissingWindow(lines, session_, &window_))->BringUp();
+  if (auto* earlier = window_.findChild<LinesWindow*>("ElencoNonInSDX")) earlier->close();
+  if (missing.empty()) return;
+  (new LinesWindow("ElencoNonInSDX", "Elenco canali Non in SDX", session_.ChannelLines(missing), session_,
+                   &window_))
+      ->BringUp();
 }
 
 void SdxCommands::ShowPane(bool shown) {
@@ -153,59 +159,102 @@ void SdxCommands::CopySDX() {
 void SdxCommands::AskAndInsert(int first, int last) {
   if (!Meets(session_, Need::List)) return;
   const Rows rows = RowsFrom(first, last);
+  if (rows.content.empty()) {
+    session_.status.ShowResult(OutOfBandText(rows.outOfBand) + ": non si inserisce");
+    return;
+  }
   const auto answer =
       session_.dialogs.AskLine("Inserire la posizione in cui inserire " + RowName(rows.content.front()));
   if (!answer || answer->isEmpty()) return;
+  const State& state = session_.document.Tables();
   const int position = Base::LeadingNumber(answer->toStdString());
-  if (position < 1 || position > session_.document.Tables().ChannelCount) {
+  if (position < 1 || position > state.ChannelCount) {
     session_.dialogs.Message("Posizione non valida", {});
     return;
   }
-  Put(rows, position, session_.dialogs.YesNo("Si desidera spostare i canali verso il basso?"));
+  const bool shift = session_.dialogs.YesNo("Si desidera spostare i canali verso il basso?");
+  Put(rows, Formats::SlotsFrom(state, position, rows.Count()), shift ? Way::Shift : Way::Overwrite);
 }
 
 void SdxCommands::Drop(int first, int last, int before) {
-  const bool rows = first >= 1 && first <= last && last <= static_cast<int>(session_.sdx.rows.size());
-  if (!rows || before > session_.document.Tables().ChannelCount) {
+  const State& state = session_.document.Tables();
+  const bool known = first >= 1 && first <= last && last <= static_cast<int>(session_.sdx.rows.size());
+  if (!known || before > state.ChannelCount) {
     session_.status.ShowResult("Dopo l'ultimo posto della lista non si può inserire");
     return;
   }
-  Put(RowsFrom(first, last), before, true);
+  const Rows rows = RowsFrom(first, last);
+  Put(rows, Formats::SlotsFrom(state, before, rows.Count()), Way::Shift);
 }
 
 // Rows are taken before anything is asked: a download may put others in their place meanwhile.
 SdxCommands::Rows SdxCommands::RowsFrom(int first, int last) const {
-  const auto begin = session_.sdx.rows.begin();
-  return {first, {begin + first - 1, begin + last}};
+  Rows rows;
+  for (int number = first; number <= last; ++number) {
+    const Formats::SdxRow& row = session_.sdx.rows[static_cast<std::size_t>(number) - 1];
+    if (Formats::InBand(row)) {
+      rows.content.push_back(row);
+      rows.numbers.push_back(number);
+    } else {
+      ++rows.outOfBand;
+    }
+  }
+  return rows;
 }
 
-void SdxCommands::Put(const Rows& rows, int position, bool shift) {
-  const int room = session_.document.Tables().ChannelCount - position + 1;
-  const int all = static_cast<int>(rows.content.size());
-  const int count = std::min(all, room);
-  const std::string label = "Inserisci " + Base::Counted(count, "canale SDX", "canali SDX");
-  QString result = Text(label) + QString(" dal %1").arg(position);
+void SdxCommands::Put(const Rows& rows, const std::vector<int>& slots, Way way) {
+  Document& document = session_.document;
+  const int count = static_cast<int>(slots.size());
+  if (count == 0) return session_.status.ShowResult(OutOfBandText(rows.outOfBand) + ": non si inserisce");
+  const bool shift = way == Way::Shift;
+  const std::vector<int> out =
+      shift ? Edit::PushedOut(document.Tables(), slots.front(), count) : std::vector<int>();
+  const QString pushedOut = session_.ChannelLines(out);
+  const std::string over = shift ? "" : Formats::OverwrittenBy(document.Tables(), slots).Text();
+  QString result = (count == 1 ? "Inserito " : "Inseriti ") + Counted(count, "canale SDX", "canali SDX");
+  const bool together = slots.back() - slots.front() == count - 1;
+  result += together ? QString(" dal %1").arg(slots.front()) : QString(" nei posti vuoti");
+  if (!over.empty()) result += ", sovrascritti " + Text(over);
   std::string message;
   std::vector<Edit::LostFavourite> lost;
-  session_.document.Apply(label, [&](State& state) {
-    if (shift) lost = Edit::ShiftDown(state, position, count);
+  document.Apply("Inserisci " + Base::Counted(count, "canale SDX", "canali SDX"), [&](State& state) {
+    if (shift) lost = Edit::ShiftDown(state, slots.front(), count);
     Formats::SdxImport import(state, session_.bouquets.tables);
-    for (int i = 0; i < count; ++i) {
-      import.Put(rows.content[static_cast<std::size_t>(i)], position + i, rows.first + i);
-    }
+    for (std::size_t i = 0; i < slots.size(); ++i) import.Put(rows.content[i], slots[i], rows.numbers[i]);
     message = import.Message();
     if (import.UnknownRates() > 0)
       result += QString(", %1 con SR che SR.INI non ha").arg(import.UnknownRates());
   });
-  result += session_.Losses(lost);
   if (session_.view.Current() == View::Channels)
-    session_.view.ListGrid().Select({position, position + count - 1});
-  session_.status.ShowResult(result);
+    session_.view.ListGrid().Select({slots.front(), together ? slots.back() : slots.front()});
+  TellPut(rows, result + session_.Losses(lost), pushedOut);
   if (!message.empty()) session_.dialogs.Message(Text(message), {});
-  if (const int left = all - count; left > 0) {
-    session_.dialogs.Message(
-        Counted(left, "canale SDX non ha trovato posto", "canali SDX non hanno trovato posto"), {});
+  TellWithoutRoom(rows, count);
+}
+
+// A whole list may drop off at the end: the line names the first ones, its button all.
+void SdxCommands::TellPut(const Rows& rows, const QString& done, const QString& pushedOut) {
+  constexpr int MostNamed = 20;
+  QString result = done;
+  QStringList names = pushedOut.split('\n', Qt::SkipEmptyParts);
+  if (const auto more = names.size() - MostNamed; more > 0)
+    names = names.first(MostNamed) + QStringList(QString("e altri %1").arg(more));
+  if (!names.isEmpty()) result += ", persi in fondo: " + names.join(", ");
+  if (rows.outOfBand > 0) result += ", " + OutOfBandText(rows.outOfBand);
+  if (pushedOut.isEmpty()) {
+    session_.status.ShowResult(result);
+  } else {
+    session_.status.ShowLoss(result, pushedOut, StatusLine::Loss::Edited);
   }
+}
+
+void SdxCommands::TellWithoutRoom(const Rows& rows, int placed) {
+  const int left = rows.Count() - placed;
+  if (left <= 0) return;
+  // They stay selected for another place.
+  pane_.ListGrid().Select({rows.numbers[static_cast<std::size_t>(placed)], rows.numbers.back()});
+  session_.dialogs.Message(
+      Counted(left, "canale SDX non ha trovato posto", "canali SDX non hanno trovato posto"), {});
 }
 
 void SdxCommands::ImportaTutto() {
@@ -214,14 +263,14 @@ void SdxCommands::ImportaTutto() {
     return;
   }
   const Rows rows = RowsFrom(1, static_cast<int>(session_.sdx.rows.size()));
-  SdxImportDialog dialog(&window_);
+  SdxImportDialog dialog(session_.document.Tables(), rows.Count(), OutOfBandText(rows.outOfBand), &window_);
   if (dialog.exec() != QDialog::Accepted) return;
-  const int start = Base::LeadingNumber(dialog.Start().toStdString());
-  if (start < 1 || start > session_.document.Tables().ChannelCount) {
+  const std::vector<int> slots = dialog.Slots();
+  if (slots.empty() && rows.Count() > 0) {
     session_.dialogs.Message("Il canale da cui iniziare il caricamento non è valido", {});
     return;
   }
-  Put(rows, start, false);
+  Put(rows, slots, Way::Overwrite);
 }
 
 }  // namespace Ui

@@ -38,14 +38,22 @@ class SdxCommands {
   void Drop(int first, int last, int before);
   void ListMissing(int satellite, std::string_view text);
   void AskAndInsert(int first, int last);
-  // Rows of the table, the first of which has the number `first`.
+  // Rows of the table that can become channels, with their numbers in it, and how many cannot.
   struct Rows {
-    int first;
     std::vector<Formats::SdxRow> content;
+    std::vector<int> numbers;
+    int outOfBand = 0;
+
+    [[nodiscard]] int Count() const { return static_cast<int>(content.size()); }
   };
 
   [[nodiscard]] Rows RowsFrom(int first, int last) const;
-  void Put(const Rows& rows, int position, bool shift);
+  enum class Way { Overwrite, Shift };
+  // The first rows go into the slots, one each.
+  void Put(const Rows& rows, const std::vector<int>& slots, Way way);
+  void TellPut(const Rows& rows, const QString& done, const QString& pushedOut);
+  // The first `placed` rows have found room.
+  void TellWithoutRoom(const Rows& rows, int placed);
 
   Session& session_;
   SdxPane& pane_;

@@ -1,22 +1,18 @@
 #include "ui/sources/sdx_dialogs.h"
 
-#include "base/code_page.h"
-#include "base/file.h"
-#include "ui/kit/flow_layout.h"
+#include "base/text.h"
+#include "formats/sdx_import.h"
 #include "ui/kit/screen_fit.h"
 #include "ui/kit/text.h"
 #include "ui/session/control_tips.h"
 
-#include <QApplication>
 #include <QCheckBox>
-#include <QClipboard>
 #include <QComboBox>
 #include <QDialogButtonBox>
 #include <QFormLayout>
 #include <QLabel>
 #include <QLineEdit>
 #include <QListWidget>
-#include <QPlainTextEdit>
 #include <QPushButton>
 #include <QRadioButton>
 
@@ -120,54 +116,64 @@ bool SdxOptionsDialog::UseFilterList() const { return filterList_->isChecked(); 
 
 bool SdxOptionsDialog::SkipKnown() const { return skipKnown_->isChecked(); }
 
-SdxImportDialog::SdxImportDialog(QWidget* parent) : QDialog(parent) {
+SdxImportDialog::SdxImportDialog(const Routines::State& state, int rows, const QString& others,
+                                 QWidget* parent)
+    : QDialog(parent), state_(state), rows_(rows), others_(others) {
   setObjectName("ImportazioneSDX");
   setWindowTitle("Importazione canali SDX");
   fromStart_ = Named<QRadioButton>("DallInizio", "Dall' Inizio", this);
-  auto* fromChannel = Named<QRadioButton>("DalCanale", "Dal canale", this);
+  fromChannel_ = Named<QRadioButton>("DalCanale", "Dal canale", this);
+  gaps_ = Named<QRadioButton>("NeiPostiVuoti", "Nei posti vuoti", this);
   start_ = Named<QLineEdit>("Partenza", this);
-  fromStart_->setChecked(true);
-  start_->setEnabled(false);
   start_->setAccessibleName("Canale di partenza per importare SDX");
-  connect(fromChannel, &QRadioButton::toggled, start_, &QWidget::setEnabled);
-
+  // Behind the last channel nothing is written over; a full list has no such place to offer.
+  const int behind = LastOccupied(state) + 1;
+  if (behind <= state.ChannelCount) start_->setText(QString::number(behind));
+  fromChannel_->setChecked(true);
   auto* caption = new QLabel("Canale di partenza per importare SDX", this);
   caption->setBuddy(start_);
+  outcome_ = Named<QLabel>("EsitoImportazione", this);
+  outcome_->setWordWrap(true);
+  outcome_->setMinimumHeight(2 * fontMetrics().lineSpacing());
+
   auto* column = new QVBoxLayout(this);
-  for (QWidget* line : std::initializer_list<QWidget*>{fromStart_, fromChannel, caption, start_})
+  for (QWidget* line :
+       std::initializer_list<QWidget*>{fromStart_, fromChannel_, caption, start_, gaps_, outcome_})
     column->addWidget(line);
   auto* buttons = new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel, this);
+  confirm_ = buttons->button(QDialogButtonBox::Ok);
   connect(buttons, &QDialogButtonBox::accepted, this, &QDialog::accept);
   connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
   column->addWidget(buttons);
+  for (QRadioButton* choice : {fromStart_, fromChannel_, gaps_})
+    connect(choice, &QRadioButton::toggled, this, &SdxImportDialog::ShowOutcome);
+  connect(start_, &QLineEdit::textChanged, this, &SdxImportDialog::ShowOutcome);
   ShowTips(*this);
+  ShowOutcome();
 }
 
-QString SdxImportDialog::Start() const { return fromStart_->isChecked() ? QString("1") : start_->text(); }
-
-MissingWindow::MissingWindow(const QString& text, Session& session, QWidget* parent)
-    : ToolWindow("ElencoNonInSDX", "Elenco canali Non in SDX", parent), session_(session), text_(text) {
-  auto* lines = new QPlainTextEdit(text, this);
-  lines->setObjectName("RigheNonInSDX");
-  lines->setAccessibleName(windowTitle());
-  // Not to be changed, but with a cursor, by which keys and screen readers go from line to line.
-  lines->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
-  auto* buttons = new FlowLayout;
-  AddButton(*buttons, "CopiaNonInSDX", "Copia", [text] { QApplication::clipboard()->setText(text); });
-  AddButton(*buttons, "SalvaNonInSDX", "Salva come testo…", [this] { Save(); });
-  auto* column = new QVBoxLayout(this);
-  column->addWidget(lines);
-  column->addLayout(WithClose(buttons, "ChiudiNonInSDX"));
-  ResizeOnScreen(*this, {420, 480});
+std::vector<int> SdxImportDialog::Slots() const {
+  if (gaps_->isChecked()) return Formats::EmptySlots(state_, rows_);
+  const int start = fromStart_->isChecked() ? 1 : Base::LeadingNumber(start_->text().toStdString());
+  return start < 1 ? std::vector<int>() : Formats::SlotsFrom(state_, start, rows_);
 }
 
-void MissingWindow::Save() {
-  const std::string path =
-      session_.AskSave("Salva l'elenco", "Files di testo(*.txt)|*.txt", FolderKind::Foreign, "Non salvato");
-  if (path.empty()) return;
-  const std::string bytes = Base::FromUtf8Lossy(QString(text_).replace("\n", "\r\n").toStdString());
-  if (const auto written = Base::ReplaceFile(path, Base::AsBytes(bytes)); !written)
-    session_.Message(written.error());
+void SdxImportDialog::ShowOutcome() {
+  start_->setEnabled(fromChannel_->isChecked());
+  const std::vector<int> slots = Slots();
+  const Formats::Overwritten over = Formats::OverwrittenBy(state_, slots);
+  QStringList parts;
+  if (const std::string text = over.Text(); !text.empty()) parts += "sovrascrive " + Text(text);
+  if (over.channels == 0 || slots.size() < static_cast<std::size_t>(rows_)) {
+    const int free = static_cast<int>(slots.size()) - over.channels;
+    parts += QString(free == 1 ? "%1 posto libero per %2 canali" : "%1 posti liberi per %2 canali")
+                 .arg(free)
+                 .arg(rows_);
+  }
+  if (!others_.isEmpty()) parts += others_;
+  outcome_->setText(parts.join("; "));
+  const bool typed = !start_->text().isEmpty() || !fromChannel_->isChecked();
+  confirm_->setEnabled(typed && !(gaps_->isChecked() && slots.empty()));
 }
 
 }  // namespace Ui

@@ -1,15 +1,19 @@
-// The boxes of the SatcoDX import: its options, where a whole table goes, and what a list does not have.
+// The boxes of the SatcoDX import: its options, and where a whole table goes.
 #pragma once
 
 #include "formats/satcodx.h"
 #include "model/bouquets.h"
-#include "ui/session/session.h"
-#include "ui/session/tool_window.h"
+#include "model/routines.h"
+#include "ui/kit/dialogs.h"
+
+#include <QDialog>
 
 class QCheckBox;
 class QComboBox;
+class QLabel;
 class QLineEdit;
 class QListWidget;
+class QPushButton;
 class QRadioButton;
 
 namespace Ui {
@@ -43,33 +47,29 @@ class SdxOptionsDialog : public QDialog {
   QListWidget* list_;
 };
 
-// `ImportazioneSDX`: from which channel on a whole table is written.
+// `ImportazioneSDX`: into which slots a whole table is written. What that does to the list stands below the choice.
 class SdxImportDialog : public QDialog {
   Q_OBJECT
 
  public:
-  explicit SdxImportDialog(QWidget* parent);
+  // `rows` of the table want a place; `others` says what becomes of the rest, if there is any.
+  SdxImportDialog(const Routines::State& state, int rows, const QString& others, QWidget* parent);
 
-  // The line typed, or "1" for the start.
-  [[nodiscard]] QString Start() const;
+  // The slots to be filled, as many as there are rows or room; none where the start is no slot of the list.
+  [[nodiscard]] std::vector<int> Slots() const;
 
  private:
+  void ShowOutcome();
+
+  const Routines::State& state_;
+  int rows_;
+  QString others_;
   QRadioButton* fromStart_;
+  QRadioButton* fromChannel_;
+  QRadioButton* gaps_;
   QLineEdit* start_;
-};
-
-// `ElencoNonInSDX`: lines that can be copied and saved.
-class MissingWindow : public ToolWindow {
-  Q_OBJECT
-
- public:
-  MissingWindow(const QString& text, Session& session, QWidget* parent);
-
- private:
-  void Save();
-
-  Session& session_;
-  QString text_;
+  QLabel* outcome_;
+  QPushButton* confirm_;
 };
 
 }  // namespace Ui

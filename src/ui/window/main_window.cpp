@@ -12,6 +12,7 @@
 #include "ui/review/review_room.h"
 #include "ui/session/actions.h"
 #include "ui/session/control_tips.h"
+#include "ui/session/lines_window.h"
 #include "ui/session/session.h"
 #include "ui/sources/sources_room.h"
 #include "ui/window/about_dialog.h"
@@ -151,6 +152,9 @@ void MainWindow::Connect() {
   connect(&session.view.ListGrid(), &Grid::MenuWanted, menu, &ChannelMenu::Show);
   session.view.StartWith(
       new StartPage(session.settings, files_->recent, (*actions_)["ApriFlashInput"], &session.view));
+  connect(&session.status, &StatusLine::ChannelsWanted, this, [this, &session](const QString& lines) {
+    (new LinesWindow("ElencoCanaliPersi", "Canali dell'ultimo avviso", lines, session, this))->BringUp();
+  });
   connect(document_.get(), &Document::Changed, this, &MainWindow::ShowList);
 }
 
