@@ -1,7 +1,6 @@
 #include "ui/list/filter_bar.h"
 
-#include "base/code_page.h"
-#include "edit/list_operations.h"
+#include "review/filter.h"
 #include "ui/kit/screen_fit.h"
 
 #include <QAbstractButton>
@@ -48,12 +47,9 @@ void FilterBar::Show(Rows rows) {
 }
 
 void FilterBar::Refresh() {
-  const auto text = Base::FromUtf8(field_->text().trimmed().toStdString());
-  if (rows_.find) {
-    matches_ = rows_.find(document_.Tables());
-  } else {
-    matches_ = text ? Edit::MatchingSlots(document_.Tables(), *text) : std::vector<int>();
-  }
+  matches_ = rows_.find
+                 ? rows_.find(document_.Tables())
+                 : Review::MatchingSlots(document_.Tables(), Review::Filter(field_->text().toStdString()));
   const auto found = matches_.size();
   count_->setText(field_->text().trimmed().isEmpty() ? QString()
                   : found == 1                       ? "1 trovato"
