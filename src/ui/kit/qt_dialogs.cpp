@@ -10,6 +10,7 @@
 #include <QHeaderView>
 #include <QInputDialog>
 #include <QLabel>
+#include <QLayout>
 #include <QMessageBox>
 #include <QRegularExpression>
 #include <QScreen>
@@ -70,11 +71,12 @@ void QtDialogs::Message(const QString& text, const QString& title, Tone tone) {
 }
 
 bool QtDialogs::RepeatedMessage(const QString& text) {
-  QMessageBox box(QMessageBox::Warning, "Trovalis", Breakable(text), QMessageBox::Ok, parent_);
+  QMessageBox box(QMessageBox::Warning, "Trovalis", text, QMessageBox::Ok, parent_);
   box.setTextFormat(Qt::PlainText);
   auto* noMore = new QCheckBox("Non ripetere per questo caricamento", &box);
   noMore->setObjectName("NonRipetere");
   box.setCheckBox(noMore);
+  BreakLines(box);
   box.exec();
   return !noMore->isChecked();
 }
