@@ -25,6 +25,7 @@ class Answers : public Ui::Dialogs {
   explicit Answers(QString flash) : flash_(std::move(flash)) {}
 
   void Message(const QString&, const QString&, Ui::Tone) override {}
+  bool RepeatedMessage(const QString&) override { return true; }
   bool YesNo(const QString&) override { return false; }
   bool FinalYesNo(const QString&) override { return false; }
   Ui::Answer YesNoCancel(const QString&) override { return Ui::Answer::Cancel; }

@@ -189,9 +189,10 @@ void Sort(benchmark::State& run) {
 void SnapshotAndRestore(benchmark::State& run) {
   auto state = List();
   Edit::History history;
+  Edit::Clipboard clipboard;
   const auto work = [&] {
     history.Push("Modifica", Edit::History::Kind::Edit, std::make_unique<State>(*state));
-    history.Undo(state);
+    history.Undo(state, clipboard);
   };
   RunBeside(run, 1.5, {work, CopyOf(*state)});
 }
