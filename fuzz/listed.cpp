@@ -72,7 +72,8 @@ void CheckServiceRows(const ServiceRows& rows, const ListOptions& options, int l
     Require((row.type == 'T' && options.television) || (row.type == 'R' && options.radio) ||
                 (row.type == 'S' && options.data),
             "only the types that are wanted");
-    Require(!std::string_view(row.name).empty() && row.frequency >= "010000" && row.frequency <= "013999",
+    const std::string_view frequency = row.frequency;
+    Require(!std::string_view(row.name).empty() && frequency >= "010000" && frequency <= "013999",
             "a name and a frequency of the band");
     Require(row.type != 'T' || row.vpid != "65535", "television has video");
     Require(row.type != 'R' || (row.vpid == "65535" && row.apid != "65535"), "a radio has sound alone");
