@@ -1,6 +1,7 @@
 // Importing a list from the file of raw records, and carrying it out and in again.
 #include "formats/fls_format.h"
 #include "fuzz_support.h"
+#include "model/flash_image.h"
 
 #include <algorithm>
 #include <string>
