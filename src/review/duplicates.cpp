@@ -2,6 +2,7 @@
 
 #include "base/names.h"
 #include "base/text.h"
+#include "model/per_slot.h"
 
 #include <numeric>
 #include <optional>
@@ -17,7 +18,7 @@ using namespace Routines;
 // Which slots belong together, as a forest in which every slot knows one that is nearer to its group's first slot.
 class Groups {
  public:
-  Groups() : parents_(LastChannelSlot + 1) { std::iota(parents_.begin(), parents_.end(), 0); }
+  Groups() { std::iota(parents_.values.begin(), parents_.values.end(), 0); }
 
   void Join(int one, int other) {
     const auto [low, high] = std::minmax({First(one), First(other)});
@@ -30,7 +31,7 @@ class Groups {
   }
 
  private:
-  std::vector<int> parents_;
+  PerChannel<int> parents_;
 };
 
 // SID 0 names no service. Where TID and NID are both 0 they name no transponder, and its number stands in for them.

@@ -2,6 +2,7 @@
 
 #include "base/code_page.h"
 #include "base/text.h"
+#include "model/per_slot.h"
 #include "review/duplicates.h"
 
 #include <map>
@@ -18,7 +19,7 @@ constexpr const char* NoTransponder = "Transponder mancanti";
 class Counter {
  public:
   Counter(const State& state, const std::vector<Satellite>& satellites)
-      : state_(state), satellites_(satellites), onTransponder_(256) {
+      : state_(state), satellites_(satellites) {
     for (int slot = 1; slot <= state.ChannelCount; ++slot) CountChannel(slot);
     for (int slot = 1; slot <= state.TransponderCount; ++slot) CountTransponder(slot);
   }
@@ -162,7 +163,7 @@ class Counter {
   const std::vector<Satellite>& satellites_;
   int lastUsed_ = LastOccupied(state_);
   Slots used_, gaps_, rest_, inactive_, lost_;
-  std::vector<Slots> onTransponder_;  // by number
+  PerSlot<Slots, 255> onTransponder_;  // by number
   Slots usedTransponders_, freeTransponders_, unused_, doubtful_, miscounted_;
   std::map<ChannelKind, Slots> byKind_;
   std::map<std::uint32_t, Slots> byCoding_;
