@@ -3,7 +3,7 @@
 namespace Routines {
 
 std::string SatelliteText(std::uint32_t satellite, const std::vector<Satellite>& satellites) {
-  const std::string label = SatelliteLabel(satellite);
+  std::string label = SatelliteLabel(satellite);
   for (const Satellite& named : satellites) {
     if (named.label == label) return label + "  " + named.name;
   }
