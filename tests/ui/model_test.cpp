@@ -4,6 +4,9 @@
 //   TROVALIS_MODEL_SEED=7       begins with that one
 #include "demo_flash.h"
 #include "demo_sdx.h"
+#include "model/favourites.h"
+#include "model/flash_file.h"
+#include "model/flash_loader.h"
 #include "support/bouquets_txt.h"
 #include "support/sr_ini.h"
 #include "support/test_folder.h"
@@ -25,10 +28,11 @@
 namespace Ui {
 namespace {
 
-// What a step holds: a save sets the other two outside of every step.
+// What a step holds: a save sets the other three outside of every step.
 bool SameTables(const State& one, State other) {
   other.MaxChannels = one.MaxChannels;
   other.OutputFlash = one.OutputFlash;
+  other.FromFls = one.FromFls;
   return one == other;
 }
 
@@ -67,6 +71,7 @@ class Play {
     run();
     Settle();
     if (fault_.empty()) fault_ = Fault();
+    if (fault_.empty()) fault_ = SavedFault();
     const bool history = name == "Annulla" || name == "Ripeti" || name == "restart";
     if (fault_.empty() && !history && !Editor()) UndoAndRedo(*before, label);
     return fault_.empty() ? "" : name_ + ": " + fault_;
@@ -324,6 +329,37 @@ class Play {
     Settle();
     if (fault_.empty() && !SameTables(*after, Tables())) fault_ = "redo does not bring back the state after";
     if (fault_.empty()) fault_ = Fault();
+  }
+
+  // A list that counts as saved comes back from the image written last, or from the one opened.
+  [[nodiscard]] std::string SavedFault() const {
+    const State& list = Tables();
+    if (!list.Loaded || window_->List().Unsaved()) return {};
+    for (const std::string& path : {list.OutputFlash, list.InputFlash}) {
+      const auto image = path.empty() ? Base::Error{} : Routines::ReadFlash(path, "");
+      const auto again = std::make_unique<State>();
+      if (image) LoadFlash(*again, *image, list.ChannelCount, 0, {});
+      if (image && GivesBack(*again, list)) return {};
+    }
+    return "what counts as saved does not come back";
+  }
+
+  static bool GivesBack(const State& again, const State& list) {
+    bool same = again.ChannelTable == list.ChannelTable;
+    for (std::uint32_t slot = 1; slot <= Routines::LastTransponderSlot; ++slot) {
+      const auto* ours = TransponderInUse(list, slot);
+      const auto* theirs = TransponderInUse(again, slot);
+      same = same && (ours == nullptr) == (theirs == nullptr) && (!ours || ours->record == theirs->record);
+    }
+    for (std::size_t i = 0; i < Routines::FavouriteLists; ++i) {
+      if (Routines::IsBlankFavourites(list.FavouritesBlock)) continue;
+      same = same &&
+             Routines::FavouriteEntriesOf(again.FavouritesBlock, i) ==
+                 Routines::FavouriteEntriesOf(list.FavouritesBlock, i) &&
+             Routines::FavouriteNameOf(again.FavouritesBlock, i) ==
+                 Routines::FavouriteNameOf(list.FavouritesBlock, i);
+    }
+    return same;
   }
 
   [[nodiscard]] std::string Fault() const { return Faults(*window_, bouquets_.tables.satellites).First(); }
