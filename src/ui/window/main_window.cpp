@@ -55,6 +55,8 @@ struct MainWindow::Screen {
   Screen(const Screen&) = delete;
   Screen& operator=(const Screen&) = delete;
   ~Screen() {
+    // A field takes what is being typed in it when its window is hidden, which has to be whole then.
+    for (QDialog* tool : ToolWindows()) tool->hide();
     qDeleteAll(ToolWindows());
     delete window.takeCentralWidget();
   }
