@@ -5,6 +5,7 @@
 #include "edit/regroup.h"
 #include "image_builder.h"
 #include "model/favourites.h"
+#include "model/symbol_rates.h"
 
 #include <gtest/gtest.h>
 
@@ -261,8 +262,11 @@ TEST(Editing, ChannelsOfAnotherListFindTheirTransponders) {
   Junk junk(4);
   auto from = RandomList(junk, 50);
   for (int i = 1; i <= 3; ++i) Channel(*from, i) = MakeChannel("x", i, i, 1, 1);
-  const Clipboard clipboard = CopyChannels(*from, {1, 3});
   auto to = std::make_unique<State>();
+  from->SymbolRateTable = to->SymbolRateTable = EmptySymbolRateTable();
+  for (auto& [table, code] : {std::pair(&from->SymbolRateTable, 1), std::pair(&to->SymbolRateTable, 3)})
+    SetSymbolRate(*table, static_cast<std::size_t>(code), "22000");
+  const Clipboard clipboard = CopyChannels(*from, {1, 3});
   to->ListNumber = 9;
   to->ChannelCount = 50;
   to->TransponderCount = 3;
@@ -276,6 +280,7 @@ TEST(Editing, ChannelsOfAnotherListFindTheirTransponders) {
   EXPECT_EQ(linked, std::vector<std::uint32_t>({2, 3, 3}));
   EXPECT_EQ(FrequencyMHz(to->Transponder(2).record), 10720);
   EXPECT_EQ(to->Transponder(2).BouquetName().substr(0, 7), "Nessuno");
+  EXPECT_EQ(Get(to->Transponder(2).record, TransponderField::SymbolRate), 3U) << "the code of 22000 there";
 }
 
 TEST(Editing, TheSortIsTheExchangeSortsOwn) {

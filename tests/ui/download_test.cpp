@@ -89,7 +89,7 @@ TEST_F(Window, AnAddressIsFetchedOnlyWhenTheUserAsksAndIsLoadedOrToldAndLeftEmpt
   const std::string path = folder_.Path("scaricato.sdx");
   const auto download = [this] { window_->findChild<QAbstractButton*>("Scarica")->click(); };
   const auto fetch = [&](const Server& server, const auto& expectEnd) {
-    std::filesystem::remove(path);
+    folder_.Write("scaricato.sdx", "SATCODX1 vecchia\r\n");
     folder_.Write("SDX.INI", server.Address().toStdString() + "?uno\r\nhttp://127.0.0.1:9/due.sdx\r\n");
     ASSERT_TRUE(driver_->Choose("ScaricaInternet"));
     auto* addresses = window_->findChild<QComboBox*>("Combo3");
@@ -98,7 +98,7 @@ TEST_F(Window, AnAddressIsFetchedOnlyWhenTheUserAsksAndIsLoadedOrToldAndLeftEmpt
     QTest::qWait(50);
     EXPECT_EQ(server.asked, 0);
     addresses->setEditText(server.Address());
-    driver_->ExpectFile("Selezionare il file SDX di OUTPUT", PathText(path));
+    ExpectOpenedFlashChosen("Selezionare il file SDX di OUTPUT", path);
     expectEnd();
     download();
     EXPECT_TRUE(QTest::qWaitFor([this] { return driver_->Idle(); }, 5000));
@@ -124,14 +124,18 @@ TEST_F(Window, AnAddressIsFetchedOnlyWhenTheUserAsksAndIsLoadedOrToldAndLeftEmpt
     fetch(server,
           [&] { driver_->ExpectMessage("Errore di connessione a : " + server.Address() + c.second); });
     EXPECT_EQ(Contents(path).size(), 0U) << c.first.toStdString();
+    EXPECT_EQ(Base::AsText(Contents(path + ".bak")), "SATCODX1 vecchia\r\n");
   }
-  EXPECT_EQ(Said(), "Scaricamento non riuscito: il server risponde 404");
+  EXPECT_EQ(
+      Said(),
+      "Scaricamento non riuscito: il server risponde 404; la lista di prima resta come scaricato.sdx.bak");
 
   ASSERT_TRUE(driver_->Choose("VisualizzaBouquet"));
   const Server good(Good + "SATCODX1 uno\r\nSATCODX1 due\r\nsenza fine");
   fetch(good, [&] { driver_->ExpectDialog("Opzioni importazione SDX", [](QDialog& box) { box.reject(); }); });
   EXPECT_FALSE(Action("VisualizzaBouquet").isChecked()) << "the tree makes room for the list";
   EXPECT_EQ(Base::AsText(Contents(path)), "SATCODX1 uno\r\n\nSATCODX1 due\r\n");
+  EXPECT_FALSE(std::filesystem::exists(path + ".bak")) << "a list has come in its place";
 }
 
 }  // namespace Ui

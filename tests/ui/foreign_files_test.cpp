@@ -50,4 +50,24 @@ TEST_F(Window, NamesOfAnyKindAreOpenedSavedAndShown) {
   }
 }
 
+// A pipe would be waited for, and a device or somebody's large file replaced.
+TEST_F(Window, WhatIsNoSettingsFileIsLeftAlone) {
+  const std::string ini = folder_.Path("trovalis.ini");
+  const std::string pipe = folder_.Path("pipe");
+  ASSERT_EQ(::mkfifo(pipe.c_str(), 0600), 0);
+  for (const char* what : {"non è un file normale", "il file supera la dimensione consentita"}) {
+    std::filesystem::remove(ini);
+    std::filesystem::create_symlink(pipe, ini);
+    Start();
+    EXPECT_EQ(Said(), "Impossibile leggere trovalis.ini: " + std::string(what) +
+                          ": le impostazioni non vengono conservate");
+    EXPECT_TRUE(window_->close());
+    EXPECT_TRUE(std::filesystem::is_symlink(ini));
+    EXPECT_EQ(std::filesystem::is_fifo(pipe), what[0] == 'n');
+    std::filesystem::remove(pipe);
+    folder_.Write("pipe", std::string((1U << 20U) + 1, 'x'));
+  }
+  EXPECT_GT(std::filesystem::file_size(pipe), 1U << 20U);
+}
+
 }  // namespace Ui

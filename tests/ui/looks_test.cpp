@@ -142,4 +142,21 @@ TEST_F(Looks, ADarkGroundShowsUntickedBoxesAndIcons) {
   }
 }
 
+// What a box says can be copied from it, so nothing is put into a path to make it break.
+TEST_F(Looks, ABoxBreaksLongPathsAndSaysThemToTheLetter) {
+  const QString sentence = "Impossibile leggere /" + QString(300, 'W') + ": il file non esiste";
+  driver_->ExpectDialog("Trovalis", [&](QDialog& box) {
+    EXPECT_EQ(dynamic_cast<QMessageBox&>(box).text(), sentence);
+    const QLabel* shown = nullptr;
+    for (const QLabel* label : box.findChildren<QLabel*>())
+      if (label->isVisible() && label->text() == sentence) shown = label;
+    ASSERT_NE(shown, nullptr);
+    const int line = shown->fontMetrics().horizontalAdvance(sentence);
+    EXPECT_LE(box.width(), 600);
+    EXPECT_GE(shown->height(), (line / shown->width() + 1) * shown->fontMetrics().height());
+    box.reject();
+  });
+  QtDialogs(window_.get()).Message(sentence, {}, Tone::Warning);
+}
+
 }  // namespace Ui

@@ -1,13 +1,22 @@
 #include "ui/sources/download_commands.h"
 
 #include "base/file.h"
+#include "model/flash_copies.h"
 #include "support/sdx_ini.h"
 #include "ui/kit/text.h"
 
 #include <QApplication>
+#include <QFile>
 #include <QTimer>
 
+#include <cerrno>
+
 namespace Ui {
+namespace {
+
+constexpr std::size_t LargestList = 64U << 20U;
+
+}  // namespace
 
 DownloadCommands::DownloadCommands(Session& session, SdxCommands& sdx, DownloadFrame& frame, QWidget& window)
     : session_(session), sdx_(sdx), frame_(frame), window_(window), download_(this) {
@@ -45,13 +54,40 @@ void DownloadCommands::Fetch(const QString& address) {
   if (path_.empty()) return;
   session_.RememberFolder(FolderKind::Foreign, path_);
   // Whatever becomes of the transfer, the file no longer holds an older list.
-  if (const auto emptied = Base::ReplaceFile(path_, {}); !emptied) {
+  auto emptied = KeepOldList();
+  if (emptied) emptied = Base::ReplaceFile(path_, {});
+  if (!emptied) {
     session_.Message(emptied.error());
     return;
   }
   address_ = address.trimmed();
   ShowProgress();
   download_.Start(address_);
+}
+
+// Beside it, until a list has come in its place.
+Base::Outcome DownloadCommands::KeepOldList() {
+  const std::string target = Base::ResolvedPath(path_);
+  const auto old = Base::ReadFile(target, LargestList);
+  if (!old && old.error().systemCode != ENOENT) return old.error();
+  if (!old || old->empty()) return Base::Done{};
+  const auto copy = Routines::KeepCopy(Base::FolderOf(target), target, *old);
+  if (!copy) return copy.error();
+  oldLists_[target] = Base::FolderOf(target) + *copy;
+  return Base::Done{};
+}
+
+void DownloadCommands::RemoveOldList() {
+  const auto old = oldLists_.extract(Base::ResolvedPath(path_));
+  if (old) QFile::remove(PathText(old.mapped()));
+}
+
+void DownloadCommands::TellFailed(const QString& what) {
+  const auto old = oldLists_.find(Base::ResolvedPath(path_));
+  const QString rest = old == oldLists_.end()
+                           ? QString()
+                           : "; la lista di prima resta come " + PathText(Base::FileName(old->second));
+  session_.status.ShowResult(what + rest);
 }
 
 void DownloadCommands::ShowProgress() {
@@ -69,7 +105,7 @@ void DownloadCommands::ShowProgress() {
   connect(progress_, &QProgressDialog::canceled, this, [this] {
     download_.Cancel();
     progress_->deleteLater();
-    session_.status.ShowResult("Scaricamento annullato");
+    TellFailed("Scaricamento annullato");
   });
 }
 
@@ -85,16 +121,18 @@ void DownloadCommands::Take(bool good, const QByteArray& reply) {
   }
   const std::string_view text(reply.constData(), static_cast<std::size_t>(reply.size()));
   if (!good || !Formats::LooksLikeSatcodx(text)) {
-    session_.status.ShowResult("Scaricamento non riuscito: " +
-                               (good ? "la risposta non è una lista SatcoDX" : download_.Reason()));
+    TellFailed("Scaricamento non riuscito: " +
+               (good ? "la risposta non è una lista SatcoDX" : download_.Reason()));
     session_.dialogs.Message("Errore di connessione a : " + address_ + CodePageText(text.substr(0, 80)), {});
     return;
   }
   const auto written = Base::ReplaceFile(path_, Base::AsBytes(Formats::DownloadedLines(text)));
   if (!written) {
+    TellFailed("Scaricamento non riuscito");
     session_.Message(written.error());
     return;
   }
+  RemoveOldList();
   if (onLoad) onLoad();
   sdx_.Load(path_);
 }

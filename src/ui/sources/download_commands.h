@@ -9,6 +9,8 @@
 #include <QPointer>
 #include <QProgressDialog>
 
+#include <map>
+
 namespace Ui {
 
 class DownloadCommands : public QObject {
@@ -25,7 +27,11 @@ class DownloadCommands : public QObject {
  private:
   void ScaricaInternet();
   void Fetch(const QString& address);
+  Base::Outcome KeepOldList();
+  void RemoveOldList();
   void ShowProgress();
+  // In the result line, with where the list is that was there before.
+  void TellFailed(const QString& what);
   void Take(bool good, const QByteArray& reply);
 
   Session& session_;
@@ -36,6 +42,8 @@ class DownloadCommands : public QObject {
   QPointer<QProgressDialog> progress_;
   QString address_;
   std::string path_;
+  std::map<std::string, std::string>
+      oldLists_;  // copies made before the files were emptied, by resolved path
 };
 
 }  // namespace Ui
