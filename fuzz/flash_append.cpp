@@ -60,9 +60,9 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
   Require(state->MaxChannels == std::min(before.ChannelCount + capacity, LastChannelSlot) &&
               state->ChannelCount == state->MaxChannels,
           "a second flash adds its capacity");
-  Require(
-      state->TransponderCount == (layout.transponders < 0 ? before.TransponderCount : layout.transponders),
-      "the second flash's transponder count");
+  Require(state->TransponderCount ==
+              (layout.transponderCount < 0 ? before.TransponderCount : layout.transponderCount),
+          "the second flash's transponder count");
   Require(UsedChannels(*state) == UsedChannels(before) + report.channelsRead,
           "as many channels more as the report says");
   CheckUntouched(before, *state, start);

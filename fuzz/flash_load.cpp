@@ -20,7 +20,7 @@ void CheckLoaded(const State& state, const LoadReport& report, const Layout& lay
   Require(std::all_of(state.ChannelTable.begin(), state.ChannelTable.end(),
                       [](const ChannelRecord& c) { return !c.Empty() || c == ChannelRecord{}; }),
           "an empty slot is all zero");
-  Require(state.TransponderCount == std::max(layout.transponders, 0), "the last section's transponders");
+  Require(state.TransponderCount == std::max(layout.transponderCount, 0), "the last section's transponders");
   Require(state.FavouritesBlock.size() == layout.favouritesSize, "the favourites area is read whole");
   Require(report.messages.empty(), "a first load has nothing to say");
   const ListTree tree(state, Bouquets().satellites, ListTree::Shape::Transponders);

@@ -60,13 +60,14 @@ class SectorWalk {
         if (other > entry && other < limit) limit = other;
       const std::size_t length = WordAt(sector_, entry + 10);
       if (Named(sector_, entry, "TCS")) {
-        TakeRecords(entry, length, limit);
+        TakeRecords(entry, length, limit, layout_.channels);
         if ((limit - entry - EntryHeaderSize) / ChannelRecord::Size != length / ChannelRecord::Size)
           layout_.plain = false;
       } else if (Named(sector_, entry, "TPT")) {
-        TakeRecords(entry, length, limit);
+        TakeRecords(entry, length, limit, layout_.transponders);
         const std::size_t data = std::min(length, SectorSize - entry - EntryHeaderSize);
-        layout_.transponders = static_cast<int>(std::min<std::size_t>(data / TransponderRecord::Size, 254));
+        layout_.transponderCount =
+            static_cast<int>(std::min<std::size_t>(data / TransponderRecord::Size, 254));
       } else if (Named(sector_, entry, "Support")) {
         TakeFavourites(entry, length, limit);
       }
@@ -74,10 +75,12 @@ class SectorWalk {
   }
 
  private:
-  void TakeRecords(std::size_t entry, std::size_t length, std::size_t limit) {
+  void TakeRecords(std::size_t entry, std::size_t length, std::size_t limit, std::vector<Range>& rooms) {
     const std::size_t data = entry + EntryHeaderSize;
     if (data + length > limit) layout_.plain = false;
-    if (data < limit) layout_.mayChange.push_back({start_ + data, limit - data});
+    if (data >= limit) return;
+    rooms.push_back({start_ + data, limit - data});
+    layout_.mayChange.push_back(rooms.back());
   }
 
   void TakeFavourites(std::size_t entry, std::size_t length, std::size_t limit) {
@@ -89,7 +92,8 @@ class SectorWalk {
     if (first >= end || first >= SectorSize) return;
     layout_.favouritesSize = std::min(end, SectorSize) - first;
     if (first < entry + EntryHeaderSize || first >= limit) return;
-    layout_.mayChange.push_back({start_ + first, std::min(end, limit) - first});
+    layout_.favourites.push_back({start_ + first, std::min(end, limit) - first});
+    layout_.mayChange.push_back(layout_.favourites.back());
   }
 
   Base::ByteView sector_;

@@ -53,8 +53,10 @@ class HostileFlash {
 // What an image's layout says, worked out from its bytes alone.
 struct Layout {
   std::vector<Routines::Range> mayChange;  // by a write; sorted, none of them touching another
+  std::vector<Routines::Range> channels, transponders,
+      favourites;                                               // room of each such section, in their order
   std::size_t favouritesSize = Routines::NormalFavouritesSize;  // after a load
-  int transponders = -1;                                        // of the last section; -1 without any
+  int transponderCount = -1;                                    // of the last section; -1 without any
   // No entry runs into another one or has room left for a record more, so that saving a list into the image that it
   // was loaded from must keep all of it.
   bool plain = true;
