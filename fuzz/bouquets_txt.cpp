@@ -1,6 +1,7 @@
 // Reading Bouquets.txt, and naming transponders by it.
 #include "support/bouquets_txt.h"
 
+#include "base/code_page.h"
 #include "base/text.h"
 #include "fuzz_support.h"
 
@@ -37,8 +38,9 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
   const Support::BouquetDefinitions definitions = Support::BouquetsOf(text);
   const BouquetTables& tables = definitions.tables;
   CheckTables(tables);
+  const auto decoded = Base::FromMarkedUtf8(text);
   std::size_t lines = 0;
-  for (const std::string_view line : Base::Lines(text)) lines += line.starts_with('#') ? 0 : 1;
+  for (const std::string_view line : Base::Lines(decoded)) lines += line.starts_with('#') ? 0 : 1;
   Require(tables.satellites.size() + tables.bouquets.size() + definitions.errors.size() == lines,
           "every line is taken or told");
 
