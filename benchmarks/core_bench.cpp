@@ -4,8 +4,11 @@
 #include "edit/history.h"
 #include "edit/list_operations.h"
 #include "edit/recovery.h"
+#include "formats/lamedb.h"
 #include "formats/satcodx.h"
+#include "formats/service_rows.h"
 #include "formats/text_format.h"
+#include "formats/vdr_channels.h"
 #include "full_list.h"
 #include "groups.h"
 #include "model/flash_file.h"
@@ -154,6 +157,34 @@ void ReadSdx(benchmark::State& run) {
   RunBeside(run, 3, {read, [&] { benchmark::DoNotOptimize(SplitLines(text)); }});
 }
 
+// Rows of the services at 13.0E that are in DVB-S and free.
+void ReadChannelsConf(benchmark::State& run) {
+  constexpr int Lines = 100000;
+  const std::string text = ChannelsConf(Lines);
+  Formats::ListOptions options;
+  options.satellites[130] = 0;
+  options.codes = {"04"};
+  const auto read = [&] {
+    Formats::VdrReader reader(text);
+    const Formats::SdxTable table = Formats::RowsOf(reader, options).table;
+    if (table.rows.size() != Formats::MostSdxRows || table.lines != Lines) std::abort();
+  };
+  RunBeside(run, 4, {read, [&] { benchmark::DoNotOptimize(SplitLines(text)); }});
+}
+
+// Every service of it, as an order has it: rows end with the four thousandth.
+void ReadLamedb(benchmark::State& run) {
+  constexpr std::size_t Services = 20000;
+  const std::string text = LamedbText(Services);
+  const auto read = [&] {
+    Formats::LamedbReader reader(text);
+    std::size_t services = 0;
+    while (reader.Read()) services += reader.Service().valid ? 1 : 0;
+    if (services != Services) std::abort();
+  };
+  RunBeside(run, 6, {read, [&] { benchmark::DoNotOptimize(SplitLines(text)); }});
+}
+
 // Every pair of channels on different transponders is in the wrong order.
 std::unique_ptr<State> WorstToSort() {
   auto state = List();
@@ -232,6 +263,8 @@ void RegisterCore() {
       {"esportare come testo", ExportText},
       {"importare da testo", ImportText},
       {".sdx di 100.000 righe, 4000 prese", ReadSdx},
+      {"channels.conf di 100.000 righe, 4000 prese", ReadChannelsConf},
+      {"lamedb di 20.000 servizi", ReadLamedb},
       {"ordinare per bouquet, caso peggiore", Sort},
       {"copia per Annulla e ritorno", SnapshotAndRestore},
       {"eliminare 100 canali nel mezzo", DeleteInTheMiddle},

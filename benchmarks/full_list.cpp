@@ -93,4 +93,39 @@ std::string SatcodxText(int lines, int taken) {
   return text;
 }
 
+std::string ChannelsConf(int lines) {
+  constexpr const char* Sources[] = {":S13E", ":S19.2E", ":S28.2E", ":S5W"};
+  std::string text;
+  for (int number = 0; number < lines; ++number) {
+    const int transponder = number / 10;
+    const bool second = transponder / 4 % 5 < 3;
+    const bool encrypted = number % 10 >= 4;
+    text += "Canale " + std::to_string(number) + ";Rete:" + std::to_string(10700 + transponder % 250 * 8);
+    text += second ? ":HC23M5O35S1" : ":VC34M2O35S0";
+    text += Sources[transponder % 4];
+    text += ":27500:" + std::to_string(512 + number % 7000) + (second ? "=27:" : "=2:");
+    text += std::to_string(650 + number % 1000) + "=ita@3,651=eng@3;655=ita@106:577;578=ita:";
+    text += encrypted ? "1833,1801" : "0";
+    text += ":" + std::to_string(number % 65535) + ":318:" + std::to_string(transponder % 65535) + ":0\n";
+  }
+  return text;
+}
+
+std::string LamedbText(int services) {
+  constexpr int Each = 20;
+  const auto hex = [](int value) { return Base::HexByte(value >> 8 & 0xFF) + Base::HexByte(value & 0xFF); };
+  std::string text = "eDVB services /4/\ntransponders\n";
+  for (int tid = 0; tid < services / Each; ++tid) {
+    text += "00820000:" + hex(tid) + ":013e\n\ts " + std::to_string(10700000 + tid % 250 * 8000);
+    text += ":27500000:" + std::to_string(tid % 2) + ":3:130:2:0\n/\n";
+  }
+  text += "end\nservices\n";
+  for (int sid = 0; sid < services; ++sid) {
+    text += hex(sid) + ":00820000:" + hex(sid / Each) + ":013e:1:0\nCanale " + std::to_string(sid);
+    text += "\np:Rete,c:00" + hex(512 + sid % 7000) + ",c:01028a,c:020241,c:03" + hex(512 + sid % 7000);
+    text += ",C:0648,f:40\n";
+  }
+  return text + "end\n";
+}
+
 }  // namespace Bench

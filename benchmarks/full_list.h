@@ -23,4 +23,11 @@ std::unique_ptr<Routines::State> List(int channels = Channels);
 // A SatcoDX list; `taken` of its lines are services that the default options take.
 std::string SatcodxText(int lines, int taken);
 
+// A channels.conf as a scan of four satellites leaves it, ten services a transponder. Of those of 13.0E four in a hundred
+// are in DVB-S and free, six encrypted; all others are in DVB-S2.
+std::string ChannelsConf(int lines);
+
+// A lamedb 4 of services in DVB-S at 13.0E, twenty a transponder, with all their PIDs.
+std::string LamedbText(int services);
+
 }  // namespace Bench

@@ -45,15 +45,17 @@ inline std::string_view LeadingDigits(std::string_view text) {
 // Takes the decimal digits at the front off `text`: their value, `most` + 1 where it is larger than `most`, -1 where there
 // are none.
 inline int TakeNumber(std::string_view& text, int most) {
+  constexpr std::size_t MostDigits = 18;  // that the value has room for
   std::size_t digits = 0;
-  std::int64_t value = 0;
+  std::uint64_t value = 0;
   for (; digits < text.size(); ++digits) {
     const auto digit = static_cast<unsigned>(text[digits] - '0');
     if (digit > 9) break;
-    value = std::min(value * 10 + digit, std::int64_t{most} + 1);
+    value = value * 10 + digit;
   }
   text.remove_prefix(digits);
-  return digits == 0 ? -1 : static_cast<int>(value);
+  if (digits == 0) return -1;
+  return digits > MostDigits || value > static_cast<unsigned>(most) ? most + 1 : static_cast<int>(value);
 }
 
 // The value of the leading digits, blanks before them left out: 0 where there are none, `most` where it is larger.

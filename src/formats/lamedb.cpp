@@ -188,11 +188,15 @@ bool LamedbReader::TakeApart(std::string_view line) {
 }
 
 bool LamedbReader::FindTransponder() {
+  sameTransponder_ = !key_.empty() && ids_.starts_with(key_);
+  if (sameTransponder_) {
+    ids_.remove_prefix(key_.size());
+    return true;
+  }
+  const std::string_view fields = ids_;
   const auto key = TakeKey(ids_);
   if (!key) return false;
-  sameTransponder_ = key_ == key;
-  if (sameTransponder_) return true;
-  key_ = key;
+  key_ = ids_.empty() ? ids_ : fields.substr(0, fields.size() - ids_.size());
   const auto place = places_.find(*key);
   service_.transponder = place == places_.end() ? Keyed(*key) : transponders_[place->second];
   return true;

@@ -37,7 +37,7 @@ class LamedbReader final : public ServiceReader {
   // Of the service that Next went to: its numbers, and later those behind the transponder's; its name and all the rest.
   std::string_view ids_, name_, data_, provider_;
   int sid_ = NotSaid;
-  std::optional<std::uint64_t> key_;  // that gave the transponder at hand
+  std::string_view key_;  // the fields that gave the transponder at hand
 };
 
 TransponderList ReadLamedbTransponders(std::string_view text);

@@ -16,7 +16,7 @@ bool IsDigit(char c) { return c >= '0' && c <= '9'; }
 // Nearly every name is of letters that all code pages have.
 bool IsPlain(std::string_view bytes) {
   bool plain = true;
-  for (const char c : bytes) plain = plain && c >= ' ';
+  for (const char c : bytes) plain &= c >= ' ';
   return plain;
 }
 

@@ -5,6 +5,7 @@
 #include "formats/listed_service.h"
 
 #include <algorithm>
+#include <array>
 
 namespace Formats {
 
@@ -20,21 +21,31 @@ inline std::string_view TakeField(std::string_view& rest, char separator) {
 using Base::TakeNumber;
 static_assert(NotSaid == -1);
 
-// Takes the hexadecimal digits; nothing where there are none or more than 32 bits.
+// What each character is worth as a hexadecimal digit; -1 for those that are none.
+inline constexpr auto HexValues = [] {
+  constexpr std::string_view Digits = "0123456789abcdef";
+  std::array<std::int8_t, 256> values{};
+  values.fill(-1);
+  for (std::size_t digit = 0; digit < Digits.size(); ++digit) {
+    const auto character = static_cast<unsigned char>(Digits[digit]);
+    values[character] = static_cast<std::int8_t>(digit);
+    if (digit > 9) values[character & ~0x20U] = static_cast<std::int8_t>(digit);
+  }
+  return values;
+}();
+
+// Takes the hexadecimal digits; nothing where there are none or more than eight.
 inline std::optional<std::uint32_t> TakeHex(std::string_view& rest) {
+  constexpr std::size_t MostDigits = 8;
   std::size_t digits = 0;
-  std::uint64_t value = 0;
+  std::uint32_t value = 0;
   for (; digits < rest.size(); ++digits) {
-    const char c = rest[digits];
-    const char letter = static_cast<char>(c | 0x20);
-    const int digit = c >= '0' && c <= '9'             ? c - '0'
-                      : letter >= 'a' && letter <= 'f' ? letter - 'a' + 10
-                                                       : -1;
+    const int digit = HexValues[static_cast<unsigned char>(rest[digits])];
     if (digit < 0) break;
-    value = std::min<std::uint64_t>(value << 4U | static_cast<unsigned>(digit), std::uint64_t{1} << 32U);
+    value = value << 4U | static_cast<unsigned>(digit);
   }
   rest.remove_prefix(digits);
-  return digits == 0 || value > UINT32_MAX ? std::nullopt : std::optional(static_cast<std::uint32_t>(value));
+  return digits == 0 || digits > MostDigits ? std::nullopt : std::optional(value);
 }
 
 // Takes what is left of a field, with the separator behind it: whether nothing was.

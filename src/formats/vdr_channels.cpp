@@ -88,21 +88,21 @@ void VdrReader::TakeGroup(std::string_view line) {
 }
 
 bool VdrReader::ReadTransponder(std::string_view line) {
-  rest_ = line;
-  name_ = TakeField(rest_, Separator);
-  sameTransponder_ = !tuning_.empty() && rest_.starts_with(tuning_);
+  name_ = TakeField(line, Separator);
+  sameTransponder_ = !tuning_.empty() && line.starts_with(tuning_);
   if (sameTransponder_) {
-    rest_.remove_prefix(tuning_.size());
+    rest_ = line.substr(tuning_.size());
     return true;
   }
-  const std::string_view fields = rest_;
-  const std::string_view frequency = TakeField(rest_, Separator);
-  const std::string_view parameters = TakeField(rest_, Separator);
-  const std::string_view source = TakeField(rest_, Separator);
-  std::string_view rate = TakeField(rest_, Separator);
+  const std::string_view fields = line;
+  const std::string_view frequency = TakeField(line, Separator);
+  const std::string_view parameters = TakeField(line, Separator);
+  const std::string_view source = TakeField(line, Separator);
+  std::string_view rate = TakeField(line, Separator);
   if (source.empty() || !IsCapital(source.front())) return false;
+  rest_ = line;
   // With the separator behind them, or the next line's rate might go on where this one ends.
-  tuning_ = rest_.empty() ? rest_ : fields.substr(0, fields.size() - rest_.size());
+  tuning_ = line.empty() ? line : fields.substr(0, fields.size() - line.size());
   ListedTransponder& transponder = service_.transponder = {};
   transponder.frequency = KilohertzIn(frequency);
   const int kilobaud = TakeNumber(rate, 999999);
@@ -129,13 +129,15 @@ bool VdrReader::Next() {
 }
 
 void VdrReader::TakeStreams() {
+  std::string_view rest = rest_;
   bool& valid = service_.valid = true;
-  TakeVideo(rest_, service_);
-  service_.apid = std::max(0, TakePid(rest_, valid));
-  TakeEnd(rest_, Separator);    // further ones, and languages
-  TakeField(rest_, Separator);  // teletext
-  TakeCaids(rest_, service_);
+  TakeVideo(rest, service_);
+  service_.apid = std::max(0, TakePid(rest, valid));
+  TakeEnd(rest, Separator);    // further ones, and languages
+  TakeField(rest, Separator);  // teletext
+  TakeCaids(rest, service_);
   service_.type = TypeByPids(service_);
+  rest_ = rest;
 }
 
 // Names are "name,short;provider", where "|" stands for a colon.
