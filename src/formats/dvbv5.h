@@ -17,6 +17,7 @@ class DvbV5Reader final : public ServiceReader {
   bool Next() override;
   void TakeStreams() override;
   void TakeIdentity() override;
+  [[nodiscard]] SdxFields Lacking() const override { return {SdxField::Pcr, SdxField::Coding}; }
 
  private:
   std::string_view text_;
@@ -35,6 +36,9 @@ class ZapReader final : public ServiceReader {
   bool Next() override;
   void TakeStreams() override;
   void TakeIdentity() override;
+  [[nodiscard]] SdxFields Lacking() const override {
+    return {SdxField::Fec, SdxField::Pcr, SdxField::Tid, SdxField::Nid, SdxField::Coding};
+  }
 
  private:
   bool ReadTransponder(std::string_view line);

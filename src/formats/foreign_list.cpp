@@ -142,10 +142,30 @@ class Reader {
   bool valid_ = true;
 };
 
+SdxFields LackingIn(const ForeignLayout& layout) {
+  constexpr std::pair<Meaning, SdxField> Fields[] = {{Meaning::Polarisation, SdxField::Polarisation},
+                                                     {Meaning::SymbolRate, SdxField::SymbolRate},
+                                                     {Meaning::Fec, SdxField::Fec},
+                                                     {Meaning::Vpid, SdxField::Vpid},
+                                                     {Meaning::Apid, SdxField::Apid},
+                                                     {Meaning::Pcr, SdxField::Pcr},
+                                                     {Meaning::Sid, SdxField::Sid},
+                                                     {Meaning::Tid, SdxField::Tid},
+                                                     {Meaning::Nid, SdxField::Nid},
+                                                     {Meaning::Type, SdxField::Type},
+                                                     {Meaning::Coding, SdxField::Coding}};
+  SdxFields lacking;
+  for (const auto& [meaning, field] : Fields) {
+    if (!layout.Has(meaning)) lacking.Add(field);
+  }
+  return lacking;
+}
+
 }  // namespace
 
 SdxTable ReadForeign(std::string_view text, const ForeignLayout& layout, int satellite, int mostLines) {
   SdxTable table;
+  table.lacking = LackingIn(layout);
   Reader reader(layout, satellite);
   bool header = layout.header;
   while (!text.empty() && table.lines < mostLines) {

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "base/short_text.h"
+#include "formats/sdx_fields.h"
 
 #include <cstdint>
 #include <optional>
@@ -14,11 +15,8 @@ namespace Formats {
 inline constexpr int NotSaid = -1;
 
 enum class Polarisation : std::uint8_t { Unknown, Horizontal, Vertical, Left, Right };
-enum class Delivery : std::uint8_t {
-  DvbS,
-  DvbS2,
-  Other
-};  // Other is no satellite: cable, terrestrial, a stream
+// Other is no satellite: cable, terrestrial, a stream.
+enum class Delivery : std::uint8_t { DvbS, DvbS2, Other };
 enum class Modulation : std::uint8_t { Unknown, Qpsk, Other };
 enum class Video : std::uint8_t { Unknown, Mpeg2, H264, Hevc, Other };
 
@@ -75,6 +73,9 @@ class ServiceReader {
   virtual void TakeIdentity() = 0;
   // Whether the transponder that Next gave is, but for its ids, the one before: neighbours mostly share theirs.
   [[nodiscard]] bool SameTransponder() const { return sameTransponder_; }
+
+  // What lists of this format never say.
+  [[nodiscard]] virtual SdxFields Lacking() const { return {}; }
 
   // What stood so far where a service belongs and is none.
   [[nodiscard]] int Unreadable() const { return unreadable_; }

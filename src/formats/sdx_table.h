@@ -4,6 +4,7 @@
 
 #include "base/short_text.h"
 #include "formats/drop_report.h"
+#include "formats/sdx_fields.h"
 #include "model/row_kind.h"
 #include "model/transponder.h"
 
@@ -48,6 +49,7 @@ struct SdxRow {
 struct SdxTable {
   std::string satelliteName;  // of the file, 17 characters
   std::vector<SdxRow> rows;
+  SdxFields lacking;  // what the source says of no row
   bool full = false;  // more lines were accepted than the table has rows for
 
   int lines = 0;  // that were read: each is a row, was dropped, or filled the table; of a flash, its channels

@@ -56,6 +56,7 @@ class Maker {
   ServiceRows Run(ServiceReader& reader) {
     SdxTable& table = rows_.table;
     table.rows.reserve(MostSdxRows);
+    table.lacking = reader.Lacking();
     const ListedService& service = reader.Service();
     std::optional<Drop> untuned;  // why the transponder at hand is none for a row
     while (!table.full && reader.Next()) {

@@ -146,6 +146,7 @@ TEST(ForeignList, EachDroppedLineHasItsReason) {
       "Cinque;11766;V;x;;;;;\nSei;11766;V;;;;70000;;\nSette\nOtto\x01;11766;1;;600;601;;Radio;?\n";
   const SdxTable list = ReadForeign(text, GuessForeign(SampleOf(text)), 3);
   EXPECT_EQ(list.lines, 9);
+  EXPECT_EQ(list.lacking, (SdxFields{SdxField::Fec, SdxField::Pcr, SdxField::Tid, SdxField::Nid}));
   EXPECT_EQ(list.dropped.Text(),
             "senza nome 1, senza frequenza 2, frequenza non valida 1, polarizzazione non valida 1, numero "
             "non valido 2");

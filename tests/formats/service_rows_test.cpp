@@ -124,7 +124,9 @@ TEST(ServiceRows, AFileWithoutPositionsHasTheSatelliteChosen) {
   ListOptions options = Free();
   options.satellites.clear();
   options.satellite = 3;
-  EXPECT_EQ(Texts(RowsOf(reader, options).table.rows), (Lines{"Uno TD 011766H+   1 2 1 7  00000 4"}));
+  const SdxTable table = RowsOf(reader, options).table;
+  EXPECT_EQ(Texts(table.rows), (Lines{"Uno TD 011766H+   1 2 1 7  00000 4"}));
+  EXPECT_EQ(table.lacking, (SdxFields{SdxField::Coding, SdxField::Pcr}));
   LamedbReader lamedb(
       "eDVB services "
       "/5/\nt:00820000:1:2,s:11766000:27500000:0:3:130:2:0\ns:7:00820000:1:2:3:0:0,\"Dati\",p:\n"
