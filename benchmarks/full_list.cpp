@@ -27,12 +27,12 @@ std::vector<ChannelRecord> ChannelRecords(int first, int last) {
   return records;
 }
 
-Base::Bytes FavouritesBlock(int channels) {
+Base::Bytes FavouritesBlock() {
   Base::Bytes block(NormalFavouritesSize);
   for (std::size_t list = 0; list < FavouriteLists; ++list) {
     std::vector<int> slots;
     for (int entry = 0; entry < static_cast<int>(FavouriteEntries); ++entry) {
-      slots.push_back((entry * 31 + static_cast<int>(list)) % channels + 1);
+      slots.push_back((entry * 31 + static_cast<int>(list)) % Channels + 1);
     }
     SetFavouriteEntries(block, list, std::move(slots));
     SetFavouriteName(block, list, "Lista " + std::to_string(list + 1));
@@ -42,17 +42,16 @@ Base::Bytes FavouritesBlock(int channels) {
 
 }  // namespace
 
-Base::Bytes Image(int channels) {
+Base::Bytes Image() {
   std::vector<TransponderRecord> transponders;
   for (int i = 0; i < Transponders; ++i) {
     transponders.push_back(Samples::MakeTransponder(10700 + i * 8, i % 2 == 0, i % 3, 1, 2, i, i));
   }
-  const int first = std::min(channels, FirstSection);
   Samples::ImageBuilder builder(1);
-  builder.PutRecords(1, 0, 16, "TCS", ChannelRecords(1, first));
-  if (channels > first) builder.PutRecords(2, 0, 16, "TCS", ChannelRecords(first + 1, channels));
+  builder.PutRecords(1, 0, 16, "TCS", ChannelRecords(1, FirstSection));
+  builder.PutRecords(2, 0, 16, "TCS", ChannelRecords(FirstSection + 1, Channels));
   builder.PutRecords(3, 0, 16, "TPT", transponders);
-  builder.PutFavourites(4, 0, 16, FavouritesBlock(channels), 0);
+  builder.PutFavourites(4, 0, 16, FavouritesBlock(), 0);
   return builder.Image();
 }
 
@@ -61,10 +60,10 @@ const BouquetTables& Bouquets() {
   return tables;
 }
 
-std::unique_ptr<State> List(int channels) {
+std::unique_ptr<State> List() {
   auto state = std::make_unique<State>();
   state->SymbolRateTable = Support::CaricaTabelleSR(SAMPLES_FOLDER, Sr22000::Come2)->table;
-  LoadFlash(*state, Image(channels), channels, 0, Bouquets());
+  LoadFlash(*state, Image(), Channels, 0, Bouquets());
   return state;
 }
 

@@ -11,14 +11,14 @@ namespace Bench {
 inline constexpr int Channels = Routines::LastChannelSlot;
 inline constexpr int Transponders = Routines::LastTransponderSlot;
 
-// A flash image with `channels` channels on 254 transponders, and eight full favourites lists.
-Base::Bytes Image(int channels = Channels);
+// A flash image that is full: 3996 channels on 254 transponders, eight favourites lists.
+Base::Bytes Image();
 
 // The program's own default bouquets.
 const Routines::BouquetTables& Bouquets();
 
 // What such an image loads as.
-std::unique_ptr<Routines::State> List(int channels = Channels);
+std::unique_ptr<Routines::State> List();
 
 // A SatcoDX list; `taken` of its lines are services that the default options take.
 std::string SatcodxText(int lines, int taken);

@@ -1,6 +1,5 @@
 // From the start of the process to the first picture, beside an empty window with a table.
 #include "beside.h"
-#include "groups.h"
 
 #include <QCoreApplication>
 #include <QProcess>
@@ -10,11 +9,9 @@
 namespace Bench {
 namespace {
 
-constexpr int Starts = 5;
-
 struct Start {
-  double seconds;
-  double bytes;  // resident
+  double microseconds;
+  double kilobytes;  // resident
 };
 
 Start StartOnce(const char* program) {
@@ -24,32 +21,26 @@ Start StartOnce(const char* program) {
     if (!process.waitForReadyRead()) std::abort();
   });
   process.waitForFinished();
-  return {seconds, process.readAllStandardOutput().toDouble()};
+  return {seconds * 1e6, process.readAllStandardOutput().toDouble() / 1024};
 }
 
 template <double Start::*Figure>
 void StartBeside(benchmark::State& run) {
-  std::vector<double> works;
-  std::vector<double> limits;
+  std::vector<double> works, limits;
   for ([[maybe_unused]] auto _ : run) {
     limits.push_back(StartOnce("start_empty").*Figure);
     const Start ours = StartOnce("start_trovalis");
     works.push_back(ours.*Figure);
-    run.SetIterationTime(ours.seconds);
+    run.SetIterationTime(ours.microseconds / 1e6);
   }
-  Tell(run, 1.3, Median(works), Median(limits));
-  if (Figure == &Start::bytes) run.counters[BytesCounter] = 1;
+  Tell(run, 1.3, works, limits);
 }
 
 }  // namespace
 
 void RegisterStarts() {
-  benchmark::RegisterBenchmark("avvio fino alla prima immagine", StartBeside<&Start::seconds>)
-      ->UseManualTime()
-      ->Iterations(Starts);
-  benchmark::RegisterBenchmark("memoria residente all'avvio", StartBeside<&Start::bytes>)
-      ->UseManualTime()
-      ->Iterations(Starts);
+  Register({{"avvio fino alla prima immagine", StartBeside<&Start::microseconds>},
+            {"memoria residente all'avvio", StartBeside<&Start::kilobytes>}});
 }
 
 }  // namespace Bench

@@ -1,36 +1,157 @@
 // The work of the window on a full list, beside a plain table that shows as many constant cells in as much room.
-#include "bench_windows.h"
+#include "base/file.h"
 #include "beside.h"
 #include "full_list.h"
-#include "groups.h"
-#include "ui/list/list_map.h"
+#include "support/pos_ini.h"
+#include "ui/kit/text.h"
+#include "ui/list/document.h"
+#include "ui/list/grid.h"
 #include "ui/list/tree_pane.h"
+#include "ui/window/main_window.h"
 
+#include <QAbstractButton>
+#include <QAbstractTableModel>
+#include <QBrush>
 #include <QCoreApplication>
+#include <QFile>
+#include <QHeaderView>
 #include <QLineEdit>
 #include <QScrollBar>
+#include <QTemporaryDir>
+
+#include <cstdlib>
 
 namespace Bench {
 namespace {
 
-using Routines::ListTree;
+// Where the toolkit's events have done all that they are going to do.
+void Settle() {
+  for (int round = 0; round < 10; ++round) QCoreApplication::processEvents();
+}
+
+class PaintSeen : public QObject {
+ public:
+  bool seen = false;
+
+ protected:
+  bool eventFilter(QObject* watched, QEvent* event) override {
+    seen = seen || event->type() == QEvent::Paint;
+    return QObject::eventFilter(watched, event);
+  }
+};
+
+// Does `work` and waits for the next picture of `view`.
+void UntilPainted(QWidget& view, const std::function<void()>& work) {
+  PaintSeen paint;
+  view.installEventFilter(&paint);
+  work();
+  while (!paint.seen) QCoreApplication::processEvents();
+}
+
+// Paints every cell in view, the fixed column's too.
+void RepaintCells(QTableView& table) {
+  table.viewport()->repaint();
+  for (auto* column : table.findChildren<QTableView*>())
+    if (column->isVisible()) column->viewport()->repaint();
+}
+
+// Every cell has the same text, alignment and colours, ready made.
+class ConstantModel : public QAbstractTableModel {
+ public:
+  explicit ConstantModel(const QAbstractItemModel& like)
+      : rows_(like.rowCount()), columns_(like.columnCount()) {}
+
+  [[nodiscard]] int rowCount(const QModelIndex& parent = {}) const override {
+    return parent.isValid() ? 0 : rows_;
+  }
+  [[nodiscard]] int columnCount(const QModelIndex& parent = {}) const override {
+    return parent.isValid() ? 0 : columns_;
+  }
+  [[nodiscard]] QVariant data(const QModelIndex&, int role) const override {
+    switch (role) {
+      case Qt::DisplayRole:
+        return text_;
+      case Qt::TextAlignmentRole:
+        return alignment_;
+      case Qt::BackgroundRole:
+        return background_;
+      case Qt::ForegroundRole:
+        return foreground_;
+      default:
+        return {};
+    }
+  }
+
+ private:
+  int rows_, columns_;
+  QVariant text_ = QString("12345"), alignment_ = static_cast<int>(Qt::AlignCenter);
+  QVariant background_ = QBrush(Qt::yellow), foreground_ = QBrush(Qt::black);
+};
+
+// A window with a plain table whose rows and columns are as many and as large as those of a grid with a list.
+class PlainWindow {
+ public:
+  explicit PlainWindow(const Ui::Grid& like) : model_(*like.model()), table_(new QTableView(&window_)) {
+    window_.setCentralWidget(table_);
+    table_->setHorizontalScrollMode(QTableView::ScrollPerPixel);
+    table_->setWordWrap(false);
+    table_->verticalHeader()->hide();
+    table_->verticalHeader()->setDefaultSectionSize(like.verticalHeader()->defaultSectionSize());
+    table_->horizontalHeader()->setDefaultSectionSize(like.viewport()->width() / model_.columnCount());
+    window_.resize(like.size());
+    window_.show();
+    Settle();
+  }
+
+  void ShowList() { table_->setModel(&model_); }
+  [[nodiscard]] QTableView& Table() const { return *table_; }
+
+ private:
+  ConstantModel model_;
+  QMainWindow window_;
+  QTableView* table_;
+};
+
+// The program's window with its settings chosen.
+class ListWindow {
+ public:
+  ListWindow() {
+    for (const char* name : {"Bouquets.txt", "SR.INI"})
+      QFile::copy(QString(SAMPLES_FOLDER) + "/" + name, folder_.filePath(name));
+    if (!Base::ReplaceFile(flash_, Image())) std::abort();
+    // As where the last flash came from the same folder.
+    Support::SaveFolderOf(Ui::PathBytes(folder_.path()), Support::FolderKind::Input, flash_);
+    window.resize(1280, 800);  // where every column is in view, for ours as for the plain table
+    window.show();
+    if (!window.Start()) std::abort();
+    for (const char* option : {"QuantiCanali_2", "FlashScrittura_1"})
+      window.findChild<QAbstractButton*>(option)->click();
+    Settle();
+  }
+
+  void OpenFlash() { window.OpenWhenChosen(flash_); }
+  [[nodiscard]] Ui::Grid& Grid() const { return *window.findChild<Ui::Grid*>("Griglia"); }
+
+ private:
+  QTemporaryDir folder_;
+  std::string flash_ = Ui::PathBytes(folder_.filePath("lista.dat"));
+
+ public:
+  Ui::MainWindow window{Ui::PathBytes(folder_.path())};
+};
 
 // Both windows with their lists in view.
 struct Pages {
-  Pages() : ours(Opened()), plain(ours->Grid()) {
-    plain.ShowList();
+  Pages() {
+    ours.OpenFlash();
+    Settle();
+    plain = std::make_unique<PlainWindow>(ours.Grid());
+    plain->ShowList();
     Settle();
   }
 
-  static std::unique_ptr<ListWindow> Opened() {
-    auto window = std::make_unique<ListWindow>(Channels);
-    window->OpenFlash();
-    Settle();
-    return window;
-  }
-
-  std::unique_ptr<ListWindow> ours;
-  PlainWindow plain;
+  ListWindow ours;
+  std::unique_ptr<PlainWindow> plain;
 };
 
 // From nothing to the first picture of the list. Each turn has two new windows.
@@ -42,15 +163,15 @@ void Open(benchmark::State& run) {
             {[&] { UntilPainted(*ours->Grid().viewport(), [&] { ours->OpenFlash(); }); },
              [&] { UntilPainted(*plain->Table().viewport(), [&] { plain->ShowList(); }); },
              [&] {
-               ours = std::make_unique<ListWindow>(Channels);
-               plain = std::make_unique<PlainWindow>(pages.ours->Grid());
+               ours = std::make_unique<ListWindow>();
+               plain = std::make_unique<PlainWindow>(pages.ours.Grid());
              }});
 }
 
 void RepaintPage(benchmark::State& run) {
   const Pages pages;
   RunBeside(run, 1.3,
-            {[&] { RepaintCells(pages.ours->Grid()); }, [&] { RepaintCells(pages.plain.Table()); }});
+            {[&] { RepaintCells(pages.ours.Grid()); }, [&] { RepaintCells(pages.plain->Table()); }});
 }
 
 // As far as a turn of the mouse wheel goes at a time.
@@ -66,10 +187,10 @@ void ScrollThrough(QTableView& table) {
 void Scroll(benchmark::State& run) {
   const Pages pages;
   RunBeside(run, 1.3,
-            {[&] { ScrollThrough(pages.ours->Grid()); }, [&] { ScrollThrough(pages.plain.Table()); },
+            {[&] { ScrollThrough(pages.ours.Grid()); }, [&] { ScrollThrough(pages.plain->Table()); },
              [&] {
-               pages.ours->Grid().scrollToTop();
-               pages.plain.Table().scrollToTop();
+               pages.ours.Grid().scrollToTop();
+               pages.plain->Table().scrollToTop();
                Settle();
              }});
 }
@@ -77,27 +198,13 @@ void Scroll(benchmark::State& run) {
 // A letter that every channel's name has is typed; the picture that follows is the grid's own repaint.
 void FilterStep(benchmark::State& run) {
   const Pages pages;
-  auto& field = *pages.ours->Window().findChild<QLineEdit*>("Filtro");
+  auto& field = *pages.ours.window.findChild<QLineEdit*>("Filtro");
   RunBeside(run, 1,
-            {[&] { field.setText("c"); }, [&] { RepaintCells(pages.plain.Table()); },
+            {[&] { field.setText("c"); }, [&] { RepaintCells(pages.plain->Table()); },
              [&] {
                field.clear();
                Settle();
              }});
-}
-
-// The whole map is drawn anew after each change of the list.
-void RepaintMap(benchmark::State& run) {
-  const Pages pages;
-  Ui::Document document;
-  document.Adjust([](Routines::State& state) { state = *List(); });
-  Ui::ListMap map(document, nullptr);
-  map.resize(16, pages.ours->Grid().height());
-  map.show();
-  Settle();
-  RunBeside(run, 1,
-            {[&] { map.repaint(); }, [&] { RepaintCells(pages.plain.Table()); },
-             [&] { document.Adjust([](const Routines::State&) {}); }});
 }
 
 // The larger of the two trees, with every branch open, after two channels have changed places: up to its picture, as
@@ -106,9 +213,9 @@ void RebuildTree(benchmark::State& run) {
   const Pages pages;
   Ui::Document document;
   document.Adjust([](Routines::State& state) { state = *List(); });
-  Ui::TreePane pane(document, Bouquets().satellites, ListTree::Shape::Transponders, "TreeView2", "Struttura",
-                    nullptr);
-  pane.resize(240, pages.ours->Grid().height());
+  Ui::TreePane pane(document, Bouquets().satellites, Routines::ListTree::Shape::Transponders, "TreeView2",
+                    "Struttura", nullptr);
+  pane.resize(240, pages.ours.Grid().height());
   pane.show();
   auto& tree = *pane.findChild<QTreeView*>();
   tree.expandAll();
@@ -118,17 +225,17 @@ void RebuildTree(benchmark::State& run) {
   };
   RunBeside(
       run, 1,
-      {[&] { UntilPainted(*tree.viewport(), edit); }, [&] { RepaintCells(pages.plain.Table()); }, Settle});
+      {[&] { UntilPainted(*tree.viewport(), edit); }, [&] { RepaintCells(pages.plain->Table()); }, Settle});
 }
 
 }  // namespace
 
 void RegisterWindow() {
-  const std::pair<const char*, void (*)(benchmark::State&)> rows[] = {
-      {"aprire una flash nella finestra", Open}, {"ridisegnare una pagina della griglia", RepaintPage},
-      {"scorrere tutte le righe", Scroll},       {"un passo del filtro", FilterStep},
-      {"ridisegnare la mappa", RepaintMap},      {"rifare l'albero dopo una modifica", RebuildTree}};
-  for (const auto& [name, function] : rows) benchmark::RegisterBenchmark(name, function)->UseManualTime();
+  Register({{"aprire una flash nella finestra", Open},
+            {"ridisegnare una pagina della griglia", RepaintPage},
+            {"scorrere tutte le righe", Scroll},
+            {"un passo del filtro", FilterStep},
+            {"rifare l'albero dopo una modifica", RebuildTree}});
 }
 
 }  // namespace Bench
