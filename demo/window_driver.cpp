@@ -15,6 +15,8 @@
 #include <QTest>
 #include <QToolButton>
 
+#include <utility>
+
 namespace Demo {
 namespace {
 
@@ -117,7 +119,7 @@ void WindowDriver::ExpectFileCancelled(const QString& title) {
 
 void WindowDriver::AnswerBox() {
   auto* dialog = qobject_cast<QDialog*>(QApplication::activeModalWidget());
-  if (dialog == nullptr || !dialog->isVisible()) return;
+  if (dialog == nullptr || !dialog->isVisible() || dialog == answering_) return;
   const QString text = TextIn(*dialog);
   if (expected_.empty()) {
     failures_ += "unexpected box: " + dialog->windowTitle() + ": " + text;
@@ -131,7 +133,9 @@ void WindowDriver::AnswerBox() {
   if (expected.text != AnyText) Check("text", expected.text, text);
   if (onBox) onBox(dialog->windowTitle());
   timer_.start();
+  QDialog* const outer = std::exchange(answering_, dialog);
   expected.answer(*dialog);
+  answering_ = outer;
 }
 
 void WindowDriver::Check(const QString& what, const QString& wanted, const QString& seen) {

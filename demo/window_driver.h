@@ -76,6 +76,7 @@ class WindowDriver : public QObject {
 
   Ui::MainWindow& window_;
   QTimer timer_;
+  QDialog* answering_ = nullptr;  // whose answer goes on; another one may come up on its way
   std::deque<Expected> expected_;
   QStringList failures_;
 };

@@ -147,6 +147,8 @@ TEST(FlashWriter, WhatAnImageDoesNotTakeIsTold) {
   EXPECT_EQ(unwritten(*state, FlashType::One), "preferiti non scritti");
   state->FavouritesBlock.assign(2291, ' ');
   EXPECT_EQ(unwritten(*state, FlashType::One), "") << "there are none to lose";
+  state = ListOf(5, 9);
+  EXPECT_EQ(unwritten(*state, FlashType::One), "4 canali in più nell'immagine, preferiti non scritti");
   state = ListOf(353, 999);
   EXPECT_EQ(unwritten(*state, FlashType::Two), "348 canali non scritti");
   state = ListOf(5, 5);

@@ -1,7 +1,11 @@
 // The real window on the demo list, driven by its menus, controls and boxes.
 #pragma once
 
+#include "base/code_page.h"
 #include "demo_flash.h"
+#include "image_builder.h"
+#include "model/favourites.h"
+#include "model/flash_image.h"
 #include "support/sr_ini.h"
 #include "support/test_folder.h"
 #include "ui/kit/qt_dialogs.h"
@@ -27,6 +31,42 @@ inline const QString HowToPaste =
     "Sposto o sovrascrivo i canali a partire dal %1 per %2 Canali?\nRispondere SI per spostare NO per "
     "sovrascrivere";
 inline const QString NoFlash = "Si deve caricare prima una FLASH di input";
+
+// A list of eleven channels, SIDs 101 to 112, four on each transponder: slot 4 is empty, 8 and 9 are radio, 10 has data,
+// 11 has the name of 2, 12 is not active. Favourites
+// list 1, "Cinema", has 2, 3 and 5, list 2, "Sport", has 10.
+inline Base::Bytes SmallFlash() {
+  const char* names[] = {"Uno",   "Due",        "Tre",        "",     "Cinque", "Città HD",
+                         "Sette", "Radio Otto", "Radio Nove", "Dati", "due",    "Dodici"};
+  std::vector<Routines::ChannelRecord> channels;
+  for (int slot = 1; slot <= 12; ++slot) {
+    const int vpid = slot >= 8 && slot <= 10 ? 0 : 500 + slot;
+    channels.push_back(Samples::MakeChannel(*Base::FromUtf8(names[slot - 1]), (slot + 3) / 4, 100 + slot,
+                                            vpid, slot == 10 ? 0 : 600 + slot, slot == 12 ? 0x20 : 0x04));
+    if (slot == 4) channels.back() = {};
+  }
+  channels.resize(60);
+  std::vector<Routines::TransponderRecord> transponders = {
+      Samples::MakeTransponder(11766, false, 0, 3, 2, 1200, 318),
+      Samples::MakeTransponder(12092, true, 0, 3, 2, 5400, 318),
+      Samples::MakeTransponder(10719, false, 1, 3, 2, 1100, 1)};
+  transponders.resize(10);
+  Base::Bytes favourites(Routines::NormalFavouritesSize);
+  for (const auto& [list, name, slots] :
+       {std::tuple{0U, "Cinema", std::vector{2, 3, 5}}, {1U, "Sport", {10}}}) {
+    Routines::SetFavouriteEntries(favourites, list, slots);
+    std::copy_n(name, std::strlen(name),
+                favourites.begin() +
+                    static_cast<std::ptrdiff_t>(Routines::FavouriteNameOffset(favourites.size(), list)));
+  }
+  return Samples::ImageBuilder(1)
+      .PutRecords(2, 0, 16, "TCS", std::vector(channels.begin(), channels.begin() + 8))
+      .Put(2, 1, 16 + Routines::EntryHeaderSize + 8 * Routines::ChannelRecord::Size, "EPG", {})
+      .PutRecords(4, 0, 16, "TCS", std::vector(channels.begin() + 8, channels.end()))
+      .PutRecords(3, 0, 16, "TPT", transponders)
+      .PutFavourites(5, 0, 16, favourites, 50)
+      .Image();
+}
 
 class Window : public testing::Test {
  protected:
@@ -72,6 +112,21 @@ class Window : public testing::Test {
     StartEmpty();
     Open(flash_);
     ASSERT_TRUE(driver_->Pick("FlashScrittura_1"));
+  }
+
+  // In the place of the demo list.
+  void OpenSmall() {
+    flash_ = folder_.Write("lista.dat", SmallFlash());
+    StartEmpty();
+    Open(flash_, "QuantiCanali_0");
+    ASSERT_TRUE(driver_->Pick("FlashScrittura_1"));
+  }
+
+  // The names in these rows of the grid.
+  [[nodiscard]] std::string Names(int from, int to) const {
+    QStringList names;
+    for (int row = from; row <= to; ++row) names += driver_->Cell(row, 1);
+    return names.join(',').toStdString();
   }
 
   // Of menus and toolbar alike, answered with a message.
@@ -135,6 +190,11 @@ class Window : public testing::Test {
   std::string flash_;
   std::unique_ptr<MainWindow> window_;
   std::unique_ptr<Demo::WindowDriver> driver_;
+};
+
+class SmallWindow : public Window {
+ protected:
+  void SetUp() override { OpenSmall(); }
 };
 
 }  // namespace Ui

@@ -23,7 +23,7 @@ void ClickInList(const std::string& path) {
 
 }  // namespace
 
-TEST_F(Window, NamesOfAnyKindAreOpenedSavedAndShown) {
+TEST_F(SmallWindow, NamesOfAnyKindAreOpenedSavedAndShown) {
   StartEmpty();
   ASSERT_TRUE(driver_->Pick("FlashScrittura_1"));
   const std::string place = folder_.Path("Citt\xC3\xA0 \xE2\x98\x82 'x' [*]");
@@ -40,9 +40,9 @@ TEST_F(Window, NamesOfAnyKindAreOpenedSavedAndShown) {
     driver_->ExpectDialog(InputDialog, [](QDialog& box) { box.accept(); });
     ASSERT_TRUE(driver_->Choose("ApriFlashInput"));
     EXPECT_EQ(List().InputFlash, path);
-    Delete(1, 1);
+    Delete(2, 2);
     driver_->ExpectDialog(OutputDialog, [](QDialog& box) { box.accept(); });
-    Summary(*driver_, 2, 646, true);
+    Summary(*driver_, 2, 11, true);
     ASSERT_TRUE(driver_->Choose("ApriFlashOutput"));
     EXPECT_EQ(List().OutputFlash, path);
     EXPECT_NE(Contents(path), Contents(flash_));

@@ -7,10 +7,9 @@
 #include <sys/stat.h>
 
 namespace Ui {
-class KeptWorkWindow : public Window {
- protected:
-  void SetUp() override { OpenDemo(); }
 
+class KeptWorkWindow : public SmallWindow {
+ protected:
   [[nodiscard]] QString FileAndTime(const char* name) const {
     const QFileInfo file(PathText(folder_.Path(name)));
     return QString(name) + file.lastModified().toString(" (dd/MM/yyyy HH:mm)");
@@ -37,7 +36,7 @@ TEST_F(KeptWorkWindow, ClosingAsksNothingAndTheNextStartGoesOn) {
   EXPECT_TRUE(window_->close());
   EXPECT_FALSE(std::filesystem::exists(file_)) << "nothing was changed";
   window_->show();
-  driver_->SelectRows(10, 12);
+  driver_->SelectRows(3, 5);
   ASSERT_TRUE(driver_->Press("Toolbar1_Cut"));
   driver_->SelectRows(1, 1);
   driver_->Key(Qt::Key_F2);
@@ -52,17 +51,17 @@ TEST_F(KeptWorkWindow, ClosingAsksNothingAndTheNextStartGoesOn) {
   Routines::State after = List();
   after.ListNumber = before.ListNumber;
   EXPECT_TRUE(after == before);
-  EXPECT_TRUE(window_->windowTitle().contains("demo.dat"));
+  EXPECT_TRUE(window_->windowTitle().contains("lista.dat"));
   EXPECT_EQ(driver_->TextOf("ModificheNonSalvate"), "Modifiche non salvate");
   EXPECT_EQ(driver_->TextOf("CanaliCopiati"), "Appunti 3");
   EXPECT_TRUE(Action("VisualizzaPreferiti").isEnabled()) << "as the options say";
   EXPECT_TRUE(std::filesystem::exists(file_)) << "until it is saved";
 
-  SaveAs(flash_, 644);  // the options have come back too
+  SaveAs(flash_, 9);  // the options have come back too
   QTest::qWait(1500);
   EXPECT_TRUE(std::filesystem::exists(file_)) << "the cut channels are in no list";
-  Paste(10, 3);
-  Summary(*driver_, 2, 647, true);
+  Paste(3, 3);
+  Summary(*driver_, 2, 12, true);
   ASSERT_TRUE(driver_->Choose("Salva"));
   EXPECT_TRUE(FileIs(false));
   StartEmpty();
@@ -91,7 +90,7 @@ TEST_F(KeptWorkWindow, ARefusedOrDamagedOrReplacedFileIsSetAside) {
   folder_.Write("trovalis-2.recupero", kept);
   StartAndAnswer(true, "trovalis-2.recupero");
   EXPECT_EQ(Contents(file_ + ".danneggiato").size(), kept.size() - 1);
-  EXPECT_EQ(driver_->TextOf("CanaliUsati"), "Canali 619 di 3996");
+  EXPECT_EQ(driver_->TextOf("CanaliUsati"), "Canali 10 di 999");
 
   std::filesystem::remove(file_ + ".old");
   Open(flash_);
@@ -116,7 +115,7 @@ TEST_F(KeptWorkWindow, AnImportLeavesTheUnsavedListBeforeIt) {
   EXPECT_TRUE(left->state.ChannelTable == before) << "the change just before it too";
 
   StartAndAnswer(true);
-  EXPECT_EQ(driver_->TextOf("CanaliUsati"), "Canali 620 di 3996");
+  EXPECT_EQ(driver_->TextOf("CanaliUsati"), "Canali 11 di 999");
   ASSERT_TRUE(driver_->Choose("Annulla"));
   EXPECT_TRUE(window_->close());
   EXPECT_FALSE(std::filesystem::exists(file_)) << "cut channels without a list";
@@ -146,7 +145,7 @@ TEST_F(KeptWorkWindow, EveryFileThatIsThereIsOffered) {
   window_->OfferKeptWork();
   EXPECT_NE(Said().find("; " + others + ": modifiche di un altro Trovalis aperto; "), std::string::npos)
       << Said();
-  EXPECT_EQ(driver_->TextOf("CanaliUsati"), "Canali 619 di 3996");
+  EXPECT_EQ(driver_->TextOf("CanaliUsati"), "Canali 10 di 999");
   const auto aside = Edit::DecodeRecovery(Contents(file_ + ".old"));
   ASSERT_TRUE(aside) << "the other list's work";
   ASSERT_TRUE(driver_->Choose("Annulla"));
@@ -165,7 +164,7 @@ TEST_F(KeptWorkWindow, TwoProgramsHaveAFileEach) {
   StartEmpty();
   window_->OfferKeptWork();
   Open(flash_);
-  Delete(1, 20);
+  Delete(1, 5);
   EXPECT_TRUE(window_->close());
   EXPECT_EQ(Contents(file_), kept);
   EXPECT_TRUE(std::filesystem::exists(folder_.Path("trovalis-2.recupero")));
@@ -226,7 +225,7 @@ TEST_F(KeptWorkWindow, AMalformedSrIniEndsTheProgramWithTheWorkKept) {
   EXPECT_TRUE(std::filesystem::exists(file_));
   folder_.Write("SR.INI", rates);
   StartAndAnswer(true);
-  EXPECT_EQ(driver_->TextOf("CanaliUsati"), "Canali 619 di 3996");
+  EXPECT_EQ(driver_->TextOf("CanaliUsati"), "Canali 10 di 999");
 }
 
 }  // namespace Ui

@@ -4,10 +4,10 @@
 namespace Ui {
 namespace {
 
-class Trees : public Window {
+class Trees : public SmallWindow {
  protected:
   void SetUp() override {
-    OpenDemo();
+    OpenSmall();
     bouquets_ = window_->findChild<QTreeView*>("TreeView1");
     transponders_ = window_->findChild<QTreeView*>("TreeView2");
   }
@@ -73,50 +73,51 @@ TEST_F(Trees, ShareTheirPlaceWithTheSdxPane) {
 }
 
 TEST_F(Trees, AndTheGridFollowEachOther) {
-  driver_->SelectRows(12, 12);
-  EXPECT_EQ(Current(*bouquets_), "0012 Stella TV");
+  driver_->SelectRows(3, 3);
+  EXPECT_EQ(Current(*bouquets_), "0003 Tre");
   const QPersistentModelIndex node = bouquets_->currentIndex();
-  Click(*bouquets_, node.sibling(node.row() + 1, 0));
-  const std::string next = Current(*bouquets_);
-  EXPECT_EQ(driver_->Grid().Selected()->first, std::stoi(next));
-  driver_->Key(Qt::Key_Up);
-  EXPECT_EQ(driver_->Grid().Selected()->first, 12);
+  Click(*bouquets_, node.sibling(node.row() - 1, 0));
+  EXPECT_EQ(driver_->Grid().Selected()->first, 2);
+  driver_->Key(Qt::Key_Down);
+  EXPECT_EQ(driver_->Grid().Selected()->first, 3);
   EXPECT_TRUE(bouquets_->hasFocus()) << "the keys go on walking the tree";
+  QTest::keyClicks(bouquets_, "uno");
+  EXPECT_EQ(driver_->Grid().Selected()->first, 1) << "names are found by typing";
+  driver_->ExpectLine("Inserire il Nr. del canale su cui posizionarsi", "9");
+  ASSERT_TRUE(driver_->Choose("VaiAlCanale"));
+  EXPECT_EQ(Current(*bouquets_), "0009 Radio Nove");
+}
 
-  bouquets_->setCurrentIndex(node.sibling(0, 0));
-  QTest::keyClicks(bouquets_, "stella");
-  EXPECT_EQ(driver_->Grid().Selected()->first, 12) << "names are found by typing";
-
+TEST_F(Trees, KeepTheirPlaceThroughEdits) {
   bouquets_->expandAll();
-  driver_->SelectRows(300, 300);
-  const int scrolled = bouquets_->verticalScrollBar()->value();
-  EXPECT_GT(scrolled, 20);
+  bouquets_->setFixedHeight(100);
+  QTest::qWait(20);
+  driver_->SelectRows(7, 7);
+  const QPersistentModelIndex branch = bouquets_->currentIndex().parent();
+  bouquets_->verticalScrollBar()->setValue(3);
   ASSERT_TRUE(driver_->Press("Toolbar1_Delete"));
-  EXPECT_EQ(Current(*bouquets_), "0300 " + driver_->Cell(300, 1).toStdString());
-  EXPECT_EQ(bouquets_->verticalScrollBar()->value(), scrolled);
-  EXPECT_TRUE(bouquets_->isExpanded(node.parent()));
-
-  Delete(646, 646);
+  EXPECT_EQ(Current(*bouquets_), "0007 Radio Otto");
+  EXPECT_EQ(bouquets_->verticalScrollBar()->value(), 3);
+  EXPECT_TRUE(bouquets_->isExpanded(branch));
+  Delete(11, 11);
   EXPECT_EQ(Current(*bouquets_), "") << "no channel comes in the place of the last one";
   ASSERT_TRUE(driver_->Choose("Annulla"));
-  EXPECT_EQ(Current(*bouquets_), "0646 " + driver_->Cell(646, 1).toStdString());
+  EXPECT_EQ(Current(*bouquets_), "0011 Dodici");
+}
 
-  driver_->ExpectLine("Inserire il Nr. del canale su cui posizionarsi", "100");
-  ASSERT_TRUE(driver_->Choose("VaiAlCanale"));
-  EXPECT_EQ(std::stoi(Current(*bouquets_)), 100);
-
+TEST_F(Trees, ATransponderLeadsToItselfOrToItsChannels) {
   ASSERT_TRUE(driver_->Choose("VisualizzaTransponder"));
   ASSERT_TRUE(driver_->Choose("VisualizzaBouquet"));
-  driver_->SelectRows(18, 18);
-  EXPECT_TRUE(Current(*transponders_).starts_with("018  ")) << Current(*transponders_);
+  driver_->SelectRows(2, 2);
+  EXPECT_TRUE(Current(*transponders_).starts_with("002  ")) << Current(*transponders_);
   const QModelIndex transponder = transponders_->currentIndex();
   driver_->SelectRows(3, 3);
   Click(*transponders_, transponder);
-  EXPECT_EQ(driver_->Grid().Selected()->first, 18);
+  EXPECT_EQ(driver_->Grid().Selected()->first, 2);
   ASSERT_TRUE(driver_->Choose("VisualizzaCanali"));
   Click(*transponders_, transponder);
-  EXPECT_EQ(driver_->Cell(driver_->Grid().Selected()->first, 2), "018");
-  EXPECT_TRUE(Current(*transponders_).starts_with("018  ")) << "the channel selected is not shown back";
+  EXPECT_EQ(driver_->Grid().Selected()->first, 5);
+  EXPECT_TRUE(Current(*transponders_).starts_with("002  ")) << "the channel selected is not shown back";
   ASSERT_TRUE(driver_->Choose("VisualizzaCanali"));
   transponders_->expand(transponder);
   Click(*transponders_, transponders_->model()->index(0, 0, transponder));

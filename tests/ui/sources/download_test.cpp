@@ -85,7 +85,7 @@ TEST(DownloadLimits, SizeAndTimeAreBounded) {
   EXPECT_FALSE(Fetch(dripping.Address(), {.silence = 1000, .whole = 300}));
 }
 
-TEST_F(Window, AnAddressIsFetchedOnlyWhenTheUserAsksAndIsLoadedOrToldAndLeftEmpty) {
+TEST_F(SmallWindow, AnAddressIsFetchedOnlyWhenTheUserAsksAndIsLoadedOrToldAndLeftEmpty) {
   const std::string path = folder_.Path("scaricato.sdx");
   const auto download = [this] { window_->findChild<QAbstractButton*>("Scarica")->click(); };
   const auto fetch = [&](const Server& server, const auto& expectEnd) {

@@ -1,14 +1,7 @@
-#include "ui/list/grid.h"
-
-#include "image_builder.h"
 #include "model/symbol_rates.h"
 #include "ui/list/list_model.h"
 #include "ui/sources/sdx_model.h"
-
-#include <QtTest>
-#include <QtWidgets>
-
-#include <gtest/gtest.h>
+#include "ui/window_fixture.h"
 
 namespace Ui {
 namespace {
@@ -97,4 +90,28 @@ TEST(Grid, ColumnsShareTheSpareWidthExceptThoseThatTheUserHasSet) {
 }
 
 }  // namespace
+
+TEST_F(SmallWindow, AClosedListIsNotSeenAndTheFirstColumnOfAnOpenOneStays) {
+  auto* grid = window_->findChild<Ui::Grid*>("Griglia");
+  auto* fixed = grid->findChild<QTableView*>("ColonnaFissa");
+  EXPECT_FALSE(grid->selectionModel()->hasSelection());
+  ASSERT_TRUE(driver_->Choose("VisualizzaCanali"));
+  EXPECT_FALSE(grid->isVisible());
+  ASSERT_TRUE(driver_->Choose("VisualizzaCanali"));
+  const QAbstractItemModelTester tester(grid->model(), QAbstractItemModelTester::FailureReportingMode::Fatal);
+  Open(flash_, "QuantiCanali_0");
+  EXPECT_EQ(grid->model()->rowCount(), 999);
+  window_->resize(700, 700);
+  QTest::qWait(20);
+  EXPECT_EQ(fixed->geometry().right() + 1, grid->viewport()->geometry().left() + grid->columnWidth(0));
+  // Scrolled down before the column is fixed, and while it is.
+  grid->verticalScrollBar()->setValue(200);
+  grid->horizontalScrollBar()->setValue(grid->horizontalScrollBar()->maximum());
+  EXPECT_TRUE(fixed->isVisible());
+  EXPECT_EQ(grid->rowAt(5), 200);
+  EXPECT_EQ(fixed->indexAt(QPoint(5, 5)), grid->model()->index(200, 0));
+  grid->verticalScrollBar()->setValue(300);
+  EXPECT_EQ(fixed->indexAt(QPoint(5, 5)), grid->model()->index(300, 0));
+}
+
 }  // namespace Ui

@@ -12,7 +12,7 @@ void ImportInto(QDialog& box) {
 
 }  // namespace
 
-TEST_F(Window, ASecondFlashStandsBesideTheListAndLeavesItAlone) {
+TEST_F(SmallWindow, ASecondFlashStandsBesideTheListAndLeavesItAlone) {
   const Routines::State before = List();
   const QString dialog = "Selezionare la flash aggiuntiva";
   driver_->ExpectFile(dialog, PathText(folder_.Write("corta.dat", "abc")));
@@ -20,24 +20,23 @@ TEST_F(Window, ASecondFlashStandsBesideTheListAndLeavesItAlone) {
   auto* pane = window_->findChild<Ui::Grid*>("GrigliaSDX");
   EXPECT_FALSE(pane->isVisible());
 
-  ASSERT_TRUE(driver_->Pick("QuantiCanali_0"));
   ChooseFile("CaricaAggiuntiva", dialog, flash_);
-  EXPECT_EQ(Said(), "demo.dat: letti 620 canali");
-  EXPECT_EQ(driver_->TextOf("EtichettaSDX"), "SDX: demo.dat");
-  EXPECT_EQ(pane->model()->rowCount(), 620);
+  EXPECT_EQ(Said(), "lista.dat: letti 11 canali");
+  EXPECT_EQ(driver_->TextOf("EtichettaSDX"), "SDX: lista.dat");
+  EXPECT_EQ(pane->model()->rowCount(), 11);
   EXPECT_TRUE(List() == before);
 
   pane->Select({1, 2});
-  driver_->ExpectLine("Inserire la posizione in cui inserire Rete Italia", "700");
+  driver_->ExpectLine("Inserire la posizione in cui inserire Uno", "700");
   driver_->ExpectQuestion("Si desidera spostare i canali verso il basso?", false);
   ASSERT_TRUE(driver_->Press("Toolbar1_Copy_SDX"));
   EXPECT_TRUE(List().Channel(700) == before.Channel(1)) << "the same transponder too";
 }
 
-TEST_F(Window, AListOfAnotherProgramIsSettledOnceAndRemembered) {
+TEST_F(SmallWindow, AListOfAnotherProgramIsSettledOnceAndRemembered) {
   const QString dialog = "Selezionare il file da importare";
   driver_->ExpectFile(dialog, PathText(flash_));
-  Tells("Pelko", "demo.dat non è un file di testo");
+  Tells("Pelko", "lista.dat non è un file di testo");
 
   const std::string path =
       folder_.Write("lista.csv", "Uno;99;11766;V;10\nDue;98;12092;H;11\nTre;97;x;H;12\n");

@@ -1,0 +1,62 @@
+// Ways to open a file beside its command: recent files and dropped ones.
+#include "ui/kit/text.h"
+#include "ui/window_fixture.h"
+
+namespace Ui {
+
+class OpeningFiles : public SmallWindow {
+ protected:
+  void Drop(const QList<QUrl>& files) {
+    QMimeData data;
+    data.setUrls(files);
+    QDragEnterEvent enter({5, 5}, Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+    QApplication::sendEvent(window_.get(), &enter);
+    QDropEvent drop({5, 5}, Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+    QApplication::sendEvent(window_.get(), &drop);
+    QTest::qWait(1);
+    EXPECT_TRUE(QTest::qWaitFor([this] { return driver_->Idle(); }, 5000));
+  }
+};
+
+TEST_F(OpeningFiles, TheLastEightAreOfferedAndVanishedOnesGo) {
+  std::vector<std::string> copies;
+  for (int i = 0; i < 9; ++i)
+    copies.push_back(folder_.Write("a&b, " + std::to_string(i) + ".dat", Contents(flash_)));
+  for (const std::string& copy : copies) Open(copy);
+  StartEmpty();
+  EXPECT_TRUE(Action("FileRecenti_8").isVisible());
+  EXPECT_EQ(Action("FileRecenti_8").statusTip(), PathText(copies[1]));
+  EXPECT_TRUE(Action("FileRecenti_1").text().endsWith("a&&b, 8.dat"));
+  Tells("FileRecenti_8", "Si deve selezionare il numero di canali da visualizzare");
+  ASSERT_TRUE(driver_->Pick("QuantiCanali_2"));
+  ASSERT_TRUE(driver_->Choose("FileRecenti_8"));
+  EXPECT_EQ(List().InputFlash, copies[1]);
+  EXPECT_EQ(Action("FileRecenti_1").statusTip(), PathText(copies[1]));
+  std::filesystem::remove(copies[8]);
+  Tells("FileRecenti_2", "Flash non trovata: " + PathText(copies[8]) + "\nViene tolta dai file recenti");
+  EXPECT_FALSE(Action("FileRecenti_8").isVisible());
+}
+
+TEST_F(OpeningFiles, DroppedOnesOpenLikeTheirCommandsOrItIsSaidWhyNot) {
+  const std::string text = folder_.Path("lista.TXT");
+  Export("FormatoTesto", text);
+  const std::string raw = folder_.Path("lista.fls");
+  Export("FormatoFLASH", raw);
+  std::filesystem::create_directory(folder_.Path("cartella.dat"));
+  const auto file = [](const std::string& path) { return QUrl::fromLocalFile(PathText(path)); };
+  const std::pair<QList<QUrl>, const char*> drops[] = {
+      {{file(text)}, "lista.TXT: importati 11 canali, 1 codifica cambiata"},
+      {{file(raw)}, "lista.fls: importati 11 canali"},
+      {{file(flash_)}, "Non disponibile dopo l'importazione da formato FLASH: Annulla la toglie"},
+      {{file(folder_.Path("SR.INI"))}, "Non aperto: SR.INI non è un file .dat, .sdx, .txt o .fls"},
+      {{file(folder_.Path("cartella.dat"))}, "Non aperto: cartella.dat è una cartella"},
+      {{QUrl("http://127.0.0.1/lista.dat")}, "Non aperto: lista.dat non è su questo computer"},
+      {{file(raw), file(text)}, "Non aperti: si trascina un file alla volta"}};
+  for (const auto& [files, told] : drops) {
+    Drop(files);
+    EXPECT_EQ(Said(), told);
+    EXPECT_EQ(window_->findChild<QMenu*>("FileRecenti")->isEnabled(), !List().FromFls) << told;
+  }
+}
+
+}  // namespace Ui

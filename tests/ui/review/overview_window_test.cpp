@@ -1,0 +1,52 @@
+// The overview's lines lead to their rows.
+#include "ui/window_fixture.h"
+
+namespace Ui {
+
+class OverviewLines : public SmallWindow {
+ protected:
+  void SetUp() override {
+    SmallWindow::SetUp();
+    ASSERT_TRUE(driver_->Choose("Riepilogo"));
+    tree_ = window_->findChild<QDialog*>("FinestraRiepilogo")->findChild<QTreeWidget*>();
+  }
+  [[nodiscard]] QTreeWidgetItem* Line(const QString& text) const {
+    return tree_->findItems(text, Qt::MatchExactly | Qt::MatchRecursive).value(0);
+  }
+  void Choose(QTreeWidgetItem* line) {
+    tree_->setCurrentItem(line);
+    QTest::keyClick(tree_, Qt::Key_Return);
+  }
+
+  QTreeWidget* tree_ = nullptr;
+};
+
+TEST_F(OverviewLines, ALineMarksItsRowsAndGoesOnDoingSo) {
+  EXPECT_EQ(Line("Radio")->text(2) + " " + Line("Radio")->text(3), "2 18,2");
+  ASSERT_TRUE(driver_->Choose("VisualizzaTransponder"));
+  Choose(Line("Radio"));
+  EXPECT_EQ(driver_->TextOf("Text1"), "Canali");
+  EXPECT_EQ(driver_->Grid().Selected()->first, 8);
+  EXPECT_EQ(driver_->TextOf("FiltroTrovati"), "2 trovati");
+  Action("CercaSuccessivo").trigger();
+  EXPECT_EQ(driver_->Grid().Selected()->first, 9);
+  Delete(8, 8);
+  EXPECT_EQ(driver_->TextOf("FiltroTrovati"), "1 trovato") << "the marks follow the list";
+  EXPECT_EQ(Line("Radio")->text(2), "1");
+  while (Action("Annulla").isEnabled()) Action("Annulla").trigger();
+  EXPECT_EQ(tree_->topLevelItemCount(), 0);
+  EXPECT_EQ(driver_->TextOf("RiepilogoTotali"), "Nessuna flash caricata");
+}
+
+TEST_F(OverviewLines, ALineOfTranspondersShowsThem) {
+  Choose(Line("Transponder senza canali"));
+  EXPECT_EQ(Said(), "Riepilogo: Transponder senza canali: nessuna riga");
+  Choose(tree_->findItems("Transponder", Qt::MatchExactly).front()->child(1));
+  EXPECT_EQ(Said(), "Riepilogo: Transponder Liberi: 7 transponder");
+  EXPECT_EQ(driver_->TextOf("Text1"), "Transponders");
+  EXPECT_EQ(driver_->Grid().Selected()->first, 4);
+  window_->findChild<QLineEdit*>("Filtro")->clear();
+  EXPECT_FALSE(window_->findChild<QLineEdit*>("Filtro")->isVisible()) << "what is typed finds channels only";
+}
+
+}  // namespace Ui

@@ -1,0 +1,114 @@
+// A SatcoDX list goes into the channel list.
+#include "ui/kit/text.h"
+#include "ui/window_fixture.h"
+
+namespace Ui {
+
+class SatcodxWindow : public SmallWindow {
+ protected:
+  // Three channels on 11766 MHz, horizontal, a line that is too short, and one below every band.
+  void SetUp() override {
+    SmallWindow::SetUp();
+    std::string sdx;
+    for (int i = 1; i <= 3; ++i)
+      sdx += "SATCODX103HOTBIRD 13E       TMPG2011766000HNuovo " + std::to_string(i) +
+             " 0130___     ______29700200" + std::to_string(50 + i) + "0060005000" + std::to_string(70 + i) +
+             "0031812300_________NAGV            \r\n";
+    const std::string low =
+        std::string(sdx).replace(sdx.find("011766"), 6, "003720").substr(0, sdx.find('\n') + 1);
+    driver_->ExpectFile("Selezionare il file SDX di input",
+                        PathText(folder_.Write("prova.sdx", sdx + "SATCODX corta\r\n" + low)));
+    driver_->ExpectDialog("Opzioni importazione SDX", [this](QDialog& box) { Answer(box); });
+    ASSERT_TRUE(driver_->Choose("SDX"));
+  }
+
+  void ImportAll(const std::function<void(QDialog&, const QString&)>& settle) {
+    driver_->ExpectDialog("Importazione canali SDX", [settle](QDialog& box) {
+      settle(box, box.findChild<QLineEdit*>("Partenza")->text());
+      box.accept();
+    });
+  }
+  [[nodiscard]] Ui::Grid& Pane() const { return *window_->findChild<Ui::Grid*>("GrigliaSDX"); }
+
+  void Answer(QDialog& box) {
+    driver_->ExpectMessage("Si deve specificare il codice da assegnare al satellite");
+    box.findChild<QPushButton*>("Command1")->click();
+    box.findChild<QComboBox*>("Combo1")->setCurrentIndex(0);
+    driver_->ExpectMessage("Non sono state selezionate codifiche da importare");
+    box.findChild<QPushButton*>("Command1")->click();
+    EXPECT_EQ(box.findChild<QListWidget*>("List1")->count(), 2) << "NAGV and Tutte";
+    box.findChild<QListWidget*>("List1")->selectAll();
+    box.findChild<QPushButton*>("Command1")->click();
+  }
+};
+
+TEST_F(SatcodxWindow, ItsRowsAreShownAndInserted) {
+  EXPECT_EQ(Said(), "prova.sdx: lette 5 righe, prese 4; scartate: symbol rate 1");
+  auto* missing = window_->findChild<QDialog*>("ElencoNonInSDX");
+  ASSERT_NE(missing, nullptr) << "the list's own channels";
+  const Base::Bytes image = Contents(flash_);
+  ExpectOpenedFlashChosen("Salva l'elenco");
+  missing->findChild<QPushButton*>("SalvaNonInSDX")->click();
+  EXPECT_TRUE(Contents(flash_) == image) << "no text is saved over the opened flash";
+  missing->close();
+  EXPECT_TRUE(Pane().isVisible());
+  Tells("Toolbar1_Copy_SDX", "Nessun canale SDX selezionato");
+  Pane().Select({2, 3});
+  driver_->ExpectLine("Inserire la posizione in cui inserire Nuovo 2", "1000");
+  Tells("Toolbar1_Copy_SDX", "Posizione non valida");
+  driver_->ExpectLine("Inserire la posizione in cui inserire Nuovo 2", "1");
+  driver_->ExpectQuestion("Si desidera spostare i canali verso il basso?", true);
+  ASSERT_TRUE(driver_->Press("Toolbar1_Copy_SDX"));
+  EXPECT_EQ(Names(1, 4), "Nuovo 2,Nuovo 3,Uno,Due");
+  EXPECT_EQ(driver_->Cell(1, 2), "004") << "a transponder of its own";
+}
+
+TEST_F(SatcodxWindow, AllItsRowsGoWhereTheUserSaysAsFarAsThereIsRoom) {
+  ImportAll([](QDialog& box, const QString& start) {
+    const auto* outcome = box.findChild<QLabel*>("EsitoImportazione");
+    EXPECT_EQ(start, "13") << "behind the last channel";
+    EXPECT_EQ(outcome->text(), "3 posti liberi per 3 canali; 1 riga fuori banda");
+    box.findChild<QRadioButton*>("DallInizio")->click();
+    EXPECT_EQ(outcome->text(), "sovrascrive 3 canali, 2 voci di preferiti; 1 riga fuori banda");
+  });
+  ASSERT_TRUE(driver_->Choose("ImportaTuttoSDX"));
+  EXPECT_EQ(Said(),
+            "Inseriti 3 canali SDX dal 1, sovrascritti 3 canali, 2 voci di preferiti, 1 riga fuori banda");
+  EXPECT_EQ(Names(1, 5), "Nuovo 1,Nuovo 2,Nuovo 3,,Cinque") << "nothing moves";
+  ImportAll([](QDialog& box, const QString&) { box.findChild<QLineEdit*>("Partenza")->setText("998"); });
+  Tells("ImportaTuttoSDX", "1 canale SDX non ha trovato posto");
+  EXPECT_EQ(Names(998, 999), "Nuovo 1,Nuovo 2");
+  EXPECT_EQ(Pane().Selected()->first, 3) << "for another place";
+  ImportAll([](QDialog& box, const QString& start) {
+    const auto* confirm = box.findChild<QDialogButtonBox*>()->button(QDialogButtonBox::Ok);
+    EXPECT_TRUE(start.isEmpty() && !confirm->isEnabled()) << "nothing is free behind the last channel";
+    box.findChild<QRadioButton*>("NeiPostiVuoti")->click();
+    EXPECT_TRUE(confirm->isEnabled());
+  });
+  ASSERT_TRUE(driver_->Choose("ImportaTuttoSDX"));
+  EXPECT_EQ(Said(), "Inseriti 3 canali SDX nei posti vuoti, 1 riga fuori banda");
+  EXPECT_EQ(Names(4, 4) + Names(13, 14), "Nuovo 1Nuovo 2,Nuovo 3");
+}
+
+TEST_F(SatcodxWindow, ChannelsThatDropOffStayInSight) {
+  ImportAll([](QDialog& box, const QString&) { box.findChild<QLineEdit*>("Partenza")->setText("997"); });
+  ASSERT_TRUE(driver_->Choose("ImportaTuttoSDX"));
+  Pane().Select({1, 1});
+  driver_->ExpectLine("Inserire la posizione in cui inserire Nuovo 1", "999");
+  driver_->ExpectQuestion("Si desidera spostare i canali verso il basso?", true);
+  ASSERT_TRUE(driver_->Press("Toolbar1_Copy_SDX"));
+  EXPECT_EQ(Said(), "Inserito 1 canale SDX dal 999, persi in fondo: 0999 Nuovo 3");
+  ASSERT_TRUE(driver_->Choose("InvertiSatelliti"));
+  EXPECT_EQ(driver_->TextOf("RisultatoConPerdite"),
+            "⚠ Inserito 1 canale SDX dal 999, persi in fondo: 0999 Nuovo 3")
+      << "beside what is said later";
+  Click("QualiCanali");
+  auto* lost = window_->findChild<QPlainTextEdit*>("RigheCanaliPersi");
+  ASSERT_NE(lost, nullptr);
+  EXPECT_EQ(lost->toPlainText(), "0999 Nuovo 3\n");
+  lost->window()->close();
+  ASSERT_TRUE(driver_->Choose("Annulla"));
+  EXPECT_FALSE(window_->findChild<QWidget*>("RisultatoConPerdite")->isVisible());
+}
+
+}  // namespace Ui
