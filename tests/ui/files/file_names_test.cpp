@@ -2,6 +2,8 @@
 #include "ui/kit/text.h"
 #include "ui/window_fixture.h"
 
+#include <sys/stat.h>
+
 namespace Ui {
 namespace {
 
