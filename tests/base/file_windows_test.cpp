@@ -73,17 +73,13 @@ TEST(File, WhatIsNoFileToWriteIsRefused) {
   EXPECT_EQ(folder.Files(), 2);
 }
 
-TEST(File, BothSeparatorsEndAFolder) {
+TEST(File, BothSeparatorsEndAFolderAndAFileIsWrittenWhereItLies) {
   EXPECT_EQ(FileName("C:\\liste\\a/b.dat"), "b.dat");
   EXPECT_EQ(FolderOf("C:/liste\\b.dat"), "C:/liste\\");
-}
-
-TEST(File, AFileIsWrittenWhereItLies) {
   const TestFolder folder;
   const std::string path = folder.Write("flash.dat", Old);
-  const Bytes other(Old.size(), 'x');
-  EXPECT_TRUE(OverwriteInPlace(path, Old, other));
-  EXPECT_EQ(Contents(path), other);
+  EXPECT_TRUE(OverwriteInPlace(path, Old, Bytes(Old.size(), 'x')));
+  EXPECT_EQ(Contents(path), Bytes(Old.size(), 'x'));
 }
 
 }  // namespace Base
