@@ -2,27 +2,17 @@
 // always hold is checked after every step.
 //   TROVALIS_MODEL_SECONDS=600  goes on with new seeds for that long
 //   TROVALIS_MODEL_SEED=7       begins with that one
-#include "demo_flash.h"
 #include "demo_sdx.h"
 #include "model/favourites.h"
 #include "model/flash_file.h"
 #include "model/flash_loader.h"
 #include "support/bouquets_txt.h"
-#include "support/sr_ini.h"
-#include "support/test_folder.h"
 #include "ui/list/cell_delegate.h"
-#include "ui/list/grid.h"
 #include "ui/random_input.h"
 #include "ui/session/commands.h"
 #include "ui/window/main_window.h"
 #include "ui/window_faults.h"
 
-#include <QtTest>
-#include <QtWidgets>
-
-#include <gtest/gtest.h>
-
-#include <filesystem>
 #include <iostream>
 
 namespace Ui {

@@ -1,11 +1,7 @@
 // What the model test feeds to the window: numbers, words and images of any kind, and answers to its questions.
 #pragma once
 
-#include "image_builder.h"
-#include "model/routines.h"
-#include "support/test_folder.h"
-#include "ui/kit/dialogs.h"
-#include "ui/kit/text.h"
+#include "ui/window_fixture.h"
 
 #include <random>
 
@@ -30,51 +26,20 @@ class Random {
                                       "A4",    "12", "S",      "H",   "11766", "Nome lunghissimo"};
     return Pick(texts);
   }
-  template <class Record>
-  void Fill(Record& record) {
-    for (auto& byte : record.bytes) byte = static_cast<Base::Byte>(Next());
-  }
 
  private:
   std::mt19937 engine_;
 };
 
-// Sections of any size at any place, good records among junk; now and then a directory or a length that is wrong.
+// The small list with bytes that are wrong: in directories, entries, records and favourites.
 inline Base::Bytes RandomImage(Random& random) {
-  Samples::ImageBuilder image(random.Next());
-  std::vector<Routines::TransponderRecord> transponders;
-  for (int i = random.Below(300); i > 0; --i) {
-    auto& record = transponders.emplace_back(
-        Samples::MakeTransponder(10600 + random.Below(2300), random.Chance(50), random.Below(4),
-                                 random.Below(16), random.Below(7), random.Below(65536), random.Below(400)));
-    if (random.Chance(5)) random.Fill(record);
+  Base::Bytes image = SmallFlash();
+  for (int i = random.Below(random.Chance(50) ? 60 : 3000); i > 0; --i) {
+    const int place = random.Chance(5) ? random.Below(16) : 52 + random.Below(2400);
+    image[static_cast<std::size_t>((1 + random.Below(4)) * 65536 + place)] =
+        static_cast<Base::Byte>(random.Next());
   }
-  image.PutRecords(1, 1, 16 + static_cast<std::size_t>(random.Below(3000)), "TPT", transponders);
-  const int most = random.Chance(30) ? 2000 : 60;
-  for (std::size_t sector = 2; sector < 5; ++sector) {
-    std::vector<Routines::ChannelRecord> channels;
-    for (int i = random.Below(most); i > 0; --i) {
-      auto& record = channels.emplace_back(Samples::MakeChannel(
-          "C" + std::to_string(random.Below(200)), random.Below(256), random.Below(500),
-          random.Chance(30) ? 65535 : random.Below(9000), random.Chance(20) ? 65535 : random.Below(9000)));
-      if (random.Chance(5)) random.Fill(record);
-      if (random.Chance(10)) record = {};
-    }
-    image.PutRecords(sector, 0, 16 + static_cast<std::size_t>(random.Below(4000)), "TCS", channels);
-  }
-  Base::Bytes block(random.Chance(80) ? Routines::NormalFavouritesSize
-                                      : static_cast<std::size_t>(random.Below(6000)));
-  for (std::size_t at = 0; at + 1 < block.size(); at += 2) {
-    if (random.Chance(20)) continue;
-    const int slot = random.Below(random.Chance(90) ? 3 * most : 65536);
-    block[at] = static_cast<Base::Byte>(slot >> 8);
-    block[at + 1] = static_cast<Base::Byte>(slot & 255);
-  }
-  if (random.Chance(85)) image.PutFavourites(5, 2, 100, block, static_cast<std::size_t>(random.Below(500)));
-  if (random.Chance(20))
-    image.SetDirectory(1 + static_cast<std::size_t>(random.Below(8)), 5, random.Next() & 65535U);
-  if (random.Chance(20)) image.SetLength(2, 16, random.Next() & 65535U);
-  return image.Image();
+  return image;
 }
 
 class RandomAnswers : public Dialogs {

@@ -38,46 +38,34 @@ TEST(Printing, EveryRowIsOnItsPageWhateverThePaper) {
   Document document;
   document.Adjust([](Routines::State& state) {
     state.ChannelCount = 200;
-    for (std::size_t slot = 2; slot <= 200; ++slot)
-      state.Channel(slot) = Samples::MakeChannel(
-          "\x05"
-          "Citt\xE0 \t" +
-              std::to_string(slot),
-          1, 7, 65535, 9);
+    for (int slot = 2; slot <= 200; ++slot)
+      state.Channel(slot) = Samples::MakeChannel("\x07\tCitt\xE0 " + std::to_string(slot), 1, 7, 65535, 9);
   });
   const ListModel model(document, ListModel::Channels, nullptr);
   const PrintReport report = ReportOf(model, {1, 200}, QString(200, 'M'));
-  for (const QString& row : report.rows) EXPECT_EQ(row.size(), report.titles.size()) << qPrintable(row);
-
   const Tests::TestFolder folder;
   const std::string path = folder.Path("lista.pdf");
-  for (const auto paper : {QPageSize::A4, QPageSize::A6}) {
-    for (const auto way : {QPageLayout::Portrait, QPageLayout::Landscape}) {
-      const QPageLayout layout(QPageSize(paper), way, QMarginsF(12, 12, 12, 12), QPageLayout::Millimeter);
-      const auto pages = SavePdf(report, path, layout);
-      ASSERT_TRUE(pages);
-      EXPECT_EQ(*pages, 200 / 64 + 1);
-      QStringList rows;
-      for (const QStringList& lines : PagesIn(path)) {
-        EXPECT_TRUE(lines[0].startsWith("MMM") && lines[0].contains(" Pagina ")) << qPrintable(lines[0]);
-        EXPECT_EQ(lines[1].simplified(), report.titles.simplified());
-        EXPECT_LE(lines.size(), 80);
-        rows += lines.mid(2);
-      }
-      ASSERT_EQ(rows.size(), 200);
-      EXPECT_EQ(rows[0].simplified().toStdString(), "0001") << "an empty slot has its line";
-      EXPECT_EQ(rows[199].simplified().toStdString(), "0200 Città 200 001 7 65535 9 65535 65535 65535 04 S");
-      const QRectF area = layout.paintRect(QPageLayout::Millimeter);
-      const QRectF ink = InkOf(path);
-      EXPECT_TRUE(area.adjusted(-1, -1, 1, 1).contains(ink)) << paper << " " << way;
-      EXPECT_GT(ink.height(), 0.9 * area.height());
+  for (const auto& [paper, way] :
+       {std::pair{QPageSize::A4, QPageLayout::Portrait}, {QPageSize::A6, QPageLayout::Landscape}}) {
+    const QPageLayout layout(QPageSize(paper), way, QMarginsF(12, 12, 12, 12), QPageLayout::Millimeter);
+    EXPECT_EQ(*SavePdf(report, path, layout), 200 / 64 + 1);
+    QStringList rows;
+    for (const QStringList& lines : PagesIn(path)) {
+      EXPECT_TRUE(lines[0].startsWith("MMM") && lines[0].contains(" Pagina ")) << qPrintable(lines[0]);
+      EXPECT_EQ(lines[1].simplified(), report.titles.simplified());
+      rows += lines.mid(2);
     }
+    ASSERT_EQ(rows.size(), 200);
+    EXPECT_EQ(rows[0].simplified().toStdString(), "0001") << "an empty slot has its line";
+    EXPECT_EQ(rows[199].simplified().toStdString(), "0200 Città 200 001 7 65535 9 65535 65535 65535 04 S");
+    const QRectF area = layout.paintRect(QPageLayout::Millimeter);
+    EXPECT_TRUE(area.adjusted(-1, -1, 1, 1).contains(InkOf(path))) << paper;
+    EXPECT_GT(InkOf(path).height(), 0.9 * area.height());
   }
   QPageRanges second;
   second.addPage(2);
   ASSERT_TRUE(SavePdf(report, path, UsualPage(), second));
-  const auto pages = PagesIn(path);
-  EXPECT_TRUE(pages.size() == 1 && pages[0][0].endsWith("Pagina 2 di 4"));
+  EXPECT_TRUE(PagesIn(path).size() == 1 && PagesIn(path)[0][0].endsWith("Pagina 2 di 4"));
 }
 
 class PrintingWindow : public SmallWindow {

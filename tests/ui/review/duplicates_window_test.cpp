@@ -1,5 +1,4 @@
 // Channels that are there twice: three copies stand in slots 6 to 8.
-#include "model/favourites.h"
 #include "ui/window_fixture.h"
 
 namespace Ui {
@@ -61,19 +60,16 @@ TEST_F(Duplicates, TicksStayWithTheirChannels) {
   EXPECT_FALSE(found_->findChild<QPushButton*>("EliminaTranneIlPrimo")->isEnabled());
 }
 
-TEST_F(Duplicates, DeletedFavouritesAreTold) {
-  const Routines::State before = List();
-  for (const char* rule : {"StessoServizio", "StessiPID"}) found_->findChild<QCheckBox*>(rule)->click();
-  EXPECT_EQ(Counts(), "Nessun canale doppio");
-  found_->findChild<QCheckBox*>("StessiPID")->click();
+TEST_F(Duplicates, AllButTheFirstGoAndFavouritesAreTold) {
   EXPECT_EQ(Row(1, 0).text(6), "Cinema");
+  Click("EliminaTranneIlPrimo");
+  EXPECT_EQ(Names(1, 6), "Uno,Due,Tre,,Cinque,Città HD");
+  driver_->Choose("Annulla");
   Row(1, 0).setCheckState(0, Qt::Checked);
   Click("EliminaScelti");
   EXPECT_EQ(Said(), "Elimina 1 canale doppio, tolto 1 preferito (Cinema 1)");
-  driver_->Choose("Annulla");
-  EXPECT_TRUE(List() == before);
-  Click("EliminaTranneIlPrimo");
-  EXPECT_EQ(Names(1, 6), "Uno,Due,Tre,,Cinque,Città HD");
+  for (const char* rule : {"StessoServizio", "StessiPID"}) found_->findChild<QCheckBox*>(rule)->click();
+  EXPECT_EQ(Counts(), "Nessun canale doppio");
 }
 
 TEST_F(SmallWindow, NothingTwiceIsAMessageAndNamesAreAChoice) {

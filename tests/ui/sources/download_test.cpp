@@ -85,57 +85,61 @@ TEST(DownloadLimits, SizeAndTimeAreBounded) {
   EXPECT_FALSE(Fetch(dripping.Address(), {.silence = 1000, .whole = 300}));
 }
 
-TEST_F(SmallWindow, AnAddressIsFetchedOnlyWhenTheUserAsksAndIsLoadedOrToldAndLeftEmpty) {
-  const std::string path = folder_.Path("scaricato.sdx");
-  const auto download = [this] { window_->findChild<QAbstractButton*>("Scarica")->click(); };
-  const auto fetch = [&](const Server& server, const auto& expectEnd) {
-    folder_.Write("scaricato.sdx", "SATCODX1 vecchia\r\n");
-    folder_.Write("SDX.INI", server.Address().toStdString() + "?uno\r\nhttp://127.0.0.1:9/due.sdx\r\n");
+class Downloading : public SmallWindow {
+ protected:
+  void SetUp() override {
+    SmallWindow::SetUp();
+    folder_.Write("SDX.INI", "http://127.0.0.1:9/uno.sdx?uno\r\nhttp://127.0.0.1:9/due.sdx\r\n");
     ASSERT_TRUE(driver_->Choose("ScaricaInternet"));
-    auto* addresses = window_->findChild<QComboBox*>("Combo3");
-    EXPECT_EQ(QString::number(addresses->count()) + addresses->currentText(), "2");
-    addresses->setCurrentIndex(0);
-    QTest::qWait(50);
-    EXPECT_EQ(server.asked, 0);
-    addresses->setEditText(server.Address());
-    ExpectOpenedFlashChosen("Selezionare il file SDX di OUTPUT", path);
+  }
+  void Scarica() { window_->findChild<QAbstractButton*>("Scarica")->click(); }
+  [[nodiscard]] QComboBox& Addresses() const { return *window_->findChild<QComboBox*>("Combo3"); }
+  void Fetch(const Server& server, const std::function<void()>& expectEnd) {
+    folder_.Write("scaricato.sdx", "SATCODX1 vecchia\r\n");
+    Addresses().setEditText(server.Address());
+    ExpectOpenedFlashChosen("Selezionare il file SDX di OUTPUT", path_);
     expectEnd();
-    download();
+    Scarica();
     EXPECT_TRUE(QTest::qWaitFor([this] { return driver_->Idle(); }, 5000));
-    EXPECT_EQ(server.asked, 1);
-  };
-  folder_.Write("SDX.INI", "http://127.0.0.1:9/uno.sdx\r\n");
-  ASSERT_TRUE(driver_->Choose("ScaricaInternet"));
+  }
+
+  std::string path_ = folder_.Path("scaricato.sdx");
+};
+
+TEST_F(Downloading, HappensOnlyWhenTheUserAsks) {
+  EXPECT_EQ(QString::number(Addresses().count()) + Addresses().currentText(), "2");
   driver_->ExpectMessage("Si deve specificare il file da scaricare");
-  download();
-  window_->findChild<QComboBox*>("Combo3")->setEditText("http://127.0.0.1:9/uno.sdx");
+  Scarica();
+  const Server good(Good + "SATCODX1 uno\r\nSATCODX1 due\r\nsenza fine");
+  Addresses().setEditText(good.Address());
   const Base::Bytes image = Contents(flash_);
   ExpectOpenedFlashChosen("Selezionare il file SDX di OUTPUT");
-  download();
+  Scarica();
   EXPECT_EQ(Said(), "Non scaricato: il file scelto è la flash aperta o quella di output");
-  EXPECT_EQ(Contents(flash_), image);
-  const std::pair<QByteArray, QString> bad[] = {
-      {Good + "  SATCODX", "  SATCODX"},
-      {Good + "<html>", "<html>"},
-      {"HTTP/1.0 200 OK\r\nContent-Length: 900\r\n\r\nSATCODX103 cut", "SATCODX103 cut"},
-      {"HTTP/1.0 404 Not Found\r\n\r\nSATCODX103", "SATCODX103"}};
-  for (const auto& c : bad) {
-    const Server server(c.first);
-    fetch(server,
-          [&] { driver_->ExpectMessage("Errore di connessione a : " + server.Address() + c.second); });
-    EXPECT_EQ(Contents(path).size(), 0U) << c.first.toStdString();
-    EXPECT_EQ(Base::AsText(Contents(path + ".bak")), "SATCODX1 vecchia\r\n");
+  EXPECT_TRUE(Contents(flash_) == image);
+  EXPECT_EQ(good.asked, 0);
+  ASSERT_TRUE(driver_->Choose("VisualizzaBouquet"));
+  Fetch(good,
+        [this] { driver_->ExpectDialog("Opzioni importazione SDX", [](QDialog& box) { box.reject(); }); });
+  EXPECT_FALSE(Action("VisualizzaBouquet").isChecked()) << "the tree makes room for the list";
+  EXPECT_EQ(Base::AsText(Contents(path_)), "SATCODX1 uno\r\n\nSATCODX1 due\r\n");
+  EXPECT_FALSE(std::filesystem::exists(path_ + ".bak")) << "a list has come in its place";
+}
+
+TEST_F(Downloading, AReplyThatIsNoListIsToldAndItsFileLeftEmpty) {
+  for (const auto& [reply, told] :
+       {std::pair{Good + "  SATCODX", "  SATCODX"},
+        {Good + "<html>", "<html>"},
+        {"HTTP/1.0 200 OK\r\nContent-Length: 900\r\n\r\nSATCODX103 cut", "SATCODX103 cut"},
+        {"HTTP/1.0 404 Not Found\r\n\r\nSATCODX103", "SATCODX103"}}) {
+    const Server server(reply);
+    Fetch(server, [&] { driver_->ExpectMessage("Errore di connessione a : " + server.Address() + told); });
+    EXPECT_TRUE(Contents(path_).empty()) << told;
+    EXPECT_EQ(Base::AsText(Contents(path_ + ".bak")), "SATCODX1 vecchia\r\n");
   }
   EXPECT_EQ(
       Said(),
       "Scaricamento non riuscito: il server risponde 404; la lista di prima resta come scaricato.sdx.bak");
-
-  ASSERT_TRUE(driver_->Choose("VisualizzaBouquet"));
-  const Server good(Good + "SATCODX1 uno\r\nSATCODX1 due\r\nsenza fine");
-  fetch(good, [&] { driver_->ExpectDialog("Opzioni importazione SDX", [](QDialog& box) { box.reject(); }); });
-  EXPECT_FALSE(Action("VisualizzaBouquet").isChecked()) << "the tree makes room for the list";
-  EXPECT_EQ(Base::AsText(Contents(path)), "SATCODX1 uno\r\n\nSATCODX1 due\r\n");
-  EXPECT_FALSE(std::filesystem::exists(path + ".bak")) << "a list has come in its place";
 }
 
 }  // namespace Ui
