@@ -150,7 +150,7 @@ void ReadChannelsConf(benchmark::State& run) {
   options.codes = {"04"};
   const auto read = [&] {
     Formats::VdrReader reader(text);
-    const Formats::SdxTable table = Formats::RowsOf(reader, options).table;
+    const Formats::SdxTable table = Formats::RowsOf(reader, options);
     if (table.rows.size() != Formats::MostSdxRows || table.lines != Lines) std::abort();
   };
   RunBeside(run, 4, {read, [&] { benchmark::DoNotOptimize(SplitLines(text)); }});

@@ -59,14 +59,13 @@ int CheckEach(ServiceReader& reader) {
   return services + reader.Unreadable();
 }
 
-void CheckServiceRows(const ServiceRows& rows, const ListOptions& options, int lines) {
-  const SdxTable& table = rows.table;
+void CheckServiceRows(const SdxTable& table, const ListOptions& options, int lines) {
   CheckRows(table);
   const int full = table.full ? 1 : 0;
   Require(static_cast<int>(table.rows.size()) + table.dropped.Total() + full == table.lines,
           "every service is taken or dropped for a reason");
   Require(table.full || table.lines == lines, "every service is read");
-  Require(static_cast<int>(rows.withoutPids.size()) == table.dropped.Count(Drop::NoPid),
+  Require(static_cast<int>(table.withoutPids.size()) == table.dropped.Count(Drop::NoPid),
           "what lacks PIDs is kept");
   for (const SdxRow& row : table.rows) {
     Require((row.type == 'T' && options.television) || (row.type == 'R' && options.radio) ||
@@ -85,9 +84,9 @@ void CheckServiceRows(const ServiceRows& rows, const ListOptions& options, int l
 void CheckServices(Input& choices, const OpenReader& open) {
   const ListOptions options = OptionsOf(choices);
   const int lines = CheckEach(*open());
-  const ServiceRows rows = RowsOf(*open(), options);
-  CheckServiceRows(rows, options, lines);
-  CheckRowImport(rows.table, 1 + options.satellite * 9);
+  const SdxTable table = RowsOf(*open(), options);
+  CheckServiceRows(table, options, lines);
+  CheckRowImport(table, 1 + options.satellite * 9);
   const Order order = OrderOf(*open());
   Require(static_cast<int>(order.entries.size()) + order.unreadable == lines, "an order has every service");
   const ListSummary summary = SummaryOf(*open());

@@ -38,6 +38,21 @@ bool InBand(const SdxRow& row) {
   return hertz >= 0 && hertz <= 0xFFFFFFFF;
 }
 
+std::vector<KnownService> KnownServices(const State& state) {
+  std::vector<KnownService> services;
+  for (int slot = 1; slot <= state.ChannelCount; ++slot) {
+    const ChannelRecord& channel = state.Channel(slot);
+    const std::uint32_t number = Get(channel, ChannelField::Transponder);
+    if (channel.Empty() || number < 1 || static_cast<int>(number) > state.TransponderCount) continue;
+    const TransponderRecord& transponder = state.Transponder(number).record;
+    services.push_back({{static_cast<int>(Get(transponder, TransponderField::Satellite)),
+                         static_cast<int>(Get(transponder, TransponderField::Tid)),
+                         static_cast<int>(Get(channel, ChannelField::Sid))},
+                        slot});
+  }
+  return services;
+}
+
 std::vector<int> SlotsFrom(const State& state, int start, int count) {
   std::vector<int> slots;
   for (int slot = std::max(start, 1); slot <= state.ChannelCount && slot < start + count; ++slot)

@@ -4,11 +4,22 @@
 #include "formats/sdx_table.h"
 #include "model/bouquets.h"
 
+#include <array>
+
 namespace Formats {
 
 // Whether a row can have a transponder: its frequency does not lie below every local oscillator, nor above what a
 // record can hold. A row of frequency 0 is an empty one, and one from a flash brings its transponder along.
 bool InBand(const SdxRow& row);
+
+// A service of the loaded list: satellite (0 is A), transport stream and service id; and its slot.
+struct KnownService {
+  std::array<int, 3> service{};
+  int slot = 0;
+};
+
+// Each channel whose transponder the list has.
+std::vector<KnownService> KnownServices(const Routines::State& state);
 
 // The slots that `count` rows take: from `start` on, as far as the list goes, or its empty ones.
 std::vector<int> SlotsFrom(const Routines::State& state, int start, int count);

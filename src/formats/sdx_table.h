@@ -49,6 +49,8 @@ struct SdxRow {
 struct SdxTable {
   std::string satelliteName;  // of the file, 17 characters
   std::vector<SdxRow> rows;
+  // What nothing but missing PIDs keeps out, and so counts as dropped: to compare a list with.
+  std::vector<SdxRow> withoutPids;
   SdxFields lacking;  // what the source says of no row
   bool full = false;  // more lines were accepted than the table has rows for
 

@@ -53,20 +53,19 @@ class Maker {
     }
   }
 
-  ServiceRows Run(ServiceReader& reader) {
-    SdxTable& table = rows_.table;
-    table.rows.reserve(MostSdxRows);
-    table.lacking = reader.Lacking();
+  SdxTable Run(ServiceReader& reader) {
+    table_.rows.reserve(MostSdxRows);
+    table_.lacking = reader.Lacking();
     const ListedService& service = reader.Service();
     std::optional<Drop> untuned;  // why the transponder at hand is none for a row
-    while (!table.full && reader.Next()) {
-      ++table.lines;
+    while (!table_.full && reader.Next()) {
+      ++table_.lines;
       if (!reader.SameTransponder()) untuned = DropOf(service.transponder);
-      if (const auto drop = untuned ? untuned : Add(reader)) table.dropped.Add(*drop);
+      if (const auto drop = untuned ? untuned : Add(reader)) table_.dropped.Add(*drop);
     }
-    for (int line = 0; line < reader.Unreadable(); ++line) table.dropped.Add(Drop::Unreadable);
-    table.lines += reader.Unreadable();
-    return std::move(rows_);
+    for (int line = 0; line < reader.Unreadable(); ++line) table_.dropped.Add(Drop::Unreadable);
+    table_.lines += reader.Unreadable();
+    return std::move(table_);
   }
 
  private:
@@ -108,7 +107,6 @@ class Maker {
   // Makes a row, or says why there is none.
   std::optional<Drop> Add(ServiceReader& reader) {
     const ListedService& service = reader.Service();
-    SdxTable& table = rows_.table;
     reader.TakeStreams();
     if (const auto drop = DropOf(service)) return drop;
     reader.TakeIdentity();
@@ -117,11 +115,11 @@ class Maker {
     const int apid = std::max(service.apid, 0);
     if (options_.LeavesOut(satellite_, service.transponder.tid, service.sid, apid)) return Drop::Filter;
     if (!HasPids(service)) {
-      Fill(rows_.withoutPids.emplace_back(), service);
+      Fill(table_.withoutPids.emplace_back(), service);
       return Drop::NoPid;
     }
-    table.full = table.rows.size() == MostSdxRows;
-    if (!table.full) Fill(table.rows.emplace_back(), service);
+    table_.full = table_.rows.size() == MostSdxRows;
+    if (!table_.full) Fill(table_.rows.emplace_back(), service);
     return std::nullopt;
   }
 
@@ -158,7 +156,7 @@ class Maker {
 
   const ListOptions& options_;
   std::bitset<256> codings_;
-  ServiceRows rows_;
+  SdxTable table_;
   // Of the service at hand.
   int megahertz_ = 0;
   int satellite_ = 0;
@@ -167,7 +165,7 @@ class Maker {
 
 }  // namespace
 
-ServiceRows RowsOf(ServiceReader& reader, const ListOptions& options) { return Maker(options).Run(reader); }
+SdxTable RowsOf(ServiceReader& reader, const ListOptions& options) { return Maker(options).Run(reader); }
 
 int CodificaOf(const ListedService& service) {
   for (const int caid : service.caids) {

@@ -16,16 +16,10 @@ struct ListOptions : SdxOptions {
   bool keepHd = false;  // DVB-S2, modulations other than QPSK, H.264 and HEVC
 };
 
-struct ServiceRows {
-  SdxTable table;
-  // Services that nothing but their missing PIDs keeps out of the table, to compare a list with.
-  std::vector<SdxRow> withoutPids;
-};
-
 // All filters come before the count of the table's rows. Ends with the 4001st service that would be a row. What a service
 // does not say is absent ("65535") where it is a PID, empty where it is its rate, FEC or network, "00000" where it is its
 // stream; no PCR is the video's, or the audio's of a radio.
-ServiceRows RowsOf(ServiceReader& reader, const ListOptions& options);
+SdxTable RowsOf(ServiceReader& reader, const ListOptions& options);
 
 // The receiver's coding byte of a service: that of the first system it has one for, else that of free services.
 int CodificaOf(const ListedService& service);

@@ -29,7 +29,7 @@ std::vector<std::string> Texts(const std::vector<SdxRow>& rows) {
   return texts;
 }
 
-ServiceRows Rows(std::string_view channels, const ListOptions& options) {
+SdxTable Rows(std::string_view channels, const ListOptions& options) {
   VdrReader reader(channels);
   return RowsOf(reader, options);
 }
@@ -66,13 +66,13 @@ constexpr std::string_view Channels =
 }  // namespace
 
 TEST(ServiceRows, EachServiceIsARowOrHasItsReason) {
-  const ServiceRows rows = Rows(Channels, Free());
-  EXPECT_EQ(Texts(rows.table.rows), (Lines{"Uno TA 011766V+ 27500 3 163 650 1202 12003 1 00089 4",
-                                           "Radio RZ 010719H- 5632\\  65535 652 652 4435 0 65535 4"}));
+  const SdxTable rows = Rows(Channels, Free());
+  EXPECT_EQ(Texts(rows.rows), (Lines{"Uno TA 011766V+ 27500 3 163 650 1202 12003 1 00089 4",
+                                     "Radio RZ 010719H- 5632\\  65535 652 652 4435 0 65535 4"}));
   EXPECT_EQ(Texts(rows.withoutPids), (Lines{"Later TA 011766V+ 27500 3 65535 65535 65535 9 1 00001 4"}));
-  EXPECT_EQ(rows.table.lines, 17);
+  EXPECT_EQ(rows.lines, 17);
   EXPECT_EQ(
-      rows.table.dropped.Text(),
+      rows.dropped.Text(),
       "senza PID 1, codifica 1, senza nome 1, senza frequenza 1, polarizzazione non valida 1, numero non "
       "valido 1, non da satellite 1, DVB-S2 1, altre modulazioni 1, H.264/HEVC 2, polarizzazione circolare "
       "1, satellite non scelto 1, fuori banda 1, righe non valide 1");
@@ -83,7 +83,7 @@ TEST(ServiceRows, TheOptionsAreThoseOfASatcodxImport) {
     ListOptions options = Free();
     change(options);
     std::string names;
-    for (const SdxRow& row : Rows(Channels, options).table.rows) names.append(row.name).append(" ");
+    for (const SdxRow& row : Rows(Channels, options).rows) names.append(row.name).append(" ");
     return names;
   };
   EXPECT_EQ(taken([](ListOptions& options) { options.keepHd = true; }), "Uno Radio S2 8PSK HD HEVC ");
@@ -108,13 +108,13 @@ TEST(ServiceRows, FiltersComeBeforeTheFourThousand) {
   for (int i = 0; i < 4001; ++i) many.append(Channels);
   ListOptions options = Free();
   options.radio = false;
-  ServiceRows rows = Rows(many, options);
-  EXPECT_TRUE(rows.table.full);
-  EXPECT_EQ(rows.table.rows.size(), MostSdxRows);
+  SdxTable rows = Rows(many, options);
+  EXPECT_TRUE(rows.full);
+  EXPECT_EQ(rows.rows.size(), MostSdxRows);
   EXPECT_EQ(rows.withoutPids.size(), MostSdxRows);
-  EXPECT_EQ(rows.table.lines, rows.table.dropped.Total() + 4001);
+  EXPECT_EQ(rows.lines, rows.dropped.Total() + 4001);
   many.resize(many.size() - Channels.size());
-  EXPECT_FALSE(Rows(many, options).table.full);
+  EXPECT_FALSE(Rows(many, options).full);
 }
 
 TEST(ServiceRows, AFileWithoutPositionsHasTheSatelliteChosen) {
@@ -124,7 +124,7 @@ TEST(ServiceRows, AFileWithoutPositionsHasTheSatelliteChosen) {
   ListOptions options = Free();
   options.satellites.clear();
   options.satellite = 3;
-  const SdxTable table = RowsOf(reader, options).table;
+  const SdxTable table = RowsOf(reader, options);
   EXPECT_EQ(Texts(table.rows), (Lines{"Uno TD 011766H+   1 2 1 7  00000 4"}));
   EXPECT_EQ(table.lacking, (SdxFields{SdxField::Coding, SdxField::Pcr}));
   LamedbReader lamedb(
@@ -133,9 +133,9 @@ TEST(ServiceRows, AFileWithoutPositionsHasTheSatelliteChosen) {
       "s:8:00820000:1:2:2:0:0,\"Radio\",p:,c:000100,c:01028a\ns:9:00820000:1:2:1:0:0,\"Uno\",p:,c:01028a\n");
   options.satellites = {{130, 2}};
   options.data = true;
-  const ServiceRows rows = RowsOf(lamedb, options);
-  EXPECT_EQ(Texts(rows.table.rows), (Lines{"Dati SC 011766H+ 27500 3 65535 65535 65535 7 2 00001 4",
-                                           "Radio RC 011766H+ 27500 3 65535 650 650 8 2 00001 4"}));
+  const SdxTable rows = RowsOf(lamedb, options);
+  EXPECT_EQ(Texts(rows.rows), (Lines{"Dati SC 011766H+ 27500 3 65535 65535 65535 7 2 00001 4",
+                                     "Radio RC 011766H+ 27500 3 65535 650 650 8 2 00001 4"}));
   EXPECT_EQ(Texts(rows.withoutPids), (Lines{"Uno TC 011766H+ 27500 3 65535 650 65535 9 2 00001 4"}));
 }
 

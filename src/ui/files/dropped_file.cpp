@@ -2,7 +2,6 @@
 
 #include <QFileInfo>
 #include <QMimeData>
-#include <QStringList>
 #include <QUrl>
 
 namespace Ui {
@@ -14,10 +13,7 @@ DroppedFile FileIn(const QMimeData& data) {
   const QString name = files.front().fileName();
   if (!files.front().isLocalFile()) return {{}, {}, "Non aperto: " + name + " non è su questo computer"};
   if (file.isDir()) return {{}, {}, "Non aperto: " + file.fileName() + " è una cartella"};
-  const QString ending = file.suffix().toLower();
-  if (!QStringList{"dat", "sdx", "txt", "fls"}.contains(ending))
-    return {{}, {}, "Non aperto: " + name + " non è un file .dat, .sdx, .txt o .fls"};
-  return {file.filePath(), ending, {}};
+  return {file.filePath(), file.suffix().toLower(), {}};
 }
 
 }  // namespace Ui

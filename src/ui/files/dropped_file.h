@@ -1,4 +1,4 @@
-// What a file dropped on the window is good for, told by its ending.
+// The file that was dropped on the window.
 #pragma once
 
 #include <QString>
@@ -9,8 +9,8 @@ namespace Ui {
 
 struct DroppedFile {
   QString path;
-  QString ending;   // "dat", "sdx", "txt" or "fls"; empty where the file cannot be opened
-  QString refusal;  // why not
+  QString ending;   // in small letters; may be empty
+  QString refusal;  // why it cannot be opened, whatever it is; empty where it may be
 };
 
 DroppedFile FileIn(const QMimeData& data);

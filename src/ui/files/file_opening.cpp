@@ -1,7 +1,6 @@
 #include "ui/files/file_opening.h"
 
 #include "base/file.h"
-#include "ui/files/dropped_file.h"
 #include "ui/kit/text.h"
 
 #include <QFileInfo>
@@ -10,8 +9,14 @@
 namespace Ui {
 
 FileOpening::FileOpening(Session& session, FileCommands& files, ExchangeCommands& exchange, SdxCommands& sdx,
-                         RecentFiles& recent, Actions& actions)
-    : session_(session), files_(files), exchange_(exchange), sdx_(sdx), recent_(recent), actions_(actions) {
+                         ServiceListCommands& lists, RecentFiles& recent, Actions& actions)
+    : session_(session),
+      files_(files),
+      exchange_(exchange),
+      sdx_(sdx),
+      lists_(lists),
+      recent_(recent),
+      actions_(actions) {
   connect(&recent_, &RecentFiles::Chosen, this, &FileOpening::OpenRecent);
   files_.onOpened = [this](const std::string& path) { recent_.Add(PathText(path)); };
 }
@@ -46,20 +51,28 @@ void FileOpening::OpenRecent(const QString& path) {
 
 void FileOpening::Drop(const QMimeData& data) {
   // The drag's source waits for the drop; the questions come after it.
-  QTimer::singleShot(0, this, [this, file = FileIn(data)] {
-    const std::string path = PathBytes(file.path);
-    if (file.ending == "dat") {
-      OpenFlash(path);
-    } else if (file.ending == "sdx") {
-      if (actions_.Allows("SDX")) sdx_.Carica(path);
-    } else if (file.ending == "txt") {
-      if (actions_.Allows("DaEsportatoTesto")) exchange_.DaEsportatoTesto(path);
-    } else if (file.ending == "fls") {
-      if (actions_.Allows("DaEsportato")) exchange_.DaEsportato(path);
-    } else {
-      session_.status.ShowResult(file.refusal);
-    }
-  });
+  QTimer::singleShot(0, this, [this, file = FileIn(data)] { Open(file); });
+}
+
+// A text may be a list exported earlier or one of today: the latter is known for certain.
+void FileOpening::Open(const DroppedFile& file) {
+  const std::string path = PathBytes(file.path);
+  if (!file.refusal.isEmpty()) {
+    session_.status.ShowResult(file.refusal);
+  } else if (file.ending == "dat") {
+    OpenFlash(path);
+  } else if (file.ending == "sdx") {
+    if (actions_.Allows("SDX")) sdx_.Carica(path);
+  } else if (file.ending == "fls") {
+    if (actions_.Allows("DaEsportato")) exchange_.DaEsportato(path);
+  } else if (ServiceListCommands::Knows(path)) {
+    if (actions_.Allows("ImportaElenco")) lists_.Importa(path);
+  } else if (file.ending == "txt") {
+    if (actions_.Allows("DaEsportatoTesto")) exchange_.DaEsportatoTesto(path);
+  } else {
+    session_.status.ShowResult("Non aperto: " + PathText(Base::FileName(path)) +
+                               " non è un file .dat, .sdx, .txt o .fls, né una lista VDR, DVBv5 o Enigma2");
+  }
 }
 
 }  // namespace Ui

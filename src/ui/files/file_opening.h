@@ -2,11 +2,13 @@
 // among the recent ones, dropped on the window.
 #pragma once
 
+#include "ui/files/dropped_file.h"
 #include "ui/files/exchange_commands.h"
 #include "ui/files/file_commands.h"
 #include "ui/files/recent_files.h"
 #include "ui/session/session.h"
 #include "ui/sources/sdx_commands.h"
+#include "ui/sources/service_list_commands.h"
 
 #include <QObject>
 
@@ -19,14 +21,15 @@ class FileOpening : public QObject {
 
  public:
   FileOpening(Session& session, FileCommands& files, ExchangeCommands& exchange, SdxCommands& sdx,
-              RecentFiles& recent, Actions& actions);
+              ServiceListCommands& lists, RecentFiles& recent, Actions& actions);
 
   // As soon as the number of channels has been chosen.
   void OpenWhenChosen(const std::string& path);
-  // By the command that fits the file, once the drag is over.
+  // By the command that fits the file, once the drag is over: told by its ending, or by what is in it.
   void Drop(const QMimeData& data);
 
  private:
+  void Open(const DroppedFile& file);
   void OpenFlash(const std::string& path);
   void OpenRecent(const QString& path);
 
@@ -34,6 +37,7 @@ class FileOpening : public QObject {
   FileCommands& files_;
   ExchangeCommands& exchange_;
   SdxCommands& sdx_;
+  ServiceListCommands& lists_;
   RecentFiles& recent_;
   Actions& actions_;
 };

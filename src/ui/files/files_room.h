@@ -17,7 +17,7 @@ struct FilesRoom {
         exchange(session),
         print(session, sources.pane, window),
         recent(session.SettingsFile(), window),
-        opening(session, files, exchange, sources.sdx, recent, actions),
+        opening(session, files, exchange, sources.sdx, sources.lists, recent, actions),
         kept(session) {
     files.Connect(actions);
     exchange.Connect(actions);

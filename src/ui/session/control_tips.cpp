@@ -10,7 +10,7 @@ namespace Ui {
 namespace {
 
 // By control name; one that ends in an underscore stands for all that begin so.
-constexpr std::array<std::pair<const char*, const char*>, 42> Tips = {{
+constexpr std::array<std::pair<const char*, const char*>, 43> Tips = {{
     {"QuantiCanali_", "Quanti canali ha il ricevitore da cui viene la lista"},
     {"FlashScrittura_", "Il tipo del ricevitore in cui si scrive la lista"},
     {"SRDef_", "Dove il ricevitore tiene il symbol rate 22000 nella sua tabella"},
@@ -47,6 +47,7 @@ constexpr std::array<std::pair<const char*, const char*>, 42> Tips = {{
     {"Check1_", "Importa i canali di questo tipo"},
     {"Check3", "Filtri.txt è un elenco di coppie APID SID nella cartella del programma"},
     {"Chkfiltra", "Lascia fuori i canali che la propria lista ha già"},
+    {"TieniHD", "Tiene anche ciò che un ricevitore MPEG-2 DVB-S non mostra"},
     {"DallInizio", "Sovrascrive i canali dal numero 1 in poi"},
     {"DalCanale", "Sovrascrive i canali dal numero scritto sotto in poi"},
     {"NeiPostiVuoti", "Riempie i posti vuoti della lista, senza sovrascrivere nessun canale"},

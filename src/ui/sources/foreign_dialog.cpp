@@ -264,7 +264,7 @@ int ForeignDialog::Satellite() const { return SatelliteIn(*satellite_); }
 
 void ForeignDialog::Confirm() {
   if (satellite_->currentIndex() < 0) {
-    dialogs_.Message("Si deve specificare il codice da assegnare al satellite", {});
+    dialogs_.Message(NoSatelliteChosen, {});
     satellite_->setFocus();
     return;
   }

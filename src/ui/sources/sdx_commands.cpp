@@ -17,22 +17,6 @@ namespace {
 // A list of a million lines is some 130 MB.
 constexpr std::size_t LargestList = 256U << 20U;
 
-// Transport stream and service id of each loaded channel of a satellite, with its slot.
-std::vector<std::pair<std::pair<int, int>, int>> ServicesOn(const State& state, int satellite) {
-  std::vector<std::pair<std::pair<int, int>, int>> services;
-  for (int slot = 1; slot <= state.ChannelCount; ++slot) {
-    const auto& channel = state.Channel(slot);
-    const std::size_t number = Get(channel, Routines::ChannelField::Transponder);
-    if (channel.Empty() || number < 1 || static_cast<int>(number) > state.TransponderCount) continue;
-    const auto& transponder = state.Transponder(number).record;
-    if (static_cast<int>(Get(transponder, Routines::TransponderField::Satellite)) != satellite) continue;
-    services.push_back({{static_cast<int>(Get(transponder, Routines::TransponderField::Tid)),
-                         static_cast<int>(Get(channel, Routines::ChannelField::Sid))},
-                        slot});
-  }
-  return services;
-}
-
 // "3 righe fuori banda", which have no transponder they could stand on; empty for none.
 QString OutOfBandText(int rows) {
   return rows == 0 ? QString() : Counted(rows, "riga fuori banda", "righe fuori banda");
@@ -74,17 +58,9 @@ void SdxCommands::Load(const std::string& path) {
   }
   const std::string_view text = Base::AsText(*bytes);
   SdxOptionsDialog dialog(session_.bouquets.tables.satellites, Formats::EncryptionCodesOf(text),
-                          session_.dialogs, &window_);
+                          FiltersOf(session_), session_.dialogs, &window_);
   if (dialog.exec() != QDialog::Accepted) return;
-  Formats::SdxOptions options = dialog.Chosen();
-  if (dialog.UseFilterList()) {
-    const auto filter = Base::ReadFile(session_.programFolder + "/Filtri.txt", 1U << 20U);
-    if (filter) options.filtered = Formats::FilteredServices(Base::AsText(*filter));
-  }
-  if (dialog.SkipKnown()) {
-    for (const auto& [service, slot] : ServicesOn(session_.document.Tables(), options.satellite))
-      options.known.insert({options.satellite, service.first, service.second});
-  }
+  const Formats::SdxOptions options = dialog.Chosen();
   Formats::SdxTable table = Formats::ReadSatcodx(text, options);
   const QString name = CodePageText(Base::TrimmedRight(table.satelliteName));
   Show(std::move(table), name);
@@ -111,8 +87,8 @@ void SdxCommands::ListMissing(int satellite, std::string_view text) {
   const State& state = session_.document.Tables();
   const auto listed = Formats::ServicesOf(text);
   std::vector<int> missing;
-  for (const auto& [service, slot] : ServicesOn(state, satellite)) {
-    if (!listed.contains(service)) missing.push_back(slot);
+  for (const auto& [service, slot] : Formats::KnownServices(state)) {
+    if (service[0] == satellite && !listed.contains({service[1], service[2]})) missing.push_back(slot);
   }
   if (auto* earlier = window_.findChild<LinesWindow*>("ElencoNonInSDX")) earlier->close();
   if (missing.empty()) return;

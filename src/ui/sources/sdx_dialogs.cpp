@@ -6,7 +6,6 @@
 #include "ui/kit/text.h"
 #include "ui/session/control_tips.h"
 
-#include <QCheckBox>
 #include <QComboBox>
 #include <QDialogButtonBox>
 #include <QFormLayout>
@@ -19,9 +18,6 @@
 namespace Ui {
 namespace {
 
-constexpr int MostCodes = 10;
-constexpr const char* AllCodes = "Tutte";
-
 template <class Widget, class... Arguments>
 Widget* Named(const char* name, Arguments&&... arguments) {
   auto* widget = new Widget(std::forward<Arguments>(arguments)...);
@@ -31,46 +27,22 @@ Widget* Named(const char* name, Arguments&&... arguments) {
 
 }  // namespace
 
-void FillSatellites(QComboBox& box, const std::vector<Routines::Satellite>& satellites) {
-  for (const Routines::Satellite& satellite : satellites) {
-    box.addItem(CodePageText(satellite.name) + " " + CodePageText(satellite.label).toUpper());
-  }
-  for (char letter = 'A'; satellites.empty() && letter <= 'Z'; ++letter)
-    box.addItem(QString("SAT ") + letter);
-  box.setCurrentIndex(-1);
-}
-
-int SatelliteIn(const QComboBox& box) { return box.currentText().back().unicode() - 'A'; }
-
 SdxOptionsDialog::SdxOptionsDialog(const std::vector<Routines::Satellite>& satellites,
-                                   const std::vector<std::string>& codes, Dialogs& dialogs, QWidget* parent)
-    : QDialog(parent), dialogs_(dialogs), codes_(codes) {
+                                   const std::vector<std::string>& codes, RowFilters filters,
+                                   Dialogs& dialogs, QWidget* parent)
+    : QDialog(parent),
+      dialogs_(dialogs),
+      satellite_(Named<QComboBox>("Combo1", this)),
+      rows_(codes, std::move(filters), *this) {
   setObjectName("OpzioniImportSDX");
   setWindowTitle("Opzioni importazione SDX");
-  satellite_ = Named<QComboBox>("Combo1", this);
   FillSatellites(*satellite_, satellites);
+  for (const std::string& code : codes) rows_.List().addItem(CodePageText(code));
+  rows_.AddAllCodes();
 
   auto* form = new QFormLayout(this);
   form->addRow("Satellite da assegnare", satellite_);
-  const char* captions[] = {"Canali TV", "Canali radio", "Servizi dati"};
-  for (int i = 0; i < 3; ++i) {
-    types_[i] = Named<QCheckBox>("", captions[i], this);
-    types_[i]->setObjectName(QString("Check1_%1").arg(i));
-    types_[i]->setChecked(i < 2);
-    form->addRow(i == 0 ? "Importa" : "", types_[i]);
-  }
-  filterList_ = Named<QCheckBox>("Check3", "Salta i servizi elencati in Filtri.txt", this);
-  skipKnown_ = Named<QCheckBox>("Chkfiltra", "Salta i canali già in lista", this);
-  form->addRow("", filterList_);
-  form->addRow("", skipKnown_);
-  list_ = Named<QListWidget>("List1", this);
-  list_->setAccessibleName("Codifiche da importare");
-  list_->setSelectionMode(QAbstractItemView::MultiSelection);
-  KeepLines(*list_, 4);
-  for (const std::string& code : codes_) list_->addItem(CodePageText(code));
-  list_->addItem(AllCodes);
-  form->addRow("Codifiche da importare", list_);
-
+  rows_.AddTo(*form);
   auto* buttons = new QDialogButtonBox(this);
   auto* confirm = buttons->addButton(QDialogButtonBox::Ok);
   auto* cancel = buttons->addButton(QDialogButtonBox::Cancel);
@@ -83,13 +55,10 @@ SdxOptionsDialog::SdxOptionsDialog(const std::vector<Routines::Satellite>& satel
 }
 
 void SdxOptionsDialog::Confirm() {
-  const auto selected = list_->selectedItems().size();
   if (satellite_->currentIndex() < 0) {
-    dialogs_.Message("Si deve specificare il codice da assegnare al satellite", {});
-  } else if (selected > MostCodes) {
-    dialogs_.Message("Troppe codifiche selezionate", {});
-  } else if (selected == 0) {
-    dialogs_.Message("Non sono state selezionate codifiche da importare", {});
+    dialogs_.Message(NoSatelliteChosen, {});
+  } else if (const char* refusal = rows_.Refusal(); refusal != nullptr) {
+    dialogs_.Message(refusal, {});
   } else {
     accept();
   }
@@ -98,23 +67,9 @@ void SdxOptionsDialog::Confirm() {
 Formats::SdxOptions SdxOptionsDialog::Chosen() const {
   Formats::SdxOptions options;
   options.satellite = SatelliteIn(*satellite_);
-  options.television = types_[0]->isChecked();
-  options.radio = types_[1]->isChecked();
-  options.data = types_[2]->isChecked();
-  for (const QListWidgetItem* item : list_->selectedItems()) {
-    const auto row = static_cast<std::size_t>(list_->row(item));
-    if (row < codes_.size()) {
-      options.codes.push_back(codes_[row]);
-    } else {
-      options.allCodes = true;
-    }
-  }
+  rows_.Take(options);
   return options;
 }
-
-bool SdxOptionsDialog::UseFilterList() const { return filterList_->isChecked(); }
-
-bool SdxOptionsDialog::SkipKnown() const { return skipKnown_->isChecked(); }
 
 SdxImportDialog::SdxImportDialog(const Routines::State& state, int rows, const QString& others,
                                  QWidget* parent)

@@ -1,26 +1,20 @@
 // The boxes of the SatcoDX import: its options, and where a whole table goes.
 #pragma once
 
-#include "formats/satcodx.h"
 #include "model/bouquets.h"
 #include "model/routines.h"
 #include "ui/kit/dialogs.h"
+#include "ui/sources/row_choices.h"
 
 #include <QDialog>
 
-class QCheckBox;
 class QComboBox;
 class QLabel;
 class QLineEdit;
-class QListWidget;
 class QPushButton;
 class QRadioButton;
 
 namespace Ui {
-
-// The satellites that rows can be assigned to, by name and letter, none of them chosen; and the one chosen, 0 for A.
-void FillSatellites(QComboBox& box, const std::vector<Routines::Satellite>& satellites);
-int SatelliteIn(const QComboBox& box);
 
 // `OpzioniImportSDX`: which lines of a list become rows.
 class SdxOptionsDialog : public QDialog {
@@ -28,23 +22,16 @@ class SdxOptionsDialog : public QDialog {
 
  public:
   SdxOptionsDialog(const std::vector<Routines::Satellite>& satellites, const std::vector<std::string>& codes,
-                   Dialogs& dialogs, QWidget* parent);
+                   RowFilters filters, Dialogs& dialogs, QWidget* parent);
 
-  // The options but for the two filter lists, which the two switches ask for.
   [[nodiscard]] Formats::SdxOptions Chosen() const;
-  [[nodiscard]] bool UseFilterList() const;
-  [[nodiscard]] bool SkipKnown() const;
 
  private:
   void Confirm();
 
   Dialogs& dialogs_;
-  std::vector<std::string> codes_;  // of the list's entries, without "Tutte"
   QComboBox* satellite_;
-  QCheckBox* types_[3];
-  QCheckBox* filterList_;
-  QCheckBox* skipKnown_;
-  QListWidget* list_;
+  RowChoices rows_;
 };
 
 // `ImportazioneSDX`: into which slots a whole table is written. What that does to the list stands below the choice.

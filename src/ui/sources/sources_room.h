@@ -4,6 +4,7 @@
 #include "ui/sources/download_commands.h"
 #include "ui/sources/foreign_commands.h"
 #include "ui/sources/sdx_commands.h"
+#include "ui/sources/service_list_commands.h"
 
 namespace Ui {
 
@@ -13,16 +14,19 @@ struct SourcesRoom {
       : pane(listPane),
         sdx(session, pane, window),
         download(session, sdx, frame, window),
-        foreign(session, sdx, window) {
+        foreign(session, sdx, window),
+        lists(session, sdx, window) {
     sdx.Connect(actions);
     download.Connect(actions);
     foreign.Connect(actions);
+    lists.Connect(actions);
   }
 
   SdxPane& pane;
   SdxCommands sdx;
   DownloadCommands download;
   ForeignCommands foreign;
+  ServiceListCommands lists;
 };
 
 }  // namespace Ui

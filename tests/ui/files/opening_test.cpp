@@ -43,12 +43,15 @@ TEST_F(OpeningFiles, DroppedOnesOpenLikeTheirCommandsOrItIsSaidWhyNot) {
   const std::string raw = folder_.Path("lista.fls");
   Export("FormatoFLASH", raw);
   std::filesystem::create_directory(folder_.Path("cartella.dat"));
+  const std::string bouquet =
+      folder_.Write("preferiti.txt", "#NAME Miei\n#SERVICE 1:0:1:1:2:3:820000:0:0:0:\n");
   const auto file = [](const std::string& path) { return QUrl::fromLocalFile(PathText(path)); };
   const std::pair<QList<QUrl>, const char*> drops[] = {
       {{file(text)}, "lista.TXT: importati 11 canali, 1 codifica cambiata"},
       {{file(raw)}, "lista.fls: importati 11 canali"},
       {{file(flash_)}, "Non disponibile dopo l'importazione da formato FLASH: Annulla la toglie"},
-      {{file(folder_.Path("SR.INI"))}, "Non aperto: SR.INI non è un file .dat, .sdx, .txt o .fls"},
+      {{file(folder_.Path("SR.INI"))},
+       "Non aperto: SR.INI non è un file .dat, .sdx, .txt o .fls, né una lista VDR, DVBv5 o Enigma2"},
       {{file(folder_.Path("cartella.dat"))}, "Non aperto: cartella.dat è una cartella"},
       {{QUrl("http://127.0.0.1/lista.dat")}, "Non aperto: lista.dat non è su questo computer"},
       {{file(raw), file(text)}, "Non aperti: si trascina un file alla volta"}};
@@ -57,6 +60,10 @@ TEST_F(OpeningFiles, DroppedOnesOpenLikeTheirCommandsOrItIsSaidWhyNot) {
     EXPECT_EQ(Said(), told);
     EXPECT_EQ(window_->findChild<QMenu*>("FileRecenti")->isEnabled(), !List().FromFls) << told;
   }
+  driver_->ExpectMessage(
+      "preferiti.txt (Enigma2 userbouquet) contiene solo l'ordine dei canali, nessun dato dei canali");
+  Drop({file(bouquet)});
+  EXPECT_TRUE(driver_->Idle());
 }
 
 }  // namespace Ui

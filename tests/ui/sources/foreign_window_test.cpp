@@ -86,4 +86,53 @@ TEST_F(SmallWindow, AListOfAnotherProgramIsSettledOnceAndRemembered) {
   Tells("Digiquest", "Per Caricare un file SDX si deve visualizzare la griglia Canali");
 }
 
+TEST_F(Window, AListOfTodayBringsTheSatellitesOfItsPositions) {
+  const QString dialog = "Selezionare la lista da importare";
+  driver_->ExpectFile(dialog, PathText(flash_));
+  Tells("ImportaElenco", "demo.dat non è una lista VDR, DVBv5, zap o Enigma2 (lamedb)");
+
+  // A service on each transponder of satellite B.
+  std::string text;
+  for (int slot = 1; slot <= List().TransponderCount; ++slot) {
+    const Routines::TransponderRecord& record = List().Transponder(slot).record;
+    if (Get(record, Routines::TransponderField::Satellite) != 1) continue;
+    const bool horizontal = Get(record, Routines::TransponderField::Horizontal) != 0;
+    text += "Su " + std::to_string(slot) + ":" + std::to_string(FrequencyMHz(record)) +
+            (horizontal ? ":HC34S0" : ":VC34S0") + ":S19.2E:27500:1:2:0:0:" + std::to_string(slot) +
+            ":1:1:0\n";
+  }
+  const auto lines = std::count(text.begin(), text.end(), '\n');
+  text +=
+      "Criptato:11766:VC34S0:S13E:27500:1:2:0:100:7:1:1:0\nNuovo:11766:VS1:S19.2E:27500:1:2:0:0:8:1:1:0\n";
+  driver_->ExpectFile(dialog, PathText(folder_.Write("canali", text)));
+  driver_->ExpectDialog("Da lista VDR, DVBv5 o Enigma2", [&](QDialog& box) {
+    const auto* positions = box.findChild<QTableWidget*>("Posizioni");
+    EXPECT_EQ(positions->item(1, 0)->text() + " " + positions->item(1, 1)->text(), "13.0E 1");
+    auto* second = box.findChild<QComboBox*>("Satellite_192");
+    EXPECT_TRUE(second->currentText().endsWith("SAT B")) << second->currentText().toStdString();
+    EXPECT_EQ(box.findChild<QComboBox*>("Satellite_130")->currentText(), "non importare");
+    EXPECT_EQ(box.findChild<QLabel*>("Esito")->text(),
+              QString("%1 su %2 saranno presi; gli altri: DVB-S2 1, satellite non scelto 1.")
+                  .arg(lines)
+                  .arg(lines + 2));
+    second->setCurrentIndex(0);
+    driver_->ExpectMessage("Si deve specificare il codice da assegnare al satellite");
+    box.findChild<QPushButton*>("Command1")->click();
+    second->setCurrentIndex(2);
+    box.findChild<QComboBox*>("Satellite_130")->setCurrentIndex(1);
+    box.findChild<QCheckBox*>("TieniHD")->click();
+    auto* codings = box.findChild<QListWidget*>("List1");
+    EXPECT_EQ(codings->item(1)->text(), "24 Seca: 1 canale");
+    codings->item(1)->setSelected(true);
+    codings->item(2)->setSelected(false);
+    EXPECT_EQ(box.findChild<QLabel*>("Esito")->text(),
+              QString("1 su %1 sarà preso; gli altri: codifica %2.").arg(lines + 2).arg(lines + 1));
+    box.findChild<QPushButton*>("Command1")->click();
+  });
+  ASSERT_TRUE(driver_->Choose("ImportaElenco"));
+  EXPECT_EQ(Said(), "canali: lette " + std::to_string(lines + 2) + " righe, prese 1; scartate: codifica " +
+                        std::to_string(lines + 1));
+  EXPECT_EQ(driver_->TextOf("EtichettaSDX"), "SDX: canali");
+}
+
 }  // namespace Ui
