@@ -2,6 +2,7 @@
 // always hold is checked after every step.
 //   TROVALIS_MODEL_SECONDS=600  goes on with new seeds for that long
 //   TROVALIS_MODEL_SEED=7       begins with that one
+//   TROVALIS_MODEL_STEPS=10000  lets a sequence have so many steps
 #include "demo_sdx.h"
 #include "model/favourites.h"
 #include "model/flash_file.h"
@@ -376,10 +377,11 @@ TEST(Model, WhateverIsDoneTheWindowAndTheTablesAgree) {
   time.start();
   auto seed = static_cast<unsigned>(qEnvironmentVariableIntValue("TROVALIS_MODEL_SEED"));
   if (seed == 0) seed = seconds > 0 ? std::random_device{}() % 1000000 : 1;
+  const int steps = std::max(qEnvironmentVariableIntValue("TROVALIS_MODEL_STEPS"), 200);
   for (int played = 0; seconds > 0 ? time.elapsed() < seconds * 1000 : played < 3; ++played, ++seed) {
     std::cout << "seed " << seed << std::endl;  // a crash leaves this behind
     Play play(seed);
-    for (int step = 1; step <= 200; ++step)
+    for (int step = 1; step <= steps; ++step)
       ASSERT_EQ(play.Step(), "") << "seed " << seed << ", step " << step;
   }
 }
