@@ -3,6 +3,8 @@
 #include "base/file.h"
 #include "base/text.h"
 
+#include <cerrno>
+
 namespace Support {
 namespace {
 
@@ -45,7 +47,9 @@ Base::Result<SymbolRates> CaricaTabelleSR(const std::string& folder, Routines::S
   const auto bytes = Base::ReadFile(path, SizeLimit);
   const auto table = SymbolRatesOf(bytes ? Base::AsText(*bytes) : std::string_view{}, place);
   if (!table) return table.error();
-  return SymbolRates{*table, bytes ? "" : "File SR.INI non trovato: " + path};
+  if (bytes) return SymbolRates{*table, {}};
+  const bool absent = bytes.error().systemCode == ENOENT;
+  return SymbolRates{*table, absent ? "File SR.INI non trovato: " + path : bytes.error().message};
 }
 
 }  // namespace Support

@@ -18,8 +18,8 @@ Base::Result<std::string> SymbolRatesOf(std::string_view text, Routines::Sr22000
 
 struct SymbolRates {
   std::string table;
-  std::string
-      missing;  // sentence to show where the file is not there; the table has only the two usual rates then
+  // Sentence to show where the file is not there or cannot be read; the table has only the two usual rates then.
+  std::string missing;
 };
 
 // Reads SR.INI of the program's folder.

@@ -116,6 +116,8 @@ TEST(SrIni, AMissingFileLeavesTheTwoUsualRates) {
   EXPECT_EQ(SymbolRateText(rates->table, 3), "22000");
   folder.Write("SR.INI", "[INPUT]\n00=30000\n");
   EXPECT_EQ(CaricaTabelleSR(folder.Path(), Sr22000::Come0)->missing, "");
+  folder.Write("SR.INI", std::string((1U << 20U) + 1, '\n'));
+  EXPECT_EQ(CaricaTabelleSR(folder.Path(), Sr22000::Come0)->missing.find("non trovato"), std::string::npos);
 }
 
 }  // namespace Support
