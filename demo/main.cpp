@@ -320,7 +320,7 @@ class Session {
     if (auto* missing = window_->findChild<QDialog*>("ElencoNonInSDX")) missing->close();
     Step("satcodx list", chosen && window_->findChild<QWidget*>("GrigliaSDX")->isVisible(),
          driver_->TextOf("UltimoRisultato"));
-    window_->findChild<Ui::Grid*>("GrigliaSDX")->Select({7, 7});
+    window_->findChild<Ui::Grid*>("GrigliaSDX")->SelectRow(7);
     driver_->ExpectLine("Inserire la posizione in cui inserire Nuova Rete 1", "3");
     driver_->ExpectQuestion("Si desidera spostare i canali verso il basso?", true);
     const bool pressed = driver_->Press("Toolbar1_Copy_SDX");

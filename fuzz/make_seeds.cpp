@@ -139,7 +139,7 @@ std::string Sample(const std::string& path) {
 void AddRecovery(Seeds& seeds) {
   State state = ShortList();
   state.FavouritesBlock.resize(600);
-  Edit::Clipboard clipboard = Edit::CopyChannels(state, {3, 5});
+  Edit::Clipboard clipboard = Edit::CopyChannels(state, {3, 4, 5});
   const auto add = [&](const char* name, int paste, int spoilt) {
     const Base::Bytes file = Edit::EncodeRecovery(state, clipboard, {2, 1, 0});
     const std::string_view behind = Base::AsText(file).substr(RecoveryHeader + RecoveryTables);
@@ -147,7 +147,7 @@ void AddRecovery(Seeds& seeds) {
   };
   add("copied", 140, 255);
   add("damaged", 0, 25);
-  Edit::CutChannels(state, {3, 5}, clipboard);
+  Edit::CutChannels(state, {3, 4, 5}, clipboard);
   add("cut", 10, 255);
   state.ListNumber = 7;
   add("another-list", 0, 255);

@@ -242,10 +242,10 @@ Outcome EditChannel(State& state, int slot, int column, std::string_view typed) 
   return Done{};
 }
 
-Base::Result<int> EditChannels(State& state, Slots slots, int column, std::string_view typed) {
+Base::Result<int> EditChannels(State& state, const Slots& slots, int column, std::string_view typed) {
   int changed = 0;
-  for (int slot = slots.first; slot <= std::min(slots.last, state.ChannelCount); ++slot) {
-    if (state.Channel(slot).Empty()) continue;
+  for (const int slot : slots) {
+    if (slot > state.ChannelCount || state.Channel(slot).Empty()) continue;
     // What is wrong for one channel is wrong for the first.
     if (Outcome done = EditChannel(state, slot, column, typed); !done) return done.error();
     ++changed;

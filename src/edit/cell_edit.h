@@ -18,7 +18,7 @@ Base::Outcome EditTransponder(State& state, int slot, int column, std::string_vi
                               const Routines::BouquetTables& bouquets);
 
 // A column of all channels in `slots` that are not empty. Returns how many those are.
-Base::Result<int> EditChannels(State& state, Slots slots, int column, std::string_view typed);
+Base::Result<int> EditChannels(State& state, const Slots& slots, int column, std::string_view typed);
 
 // Codings that receivers know, as they are offered: "24 Seca".
 inline constexpr std::array<std::string_view, 6> Codings = {"04 Auto", "24 Seca", "44 Nagra",

@@ -35,23 +35,26 @@ bool LinkTransponder(State& state, ChannelRecord& channel, const Clipboard& clip
 
 }  // namespace
 
-Clipboard CopyChannels(const State& state, Slots slots) {
+Clipboard CopyChannels(const State& state, const Slots& slots) {
   Clipboard clipboard;
   clipboard.listNumber = state.ListNumber;
   clipboard.symbolRates = state.SymbolRateTable;
-  for (int slot = slots.first; slot <= slots.last; ++slot) {
+  for (const int slot : slots) {
     clipboard.channels.push_back(state.Channel(slot));
     clipboard.transponders.push_back(TransponderOf(state, clipboard.channels.back()));
   }
   return clipboard;
 }
 
-std::vector<LostFavourite> CutChannels(State& state, Slots slots, Clipboard& clipboard) {
-  std::vector<LostFavourite> lost = DeleteChannels(state, slots);
+std::vector<LostFavourite> CutChannels(State& state, const Slots& slots, Clipboard& clipboard) {
+  std::vector<LostFavourite> lost = DeleteSlots(state, slots);
   clipboard.wasCut = true;
   clipboard.cut = lost;
   if (!lost.empty()) clipboard.cutNumber = ++state.CutNumber;
-  for (LostFavourite& entry : clipboard.cut) entry.slot -= slots.first;
+  for (LostFavourite& entry : clipboard.cut) {
+    const auto at = std::lower_bound(slots.begin(), slots.end(), entry.slot);
+    entry.slot = static_cast<int>(at - slots.begin());
+  }
   return lost;
 }
 
@@ -82,10 +85,10 @@ Base::Result<PasteReport> Paste(State& state, const Clipboard& clipboard, int po
   return report;
 }
 
-std::string TabSeparated(const State& state, Slots slots) {
+std::string TabSeparated(const State& state, const Slots& slots) {
   constexpr int Columns = 11;
   std::string text;
-  for (int slot = slots.first; slot <= slots.last; ++slot) {
+  for (const int slot : slots) {
     for (int column = 0; column < Columns; ++column) {
       std::string cell(Base::TrimmedRight(ChannelCell(state, slot, column)));
       // A control byte of a name would begin another cell or line.

@@ -27,11 +27,11 @@ struct Clipboard {
   friend bool operator==(const Clipboard&, const Clipboard&) = default;
 };
 
-Clipboard CopyChannels(const State& state, Slots slots);
+Clipboard CopyChannels(const State& state, const Slots& slots);
 
 // Deletes the channels just copied and keeps which favourites went with them. They come back with the next paste,
 // unless the cut itself has been undone before.
-std::vector<LostFavourite> CutChannels(State& state, Slots slots, Clipboard& clipboard);
+std::vector<LostFavourite> CutChannels(State& state, const Slots& slots, Clipboard& clipboard);
 
 struct PasteReport {
   int withoutTransponder = 0;       // channels from another list whose transponder found no slot
@@ -49,6 +49,6 @@ Base::Result<PasteReport> Paste(State& state, const Clipboard& clipboard, int po
                                 const Routines::BouquetTables& bouquets);
 
 // The channels as lines of tab-separated cells, as a spreadsheet takes them; bytes of the code page.
-std::string TabSeparated(const State& state, Slots slots);
+std::string TabSeparated(const State& state, const Slots& slots);
 
 }  // namespace Edit

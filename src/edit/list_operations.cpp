@@ -4,6 +4,7 @@
 #include "base/text.h"
 
 #include <algorithm>
+#include <functional>
 #include <iterator>
 #include <numeric>
 
@@ -79,6 +80,21 @@ void ChangeSatellites(State& state, Change change) {
 
 }  // namespace
 
+Slots SlotRun(int first, int last) {
+  Slots slots(static_cast<std::size_t>(std::max(last - first + 1, 0)));
+  std::iota(slots.begin(), slots.end(), first);
+  return slots;
+}
+
+bool IsRun(const Slots& slots) {
+  return !slots.empty() && slots.back() - slots.front() + 1 == static_cast<int>(slots.size());
+}
+
+bool AreSlots(const State& state, const Slots& slots) {
+  const bool rising = std::adjacent_find(slots.begin(), slots.end(), std::greater_equal<>()) == slots.end();
+  return rising && !slots.empty() && slots.front() >= 1 && slots.back() <= state.ChannelCount;
+}
+
 std::vector<LostFavourite> Rearrange(State& state, const SlotMap& map) {
   const auto before = state.ChannelTable;
   for (int slot = 1; slot <= LastChannelSlot; ++slot) state.Channel(slot) = {};
@@ -88,7 +104,7 @@ std::vector<LostFavourite> Rearrange(State& state, const SlotMap& map) {
   return RenumberFavourites(state.FavouritesBlock, map);
 }
 
-std::vector<LostFavourite> DeleteSlots(State& state, const std::vector<int>& slots) {
+std::vector<LostFavourite> DeleteSlots(State& state, const Slots& slots) {
   SlotMap map = SameSlots();
   for (const int slot : slots) {
     map[slot] = 0;
@@ -100,12 +116,6 @@ std::vector<LostFavourite> DeleteSlots(State& state, const std::vector<int>& slo
     if (map[slot] != 0) map[slot] = next++;
   }
   return Rearrange(state, map);
-}
-
-std::vector<LostFavourite> DeleteChannels(State& state, Slots slots) {
-  std::vector<int> all(static_cast<std::size_t>(slots.Count()));
-  std::iota(all.begin(), all.end(), slots.first);
-  return DeleteSlots(state, all);
 }
 
 bool IsPosition(const State& state, int position, int count) {
@@ -133,21 +143,6 @@ Base::Result<std::vector<LostFavourite>> MakeRoom(State& state, int position, in
   const int last = LastOccupied(state);
   if (last >= position && last + count > state.ChannelCount) return Base::Error{std::string(InvalidPosition)};
   return ShiftDown(state, position, count);
-}
-
-void MoveChannels(State& state, Slots slots, int to) {
-  to = std::clamp(to, 1, state.ChannelCount - slots.Count() + 1);
-  SlotMap map = SameSlots();
-  for (int slot = std::min(to, slots.first); slot <= std::max(to + slots.Count() - 1, slots.last); ++slot) {
-    if (slot < slots.first) {
-      map[slot] = slot + slots.Count();
-    } else if (slot > slots.last) {
-      map[slot] = slot - slots.Count();
-    } else {
-      map[slot] = to + slot - slots.first;
-    }
-  }
-  Rearrange(state, map);
 }
 
 std::vector<LostFavourite> OrdinaPerBouquet(State& state, int start) {
@@ -213,22 +208,6 @@ int FindName(const State& state, std::string_view text, int from) {
     if (Base::UpperCase(state.Channel(slot).Name()).find(wanted) != std::string::npos) return slot;
   }
   return 0;
-}
-
-std::vector<int> MatchingSlots(const State& state, std::string_view text) {
-  std::vector<int> slots;
-  const std::string wanted = Base::UpperCase(text);
-  const auto value = static_cast<std::uint32_t>(Base::LeadingNumber(text));
-  const bool zero = text.find_first_not_of('0') == std::string_view::npos;
-  const bool number = Base::LeadingDigits(text) == text && (value != 0 || zero);  // one too large reads as 0
-  for (int slot = 1; slot <= state.ChannelCount && !text.empty(); ++slot) {
-    const ChannelRecord& channel = state.Channel(slot);
-    if (channel.Empty()) continue;
-    const bool byNumber = number && (Get(channel, ChannelField::Sid) == value ||
-                                     Get(channel, ChannelField::Transponder) == value);
-    if (byNumber || Base::UpperCase(channel.Name()).find(wanted) != std::string::npos) slots.push_back(slot);
-  }
-  return slots;
 }
 
 }  // namespace Edit

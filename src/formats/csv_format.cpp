@@ -83,12 +83,12 @@ std::string TransponderText(const State& state, int slot, int column) {
 
 }  // namespace
 
-std::string WriteChannelsCsv(const State& state, int first, int last) {
+std::string WriteChannelsCsv(const State& state, const std::vector<int>& slots) {
   std::vector<std::string> fields = Titles(ChannelHeader);
   const int columns = static_cast<int>(fields.size());
   for (const auto& detail : Details) fields.emplace_back(detail.title);
   std::string text = ByteOrderMark + Line(fields);
-  for (int slot = std::max(first, 1); slot <= std::min(last, state.ChannelCount); ++slot) {
+  for (const int slot : slots) {
     const ChannelRecord& channel = state.Channel(slot);
     if (channel.Empty()) continue;
     fields.clear();
@@ -105,11 +105,11 @@ std::string WriteChannelsCsv(const State& state, int first, int last) {
   return text;
 }
 
-std::string WriteTranspondersCsv(const State& state, int first, int last) {
+std::string WriteTranspondersCsv(const State& state, const std::vector<int>& slots) {
   std::vector<std::string> fields = Titles(TransponderHeader);
   const int columns = static_cast<int>(fields.size());
   std::string text = ByteOrderMark + Line(fields);
-  for (int slot = std::max(first, 1); slot <= std::min(last, state.TransponderCount); ++slot) {
+  for (const int slot : slots) {
     if (TransponderInUse(state, static_cast<std::uint32_t>(slot)) == nullptr) continue;
     fields.clear();
     for (int column = 0; column < columns; ++column) fields.push_back(TransponderText(state, slot, column));

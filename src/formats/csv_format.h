@@ -6,13 +6,14 @@
 #include "model/routines.h"
 
 #include <string>
+#include <vector>
 
 namespace Formats {
 
-// The channels in slots `first`..`last` of the list, each with the transponder it is on; empty slots are left out.
-std::string WriteChannelsCsv(const Routines::State& state, int first, int last);
+// The channels in some slots of the list, each with the transponder it is on; empty slots are left out.
+std::string WriteChannelsCsv(const Routines::State& state, const std::vector<int>& slots);
 
-// The transponders in slots `first`..`last`; free ones are left out.
-std::string WriteTranspondersCsv(const Routines::State& state, int first, int last);
+// The transponders in some slots; free ones are left out.
+std::string WriteTranspondersCsv(const Routines::State& state, const std::vector<int>& slots);
 
 }  // namespace Formats

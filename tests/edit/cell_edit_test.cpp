@@ -97,7 +97,8 @@ TEST_F(CellEdit, ChannelsTakeTheirCountAlongToAnotherTransponder) {
     EXPECT_EQ(ChannelBytes(ChannelColumn::Transponder, wrong), "refused") << wrong;
 
   Channel(7) = Samples::MakeChannel("Sette", 4, 1, 1, 1);
-  EXPECT_EQ(*EditChannels(state_, {5, 9}, ChannelColumn::Transponder, "3"), 2) << "empty slots stay empty";
+  EXPECT_EQ(*EditChannels(state_, SlotRun(5, 9), ChannelColumn::Transponder, "3"), 2)
+      << "empty slots stay empty";
   EXPECT_TRUE(Channel(6).Empty());
   EXPECT_EQ(Get(Transponder(3), TransponderField::ChannelCount), 2U);
   EXPECT_EQ(Get(Transponder(4), TransponderField::ChannelCount), 0U);

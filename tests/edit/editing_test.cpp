@@ -2,6 +2,7 @@
 #include "edit/changed_rows.h"
 #include "edit/clipboard.h"
 #include "edit/history.h"
+#include "edit/move.h"
 #include "edit/regroup.h"
 #include "image_builder.h"
 #include "model/favourites.h"
@@ -9,6 +10,7 @@
 
 #include <gtest/gtest.h>
 
+#include <functional>
 #include <memory>
 
 namespace Edit {
@@ -73,31 +75,39 @@ void ExpectSameFavourites(const State& before, const State& after) {
 }
 
 Slots RandomSlots(Junk& junk, const State& state) {
-  const int first = 1 + static_cast<int>(junk.Below(static_cast<std::size_t>(state.ChannelCount)));
-  return {first, std::min(first + static_cast<int>(junk.Below(9)), state.ChannelCount)};
+  Slots slots;
+  int slot = 1 + static_cast<int>(junk.Below(static_cast<std::size_t>(state.ChannelCount)));
+  do {
+    slots.push_back(slot);
+    slot += junk.Below(2) == 0 ? 1 : 1 + static_cast<int>(junk.Below(9));
+  } while (slot <= state.ChannelCount && junk.Below(6) != 0);
+  return slots;
 }
 
 // One random command; nothing where it was refused.
 void RandomCommand(Junk& junk, State& state, Clipboard& clipboard) {
   const Slots slots = RandomSlots(junk, state);
-  std::vector<LostFavourite> lost;
-  const std::size_t command = junk.Below(10);
-  if (command == 0) DeleteChannels(state, slots);
+  const std::size_t command = junk.Below(14);
+  if (command == 0) DeleteSlots(state, slots);
   if (command == 1) {
     clipboard = CopyChannels(state, slots);
     CutChannels(state, slots, clipboard);
   }
-  if (command == 2 && IsPosition(state, slots.first, clipboard.Count())) {
-    static_cast<void>(Paste(state, clipboard, slots.first, PasteWay::Move, {}));
+  if (command == 2 && IsPosition(state, slots.front(), clipboard.Count())) {
+    static_cast<void>(Paste(state, clipboard, slots.front(), PasteWay::Move, {}));
     clipboard = {};
   }
-  if (command == 3) MoveChannels(state, slots, RandomSlots(junk, state).first);
-  if (command == 4) OrdinaPerBouquet(state, slots.first);
-  if (command == 5) static_cast<void>(MakeRoom(state, slots.first, 2));
+  if (command == 3) MoveChannels(state, slots, RandomSlots(junk, state).front());
+  if (command == 4) OrdinaPerBouquet(state, slots.front());
+  if (command == 5) static_cast<void>(MakeRoom(state, slots.front(), 2));
   if (command == 6) InvertiSatelliti(state);
-  if (command == 7) Regroup(state, slots.first);
-  if (command == 8 && slots.last > 1) DeleteSlots(state, {slots.last, 1});
+  if (command == 7) Regroup(state, slots.front());
+  if (command == 8) StepChannels(state, slots, junk.Below(2) == 0 ? 1 : -1);
   if (command == 9) CanaliXTransponder(state);
+  if (command == 10) SwapChannels(state, slots.front(), slots.back());
+  if (command == 11) CloseGaps(state, slots);
+  if (command == 12) CloseGaps(state, SlotRun(slots.front(), LastOccupied(state)));
+  if (command == 13) static_cast<void>(InsertEmpty(state, slots));
 }
 
 // The sort as it is described: a plain exchange sort over the table's slots, then the gaps.
@@ -157,8 +167,8 @@ TEST(Editing, WhatAStepChangedIsShown) {
   State deleted = before;
   State moved = before;
   State renamed = before;
-  DeleteChannels(deleted, {2, 3});
-  MoveChannels(moved, {1, 1}, 3);
+  DeleteSlots(deleted, {2, 3});
+  MoveChannels(moved, {1}, 3);
   Channel(renamed, 5).bytes[0] = 'y';
   EXPECT_EQ(ChannelsToShow(before, deleted), std::vector{2});
   EXPECT_EQ(ChannelsToShow(deleted, before), std::vector({2, 3}));
@@ -193,11 +203,11 @@ TEST(Editing, NoOrderOfUndoAndRedoLosesACutChannel) {
         const Clipboard copied = clipboard;
         const Slots slots = RandomSlots(junk, *state);
         if (way == 2) {
-          MoveChannels(*state, slots, RandomSlots(junk, *state).first);
+          MoveChannels(*state, slots, RandomSlots(junk, *state).front());
         } else if (clipboard.Count() == 0) {
           clipboard = CopyChannels(*state, slots);
           CutChannels(*state, slots, clipboard);
-        } else if (Paste(*state, clipboard, slots.first, PasteWay::Move, {})) {
+        } else if (Paste(*state, clipboard, slots.front(), PasteWay::Move, {})) {
           clipboard = {};
         }
         if (*before != *state)
@@ -216,19 +226,149 @@ TEST(Editing, DeletingClosesTheListAndItsFavourites) {
   Channel(*state, 6) = {};
   SetFavouriteEntries(state->FavouritesBlock, 0, {5, 9, 4000, 6, 20, 7});
   Set(state->Transponder(3).record, TransponderField::ChannelCount, 1);
-  const auto lost = DeleteChannels(*state, {5, 7});
+  const auto lost = DeleteSlots(*state, {5, 6, 7});
   EXPECT_EQ(FavouriteEntriesOf(state->FavouritesBlock, 0), std::vector<int>({6, 4000, 17}));
   EXPECT_EQ(LostFavouritesText(state->FavouritesBlock, lost), "tolti 3 preferiti (lista 1 3)");
   EXPECT_EQ(Get(Channel(*state, 5), ChannelField::Sid), 8U);
   EXPECT_TRUE(Channel(*state, 40).Empty());
   EXPECT_EQ(Get(state->Transponder(3).record, TransponderField::ChannelCount), 0U) << "never below 0";
-  DeleteSlots(*state, {12, 1, 4});
+  DeleteSlots(*state, {1, 4, 12});
   EXPECT_EQ(Get(Channel(*state, 1), ChannelField::Sid), 2U);
   EXPECT_EQ(Get(Channel(*state, 10), ChannelField::Sid), 16U);
   EXPECT_EQ(LastOccupied(*state), 14);
   EXPECT_EQ(FavouriteEntriesOf(state->FavouritesBlock, 0), std::vector<int>({4, 4000, 14}));
-  DeleteChannels(*state, {1, 40});
+  DeleteSlots(*state, SlotRun(1, 40));
   EXPECT_EQ(LastOccupied(*state), 0);
+}
+
+// Ten slots with a channel for each letter, all of them favourites in their order; a dot is an empty slot.
+State Lettered(std::string_view letters) {
+  State state;
+  state.ChannelCount = static_cast<int>(letters.size());
+  state.FavouritesBlock.assign(NormalFavouritesSize, 0);
+  std::vector<int> entries;
+  for (std::size_t i = 0; i < letters.size(); ++i) {
+    if (letters[i] != '.')
+      Channel(state, static_cast<int>(i) + 1) = MakeChannel(letters.substr(i, 1), 1, 1, 1, 1);
+    entries.push_back(static_cast<int>(i) + 1);
+  }
+  SetFavouriteEntries(state.FavouritesBlock, 0, entries);
+  return state;
+}
+
+// The slots, and behind them the favourites that name a channel.
+std::string Letters(const State& state) {
+  const auto letter = [&](int slot) {
+    return state.Channel(slot).Empty() ? '.' : state.Channel(slot).Name().front();
+  };
+  std::string text;
+  for (int slot = 1; slot <= state.ChannelCount; ++slot) text += letter(slot);
+  text += ' ';
+  for (const int slot : FavouriteEntriesOf(state.FavouritesBlock, 0))
+    if (letter(slot) != '.') text += letter(slot);
+  return text;
+}
+
+TEST(Editing, ScatteredChannelsAreMovedExactlyAndTheirFavouritesToo) {
+  Clipboard clipboard;
+  const struct {
+    const char* before;
+    std::function<void(State&)> run;
+    const char* after;
+  } cases[] = {
+      {"abcd.efg..",
+       [](State& s) {
+         MoveChannels(s, {2, 4, 7}, 1);
+       },
+       "bdfac.eg.. abcdefg"},
+      {"abcd.efg..",
+       [](State& s) {
+         MoveChannels(s, {2, 4, 7}, 4);
+       },
+       "ac.bdfeg.. abcdefg"},
+      {"abcd.efg..",
+       [](State& s) {
+         MoveChannels(s, {2, 4, 7}, 99);
+       },
+       "ac.eg..bdf abcdefg"},
+      {"abcd.efg..",
+       [](State& s) {
+         MoveChannels(s, {1, 2}, TargetBefore({1, 2}, 4));
+       },
+       "cabd.efg.. abcdefg"},
+      {"abcd.efg..",
+       [](State& s) {
+         MoveChannels(s, {2, 7}, TargetBefore({2, 7}, 4));
+       },
+       "acbfd.eg.. abcdefg"},
+      {"abcd.efg..",
+       [](State& s) {
+         MoveChannels(s, {2, 3}, TargetBefore({2, 3}, 3));
+       },
+       "abcd.efg.. abcdefg"},
+      {"abcd.efg..",
+       [](State& s) {
+         StepChannels(s, {2, 4, 7}, -1);
+       },
+       "badc.feg.. abcdefg"},
+      {"abcd.efg..",
+       [](State& s) {
+         StepChannels(s, {2, 3, 7}, 1);
+       },
+       "adbc.egf.. abcdefg"},
+      {"abcd.efg..",
+       [](State& s) {
+         EXPECT_FALSE(StepChannels(s, {1, 3}, -1));
+       },
+       "abcd.efg.. abcdefg"},
+      {"abcd.efg.x",
+       [](State& s) {
+         EXPECT_FALSE(StepChannels(s, {3, 10}, 1));
+       },
+       "abcd.efg.x abcdefgx"},
+      {"abcd.efg..", [](State& s) { SwapChannels(s, 1, 8); }, "gbcd.efa.. abcdefg"},
+      {"abcd.efg..", [](State& s) { SwapChannels(s, 2, 5); }, "a.cdbefg.. abcdefg"},
+      {"a..b.c.d.e",
+       [](State& s) {
+         CloseGaps(s, {2, 4, 5, 7, 8});
+       },
+       "ab.d.c...e abcde"},
+      {"a..b.c.d.e", [](State& s) { CloseGaps(s, SlotRun(3, 10)); }, "a.bcde.... abcde"},
+      {"a..b.c.d.e",
+       [](State& s) {
+         EXPECT_TRUE(CloseGaps(s, {1, 4}).empty());
+       },
+       "a..b.c.d.e abcde"},
+      {"a..b.c.d.e",
+       [](State& s) {
+         EXPECT_EQ(CloseGaps(s, {2, 3, 4}).size(), 2U);
+       },
+       "ab...c.d.e abcde"},
+      {"abcdef....",
+       [&](State& s) {
+         EXPECT_EQ(InsertEmpty(s, {2, 3, 5})->rows, Slots({2, 3, 7}));
+       },
+       "a..bcd.ef. abcdef"},
+      {"abcdef....", [&](State& s) { EXPECT_FALSE(InsertEmpty(s, SlotRun(1, 5))); }, "abcdef.... abcdef"},
+      {"abcd.efg..",
+       [&](State& s) {
+         DeleteSlots(s, {1, 4, 5, 8});
+       },
+       "bcef...... bcef"},
+      {"abcd.efg..",
+       [&](State& s) {
+         clipboard = CopyChannels(s, {2, 4, 7});
+         CutChannels(s, {2, 4, 7}, clipboard);
+         EXPECT_EQ(Letters(s), "ac.eg..... aceg");
+         EXPECT_TRUE(Paste(s, clipboard, 2, PasteWay::Move, {}));
+       },
+       "abdfc.eg.. abcdefg"},
+  };
+  for (const auto& [before, run, after] : cases) {
+    State state = Lettered(before);
+    run(state);
+    EXPECT_EQ(Letters(state), after);
+  }
 }
 
 TEST(Editing, CutAndPasteGivesFavouritesBackAndKeepsToTheLimit) {
@@ -236,8 +376,8 @@ TEST(Editing, CutAndPasteGivesFavouritesBackAndKeepsToTheLimit) {
   auto state = RandomList(junk, 100);
   Channel(*state, 97) = MakeChannel("ultimo", 1, 97, 1, 1);
   const State before = *state;
-  Clipboard clipboard = CopyChannels(*state, {10, 20});
-  CutChannels(*state, {10, 20}, clipboard);
+  Clipboard clipboard = CopyChannels(*state, SlotRun(10, 20));
+  CutChannels(*state, SlotRun(10, 20), clipboard);
   ASSERT_TRUE(Paste(*state, clipboard, 10, PasteWay::Move, {}));
   EXPECT_EQ(state->ChannelTable, before.ChannelTable);
   EXPECT_EQ(state->FavouritesBlock, before.FavouritesBlock);
@@ -247,7 +387,7 @@ TEST(Editing, CutAndPasteGivesFavouritesBackAndKeepsToTheLimit) {
 
   *state = before;
   EXPECT_TRUE(IsPosition(*state, 95, 5) && !IsPosition(*state, 96, 5) && !IsPosition(*state, 0, 5));
-  clipboard = CopyChannels(*state, {1, 4});
+  clipboard = CopyChannels(*state, SlotRun(1, 4));
   const auto refused = Paste(*state, clipboard, 50, PasteWay::Move, {});
   ASSERT_FALSE(refused);
   EXPECT_EQ(refused.error().message, "Posizione di inserimento invalida");
@@ -266,7 +406,7 @@ TEST(Editing, ChannelsOfAnotherListFindTheirTransponders) {
   from->SymbolRateTable = to->SymbolRateTable = EmptySymbolRateTable();
   for (auto& [table, code] : {std::pair(&from->SymbolRateTable, 1), std::pair(&to->SymbolRateTable, 3)})
     SetSymbolRate(*table, static_cast<std::size_t>(code), "22000");
-  const Clipboard clipboard = CopyChannels(*from, {1, 3});
+  const Clipboard clipboard = CopyChannels(*from, SlotRun(1, 3));
   to->ListNumber = 9;
   to->ChannelCount = 50;
   to->TransponderCount = 3;
@@ -345,13 +485,8 @@ TEST(Editing, NamesAreFoundWhateverTheirCase) {
   State state;
   state.ChannelCount = 5;
   Channel(state, 2) = MakeChannel("Citt\xE0 \x9C", 12, 300, 1, 1);
-  Channel(state, 4) = MakeChannel("12 stelle", 3, 12, 1, 1);
   EXPECT_EQ(FindName(state, "TT\xC0 \x8C", 1), 2);
   EXPECT_EQ(FindName(state, "tt\xE0", 3), 0);
-  EXPECT_EQ(MatchingSlots(state, "12"), std::vector<int>({2, 4}));
-  EXPECT_EQ(MatchingSlots(state, "300"), std::vector<int>({2}));
-  EXPECT_EQ(MatchingSlots(state, "30"), std::vector<int>());
-  EXPECT_EQ(MatchingSlots(state, "70000"), std::vector<int>());
 }
 
 TEST(History, UndoingAnEditKeepsTheOutputAndUndoingALoadGivesItBack) {

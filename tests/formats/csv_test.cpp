@@ -25,11 +25,11 @@ TEST(Csv, FieldsStayOneTextWhateverTheyHold) {
   const std::string first =
       "0001;Città;002;7;512;65535;65535;65535;512;A4;S;11013;H;22000;3⁄4;SAT B;\"Reti; "
       "\"\"Città\"\"\";318;10\r\n";
-  EXPECT_EQ(WriteChannelsCsv(*state, 1, 9), header + first + "0003;'=1+1" + details + "0004;' @a" + details +
-                                                "0005;\"a;\"\"b\"\"\"" + details + "0006;a  b" + details +
-                                                "0007;'24/7" + details + "0008;105" + details);
-  EXPECT_EQ(WriteChannelsCsv(*state, 1, 2), header + first);
-  EXPECT_EQ(WriteTranspondersCsv(*state, 1, 2),
+  EXPECT_EQ(WriteChannelsCsv(*state, {1, 2, 3, 4, 5, 6, 7, 8, 9}),
+            header + first + "0003;'=1+1" + details + "0004;' @a" + details + "0005;\"a;\"\"b\"\"\"" +
+                details + "0006;a  b" + details + "0007;'24/7" + details + "0008;105" + details);
+  EXPECT_EQ(WriteChannelsCsv(*state, {1, 2}), header + first);
+  EXPECT_EQ(WriteTranspondersCsv(*state, {1, 2}),
             "\xEF\xBB\xBFNum.;Frequenza;TID;NID;Canali;SR;FEC;Polarizzazione;22KHz;Satellite;Bouquet\r\n"
             "002;11013;318;10;0;22000;3⁄4;H;Off;SAT B;\"Reti; \"\"Città\"\"\"\r\n");
 }

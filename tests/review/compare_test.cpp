@@ -1,5 +1,5 @@
 // Comparing two lists, and taking over what the other one has without losing a channel or a favourite.
-#include "edit/list_operations.h"
+#include "edit/move.h"
 #include "edit/take_over.h"
 #include "image_builder.h"
 #include "model/favourites.h"
@@ -76,7 +76,7 @@ const struct Change {
      "6 canali hanno un altro numero nello stesso ordine"},
     {"one channel moved to the end",
      [](State& s) {
-       MoveChannels(s, {1, 1}, 6);
+       MoveChannels(s, {1}, 6);
      },
      "1>6 Moved: ; 5 canali hanno un altro numero nello stesso ordine"},
     {"one deleted, one added",

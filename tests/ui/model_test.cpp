@@ -155,8 +155,13 @@ class Play {
   void SelectRows() {
     const int rows = Grid().model() == nullptr ? 0 : Grid().model()->rowCount();
     if (rows == 0) return;
-    const int first = 1 + random_.Below(random_.Chance(70) ? std::min(rows, 40) : rows);
-    Grid().Select({first, std::min(rows, first + random_.Below(random_.Chance(90) ? 6 : rows))});
+    Edit::Slots slots;
+    for (int row = 1 + random_.Below(random_.Chance(70) ? std::min(rows, 40) : rows); row <= rows;) {
+      slots.push_back(row);
+      if (random_.Chance(20)) break;
+      row += random_.Chance(70) ? 1 : 1 + random_.Below(rows);
+    }
+    Grid().Select(slots);
   }
 
   // Leaves the editor open at times: the next command has to cope with it.
@@ -209,8 +214,9 @@ class Play {
   void Drop() {
     QMimeData data;
     const int first = random_.Below(80);
-    const QString rows =
-        QString("%1 %2").arg(first).arg(first + random_.Below(random_.Chance(90) ? 5 : 5000));
+    QString rows = QString::number(first);
+    while (random_.Chance(70))
+      rows += " " + QString::number(first + random_.Below(random_.Chance(90) ? 10 : 5000));
     auto* lists = window_->findChild<QDialog*>("ListePreferiti");
     if (random_.Chance(50)) lists = nullptr;
     const QString entries = QString::number(random_.Below(9)) + " 0 " + rows;

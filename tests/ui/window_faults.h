@@ -82,7 +82,8 @@ class Faults {
     const QAbstractItemModel& model = *Grid().model();
     if (model.rowCount() != (channels ? tables_.ChannelCount : tables_.TransponderCount))
       return "rows of the grid";
-    if (const auto rows = Grid().Selected(); rows && (rows->first < 1 || rows->last > model.rowCount()))
+    if (const auto rows = Grid().Selected();
+        !rows.empty() && (rows.front() < 1 || rows.back() > model.rowCount()))
       return "selection";
     const int last = Grid().rowAt(Grid().viewport()->height() - 1);
     for (int row = std::max(Grid().rowAt(0), 0); row <= (last < 0 ? model.rowCount() - 1 : last); ++row) {

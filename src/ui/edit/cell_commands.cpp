@@ -1,6 +1,7 @@
 #include "ui/edit/cell_commands.h"
 
 #include "edit/cell_edit.h"
+#include "edit/move.h"
 #include "ui/kit/text.h"
 
 namespace Ui {
@@ -124,8 +125,8 @@ QString CellCommands::Take(const QModelIndex& cell, const QString& typed) {
   return {};
 }
 
-std::optional<Edit::Slots> CellCommands::Rows() const {
-  return Channels() ? session_.view.ListGrid().Selected() : std::nullopt;
+Edit::Slots CellCommands::Rows() const {
+  return Channels() ? session_.view.ListGrid().Selected() : Edit::Slots();
 }
 
 void CellCommands::Rename() {
@@ -137,28 +138,28 @@ void CellCommands::Rename() {
 }
 
 void CellCommands::InsertRows() {
-  const auto rows = Rows();
-  if (!rows) return;
-  const std::string label = rows->Count() == 1
-                                ? "Inserisci riga vuota"
-                                : "Inserisci " + std::to_string(rows->Count()) + " righe vuote";
-  const auto lost = session_.document.Apply(
-      label, [&](State& state) { return Edit::MakeRoom(state, rows->first, rows->Count()); });
-  if (!lost) {
-    session_.Message(lost.error());
+  const Edit::Slots rows = Rows();
+  if (rows.empty()) return;
+  const std::string label =
+      rows.size() == 1 ? "Inserisci riga vuota" : "Inserisci " + std::to_string(rows.size()) + " righe vuote";
+  const auto inserted =
+      session_.document.Apply(label, [&](State& state) { return Edit::InsertEmpty(state, rows); });
+  if (!inserted) {
+    session_.Message(inserted.error());
     return;
   }
-  session_.view.ListGrid().Select(*rows);
-  session_.status.ShowResult(Text(label) + QString(" al %1").arg(rows->first) + session_.Losses(*lost));
+  session_.view.ListGrid().Select(inserted->rows);
+  session_.status.ShowResult(Text(label) + QString(" al %1").arg(rows.front()) +
+                             session_.Losses(inserted->lost));
 }
 
 void CellCommands::SetColumn(int column, const QString& value) {
-  const auto rows = Rows();
-  if (!rows) return;
+  const Edit::Slots rows = Rows();
+  if (rows.empty()) return;
   const std::string label =
       Title(*session_.view.ListGrid().model(), column, true) + " " + value.toStdString();
   const auto changed = session_.document.Apply(
-      label, [&](State& state) { return Edit::EditChannels(state, *rows, column, value.toStdString()); });
+      label, [&](State& state) { return Edit::EditChannels(state, rows, column, value.toStdString()); });
   if (!changed) {
     session_.Message(changed.error());
     return;
@@ -167,38 +168,39 @@ void CellCommands::SetColumn(int column, const QString& value) {
 }
 
 void CellCommands::AskTransponder() {
-  const auto rows = Rows();
-  if (!rows) return;
+  const Edit::Slots rows = Rows();
+  if (rows.empty()) return;
   const State& state = session_.document.Tables();
   const QStringList choices = Texts(Edit::TransponderChoices(state));
   if (choices.isEmpty()) {
     session_.status.ShowResult("La lista non ha transponder");
     return;
   }
-  const QString now = Text(Routines::ChannelCell(state, rows->first, Routines::ChannelColumn::Transponder));
+  const QString now = Text(Routines::ChannelCell(state, rows.front(), Routines::ChannelColumn::Transponder));
   const auto at = std::find_if(choices.begin(), choices.end(),
                                [&](const QString& choice) { return choice.startsWith(now + ' '); });
   const auto chosen = session_.dialogs.Choose(
-      rows->Count() == 1 ? QString("Transponder del canale %1").arg(rows->first)
-                         : QString("Transponder dei canali da %1 a %2").arg(rows->first).arg(rows->last),
+      rows.size() == 1    ? QString("Transponder del canale %1").arg(rows.front())
+      : Edit::IsRun(rows) ? QString("Transponder dei canali da %1 a %2").arg(rows.front()).arg(rows.back())
+                          : QString("Transponder di %1 canali").arg(rows.size()),
       choices, now.isEmpty() || at == choices.end() ? 0 : static_cast<int>(at - choices.begin()));
   if (chosen) SetColumn(Routines::ChannelColumn::Transponder, choices[*chosen].section(' ', 0, 0));
 }
 
 void CellCommands::AskCoding() {
-  if (!Rows()) return;
+  if (Rows().empty()) return;
   const auto answer = session_.dialogs.AskLine("Inserire la codifica, due cifre esadecimali");
   if (answer && !answer->isEmpty()) SetColumn(Flags, answer->trimmed());
 }
 
 void CellCommands::GoToTransponder() {
-  const auto rows = Rows();
-  if (!rows) return;
+  const Edit::Slots rows = Rows();
+  if (rows.empty()) return;
   const State& state = session_.document.Tables();
-  const auto& channel = state.Channel(rows->first);
+  const auto& channel = state.Channel(rows.front());
   const int number = static_cast<int>(Get(channel, Routines::ChannelField::Transponder));
   if (channel.Empty() || number < 1 || number > state.TransponderCount) {
-    session_.status.ShowResult(QString("Il canale %1 non ha un transponder nella lista").arg(rows->first));
+    session_.status.ShowResult(QString("Il canale %1 non ha un transponder nella lista").arg(rows.front()));
     return;
   }
   session_.view.GoToRow(View::Transponders, number);

@@ -16,7 +16,7 @@ class CellCommands : public CellEdits {
 
   // Opens the editor of the current row's name.
   void Rename();
-  // Puts as many empty rows as are selected in front of them.
+  // Puts an empty row in front of each run of selected rows for every row in it.
   void InsertRows();
   // Sets a column of the selected channels; those for a transponder and another coding ask for it.
   void SetColumn(int column, const QString& value);
@@ -27,7 +27,8 @@ class CellCommands : public CellEdits {
 
  private:
   [[nodiscard]] bool Channels() const { return session_.view.Current() == View::Channels; }
-  [[nodiscard]] std::optional<Edit::Slots> Rows() const;
+  // The selected channels; none while another list is shown.
+  [[nodiscard]] Edit::Slots Rows() const;
 
   Session& session_;
 };

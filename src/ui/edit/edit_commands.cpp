@@ -2,6 +2,7 @@
 
 #include "base/text.h"
 #include "edit/changed_rows.h"
+#include "edit/move.h"
 #include "ui/kit/text.h"
 
 #include <QAction>
@@ -15,7 +16,7 @@ using Routines::State;
 
 namespace {
 
-std::string CountText(int count) { return Base::Counted(count, "canale", "canali"); }
+std::string CountText(std::integral auto count) { return Base::Counted(count, "canale", "canali"); }
 
 }  // namespace
 
@@ -31,7 +32,7 @@ void EditCommands::Connect(Actions& actions) {
   actions.Connect("SpostaA", [this] { SpostaA(); });
   session_.onChange.emplace_back([this, &actions] { ShowSteps(actions); });
   QObject::connect(&session_.view, &ListView::Dropped, &session_.view,
-                   [this](int first, int last, int before, bool copy) { Drop(first, last, before, copy); });
+                   [this](const Slots& slots, int before, bool copy) { Drop(slots, before, copy); });
 }
 
 void EditCommands::ShowSteps(Actions& actions) {
@@ -42,9 +43,9 @@ void EditCommands::ShowSteps(Actions& actions) {
   name("Ripeti", session_.document.Steps().RedoLabel());
 }
 
-std::optional<Slots> EditCommands::SelectedChannels() {
-  const auto slots = session_.view.ListGrid().Selected();
-  if (!slots) session_.dialogs.Message("Nessun canale selezionato", {});
+Slots EditCommands::SelectedChannels() {
+  Slots slots = session_.view.ListGrid().Selected();
+  if (slots.empty()) session_.dialogs.Message("Nessun canale selezionato", {});
   return slots;
 }
 
@@ -53,39 +54,39 @@ bool EditCommands::MayReplaceClipboard() {
          session_.dialogs.YesNo("Esistono Canali Copiati e non ancora Scaricati - Continuo?");
 }
 
-void EditCommands::GiveToOthers(Slots slots) {
+void EditCommands::GiveToOthers(const Slots& slots) {
   QApplication::clipboard()->setText(CodePageText(Edit::TabSeparated(session_.document.Tables(), slots)));
 }
 
 void EditCommands::Copy() {
-  const auto slots = SelectedChannels();
-  if (!slots || !MayReplaceClipboard()) return;
-  GiveToOthers(*slots);
-  session_.document.Copy(Edit::CopyChannels(session_.document.Tables(), *slots));
+  const Slots slots = SelectedChannels();
+  if (slots.empty() || !MayReplaceClipboard()) return;
+  GiveToOthers(slots);
+  session_.document.Copy(Edit::CopyChannels(session_.document.Tables(), slots));
   session_.ShowList();
-  session_.status.ShowResult("Copia " + Text(CountText(slots->Count())));
+  session_.status.ShowResult("Copia " + Text(CountText(slots.size())));
 }
 
 void EditCommands::Cut() {
-  const auto slots = SelectedChannels();
-  if (!slots || !MayReplaceClipboard()) return;
-  GiveToOthers(*slots);
-  const std::string label = "Taglia " + CountText(slots->Count());
+  const Slots slots = SelectedChannels();
+  if (slots.empty() || !MayReplaceClipboard()) return;
+  GiveToOthers(slots);
+  const std::string label = "Taglia " + CountText(slots.size());
   const auto lost = session_.document.Apply(label, [&](State& state, Edit::Clipboard& clipboard) {
-    clipboard = Edit::CopyChannels(state, *slots);
-    return Edit::CutChannels(state, *slots, clipboard);
+    clipboard = Edit::CopyChannels(state, slots);
+    return Edit::CutChannels(state, slots, clipboard);
   });
-  session_.view.ListGrid().Select({slots->first, slots->first});
+  session_.view.ListGrid().SelectRow(slots.front());
   session_.status.ShowResult(Text(label) + session_.Losses(lost));
 }
 
 void EditCommands::Delete() {
-  const auto slots = SelectedChannels();
-  if (!slots) return;
-  const std::string label = "Elimina " + CountText(slots->Count());
+  const Slots slots = SelectedChannels();
+  if (slots.empty()) return;
+  const std::string label = "Elimina " + CountText(slots.size());
   const auto lost =
-      session_.document.Apply(label, [&](State& state) { return Edit::DeleteChannels(state, *slots); });
-  session_.view.ListGrid().Select({slots->first, slots->first});
+      session_.document.Apply(label, [&](State& state) { return Edit::DeleteSlots(state, slots); });
+  session_.view.ListGrid().SelectRow(slots.front());
   session_.status.ShowResult(Text(label) + session_.Losses(lost));
 }
 
@@ -124,7 +125,7 @@ void EditCommands::Paste() {
 }
 
 void EditCommands::TellPasted(int count, int position, const Edit::PasteReport& report) {
-  session_.view.ListGrid().Select({position, position + count - 1});
+  session_.view.ListGrid().Select(Edit::SlotRun(position, position + count - 1));
   session_.view.ListGrid().ScrollToTop(position);
   QString text = "Incolla " + Text(CountText(count)) + QString(" dal %1").arg(position);
   if (report.favouritesBack > 0) text += QString(", preferiti rimessi: %1").arg(report.favouritesBack);
@@ -135,59 +136,70 @@ void EditCommands::TellPasted(int count, int position, const Edit::PasteReport& 
   session_.status.ShowResult(text);
 }
 
-void EditCommands::Move(Slots slots, int to) {
+void EditCommands::Move(const Slots& slots, int to) {
   Document& document = session_.document;
-  to = std::clamp(to, 1, document.Tables().ChannelCount - slots.Count() + 1);
-  if (to == slots.first) return;
-  const std::string label = "Sposta " + CountText(slots.Count());
-  // Rows that go on from where a move has just put them make one step with it.
-  const bool continues = movedTo_ == slots.first && document.Steps().UndoLabel() == label;
-  document.Apply(
-      label, [&](State& tables) { Edit::MoveChannels(tables, slots, to); },
-      continues ? Edit::History::Kind::Continued : Edit::History::Kind::Edit);
-  movedTo_ = to;
-  session_.view.ListGrid().Select({to, to + slots.Count() - 1});
-  session_.status.ShowResult(Text(label) + QString(" al %1").arg(to));
+  const int count = static_cast<int>(slots.size());
+  to = std::clamp(to, 1, document.Tables().ChannelCount - count + 1);
+  document.Apply("Sposta " + CountText(slots.size()),
+                 [&](State& tables) { return Edit::MoveChannels(tables, slots, to); });
+  Moved(Edit::SlotRun(to, to + count - 1));
+}
+
+void EditCommands::Moved(const Slots& slots) {
+  moved_ = slots;
+  session_.view.ListGrid().Select(slots);
+  session_.status.ShowResult("Sposta " + Text(CountText(slots.size())) +
+                             QString(" al %1").arg(slots.front()));
 }
 
 void EditCommands::MoveBy(int rows) {
-  const auto slots = SelectedChannels();
-  if (slots) Move(*slots, slots->first + rows);
+  Slots slots = SelectedChannels();
+  if (slots.empty()) return;
+  Document& document = session_.document;
+  const std::string label = "Sposta " + CountText(slots.size());
+  // Rows that go on from where a move has just put them make one step with it.
+  const bool continues = moved_ == slots && document.Steps().UndoLabel() == label;
+  const bool moved = document.Apply(
+      label, [&](State& tables) { return Edit::StepChannels(tables, slots, rows); },
+      continues ? Edit::History::Kind::Continued : Edit::History::Kind::Edit);
+  if (!moved) return;
+  for (int& slot : slots) slot += rows;
+  Moved(slots);
 }
 
 void EditCommands::SpostaA() {
-  const auto slots = SelectedChannels();
-  if (!slots) return;
+  const Slots slots = SelectedChannels();
+  if (slots.empty()) return;
   const auto answer = session_.dialogs.AskLine("Inserire il numero di canale a cui spostare");
   if (!answer || answer->isEmpty()) return;
   const int to = Base::LeadingNumber(answer->toStdString());
-  if (to < 1 || to + slots->Count() - 1 > session_.document.Tables().ChannelCount) {
+  if (to < 1 || to + static_cast<int>(slots.size()) - 1 > session_.document.Tables().ChannelCount) {
     session_.dialogs.Message("Nr. Canale non valido", {});
     return;
   }
-  Move(*slots, to);
+  Move(slots, to);
 }
 
-void EditCommands::Drop(int first, int last, int before, bool copy) {
-  const Slots slots{first, last};
-  if (first < 1 || last < first || last > session_.document.Tables().ChannelCount) return;
+void EditCommands::Drop(const Slots& slots, int before, bool copy) {
+  if (!Edit::AreSlots(session_.document.Tables(), slots)) return;
   if (copy) {
     InsertCopy(slots, before);
   } else {
-    Move(slots, before > last ? before - slots.Count() : std::min(before, first));
+    Move(slots, Edit::TargetBefore(slots, before));
   }
 }
 
-void EditCommands::InsertCopy(Slots slots, int before) {
-  const std::string label = "Copia " + CountText(slots.Count());
+void EditCommands::InsertCopy(const Slots& slots, int before) {
+  const std::string label = "Copia " + CountText(slots.size());
   const bool made = session_.document.Apply(label, [&](State& state) {
     const Edit::Clipboard copy = Edit::CopyChannels(state, slots);
     return static_cast<bool>(
         Edit::Paste(state, copy, before, Edit::PasteWay::Move, session_.bouquets.tables));
   });
-  if (made) session_.view.ListGrid().Select({before, before + slots.Count() - 1});
+  if (made)
+    session_.view.ListGrid().Select(Edit::SlotRun(before, before + static_cast<int>(slots.size()) - 1));
   session_.status.ShowResult(made ? Text(label) + QString(" al %1").arg(before)
-                                  : "Non c'è posto per inserire " + Text(CountText(slots.Count())));
+                                  : "Non c'è posto per inserire " + Text(CountText(slots.size())));
 }
 
 void EditCommands::Undo() {
@@ -204,16 +216,15 @@ void EditCommands::TakeStep(void (Document::*step)(), const QString& result) {
   Document& document = session_.document;
   const auto before = std::make_unique<State>(document.Tables());
   (document.*step)();
-  movedTo_ = 0;
+  moved_ = {};
   const State& state = document.Tables();
   if (state.ListNumber != before->ListNumber) {
     session_.view.ShowFromStart(state.Loaded ? View::Channels : View::None);
   } else if (session_.view.Current() != View::None) {
     const bool channels = session_.view.Current() == View::Channels;
-    // The grid selects one run of rows.
-    const Slots changed = Edit::FirstRun(channels ? Edit::ChannelsToShow(*before, state)
-                                                  : Edit::TranspondersToShow(*before, state));
-    if (changed.Count() > 0) session_.view.ListGrid().Select(changed);
+    const Slots changed =
+        channels ? Edit::ChannelsToShow(*before, state) : Edit::TranspondersToShow(*before, state);
+    if (!changed.empty()) session_.view.ListGrid().Select(changed);
   }
   session_.status.ShowResult(result);
 }

@@ -21,8 +21,8 @@ class EditCommands {
   // Moves the selected rows one up (-1) or down (1), or to a number that is asked for.
   void MoveBy(int rows);
   void SpostaA();
-  // Rows `first`..`last` were dropped in front of slot `before`.
-  void Drop(int first, int last, int before, bool copy);
+  // Rows were dropped in front of slot `before`.
+  void Drop(const Edit::Slots& slots, int before, bool copy);
 
   void Undo();
   void Redo();
@@ -30,17 +30,19 @@ class EditCommands {
  private:
   // Names the step that would be undone, and the one that would be done again.
   void ShowSteps(Actions& actions);
-  std::optional<Edit::Slots> SelectedChannels();
+  // The selected slots; says so where there are none.
+  Edit::Slots SelectedChannels();
   bool MayReplaceClipboard();
   // As text, for other programs.
-  void GiveToOthers(Edit::Slots slots);
-  void Move(Edit::Slots slots, int to);
-  void InsertCopy(Edit::Slots slots, int before);
+  void GiveToOthers(const Edit::Slots& slots);
+  void Move(const Edit::Slots& slots, int to);
+  void Moved(const Edit::Slots& slots);
+  void InsertCopy(const Edit::Slots& slots, int before);
   void TellPasted(int count, int position, const Edit::PasteReport& report);
   void TakeStep(void (Document::*step)(), const QString& result);
 
   Session& session_;
-  int movedTo_ = 0;  // first slot of the rows moved last
+  Edit::Slots moved_;  // where the rows moved last are now
 };
 
 }  // namespace Ui

@@ -2,8 +2,6 @@
 
 #include "ui/kit/text.h"
 
-#include <numeric>
-
 namespace Ui {
 
 using Routines::State;
@@ -35,20 +33,18 @@ bool FavouritesEdits::Any(const Places& places) {
 }
 
 void FavouritesEdits::AddSelected(std::size_t list) {
-  const auto rows = session_.view.ListGrid().Selected();
-  if (session_.view.Current() != View::Channels || !rows) {
+  const Edit::Slots slots = session_.view.ListGrid().Selected();
+  if (session_.view.Current() != View::Channels || slots.empty()) {
     Tell("Nessun canale selezionato nella lista dei canali");
     return;
   }
-  AddSlots(list, rows->first, rows->last, Routines::FavouriteEntries);
+  AddSlots(list, slots, Routines::FavouriteEntries);
 }
 
-void FavouritesEdits::AddSlots(std::size_t list, int first, int last, std::size_t place) {
-  if (first < 1 || last < first || last > session_.document.Tables().ChannelCount) return;
-  std::vector<int> wanted(static_cast<std::size_t>(last - first + 1));
-  std::iota(wanted.begin(), wanted.end(), first);
+void FavouritesEdits::AddSlots(std::size_t list, const Edit::Slots& slots, std::size_t place) {
+  if (!Edit::AreSlots(session_.document.Tables(), slots)) return;
   const auto report = session_.document.Apply(
-      "Aggiungi ai preferiti", [&](State& state) { return Edit::AddFavourites(state, list, place, wanted); });
+      "Aggiungi ai preferiti", [&](State& state) { return Edit::AddFavourites(state, list, place, slots); });
   Tell(QString("%1: %2 in più").arg(Title(list), Entries(report.added)) + Remarks(report));
 }
 

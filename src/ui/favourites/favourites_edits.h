@@ -12,9 +12,9 @@ class FavouritesEdits {
  public:
   explicit FavouritesEdits(Session& session) : session_(session) {}
 
-  // Adds channels of the grid: the selected ones at a list's end, or slots `first`..`last` in front of `place`.
+  // Adds channels of the grid: the selected ones at a list's end, or some slots in front of `place`.
   void AddSelected(std::size_t list);
-  void AddSlots(std::size_t list, int first, int last, std::size_t place);
+  void AddSlots(std::size_t list, const Edit::Slots& slots, std::size_t place);
 
   using Places = std::vector<std::size_t>;
   void Remove(std::size_t list, const Places& places);

@@ -82,7 +82,7 @@ void FavouritesList::BuildEntries() {
   connect(&model_, &FavouritesModel::Dropped, this, &FavouritesList::TakeDrop, Qt::QueuedConnection);
   connect(
       &model_, &FavouritesModel::ChannelsDropped, this,
-      [this](int first, int last, std::size_t before) { edits_.AddSlots(list_, first, last, before); },
+      [this](const Edit::Slots& slots, std::size_t before) { edits_.AddSlots(list_, slots, before); },
       Qt::QueuedConnection);
 }
 

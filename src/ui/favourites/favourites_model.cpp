@@ -97,8 +97,7 @@ bool FavouritesModel::dropMimeData(const QMimeData* data, Qt::DropAction, int ro
     const auto list = numbers.front().toULongLong();
     if (list < Routines::FavouriteLists) Q_EMIT Dropped(list, places, before);
   } else if (data->hasFormat(SlotsType)) {
-    const QList<QByteArray> ends = data->data(SlotsType).split(' ');
-    if (ends.size() == 2) Q_EMIT ChannelsDropped(ends[0].toInt(), ends[1].toInt(), before);
+    Q_EMIT ChannelsDropped(RowsIn(*data, SlotsType), before);
   }
   return false;
 }

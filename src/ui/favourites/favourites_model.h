@@ -30,8 +30,8 @@ class FavouritesModel : public QAbstractListModel {
  Q_SIGNALS:
   // Entries at `places` of a list were dropped in front of `before`.
   void Dropped(std::size_t list, std::vector<std::size_t> places, std::size_t before);
-  // Rows `first`..`last` of the channel grid were.
-  void ChannelsDropped(int first, int last, std::size_t before);
+  // Rows of the channel grid were.
+  void ChannelsDropped(const std::vector<int>& slots, std::size_t before);
 
  private:
   void Refresh();

@@ -51,18 +51,18 @@ void ExchangeCommands::FormatoTesto() {
 void ExchangeCommands::FormatoCSV() {
   const State& state = session_.document.Tables();
   const bool transponders = session_.view.Current() == View::Transponders;
-  Edit::Slots rows{1, transponders ? state.TransponderCount : state.ChannelCount};
-  const auto selected =
-      session_.view.Current() == View::None ? std::nullopt : session_.view.ListGrid().Selected();
-  if (selected && selected->Count() > 1) {
+  Edit::Slots rows = Edit::SlotRun(1, transponders ? state.TransponderCount : state.ChannelCount);
+  const Edit::Slots selected =
+      session_.view.Current() == View::None ? Edit::Slots() : session_.view.ListGrid().Selected();
+  if (selected.size() > 1) {
     const Answer answer = session_.dialogs.YesNoCancel("Esportare solo le righe selezionate?");
     if (answer == Answer::Cancel) return;
-    if (answer == Answer::Yes) rows = *selected;
+    if (answer == Answer::Yes) rows = selected;
   }
   const std::string path = AskExport("File CSV(*.csv)|*.csv");
   if (path.empty()) return;
-  Export(path, Base::AsBytes(transponders ? Formats::WriteTranspondersCsv(state, rows.first, rows.last)
-                                          : Formats::WriteChannelsCsv(state, rows.first, rows.last)));
+  Export(path, Base::AsBytes(transponders ? Formats::WriteTranspondersCsv(state, rows)
+                                          : Formats::WriteChannelsCsv(state, rows)));
 }
 
 void ExchangeCommands::FormatoFLASH() {

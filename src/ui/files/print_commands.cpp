@@ -67,16 +67,16 @@ void PrintCommands::StampaSDX() {
 
 // One selected row is where the user is, more of them may be what is to be printed.
 void PrintCommands::Print(const Grid& grid, int lastRow, const QString& heading) {
-  Edit::Slots rows{1, lastRow};
-  const auto selected = grid.Selected();
-  if (selected && selected->Count() > 1) {
+  Edit::Slots rows = Edit::SlotRun(1, lastRow);
+  const Edit::Slots selected = grid.Selected();
+  if (selected.size() > 1) {
     const Answer answer = session_.dialogs.YesNoCancel(
         QString("Stampare solo le %1 righe selezionate?\nRispondere NO per stampare tutta la lista")
-            .arg(selected->Count()));
+            .arg(selected.size()));
     if (answer == Answer::Cancel) return;
-    if (answer == Answer::Yes) rows = *selected;
+    if (answer == Answer::Yes) rows = selected;
   }
-  if (rows.Count() < 1) {
+  if (rows.empty()) {
     session_.dialogs.Message("Nessuna riga da stampare", {});
     return;
   }

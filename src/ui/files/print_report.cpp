@@ -43,12 +43,12 @@ struct Column {
   }
 };
 
-Column ColumnOf(const QAbstractItemModel& table, Edit::Slots rows, int number) {
+Column ColumnOf(const QAbstractItemModel& table, const Edit::Slots& rows, int number) {
   Column column;
   column.title = table.headerData(number, Qt::Horizontal).toString();
   const int alignment = table.headerData(number, Qt::Horizontal, Qt::TextAlignmentRole).toInt();
   column.centred = (alignment & Qt::AlignHCenter) != 0;
-  for (int row = rows.first; row <= rows.last; ++row) {
+  for (const int row : rows) {
     column.cells += Printable(table.index(row - 1, number).data().toString());
     column.width = std::max(column.width, column.cells.back().size());
   }
@@ -87,8 +87,8 @@ void DrawPage(QPainter& painter, const QFont& font, double pitch, const QStringL
 
 }  // namespace
 
-PrintReport ReportOf(const QAbstractItemModel& table, Edit::Slots rows, const QString& heading) {
-  PrintReport report{heading, {}, QStringList(rows.Count())};
+PrintReport ReportOf(const QAbstractItemModel& table, const Edit::Slots& rows, const QString& heading) {
+  PrintReport report{heading, {}, QStringList(static_cast<qsizetype>(rows.size()))};
   for (int number = 0; number < table.columnCount(); ++number) {
     const Column column = ColumnOf(table, rows, number);
     const QString before = number == 0 ? "" : BetweenColumns;

@@ -25,7 +25,7 @@ struct PrintReport {
 
 // Rows of a table, counted from 1, in columns as wide as their texts. Columns that are centred on the screen have
 // their texts flush right, so that digits stand below digits.
-PrintReport ReportOf(const QAbstractItemModel& table, Edit::Slots rows, const QString& heading);
+PrintReport ReportOf(const QAbstractItemModel& table, const Edit::Slots& rows, const QString& heading);
 
 // The lines of each page: heading and page number, a blank line, the titles, then rows.
 inline constexpr int PageHeadLines = 3;

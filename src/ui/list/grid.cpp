@@ -5,7 +5,9 @@
 #include <QContextMenuEvent>
 #include <QDrag>
 #include <QEvent>
+#include <QGuiApplication>
 #include <QHeaderView>
+#include <QKeyEvent>
 #include <QMimeData>
 #include <QMouseEvent>
 #include <QPainter>
@@ -80,7 +82,7 @@ void Grid::SetUp(QTableView& view) {
   view.horizontalHeader()->setSectionResizeMode(QHeaderView::Fixed);
   view.horizontalHeader()->setHighlightSections(false);
   view.setSelectionBehavior(SelectRows);
-  view.setSelectionMode(ContiguousSelection);
+  view.setSelectionMode(ExtendedSelection);
   view.setEditTriggers(NoEditTriggers);
   view.setVerticalScrollMode(ScrollPerItem);
   view.setWordWrap(false);
@@ -106,28 +108,69 @@ void Grid::ShowList(TableModel* list) {
   horizontalScrollBar()->setValue(0);
 }
 
-std::optional<Edit::Slots> Grid::Selected() const {
-  if (selectionModel() == nullptr) return std::nullopt;
-  std::optional<Edit::Slots> rows;
+Edit::Slots Grid::Selected() const {
+  Edit::Slots rows;
+  if (selectionModel() == nullptr) return rows;
   for (const QItemSelectionRange& range : selectionModel()->selection()) {
-    const int first = range.top() + 1;
-    const int last = range.bottom() + 1;
-    rows = rows ? Edit::Slots{std::min(rows->first, first), std::max(rows->last, last)}
-                : Edit::Slots{first, last};
+    for (int row = range.top(); row <= range.bottom(); ++row) rows.push_back(row + 1);
   }
+  std::sort(rows.begin(), rows.end());
+  rows.erase(std::unique(rows.begin(), rows.end()), rows.end());
   return rows;
 }
 
-void Grid::Select(Edit::Slots rows) {
-  const QModelIndex first = model()->index(rows.first - 1, 1);
-  const QModelIndex last = model()->index(rows.last - 1, 1);
+QItemSelection Grid::SelectionOf(const Edit::Slots& rows) const {
+  QItemSelection selection;
+  const int lastColumn = model()->columnCount() - 1;
+  for (std::size_t i = 0, run = 0; i < rows.size(); ++i) {
+    if (i + 1 < rows.size() && rows[i + 1] == rows[i] + 1) continue;
+    selection.append({model()->index(rows[run] - 1, 0), model()->index(rows[i] - 1, lastColumn)});
+    run = i + 1;
+  }
+  return selection;
+}
+
+void Grid::Select(const Edit::Slots& rows) {
+  if (rows.empty()) return clearSelection();
+  const QModelIndex first = model()->index(rows.front() - 1, 1);
   const int sideways = horizontalScrollBar()->value();
   selectionModel()->setCurrentIndex(first, QItemSelectionModel::NoUpdate);
-  selectionModel()->select({first, last}, QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows);
+  selectionModel()->select(SelectionOf(rows), QItemSelectionModel::ClearAndSelect);
   // All of them where they fit, else the first ones.
-  scrollTo(last);
+  scrollTo(model()->index(rows.back() - 1, 1));
   scrollTo(first);
   horizontalScrollBar()->setValue(sideways);
+}
+
+void Grid::selectAll() {
+  if (selectionModel() == nullptr) return;
+  Edit::Slots used;
+  for (int row = 1; row <= model()->rowCount(); ++row) {
+    if (List()->Used(row)) used.push_back(row);
+  }
+  selectionModel()->select(SelectionOf(used), QItemSelectionModel::ClearAndSelect);
+}
+
+// Shift selects a range and nothing else, with Ctrl beside what was selected before; the toolkit's keys take Ctrl for
+// going on without a selection, even then.
+QItemSelectionModel::SelectionFlags Grid::selectionCommand(const QModelIndex& index,
+                                                           const QEvent* event) const {
+  using Flags = QItemSelectionModel;
+  const bool input = event != nullptr && event->isInputEvent();
+  const Qt::KeyboardModifiers keys =
+      input ? static_cast<const QInputEvent*>(event)->modifiers() : QGuiApplication::keyboardModifiers();
+  const bool beside = (keys & Qt::ControlModifier) != 0;
+  if (input && event->type() == QEvent::KeyPress && beside && (keys & Qt::ShiftModifier) != 0)
+    return Flags::SelectCurrent | Flags::Rows;
+  const auto command = QTableView::selectionCommand(index, event);
+  return command.testFlags(Flags::SelectCurrent) && !beside ? command | Flags::Clear : command;
+}
+
+// The toolkit would open the editor of the cell.
+void Grid::keyPressEvent(QKeyEvent* event) {
+  const bool toggle = event->key() == Qt::Key_Space && event->modifiers() == Qt::ControlModifier;
+  if (!toggle || !currentIndex().isValid()) return QTableView::keyPressEvent(event);
+  selectionModel()->select(currentIndex(), QItemSelectionModel::Toggle | QItemSelectionModel::Rows);
 }
 
 void Grid::ScrollToTop(int slot) { verticalScrollBar()->setValue(slot - 1); }
@@ -137,7 +180,7 @@ void Grid::contextMenuEvent(QContextMenuEvent* event) {
   const bool keyboard = event->reason() == QContextMenuEvent::Keyboard;
   const QModelIndex index = keyboard ? currentIndex() : indexAt(event->pos());
   if (!index.isValid()) return;
-  if (!selectionModel()->isRowSelected(index.row())) Select({index.row() + 1, index.row() + 1});
+  if (!selectionModel()->isRowSelected(index.row())) SelectRow(index.row() + 1);
   Q_EMIT MenuWanted(keyboard ? viewport()->mapToGlobal(visualRect(index).center()) : event->globalPos());
 }
 
@@ -149,9 +192,9 @@ void Grid::mousePressEvent(QMouseEvent* event) {
 }
 
 void Grid::startDrag(Qt::DropActions) {
-  const auto rows = Selected();
-  if (!rows) return;
-  const QString text = Counted(rows->Count(), "canale", "canali");
+  const Edit::Slots rows = Selected();
+  if (rows.empty()) return;
+  const QString text = Counted(rows.size(), "canale", "canali");
   QPixmap label(fontMetrics().horizontalAdvance(text) + 16, fontMetrics().height() + 8);
   label.fill(palette().color(QPalette::Highlight));
   QPainter painter(&label);
@@ -160,8 +203,9 @@ void Grid::startDrag(Qt::DropActions) {
   painter.end();
 
   auto* drag = new QDrag(this);
-  drag->setMimeData(
-      model()->mimeData({model()->index(rows->first - 1, 0), model()->index(rows->last - 1, 0)}));
+  QModelIndexList indexes;
+  for (const int row : rows) indexes.append(model()->index(row - 1, 0));
+  drag->setMimeData(model()->mimeData(indexes));
   drag->setPixmap(label);
   drag->exec(Qt::MoveAction | Qt::CopyAction, Qt::MoveAction);
 }

@@ -7,7 +7,6 @@
 
 #include <QTableView>
 
-#include <optional>
 #include <set>
 
 namespace Ui {
@@ -22,10 +21,13 @@ class Grid : public QTableView {
   // spare width of the window by the widths that the header gives them, all but the first one.
   void ShowList(TableModel* list);
 
-  // The rows of the selection, from slot 1 on; nothing when none is selected.
-  [[nodiscard]] std::optional<Edit::Slots> Selected() const;
-  // Selects rows and makes the first of them current, where it is or scrolled to.
-  void Select(Edit::Slots rows);
+  // The selected rows in rising order, from slot 1 on.
+  [[nodiscard]] Edit::Slots Selected() const;
+  // Selects rows, in rising order, and makes the first of them current, where it is or scrolled to.
+  void Select(const Edit::Slots& rows);
+  void SelectRow(int row) { Select({row}); }
+  // All rows that hold anything.
+  void selectAll() override;
   // Makes a row the first visible one, as far as the list's end lets it.
   void ScrollToTop(int slot);
 
@@ -37,6 +39,9 @@ class Grid : public QTableView {
   void MenuWanted(QPoint place);
 
  protected:
+  [[nodiscard]] QItemSelectionModel::SelectionFlags selectionCommand(const QModelIndex& index,
+                                                                     const QEvent* event) const override;
+  void keyPressEvent(QKeyEvent* event) override;
   void contextMenuEvent(QContextMenuEvent* event) override;
   void mousePressEvent(QMouseEvent* event) override;
   void startDrag(Qt::DropActions actions) override;
@@ -53,6 +58,8 @@ class Grid : public QTableView {
 
  private:
   void SetUp(QTableView& view);
+  [[nodiscard]] const TableModel* List() const { return static_cast<const TableModel*>(model()); }
+  [[nodiscard]] QItemSelection SelectionOf(const Edit::Slots& rows) const;
   void ShowDropLine(QPoint place);
   [[nodiscard]] std::vector<int> SharedWidths() const;
   void FitColumns();

@@ -35,9 +35,8 @@ ListMap::ListMap(const Document& document, QWidget* parent) : QWidget(parent), d
   });
 }
 
-void ListMap::ShowSelection(int first, int last) {
-  first_ = first;
-  last_ = last;
+void ListMap::ShowSelection(std::vector<int> slots) {
+  selected_ = std::move(slots);
   update();
 }
 
@@ -63,10 +62,21 @@ void ListMap::paintEvent(QPaintEvent*) {
   painter.drawImage(rect(), bands_);
   painter.setPen(palette().color(QPalette::Mid));
   painter.drawRect(rect().adjusted(0, 0, -1, -1));
-  if (first_ == 0) return;
-  const int top = (first_ - 1) * height() / count;
-  const int bottom = std::max(last_ * height() / count, top + 3);
-  painter.fillRect(QRect(0, top, 6, bottom - top), palette().color(QPalette::Highlight));
+  PaintSlots(painter, selected_, 0, palette().color(QPalette::Highlight));
+}
+
+// As marks high enough to be seen, each line of the strip once.
+void ListMap::PaintSlots(QPainter& painter, const std::vector<int>& slots, int left,
+                         const QColor& colour) const {
+  constexpr int Width = 6;
+  constexpr int Least = 3;
+  const int count = document_.Tables().ChannelCount;
+  int painted = 0;
+  for (const int slot : slots) {
+    const int top = std::max((slot - 1) * height() / count, painted);
+    painted = std::max({slot * height() / count, (slot - 1) * height() / count + Least, painted});
+    painter.fillRect(QRect(left, top, Width, painted - top), colour);
+  }
 }
 
 void ListMap::mousePressEvent(QMouseEvent* event) { Choose(*event); }

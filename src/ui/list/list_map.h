@@ -7,6 +7,10 @@
 #include <QImage>
 #include <QWidget>
 
+#include <vector>
+
+class QPainter;
+
 namespace Ui {
 
 class ListMap : public QWidget {
@@ -15,8 +19,7 @@ class ListMap : public QWidget {
  public:
   ListMap(const Document& document, QWidget* parent);
 
-  // Slots `first`..`last` are selected; 0, 0 for none.
-  void ShowSelection(int first, int last);
+  void ShowSelection(std::vector<int> slots);
 
   [[nodiscard]] QSize sizeHint() const override { return {16, 0}; }
 
@@ -32,12 +35,12 @@ class ListMap : public QWidget {
  private:
   void Draw();
   [[nodiscard]] int SlotAt(int y) const;
+  void PaintSlots(QPainter& painter, const std::vector<int>& slots, int left, const QColor& colour) const;
   void Choose(const QMouseEvent& event);
 
   const Document& document_;
   QImage bands_;  // one pixel wide; made anew when the list or the height changes
-  int first_ = 0;
-  int last_ = 0;
+  std::vector<int> selected_;
 };
 
 }  // namespace Ui

@@ -16,13 +16,21 @@ constexpr int NameColumn = 1;  // of a transponder, its frequency
 
 }  // namespace
 
-const ListModel::Kind ListModel::Channels = {Routines::ChannelHeader,
-                                             [](const State& state) { return state.ChannelCount; },
-                                             Routines::ChannelCell, Routines::ChannelRowKind, true};
+const ListModel::Kind ListModel::Channels = {
+    Routines::ChannelHeader,
+    [](const State& state) { return state.ChannelCount; },
+    Routines::ChannelCell,
+    Routines::ChannelRowKind,
+    [](const State& state, int slot) { return !state.Channel(slot).Empty(); },
+    true};
 
 const ListModel::Kind ListModel::Transponders = {
-    Routines::TransponderHeader, [](const State& state) { return state.TransponderCount; },
-    Routines::TransponderCell, Routines::TransponderRowKind, false};
+    Routines::TransponderHeader,
+    [](const State& state) { return state.TransponderCount; },
+    Routines::TransponderCell,
+    Routines::TransponderRowKind,
+    [](const State& state, int slot) { return !IsFree(state.Transponder(slot).record); },
+    false};
 
 ListModel::ListModel(const Document& document, const Kind& kind, QObject* parent)
     : TableModel(kind.header, parent), document_(document), kind_(kind), rows_(kind.rows(document.Tables())) {
@@ -90,13 +98,13 @@ QMimeData* ListModel::mimeData(const QModelIndexList& indexes) const { return Ro
 bool ListModel::dropMimeData(const QMimeData* data, Qt::DropAction action, int row, int,
                              const QModelIndex& parent) {
   const bool own = data->hasFormat(SlotsType);
-  const QList<QByteArray> dragged = data->data(own ? SlotsType : SdxRowsType).split(' ');
-  if (!kind_.movable || dragged.size() != 2) return false;
+  const Rows dragged = RowsIn(*data, own ? SlotsType : SdxRowsType);
+  if (!kind_.movable || dragged.empty()) return false;
   const int before = row >= 0 ? row + 1 : parent.isValid() ? parent.row() + 1 : rows_ + 1;
   if (own) {
-    Q_EMIT Dropped(dragged[0].toInt(), dragged[1].toInt(), before, action == Qt::CopyAction);
+    Q_EMIT Dropped(dragged, before, action == Qt::CopyAction);
   } else {
-    Q_EMIT SdxDropped(dragged[0].toInt(), dragged[1].toInt(), before);
+    Q_EMIT SdxDropped(dragged, before);
   }
   return true;
 }

@@ -17,6 +17,7 @@ class ListModel : public TableModel {
     int (*rows)(const Routines::State&);
     std::string (*cell)(const Routines::State&, int slot, int column);
     Routines::RowKind (*rowKind)(const Routines::State&, int slot);
+    bool (*used)(const Routines::State&, int slot);
     bool movable;  // rows can be dragged to other places
   };
   static const Kind Channels;
@@ -32,6 +33,7 @@ class ListModel : public TableModel {
   void ClearMarks();
 
   [[nodiscard]] QVariant data(const QModelIndex& index, int role) const override;
+  [[nodiscard]] bool Used(int slot) const override { return kind_.used(document_.Tables(), slot); }
   [[nodiscard]] int rowCount(const QModelIndex& parent = {}) const override;
   [[nodiscard]] Qt::ItemFlags flags(const QModelIndex& index) const override;
   [[nodiscard]] Qt::DropActions supportedDropActions() const override;
@@ -41,11 +43,9 @@ class ListModel : public TableModel {
                     const QModelIndex& parent) override;
 
  Q_SIGNALS:
-  // The rows of slots `first`..`last` were dropped in front of slot `before`.
-  void Dropped(int first, int last, int before, bool copy);
-
-  // The rows of the SDX table from `first` to `last` were.
-  void SdxDropped(int first, int last, int before);
+  // Rows were dropped in front of slot `before`; those of the SDX table have their numbers there.
+  void Dropped(const Rows& slots, int before, bool copy);
+  void SdxDropped(const Rows& rows, int before);
 
  protected:
   [[nodiscard]] QString CellText(int slot, int column) const override;

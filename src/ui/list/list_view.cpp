@@ -42,10 +42,7 @@ ListView::ListView(const Document& document, QAction& showChannels, QAction& sho
   connect(filter_, &FilterBar::Left, grid_, qOverload<>(&QWidget::setFocus));
   connect(&channels_, &ListModel::Dropped, this, &ListView::Dropped, Qt::QueuedConnection);
   connect(&channels_, &ListModel::SdxDropped, this, &ListView::SdxDropped, Qt::QueuedConnection);
-  connect(grid_, &Grid::SelectionMoved, this, [this] {
-    const auto rows = grid_->Selected().value_or(Edit::Slots{});
-    map_->ShowSelection(rows.first, rows.last);
-  });
+  connect(grid_, &Grid::SelectionMoved, this, [this] { map_->ShowSelection(grid_->Selected()); });
   connect(map_, &ListMap::Chosen, this, [this](int slot) {
     grid_->scrollTo(channels_.index(slot - 1, 1), QAbstractItemView::PositionAtCenter);
   });
@@ -149,7 +146,7 @@ void ListView::GoToRow(View view, int slot) {
 }
 
 void ListView::SelectInMiddle(int slot) {
-  grid_->Select({slot, slot});
+  grid_->SelectRow(slot);
   grid_->scrollTo(grid_->currentIndex(), QAbstractItemView::PositionAtCenter);
 }
 
@@ -183,7 +180,7 @@ void ListView::StepMatch(bool forward) {
   if (filter_->ForTransponders()) Show(View::Transponders);
   if (!filter_->ForTransponders() && current_ != View::Channels) return;
   const int here = grid_->currentIndex().row() + 1;
-  const bool onMatch = grid_->Selected().has_value();
+  const bool onMatch = !grid_->Selected().empty();
   auto at = forward ? std::lower_bound(matches.begin(), matches.end(), onMatch ? here + 1 : here)
                     : std::lower_bound(matches.begin(), matches.end(), here);
   if (forward && at == matches.end()) at = matches.begin();

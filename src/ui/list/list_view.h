@@ -57,10 +57,9 @@ class ListView : public QWidget {
   void ShowFound(int slot);
 
  Q_SIGNALS:
-  // The rows of slots `first`..`last` were dropped in front of slot `before`.
-  void Dropped(int first, int last, int before, bool copy);
-  // The rows of the SDX table from `first` to `last` were.
-  void SdxDropped(int first, int last, int before);
+  // Rows were dropped in front of slot `before`; those of the SDX table have their numbers there.
+  void Dropped(const Edit::Slots& slots, int before, bool copy);
+  void SdxDropped(const Edit::Slots& rows, int before);
   // A list is shown anew, or none is.
   void Shown(View view);
   // A command has made a channel current.

@@ -3,9 +3,17 @@
 #include <QBrush>
 #include <QMimeData>
 
-#include <algorithm>
+#include <set>
 
 namespace Ui {
+
+std::vector<int> RowsIn(const QMimeData& data, const char* type) {
+  std::set<int> rows;
+  for (const QByteArray& number : data.data(type).split(' ')) {
+    if (!number.isEmpty()) rows.insert(number.toInt());
+  }
+  return {rows.begin(), rows.end()};
+}
 
 TableModel::TableModel(std::string_view header, QObject* parent)
     : QAbstractTableModel(parent), header_(ParseHeader(header)) {}
@@ -40,12 +48,12 @@ QVariant TableModel::data(const QModelIndex& index, int role) const {
 }
 
 QMimeData* TableModel::RowsAs(const char* type, const QModelIndexList& indexes) {
-  const auto byRow = [](const QModelIndex& one, const QModelIndex& other) { return one.row() < other.row(); };
-  const auto [first, last] = std::minmax_element(indexes.begin(), indexes.end(), byRow);
+  std::set<int> rows;
+  for (const QModelIndex& index : indexes) rows.insert(index.row() + 1);
+  QByteArray text;
+  for (const int row : rows) text += QByteArray::number(row) + ' ';
   auto* data = new QMimeData;
-  if (first != indexes.end()) {
-    data->setData(type, QByteArray::number(first->row() + 1) + ' ' + QByteArray::number(last->row() + 1));
-  }
+  data->setData(type, text.trimmed());
   return data;
 }
 

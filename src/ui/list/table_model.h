@@ -8,20 +8,28 @@
 
 namespace Ui {
 
-// Dragged rows, as "FIRST LAST" from 1 on: of the channel list and of the SDX table.
+// Dragged rows, their numbers from 1 on divided by blanks: of the channel list and of the SDX table.
 inline constexpr const char* SlotsType = "application/x-trovalis-slots";
 inline constexpr const char* SdxRowsType = "application/x-trovalis-sdx";
+
+// The rows that dragged data of a type names, in rising order; none where there is no such data.
+std::vector<int> RowsIn(const QMimeData& data, const char* type);
 
 class TableModel : public QAbstractTableModel {
   Q_OBJECT
 
  public:
+  using Rows = std::vector<int>;  // in rising order
+
   TableModel(std::string_view header, QObject* parent);
 
   [[nodiscard]] const std::vector<HeaderColumn>& Header() const { return header_; }
   [[nodiscard]] int columnCount(const QModelIndex& parent = {}) const override;
   [[nodiscard]] QVariant headerData(int section, Qt::Orientation orientation, int role) const override;
   [[nodiscard]] QVariant data(const QModelIndex& index, int role) const override;
+
+  // Whether there is anything in a row, which counts from 1; "everything" is all such rows.
+  [[nodiscard]] virtual bool Used(int /*row*/) const { return true; }
 
  protected:
   // Text and colour of a cell; `row` counts from 1.

@@ -34,10 +34,10 @@ void SdxCommands::Connect(Actions& actions) {
   session_.onChange.emplace_back([this] {
     session_.sdxShownSinceFls = session_.sdxShownSinceFls && session_.document.Tables().FromFls;
   });
-  QObject::connect(&pane_, &SdxPane::Chosen, &pane_, [this](int row) { AskAndInsert(row, row); });
+  QObject::connect(&pane_, &SdxPane::Chosen, &pane_, [this](int row) { AskAndInsert(RowsOf({row})); });
   QObject::connect(&pane_, &SdxPane::CopyWanted, &pane_, [this] { CopySDX(); });
   QObject::connect(&session_.view, &ListView::SdxDropped, &pane_,
-                   [this](int first, int last, int before) { Drop(first, last, before); });
+                   [this](const Edit::Slots& rows, int before) { Drop(rows, before); });
 }
 
 void SdxCommands::Carica(std::string path) {
@@ -113,7 +113,7 @@ void SdxCommands::Ricerca() {
     if (!CodePageText(session_.sdx.rows[i].name).contains(*answer, Qt::CaseInsensitive)) continue;
     found = true;
     const int row = static_cast<int>(i) + 1;
-    pane_.ListGrid().Select({row, row});
+    pane_.ListGrid().SelectRow(row);
     if (!session_.dialogs.YesNo("Ricerco il successivo?")) return;
   }
   if (!found) session_.dialogs.Message("Canale non trovato", {}, Tone::Information);
@@ -124,17 +124,16 @@ void SdxCommands::CopySDX() {
     session_.dialogs.Message("Canali SDX non caricati", {});
     return;
   }
-  const auto rows = pane_.ListGrid().Selected();
-  if (!rows) {
+  const Edit::Slots rows = pane_.ListGrid().Selected();
+  if (rows.empty()) {
     session_.dialogs.Message("Nessun canale SDX selezionato", {});
     return;
   }
-  AskAndInsert(rows->first, rows->last);
+  AskAndInsert(RowsOf(rows));
 }
 
-void SdxCommands::AskAndInsert(int first, int last) {
+void SdxCommands::AskAndInsert(const Rows& rows) {
   if (!Meets(session_, Need::List)) return;
-  const Rows rows = RowsFrom(first, last);
   if (rows.content.empty()) {
     session_.status.ShowResult(OutOfBandText(rows.outOfBand) + ": non si inserisce");
     return;
@@ -152,21 +151,22 @@ void SdxCommands::AskAndInsert(int first, int last) {
   Put(rows, Formats::SlotsFrom(state, position, rows.Count()), shift ? Way::Shift : Way::Overwrite);
 }
 
-void SdxCommands::Drop(int first, int last, int before) {
+void SdxCommands::Drop(const Edit::Slots& numbers, int before) {
   const State& state = session_.document.Tables();
-  const bool known = first >= 1 && first <= last && last <= static_cast<int>(session_.sdx.rows.size());
+  const bool known = !numbers.empty() && numbers.front() >= 1 &&
+                     numbers.back() <= static_cast<int>(session_.sdx.rows.size());
   if (!known || before > state.ChannelCount) {
     session_.status.ShowResult("Dopo l'ultimo posto della lista non si può inserire");
     return;
   }
-  const Rows rows = RowsFrom(first, last);
+  const Rows rows = RowsOf(numbers);
   Put(rows, Formats::SlotsFrom(state, before, rows.Count()), Way::Shift);
 }
 
 // Rows are taken before anything is asked: a download may put others in their place meanwhile.
-SdxCommands::Rows SdxCommands::RowsFrom(int first, int last) const {
+SdxCommands::Rows SdxCommands::RowsOf(const Edit::Slots& numbers) const {
   Rows rows;
-  for (int number = first; number <= last; ++number) {
+  for (const int number : numbers) {
     const Formats::SdxRow& row = session_.sdx.rows[static_cast<std::size_t>(number) - 1];
     if (Formats::InBand(row)) {
       rows.content.push_back(row);
@@ -201,8 +201,7 @@ void SdxCommands::Put(const Rows& rows, const std::vector<int>& slots, Way way) 
     if (import.UnknownRates() > 0)
       result += QString(", %1 con SR che SR.INI non ha").arg(import.UnknownRates());
   });
-  if (session_.view.Current() == View::Channels)
-    session_.view.ListGrid().Select({slots.front(), together ? slots.back() : slots.front()});
+  if (session_.view.Current() == View::Channels) session_.view.ListGrid().Select(slots);
   TellPut(rows, result + session_.Losses(lost), pushedOut);
   if (!message.empty()) session_.dialogs.Message(Text(message), {});
   TellWithoutRoom(rows, count);
@@ -228,7 +227,7 @@ void SdxCommands::TellWithoutRoom(const Rows& rows, int placed) {
   const int left = rows.Count() - placed;
   if (left <= 0) return;
   // They stay selected for another place.
-  pane_.ListGrid().Select({rows.numbers[static_cast<std::size_t>(placed)], rows.numbers.back()});
+  pane_.ListGrid().Select(Edit::Slots(rows.numbers.begin() + placed, rows.numbers.end()));
   session_.dialogs.Message(
       Counted(left, "canale SDX non ha trovato posto", "canali SDX non hanno trovato posto"), {});
 }
@@ -238,7 +237,7 @@ void SdxCommands::ImportaTutto() {
     session_.dialogs.Message("Canali SDX non caricati", {});
     return;
   }
-  const Rows rows = RowsFrom(1, static_cast<int>(session_.sdx.rows.size()));
+  const Rows rows = RowsOf(Edit::SlotRun(1, static_cast<int>(session_.sdx.rows.size())));
   SdxImportDialog dialog(session_.document.Tables(), rows.Count(), OutOfBandText(rows.outOfBand), &window_);
   if (dialog.exec() != QDialog::Accepted) return;
   const std::vector<int> slots = dialog.Slots();

@@ -35,9 +35,8 @@ class SdxCommands {
   void CopySDX();
   void ImportaTutto();
   // Rows were dropped in front of slot `before`.
-  void Drop(int first, int last, int before);
+  void Drop(const Edit::Slots& rows, int before);
   void ListMissing(int satellite, std::string_view text);
-  void AskAndInsert(int first, int last);
   // Rows of the table that can become channels, with their numbers in it, and how many cannot.
   struct Rows {
     std::vector<Formats::SdxRow> content;
@@ -47,7 +46,8 @@ class SdxCommands {
     [[nodiscard]] int Count() const { return static_cast<int>(content.size()); }
   };
 
-  [[nodiscard]] Rows RowsFrom(int first, int last) const;
+  [[nodiscard]] Rows RowsOf(const Edit::Slots& numbers) const;
+  void AskAndInsert(const Rows& rows);
   enum class Way { Overwrite, Shift };
   // The first rows go into the slots, one each.
   void Put(const Rows& rows, const std::vector<int>& slots, Way way);

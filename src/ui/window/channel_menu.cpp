@@ -77,12 +77,12 @@ void ChannelMenu::AddFavourites(FavouritesEdits& favourites, QMainWindow& window
 
 void ChannelMenu::BringUpToDate() {
   const Routines::State& state = session_.document.Tables();
-  const auto rows = session_.view.ListGrid().Selected().value_or(Edit::Slots{1, 0});
-  bool channels = false;
-  for (int slot = rows.first; slot <= rows.last; ++slot) channels = channels || !state.Channel(slot).Empty();
+  const Edit::Slots rows = session_.view.ListGrid().Selected();
+  const bool channels =
+      std::any_of(rows.begin(), rows.end(), [&](int slot) { return !state.Channel(slot).Empty(); });
   for (QAction* action : forChannels_) action->setEnabled(channels);
-  rename_->setEnabled(rows.Count() == 1);
-  toTransponder_->setEnabled(rows.Count() == 1 && channels);
+  rename_->setEnabled(rows.size() == 1);
+  toTransponder_->setEnabled(rows.size() == 1 && channels);
   for (std::size_t list = 0; list < favourites_.size(); ++list) {
     const QString name = Text(Routines::FavouritesTitle(state.FavouritesBlock, list)).replace('&', "&&");
     const auto entries = Routines::FavouriteEntriesOf(state.FavouritesBlock, list).size();

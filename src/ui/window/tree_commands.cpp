@@ -128,13 +128,13 @@ void TreeCommands::GoToTransponder(int slot, int firstChannel) {
 void TreeCommands::ShowSelection() {
   if (choosing_) return;
   const View view = session_.view.Current();
-  const auto rows = view == View::None ? std::nullopt : session_.view.ListGrid().Selected();
-  if (!rows) return;
+  const Edit::Slots rows = view == View::None ? Edit::Slots() : session_.view.ListGrid().Selected();
+  if (rows.empty()) return;
   for (TreePane* pane : {channels_, transponders_}) {
     if (view == View::Channels) {
-      pane->ShowChannel(rows->first);
+      pane->ShowChannel(rows.front());
     } else {
-      pane->ShowTransponder(rows->first);
+      pane->ShowTransponder(rows.front());
     }
   }
 }

@@ -70,9 +70,16 @@ TEST_F(Cells, ThePopupMenuWorksOnAllSelectedRows) {
     Action(action).trigger();
     window_->findChild<QMenu*>("MenuCanali")->close();
   };
-  driver_->SelectRows(3, 5);
+  Grid().Select({1, 4, 6});
   trigger("Disattiva");
   EXPECT_EQ(Said(), "Attivo N: 2 canali") << "one of the three is empty";
+  EXPECT_EQ(driver_->Cell(5, 10), "S") << "between them";
+  trigger("AggiungiPreferiti_2");
+  trigger("InserisciRiga");
+  EXPECT_EQ(Names(1, 9), ",Uno,Due,Tre,,,Cinque,,Città HD") << "one in front of each";
+  EXPECT_EQ(Routines::FavouriteEntriesOf(List().FavouritesBlock, 1), std::vector<int>({13, 2, 9}));
+  ASSERT_TRUE(driver_->Choose("Annulla"));
+  driver_->SelectRows(3, 5);
   EXPECT_TRUE(driver_->Cell(4, 1).isEmpty());
   trigger("Codifica_44");
   EXPECT_EQ(driver_->Cell(5, 9), "44");
@@ -95,7 +102,7 @@ TEST_F(Cells, ThePopupMenuWorksOnAllSelectedRows) {
   driver_->SelectRows(6, 6);
   trigger("VaiAlTransponder");
   EXPECT_EQ(driver_->TextOf("Text1"), "Transponders");
-  EXPECT_EQ(Grid().Selected()->first, 3);
+  EXPECT_EQ(Grid().Selected().front(), 3);
 }
 
 }  // namespace Ui

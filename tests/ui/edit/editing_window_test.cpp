@@ -24,7 +24,7 @@ TEST_F(EditingWindow, ACutIsPastedBackWithItsFavourites) {
   driver_->Key(Qt::Key_V, Qt::ControlModifier);
   EXPECT_EQ(List().ChannelTable, before.ChannelTable);
   EXPECT_EQ(List().FavouritesBlock, before.FavouritesBlock);
-  EXPECT_EQ(driver_->Grid().Selected()->last, 5);
+  EXPECT_EQ(driver_->Grid().Selected(), Edit::Slots({3, 4, 5}));
   Tells("Toolbar1_Paste", "Messun canale copiato");
 }
 
@@ -62,25 +62,23 @@ TEST_F(EditingWindow, EveryStepIsTakenBackByItsNameDownToTheOpening) {
 }
 
 TEST_F(EditingWindow, UndoAndRedoSelectWhatCameBackOrChanged) {
-  const auto selected = [this] {
-    const auto rows = driver_->Grid().Selected();
-    return rows ? std::pair(rows->first, rows->last) : std::pair(0, 0);
-  };
-  driver_->SelectRows(5, 7);
+  using Edit::Slots;
+  const auto selected = [this] { return driver_->Grid().Selected(); };
+  driver_->Grid().Select({2, 5, 7});
   driver_->Key(Qt::Key_X, Qt::ControlModifier);
-  EXPECT_EQ(selected(), std::pair(5, 5)) << "the rows that moved up are others";
+  EXPECT_EQ(selected(), Slots({2})) << "the rows that moved up are others";
   for (const auto key : {Qt::Key_Z, Qt::Key_Z, Qt::Key_Y, Qt::Key_Y}) driver_->Key(key, Qt::ControlModifier);
   EXPECT_EQ(driver_->TextOf("CanaliCopiati"), "Appunti 3") << "they are nowhere else";
-  EXPECT_EQ(selected(), std::pair(5, 5));
+  EXPECT_EQ(selected(), Slots({2}));
   driver_->Key(Qt::Key_Z, Qt::ControlModifier);
-  EXPECT_EQ(selected(), std::pair(5, 7)) << "what came back";
+  EXPECT_EQ(selected(), Slots({2, 5, 7})) << "what came back";
 }
 
 TEST_F(EditingWindow, RowsMoveByKeysAndByDropping) {
   driver_->SelectRows(1, 2);
   driver_->Key(Qt::Key_Down, Qt::AltModifier);
   EXPECT_EQ(Names(1, 3), "Tre,Uno,Due");
-  EXPECT_EQ(driver_->Grid().Selected()->first, 2) << "the selection goes along";
+  EXPECT_EQ(driver_->Grid().Selected().front(), 2) << "the selection goes along";
   auto* model = driver_->Grid().model();
   const auto drop = [&](int before, Qt::DropAction action) {
     const std::unique_ptr<QMimeData> rows(model->mimeData({model->index(1, 0), model->index(2, 0)}));
@@ -91,6 +89,20 @@ TEST_F(EditingWindow, RowsMoveByKeysAndByDropping) {
   EXPECT_EQ(Names(1, 7), "Tre,,Cinque,Città HD,Uno,Due,Sette");
   drop(1, Qt::CopyAction);
   EXPECT_EQ(Names(1, 3), ",Cinque,Tre") << "a copy is inserted";
+  const Routines::State before = List();
+  driver_->Grid().Select({3, 6, 7});
+  driver_->Key(Qt::Key_Up, Qt::AltModifier);
+  driver_->Key(Qt::Key_Up, Qt::AltModifier);
+  const std::unique_ptr<QMimeData> rows(model->mimeData(driver_->Grid().selectionModel()->selectedRows()));
+  EXPECT_EQ(rows->data(SlotsType), "1 4 5");
+  EXPECT_TRUE(model->dropMimeData(rows.get(), Qt::MoveAction, 11, 0, {}));
+  QTest::qWait(1);
+  EXPECT_EQ(driver_->Grid().Selected(), Edit::Slots({9, 10, 11})) << "in front of what was in slot 12";
+  EXPECT_EQ(List().Channel(9), before.Channel(3));
+  EXPECT_EQ(List().Channel(11), before.Channel(7));
+  EXPECT_EQ(List().Channel(12), before.Channel(12));
+  for (int step = 0; step < 2; ++step) ASSERT_TRUE(driver_->Choose("Annulla"));
+  EXPECT_TRUE(List() == before) << "two moves by a row are one step";
   driver_->ExpectLine("Inserire il numero di canale a cui spostare", "999");
   Tells("SpostaA", "Nr. Canale non valido");
 }
@@ -111,11 +123,11 @@ TEST_F(EditingWindow, RowKeysLeaveTheFilterFieldAlone) {
   EXPECT_TRUE(List() == before);
   EXPECT_EQ(driver_->TextOf("FiltroTrovati"), "2 trovati");
   driver_->Key(Qt::Key_Return);
-  EXPECT_EQ(driver_->Grid().Selected()->first, 8);
+  EXPECT_EQ(driver_->Grid().Selected().front(), 8);
   driver_->SelectRows(9, 9);
   field->setFocus();
   driver_->Key(Qt::Key_Return);
-  EXPECT_EQ(driver_->Grid().Selected()->first, 8) << "behind the last one comes the first";
+  EXPECT_EQ(driver_->Grid().Selected().front(), 8) << "behind the last one comes the first";
 }
 
 TEST_F(EditingWindow, SearchingAsksForTheNext) {
@@ -138,7 +150,7 @@ TEST_F(EditingWindow, GoingToAChannelLeavesNoRowSelectedOutOfSight) {
   driver_->SelectRows(2, 3);
   driver_->ExpectLine(where, "600");
   ASSERT_TRUE(driver_->Press("Toolbar1_Goto"));
-  EXPECT_FALSE(driver_->Grid().Selected());
+  EXPECT_TRUE(driver_->Grid().Selected().empty());
   driver_->ExpectLine(where, "1000");
   Tells("Toolbar1_Goto", "Nr. Canale non valido");
   ASSERT_TRUE(driver_->Choose("VisualizzaTransponder"));

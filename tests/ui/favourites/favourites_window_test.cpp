@@ -44,7 +44,7 @@ TEST_F(FavouritesLists, TakeChannelsByKeyAndDroppingAndKeepTheirNames) {
   type("Città", Qt::Key_Return);
   EXPECT_EQ(Action("Annulla").text(), "Annulla Nome lista preferiti");
   Click(*second, second->model()->index(2, 0), true);
-  EXPECT_EQ(driver_->Grid().Selected()->first, 5);
+  EXPECT_EQ(driver_->Grid().Selected().front(), 5);
 }
 
 }  // namespace Ui

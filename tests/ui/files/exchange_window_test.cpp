@@ -94,7 +94,7 @@ TEST_F(Exchange, SpreadsheetsGetTheListShownOrItsSelectedRows) {
     return std::count(bytes.begin(), bytes.end(), '\n') - 1;
   };
   EXPECT_EQ(lines(), 11);
-  driver_->SelectRows(1, 3);
+  driver_->Grid().Select({1, 3, 9});
   driver_->ExpectQuestion("Esportare solo le righe selezionate?", true);
   EXPECT_EQ(lines(), 3);
   driver_->ExpectCancelledQuestion("Esportare solo le righe selezionate?");

@@ -42,7 +42,7 @@ TEST(Printing, EveryRowIsOnItsPageWhateverThePaper) {
       state.Channel(slot) = Samples::MakeChannel("\x07\tCitt\xE0 " + std::to_string(slot), 1, 7, 65535, 9);
   });
   const ListModel model(document, ListModel::Channels, nullptr);
-  const PrintReport report = ReportOf(model, {1, 200}, QString(200, 'M'));
+  const PrintReport report = ReportOf(model, Edit::SlotRun(1, 200), QString(200, 'M'));
   const Tests::TestFolder folder;
   const std::string path = folder.Path("lista.pdf");
   for (const auto& [paper, way] :
@@ -89,7 +89,7 @@ TEST_F(PrintingWindow, TheListShownOrItsSelectedRows) {
   ASSERT_TRUE(driver_->Choose("StampaGriglia"));
   EXPECT_EQ(Said(), "Stampa Canali - lista.dat: 1 pagina in lista.pdf");
   EXPECT_TRUE(Rows().back().startsWith("0012")) << "the free slots at the list's end are left out";
-  driver_->SelectRows(3, 5);
+  driver_->Grid().Select({3, 5, 9});
   const QString which = "Stampare solo le 3 righe selezionate?\nRispondere NO per stampare tutta la lista";
   driver_->ExpectCancelledQuestion(which);
   driver_->Key(Qt::Key_P, Qt::ControlModifier);
@@ -97,7 +97,7 @@ TEST_F(PrintingWindow, TheListShownOrItsSelectedRows) {
   ExpectPdf(title);
   driver_->Key(Qt::Key_P, Qt::ControlModifier);
   EXPECT_EQ(Rows().size(), 3);
-  EXPECT_TRUE(Rows()[0].startsWith("0003"));
+  EXPECT_TRUE(Rows()[0].startsWith("0003") && Rows()[2].startsWith("0009"));
 }
 
 TEST_F(PrintingWindow, AFileThatThePrintDialogNamesNeedsNoPrinter) {

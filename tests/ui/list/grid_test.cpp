@@ -13,6 +13,7 @@ class Rows : public TableModel {
   [[nodiscard]] int rowCount(const QModelIndex& parent = {}) const override {
     return parent.isValid() ? 0 : 10;
   }
+  [[nodiscard]] bool Used(int row) const override { return row != 4; }
 
  protected:
   [[nodiscard]] QString CellText(int row, int) const override { return QString::number(row); }
@@ -69,6 +70,43 @@ TEST(Grid, EachKindOfRowHasItsColourAndItsWord) {
   SdxModel sdx(table, nullptr);
   sdx.Refresh();
   EXPECT_EQ(Colours(sdx, 1), "80FFFF FFFFC0 FFC0FF");
+}
+
+TEST(Grid, SingleRowsAndRangesAreAddedAndTakenAwayByMouseAndKeys) {
+  Rows list;
+  Grid grid(nullptr);
+  grid.resize(500, 600);
+  grid.show();
+  grid.ShowList(&list);
+  const auto click = [&](int row, Qt::KeyboardModifiers keys = {}) {
+    QTest::mouseClick(grid.viewport(), Qt::LeftButton, keys,
+                      grid.visualRect(list.index(row - 1, 1)).center());
+    return grid.Selected();
+  };
+  const auto press = [&](Qt::Key key, Qt::KeyboardModifiers keys = {}) {
+    QTest::keyClick(&grid, key, keys);
+    return grid.Selected();
+  };
+  using Slots = Edit::Slots;
+  constexpr auto Ctrl = Qt::ControlModifier;
+  constexpr auto Shift = Qt::ShiftModifier;
+  EXPECT_EQ(click(9), Slots({9}));
+  EXPECT_EQ(click(2, Ctrl), Slots({2, 9}));
+  EXPECT_EQ(click(4, Ctrl | Shift), Slots({2, 3, 4, 9}));
+  EXPECT_EQ(click(3, Ctrl), Slots({2, 4, 9})) << "one that is selected, which a drag could begin on";
+  EXPECT_EQ(press(Qt::Key_Down, Ctrl), Slots({2, 4, 9})) << "the current row goes on alone";
+  EXPECT_EQ(press(Qt::Key_Down, Ctrl), Slots({2, 4, 9}));
+  EXPECT_EQ(press(Qt::Key_Space, Ctrl), Slots({2, 4, 5, 9}));
+  EXPECT_EQ(press(Qt::Key_Down, Ctrl | Shift), Slots({2, 4, 5, 6, 9}));
+  EXPECT_EQ(press(Qt::Key_Up, Ctrl), Slots({2, 4, 5, 6, 9}));
+  EXPECT_EQ(press(Qt::Key_Space, Ctrl), Slots({2, 4, 6, 9}));
+  EXPECT_EQ(click(8, Shift), Slots({5, 6, 7, 8})) << "a range is the selection";
+  EXPECT_EQ(click(6), Slots({6})) << "as is a row, selected or not";
+  EXPECT_EQ(press(Qt::Key_Down, Shift), Slots({6, 7}));
+  EXPECT_EQ(press(Qt::Key_A, Ctrl), Slots({1, 2, 3, 5, 6, 7, 8, 9, 10})) << "but what is empty";
+  grid.Select({2, 3, 7});
+  EXPECT_EQ(grid.Selected(), Slots({2, 3, 7}));
+  EXPECT_EQ(grid.currentIndex().row(), 1);
 }
 
 TEST(Grid, ColumnsShareTheSpareWidthExceptThoseThatTheUserHasSet) {

@@ -57,7 +57,7 @@ TEST_F(Comparing, ShowsWhatASaveWillChangeUntilItHas) {
                                  "Spostato|0010 Sette|0007 Sette"}));
   ASSERT_TRUE(driver_->Choose("VisualizzaTransponder"));
   Click(*table_, table_->model()->index(2, CompareModel::Here));
-  EXPECT_EQ(driver_->Grid().Selected()->first, 10);
+  EXPECT_EQ(driver_->Grid().Selected().front(), 10);
   SaveAs(flash_, 10);
   EXPECT_EQ(Rows().size(), 0);
   EXPECT_EQ(found_->findChild<QLabel*>("AltreDifferenze")->text(), "Nessuna differenza");

@@ -29,10 +29,10 @@ TEST_F(Duplicates, RowsLeadToTheirChannelsByMouseAndKeys) {
   ASSERT_TRUE(driver_->Choose("VisualizzaTransponder"));
   Click(*tree_, tree_->indexFromItem(&Row(2, 1)), true);
   EXPECT_EQ(driver_->TextOf("Text1"), "Canali");
-  EXPECT_EQ(driver_->Grid().Selected()->first, 8);
+  EXPECT_EQ(driver_->Grid().Selected().front(), 8);
   tree_->setCurrentItem(&Row(0, 0));
   QTest::keyClick(tree_, Qt::Key_Return);
-  EXPECT_EQ(driver_->Grid().Selected()->first, 1);
+  EXPECT_EQ(driver_->Grid().Selected().front(), 1);
   QTest::keyClick(tree_, Qt::Key_Down);
   QTest::keyClick(tree_, Qt::Key_Space);
   EXPECT_EQ(Row(0, 1).checkState(0), Qt::Checked);

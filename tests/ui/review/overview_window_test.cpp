@@ -26,10 +26,10 @@ TEST_F(OverviewLines, ALineMarksItsRowsAndGoesOnDoingSo) {
   ASSERT_TRUE(driver_->Choose("VisualizzaTransponder"));
   Choose(Line("Radio"));
   EXPECT_EQ(driver_->TextOf("Text1"), "Canali");
-  EXPECT_EQ(driver_->Grid().Selected()->first, 8);
+  EXPECT_EQ(driver_->Grid().Selected().front(), 8);
   EXPECT_EQ(driver_->TextOf("FiltroTrovati"), "2 trovati");
   Action("CercaSuccessivo").trigger();
-  EXPECT_EQ(driver_->Grid().Selected()->first, 9);
+  EXPECT_EQ(driver_->Grid().Selected().front(), 9);
   Delete(8, 8);
   EXPECT_EQ(driver_->TextOf("FiltroTrovati"), "1 trovato") << "the marks follow the list";
   EXPECT_EQ(Line("Radio")->text(2), "1");
@@ -44,7 +44,7 @@ TEST_F(OverviewLines, ALineOfTranspondersShowsThem) {
   Choose(tree_->findItems("Transponder", Qt::MatchExactly).front()->child(1));
   EXPECT_EQ(Said(), "Riepilogo: Transponder Liberi: 7 transponder");
   EXPECT_EQ(driver_->TextOf("Text1"), "Transponders");
-  EXPECT_EQ(driver_->Grid().Selected()->first, 4);
+  EXPECT_EQ(driver_->Grid().Selected().front(), 4);
   window_->findChild<QLineEdit*>("Filtro")->clear();
   EXPECT_FALSE(window_->findChild<QLineEdit*>("Filtro")->isVisible()) << "what is typed finds channels only";
 }

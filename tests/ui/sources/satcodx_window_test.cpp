@@ -53,13 +53,13 @@ TEST_F(SatcodxWindow, ItsRowsAreShownAndInserted) {
   missing->close();
   EXPECT_TRUE(Pane().isVisible());
   Tells("Toolbar1_Copy_SDX", "Nessun canale SDX selezionato");
-  Pane().Select({2, 3});
-  driver_->ExpectLine("Inserire la posizione in cui inserire Nuovo 2", "1000");
+  Pane().Select({1, 3});
+  driver_->ExpectLine("Inserire la posizione in cui inserire Nuovo 1", "1000");
   Tells("Toolbar1_Copy_SDX", "Posizione non valida");
-  driver_->ExpectLine("Inserire la posizione in cui inserire Nuovo 2", "1");
+  driver_->ExpectLine("Inserire la posizione in cui inserire Nuovo 1", "1");
   driver_->ExpectQuestion("Si desidera spostare i canali verso il basso?", true);
   ASSERT_TRUE(driver_->Press("Toolbar1_Copy_SDX"));
-  EXPECT_EQ(Names(1, 4), "Nuovo 2,Nuovo 3,Uno,Due");
+  EXPECT_EQ(Names(1, 4), "Nuovo 1,Nuovo 3,Uno,Due");
   EXPECT_EQ(driver_->Cell(1, 2), "004") << "a transponder of its own";
 }
 
@@ -78,7 +78,7 @@ TEST_F(SatcodxWindow, AllItsRowsGoWhereTheUserSaysAsFarAsThereIsRoom) {
   ImportAll([](QDialog& box, const QString&) { box.findChild<QLineEdit*>("Partenza")->setText("998"); });
   Tells("ImportaTuttoSDX", "1 canale SDX non ha trovato posto");
   EXPECT_EQ(Names(998, 999), "Nuovo 1,Nuovo 2");
-  EXPECT_EQ(Pane().Selected()->first, 3) << "for another place";
+  EXPECT_EQ(Pane().Selected().front(), 3) << "for another place";
   ImportAll([](QDialog& box, const QString& start) {
     const auto* confirm = box.findChild<QDialogButtonBox*>()->button(QDialogButtonBox::Ok);
     EXPECT_TRUE(start.isEmpty() && !confirm->isEnabled()) << "nothing is free behind the last channel";
@@ -93,7 +93,7 @@ TEST_F(SatcodxWindow, AllItsRowsGoWhereTheUserSaysAsFarAsThereIsRoom) {
 TEST_F(SatcodxWindow, ChannelsThatDropOffStayInSight) {
   ImportAll([](QDialog& box, const QString&) { box.findChild<QLineEdit*>("Partenza")->setText("997"); });
   ASSERT_TRUE(driver_->Choose("ImportaTuttoSDX"));
-  Pane().Select({1, 1});
+  Pane().SelectRow(1);
   driver_->ExpectLine("Inserire la posizione in cui inserire Nuovo 1", "999");
   driver_->ExpectQuestion("Si desidera spostare i canali verso il basso?", true);
   ASSERT_TRUE(driver_->Press("Toolbar1_Copy_SDX"));

@@ -77,12 +77,12 @@ TEST_F(Trees, AndTheGridFollowEachOther) {
   EXPECT_EQ(Current(*bouquets_), "0003 Tre");
   const QPersistentModelIndex node = bouquets_->currentIndex();
   Click(*bouquets_, node.sibling(node.row() - 1, 0));
-  EXPECT_EQ(driver_->Grid().Selected()->first, 2);
+  EXPECT_EQ(driver_->Grid().Selected().front(), 2);
   driver_->Key(Qt::Key_Down);
-  EXPECT_EQ(driver_->Grid().Selected()->first, 3);
+  EXPECT_EQ(driver_->Grid().Selected().front(), 3);
   EXPECT_TRUE(bouquets_->hasFocus()) << "the keys go on walking the tree";
   QTest::keyClicks(bouquets_, "uno");
-  EXPECT_EQ(driver_->Grid().Selected()->first, 1) << "names are found by typing";
+  EXPECT_EQ(driver_->Grid().Selected().front(), 1) << "names are found by typing";
   driver_->ExpectLine("Inserire il Nr. del canale su cui posizionarsi", "9");
   ASSERT_TRUE(driver_->Choose("VaiAlCanale"));
   EXPECT_EQ(Current(*bouquets_), "0009 Radio Nove");
@@ -113,10 +113,10 @@ TEST_F(Trees, ATransponderLeadsToItselfOrToItsChannels) {
   const QModelIndex transponder = transponders_->currentIndex();
   driver_->SelectRows(3, 3);
   Click(*transponders_, transponder);
-  EXPECT_EQ(driver_->Grid().Selected()->first, 2);
+  EXPECT_EQ(driver_->Grid().Selected().front(), 2);
   ASSERT_TRUE(driver_->Choose("VisualizzaCanali"));
   Click(*transponders_, transponder);
-  EXPECT_EQ(driver_->Grid().Selected()->first, 5);
+  EXPECT_EQ(driver_->Grid().Selected().front(), 5);
   EXPECT_TRUE(Current(*transponders_).starts_with("002  ")) << "the channel selected is not shown back";
   ASSERT_TRUE(driver_->Choose("VisualizzaCanali"));
   transponders_->expand(transponder);
