@@ -150,7 +150,7 @@ class Session {
     }
     lines->setCurrentItem(lines->topLevelItem(0)->child(1));
     QTest::keyClick(lines, Qt::Key_Return);
-    Step("overview", chosen && driver_->TextOf("FiltroTrovati") == "123 trovati",
+    Step("overview", chosen && driver_->TextOf("FiltroTrovati") == "1 di 123",
          driver_->TextOf("UltimoRisultato") + "; " + driver_->TextOf("RiepilogoTotali"));
     overview->close();
     window_->findChild<QLineEdit*>("Filtro")->clear();

@@ -74,10 +74,7 @@ const struct Change {
      "2 canali sono diversi solo in byte senza effetto"},
     {"rows put in at the top move nothing", [](State& s) { static_cast<void>(MakeRoom(s, 1, 2)); },
      "6 canali hanno un altro numero nello stesso ordine"},
-    {"one channel moved to the end",
-     [](State& s) {
-       MoveChannels(s, {1}, 6);
-     },
+    {"one channel moved to the end", [](State& s) { MoveChannels(s, {1}, 6); },
      "1>6 Moved: ; 5 canali hanno un altro numero nello stesso ordine"},
     {"one deleted, one added",
      [](State& s) {

@@ -3,6 +3,7 @@
 #include "edit/cell_edit.h"
 #include "edit/move.h"
 #include "ui/kit/text.h"
+#include "ui/session/gate.h"
 
 namespace Ui {
 
@@ -139,7 +140,7 @@ void CellCommands::Rename() {
 
 void CellCommands::InsertRows() {
   const Edit::Slots rows = Rows();
-  if (rows.empty()) return;
+  if (rows.empty() || !Meets(session_, Need::Places)) return;
   const std::string label =
       rows.size() == 1 ? "Inserisci riga vuota" : "Inserisci " + std::to_string(rows.size()) + " righe vuote";
   const auto inserted =

@@ -2,7 +2,6 @@
 
 #include "base/text.h"
 #include "edit/changed_rows.h"
-#include "edit/move.h"
 #include "ui/kit/text.h"
 
 #include <QAction>
@@ -27,12 +26,7 @@ void EditCommands::Connect(Actions& actions) {
   actions.Connect("Taglia", [this] { Cut(); });
   actions.Connect("Incolla", [this] { Paste(); });
   actions.Connect("Elimina", [this] { Delete(); });
-  actions.Connect("SpostaSu", [this] { MoveBy(-1); });
-  actions.Connect("SpostaGiu", [this] { MoveBy(1); });
-  actions.Connect("SpostaA", [this] { SpostaA(); });
   session_.onChange.emplace_back([this, &actions] { ShowSteps(actions); });
-  QObject::connect(&session_.view, &ListView::Dropped, &session_.view,
-                   [this](const Slots& slots, int before, bool copy) { Drop(slots, before, copy); });
 }
 
 void EditCommands::ShowSteps(Actions& actions) {
@@ -41,12 +35,6 @@ void EditCommands::ShowSteps(Actions& actions) {
   };
   name("Annulla", session_.document.Steps().UndoLabel());
   name("Ripeti", session_.document.Steps().RedoLabel());
-}
-
-Slots EditCommands::SelectedChannels() {
-  Slots slots = session_.view.ListGrid().Selected();
-  if (slots.empty()) session_.dialogs.Message("Nessun canale selezionato", {});
-  return slots;
 }
 
 bool EditCommands::MayReplaceClipboard() {
@@ -59,7 +47,7 @@ void EditCommands::GiveToOthers(const Slots& slots) {
 }
 
 void EditCommands::Copy() {
-  const Slots slots = SelectedChannels();
+  const Slots slots = session_.SelectedChannels();
   if (slots.empty() || !MayReplaceClipboard()) return;
   GiveToOthers(slots);
   session_.document.Copy(Edit::CopyChannels(session_.document.Tables(), slots));
@@ -68,7 +56,7 @@ void EditCommands::Copy() {
 }
 
 void EditCommands::Cut() {
-  const Slots slots = SelectedChannels();
+  const Slots slots = session_.SelectedChannels();
   if (slots.empty() || !MayReplaceClipboard()) return;
   GiveToOthers(slots);
   const std::string label = "Taglia " + CountText(slots.size());
@@ -76,17 +64,17 @@ void EditCommands::Cut() {
     clipboard = Edit::CopyChannels(state, slots);
     return Edit::CutChannels(state, slots, clipboard);
   });
-  session_.view.ListGrid().SelectRow(slots.front());
+  session_.view.ListGrid().SelectNear(slots.front());
   session_.status.ShowResult(Text(label) + session_.Losses(lost));
 }
 
 void EditCommands::Delete() {
-  const Slots slots = SelectedChannels();
+  const Slots slots = session_.SelectedChannels();
   if (slots.empty()) return;
   const std::string label = "Elimina " + CountText(slots.size());
   const auto lost =
       session_.document.Apply(label, [&](State& state) { return Edit::DeleteSlots(state, slots); });
-  session_.view.ListGrid().SelectRow(slots.front());
+  session_.view.ListGrid().SelectNear(slots.front());
   session_.status.ShowResult(Text(label) + session_.Losses(lost));
 }
 
@@ -136,72 +124,6 @@ void EditCommands::TellPasted(int count, int position, const Edit::PasteReport& 
   session_.status.ShowResult(text);
 }
 
-void EditCommands::Move(const Slots& slots, int to) {
-  Document& document = session_.document;
-  const int count = static_cast<int>(slots.size());
-  to = std::clamp(to, 1, document.Tables().ChannelCount - count + 1);
-  document.Apply("Sposta " + CountText(slots.size()),
-                 [&](State& tables) { return Edit::MoveChannels(tables, slots, to); });
-  Moved(Edit::SlotRun(to, to + count - 1));
-}
-
-void EditCommands::Moved(const Slots& slots) {
-  moved_ = slots;
-  session_.view.ListGrid().Select(slots);
-  session_.status.ShowResult("Sposta " + Text(CountText(slots.size())) +
-                             QString(" al %1").arg(slots.front()));
-}
-
-void EditCommands::MoveBy(int rows) {
-  Slots slots = SelectedChannels();
-  if (slots.empty()) return;
-  Document& document = session_.document;
-  const std::string label = "Sposta " + CountText(slots.size());
-  // Rows that go on from where a move has just put them make one step with it.
-  const bool continues = moved_ == slots && document.Steps().UndoLabel() == label;
-  const bool moved = document.Apply(
-      label, [&](State& tables) { return Edit::StepChannels(tables, slots, rows); },
-      continues ? Edit::History::Kind::Continued : Edit::History::Kind::Edit);
-  if (!moved) return;
-  for (int& slot : slots) slot += rows;
-  Moved(slots);
-}
-
-void EditCommands::SpostaA() {
-  const Slots slots = SelectedChannels();
-  if (slots.empty()) return;
-  const auto answer = session_.dialogs.AskLine("Inserire il numero di canale a cui spostare");
-  if (!answer || answer->isEmpty()) return;
-  const int to = Base::LeadingNumber(answer->toStdString());
-  if (to < 1 || to + static_cast<int>(slots.size()) - 1 > session_.document.Tables().ChannelCount) {
-    session_.dialogs.Message("Nr. Canale non valido", {});
-    return;
-  }
-  Move(slots, to);
-}
-
-void EditCommands::Drop(const Slots& slots, int before, bool copy) {
-  if (!Edit::AreSlots(session_.document.Tables(), slots)) return;
-  if (copy) {
-    InsertCopy(slots, before);
-  } else {
-    Move(slots, Edit::TargetBefore(slots, before));
-  }
-}
-
-void EditCommands::InsertCopy(const Slots& slots, int before) {
-  const std::string label = "Copia " + CountText(slots.size());
-  const bool made = session_.document.Apply(label, [&](State& state) {
-    const Edit::Clipboard copy = Edit::CopyChannels(state, slots);
-    return static_cast<bool>(
-        Edit::Paste(state, copy, before, Edit::PasteWay::Move, session_.bouquets.tables));
-  });
-  if (made)
-    session_.view.ListGrid().Select(Edit::SlotRun(before, before + static_cast<int>(slots.size()) - 1));
-  session_.status.ShowResult(made ? Text(label) + QString(" al %1").arg(before)
-                                  : "Non c'è posto per inserire " + Text(CountText(slots.size())));
-}
-
 void EditCommands::Undo() {
   session_.status.ForgetEditedLoss();
   TakeStep(&Document::Undo, "Annullato: " + Text(session_.document.Steps().UndoLabel()));
@@ -216,7 +138,6 @@ void EditCommands::TakeStep(void (Document::*step)(), const QString& result) {
   Document& document = session_.document;
   const auto before = std::make_unique<State>(document.Tables());
   (document.*step)();
-  moved_ = {};
   const State& state = document.Tables();
   if (state.ListNumber != before->ListNumber) {
     session_.view.ShowFromStart(state.Loaded ? View::Channels : View::None);

@@ -5,6 +5,9 @@
 #include "edit/list_operations.h"
 #include "edit/regroup.h"
 #include "ui/kit/toolkit.h"
+#include "ui/session/filter_texts.h"
+
+#include <QAction>
 
 namespace Ui {
 
@@ -20,6 +23,12 @@ void ListCommands::Connect(Actions& actions) {
   actions.Connect("CercaCanale", [this] { CercaCanale(); });
   actions.Connect("CercaSuccessivo", [this] { CercaSuccessivo(); });
   actions.Connect("Filtra", [this] { session_.view.Filter().StartTyping(); });
+  actions.Connect("SelezionaTrovati", [this] { SelezionaTrovati(); });
+  actions.Connect("SoloITrovati",
+                  [this, &actions] { session_.view.Filter().SetOnly(actions["SoloITrovati"].isChecked()); });
+  FilterBar& filter = session_.view.Filter();
+  QObject::connect(&filter, &FilterBar::OnlyToggled, &actions["SoloITrovati"], &QAction::setChecked);
+  FollowFilter(session_, filter, session_.view.Hits(), "righe");
   actions.Connect("VaiAlCanale", [this] { VaiAlCanale(); });
 }
 
@@ -122,9 +131,16 @@ void ListCommands::CercaCanale() {
   session_.dialogs.Message("Canale non trovato", {}, Tone::Information);
 }
 
+void ListCommands::SelezionaTrovati() {
+  session_.view.Hits().SelectAll();
+  const auto found = session_.view.Filter().Matches().size();
+  session_.status.ShowResult(found == 0 ? QString("Il filtro non ha trovato righe")
+                                        : "Selezionate " + Counted(found, "riga", "righe"));
+}
+
 void ListCommands::CercaSuccessivo() {
-  if (session_.view.Filter().Active()) {
-    Q_EMIT session_.view.Filter().Step(true);
+  if (!session_.view.Filter().Matches().empty()) {
+    session_.view.Hits().Step(true);
     return;
   }
   if (session_.view.Current() != View::Channels) return;

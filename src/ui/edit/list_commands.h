@@ -23,6 +23,7 @@ class ListCommands {
   void CercaCanale();
   // The next match of the filter, or of the name last searched for, without a box.
   void CercaSuccessivo();
+  void SelezionaTrovati();
 
  private:
   void ChangeTransponders(const char* label, void (*operation)(Routines::State&));

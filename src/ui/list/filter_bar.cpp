@@ -1,37 +1,56 @@
 #include "ui/list/filter_bar.h"
 
-#include "review/filter.h"
+#include "ui/kit/elided_label.h"
 #include "ui/kit/screen_fit.h"
+#include "ui/kit/text.h"
 
 #include <QAbstractButton>
+#include <QCheckBox>
 #include <QHBoxLayout>
 #include <QKeyEvent>
-#include <QLabel>
 #include <QLineEdit>
+#include <QToolButton>
 
 namespace Ui {
 
-FilterBar::FilterBar(const Document& document, QWidget* parent)
-    : QWidget(parent), document_(document), field_(new QLineEdit(this)), count_(new QLabel(this)) {
-  field_->setObjectName("Filtro");
+FilterBar::FilterBar(const QString& suffix, const QString& placeholder, Find find, QWidget* parent)
+    : QWidget(parent),
+      find_(std::move(find)),
+      field_(new QLineEdit(this)),
+      count_(new ElidedLabel(Qt::ElideRight, this)),
+      only_(new QCheckBox("Solo i trovati", this)) {
+  field_->setObjectName("Filtro" + suffix);
   field_->setAccessibleName("Filtro");
-  field_->setPlaceholderText("Nome, SID o transponder (Ctrl+Shift+F)");
+  field_->setPlaceholderText(placeholder);
   field_->setClearButtonEnabled(true);
   for (auto* clear : field_->findChildren<QAbstractButton*>()) clear->setAccessibleName("Svuota il filtro");
   field_->setMinimumWidth(Letters(*field_, 14));
   field_->setMaximumWidth(field_->fontMetrics().horizontalAdvance(field_->placeholderText()) + 40);
   field_->installEventFilter(this);
-  count_->setObjectName("FiltroTrovati");
+  count_->setObjectName("FiltroTrovati" + suffix);
   count_->setSizePolicy(QSizePolicy::Maximum, QSizePolicy::Preferred);
+  only_->setObjectName("SoloTrovati" + suffix);
+  auto* help = new QToolButton(this);
+  help->setObjectName("ParoleFiltro" + suffix);
+  help->setText("?");
+  help->setAccessibleName("Parole del filtro");
+  help->setFocusPolicy(Qt::StrongFocus);
+  help->setAutoRaise(true);
   auto* row = new QHBoxLayout(this);
   row->setContentsMargins(0, 0, 0, 0);
   row->addStretch(1);
   row->addWidget(count_);
   row->addWidget(field_, 1000);  // up to the width that it wants
+  row->addWidget(help);
+  row->addWidget(only_);
   connect(field_, &QLineEdit::textChanged, this, [this] {
     rows_ = {};
     Refresh();
   });
+  connect(field_, &QLineEdit::textEdited, this, &FilterBar::Typed);
+  connect(help, &QToolButton::clicked, this, &FilterBar::HelpWanted);
+  connect(only_, &QCheckBox::toggled, this, &FilterBar::Changed);
+  connect(only_, &QCheckBox::toggled, this, &FilterBar::OnlyToggled);
 }
 
 void FilterBar::StartTyping() {
@@ -47,24 +66,33 @@ void FilterBar::Show(Rows rows) {
 }
 
 void FilterBar::Refresh() {
-  matches_ = rows_.find
-                 ? rows_.find(document_.Tables())
-                 : Review::MatchingSlots(document_.Tables(), Review::Filter(field_->text().toStdString()));
-  const auto found = matches_.size();
-  count_->setText(field_->text().trimmed().isEmpty() ? QString()
-                  : found == 1                       ? "1 trovato"
-                                                     : QString("%1 trovati").arg(found));
+  filter_ = rows_.find ? Review::Filter() : Review::Filter(field_->text().toStdString());
+  matches_ = rows_.find ? rows_.find() : find_(filter_);
+  ShowPlace(0);
   Q_EMIT Changed();
 }
 
-bool FilterBar::eventFilter(QObject* watched, QEvent* event) {
-  if (event->type() != QEvent::KeyPress) return QWidget::eventFilter(watched, event);
-  const auto* key = static_cast<QKeyEvent*>(event);
-  switch (key->key()) {
+bool FilterBar::Only() const { return only_->isChecked() && Asks(); }
+
+void FilterBar::SetOnly(bool only) { only_->setChecked(only); }
+
+// Words that wait for something are told first, as the hits are not yet what they will be.
+void FilterBar::ShowPlace(std::size_t place) {
+  QStringList told;
+  if (!filter_.Unfinished().empty()) told += Text(filter_.Unfinished().front());
+  if (Asks()) {
+    told += place == 0 ? Counted(matches_.size(), "trovato", "trovati")
+                       : QString("%1 di %2").arg(place).arg(matches_.size());
+  }
+  count_->Show(told.join("; "));
+}
+
+bool FilterBar::TakeKey(const QKeyEvent& key) {
+  switch (key.key()) {
     case Qt::Key_Return:
     case Qt::Key_Enter:
     case Qt::Key_Down:
-      Q_EMIT Step((key->modifiers() & Qt::ShiftModifier) == 0);
+      Q_EMIT Step((key.modifiers() & Qt::ShiftModifier) == 0);
       return true;
     case Qt::Key_Up:
       Q_EMIT Step(false);
@@ -74,8 +102,15 @@ bool FilterBar::eventFilter(QObject* watched, QEvent* event) {
       Q_EMIT Left();
       return true;
     default:
-      return QWidget::eventFilter(watched, event);
+      if (!key.matches(QKeySequence::SelectAll) || matches_.empty()) return false;
+      Q_EMIT SelectWanted();
+      return true;
   }
+}
+
+bool FilterBar::eventFilter(QObject* watched, QEvent* event) {
+  const bool taken = event->type() == QEvent::KeyPress && TakeKey(*static_cast<QKeyEvent*>(event));
+  return taken || QWidget::eventFilter(watched, event);
 }
 
 }  // namespace Ui

@@ -5,15 +5,14 @@
 #include <QContextMenuEvent>
 #include <QDrag>
 #include <QEvent>
-#include <QGuiApplication>
 #include <QHeaderView>
-#include <QKeyEvent>
 #include <QMimeData>
 #include <QMouseEvent>
 #include <QPainter>
 #include <QScrollBar>
 #include <QShortcut>
 #include <QSignalBlocker>
+#include <QStyledItemDelegate>
 
 #include <algorithm>
 #include <memory>
@@ -30,6 +29,23 @@ QString HeaderStyle() {
              " border: 0; border-right: 1px solid #7fb97f; border-bottom: 1px solid #7fb97f; }")
       .arg(ToColor(Colours::Header).name());
 }
+
+// The numbers, with a mark at the edge of the rows that the filter finds.
+class NumberDelegate : public QStyledItemDelegate {
+ public:
+  using QStyledItemDelegate::QStyledItemDelegate;
+
+  QWidget* createEditor(QWidget*, const QStyleOptionViewItem&, const QModelIndex&) const override {
+    return nullptr;
+  }
+  void paint(QPainter* painter, const QStyleOptionViewItem& option, const QModelIndex& index) const override {
+    constexpr int MarkWidth = 5;
+    QStyledItemDelegate::paint(painter, option, index);
+    if (!static_cast<const TableModel*>(index.model())->Found(index.row() + 1)) return;
+    painter->fillRect(QRect(option.rect.topLeft(), QSize(MarkWidth, option.rect.height())),
+                      ToColor(Colours::Found));
+  }
+};
 
 }  // namespace
 
@@ -81,6 +97,7 @@ void Grid::SetUp(QTableView& view) {
   view.horizontalHeader()->setStyleSheet(HeaderStyle());
   view.horizontalHeader()->setSectionResizeMode(QHeaderView::Fixed);
   view.horizontalHeader()->setHighlightSections(false);
+  view.setItemDelegateForColumn(0, new NumberDelegate(&view));
   view.setSelectionBehavior(SelectRows);
   view.setSelectionMode(ExtendedSelection);
   view.setEditTriggers(NoEditTriggers);
@@ -92,6 +109,7 @@ void Grid::SetUp(QTableView& view) {
 
 void Grid::ShowList(TableModel* list) {
   if (list != model()) {
+    ShowOnly(std::nullopt);
     const std::unique_ptr<QItemSelectionModel> oldSelection(selectionModel());
     setModel(list);
     if (frozen_->model() != nullptr) frozen_->setModel(nullptr);  // until it is shown
@@ -107,73 +125,6 @@ void Grid::ShowList(TableModel* list) {
   scrollToTop();
   horizontalScrollBar()->setValue(0);
 }
-
-Edit::Slots Grid::Selected() const {
-  Edit::Slots rows;
-  if (selectionModel() == nullptr) return rows;
-  for (const QItemSelectionRange& range : selectionModel()->selection()) {
-    for (int row = range.top(); row <= range.bottom(); ++row) rows.push_back(row + 1);
-  }
-  std::sort(rows.begin(), rows.end());
-  rows.erase(std::unique(rows.begin(), rows.end()), rows.end());
-  return rows;
-}
-
-QItemSelection Grid::SelectionOf(const Edit::Slots& rows) const {
-  QItemSelection selection;
-  const int lastColumn = model()->columnCount() - 1;
-  for (std::size_t i = 0, run = 0; i < rows.size(); ++i) {
-    if (i + 1 < rows.size() && rows[i + 1] == rows[i] + 1) continue;
-    selection.append({model()->index(rows[run] - 1, 0), model()->index(rows[i] - 1, lastColumn)});
-    run = i + 1;
-  }
-  return selection;
-}
-
-void Grid::Select(const Edit::Slots& rows) {
-  if (rows.empty()) return clearSelection();
-  const QModelIndex first = model()->index(rows.front() - 1, 1);
-  const int sideways = horizontalScrollBar()->value();
-  selectionModel()->setCurrentIndex(first, QItemSelectionModel::NoUpdate);
-  selectionModel()->select(SelectionOf(rows), QItemSelectionModel::ClearAndSelect);
-  // All of them where they fit, else the first ones.
-  scrollTo(model()->index(rows.back() - 1, 1));
-  scrollTo(first);
-  horizontalScrollBar()->setValue(sideways);
-}
-
-void Grid::selectAll() {
-  if (selectionModel() == nullptr) return;
-  Edit::Slots used;
-  for (int row = 1; row <= model()->rowCount(); ++row) {
-    if (List()->Used(row)) used.push_back(row);
-  }
-  selectionModel()->select(SelectionOf(used), QItemSelectionModel::ClearAndSelect);
-}
-
-// Shift selects a range and nothing else, with Ctrl beside what was selected before; the toolkit's keys take Ctrl for
-// going on without a selection, even then.
-QItemSelectionModel::SelectionFlags Grid::selectionCommand(const QModelIndex& index,
-                                                           const QEvent* event) const {
-  using Flags = QItemSelectionModel;
-  const bool input = event != nullptr && event->isInputEvent();
-  const Qt::KeyboardModifiers keys =
-      input ? static_cast<const QInputEvent*>(event)->modifiers() : QGuiApplication::keyboardModifiers();
-  const bool beside = (keys & Qt::ControlModifier) != 0;
-  if (input && event->type() == QEvent::KeyPress && beside && (keys & Qt::ShiftModifier) != 0)
-    return Flags::SelectCurrent | Flags::Rows;
-  const auto command = QTableView::selectionCommand(index, event);
-  return command.testFlags(Flags::SelectCurrent) && !beside ? command | Flags::Clear : command;
-}
-
-// The toolkit would open the editor of the cell.
-void Grid::keyPressEvent(QKeyEvent* event) {
-  const bool toggle = event->key() == Qt::Key_Space && event->modifiers() == Qt::ControlModifier;
-  if (!toggle || !currentIndex().isValid()) return QTableView::keyPressEvent(event);
-  selectionModel()->select(currentIndex(), QItemSelectionModel::Toggle | QItemSelectionModel::Rows);
-}
-
-void Grid::ScrollToTop(int slot) { verticalScrollBar()->setValue(slot - 1); }
 
 // By the mouse on the row that it has just selected, by the keyboard beside the current one.
 void Grid::contextMenuEvent(QContextMenuEvent* event) {
@@ -309,6 +260,7 @@ void Grid::ShowFrozen(int sideways) {
     for (int column = 1; column < model()->columnCount(); ++column) frozen_->setColumnHidden(column, true);
     frozen_->setColumnWidth(0, columnWidth(0));
   }
+  HideRowsOf(*frozen_);
   // Hidden, it had no rows to scroll by.
   frozen_->doItemsLayout();
   frozen_->verticalScrollBar()->setValue(verticalScrollBar()->value());

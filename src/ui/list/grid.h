@@ -7,6 +7,7 @@
 
 #include <QTableView>
 
+#include <optional>
 #include <set>
 
 namespace Ui {
@@ -26,10 +27,21 @@ class Grid : public QTableView {
   // Selects rows, in rising order, and makes the first of them current, where it is or scrolled to.
   void Select(const Edit::Slots& rows);
   void SelectRow(int row) { Select({row}); }
+  void SelectInMiddle(int row);
+  // Selects rows that may be out of view; the current row and what is in view stay.
+  void SelectUnseen(const Edit::Slots& rows);
+  // Scrolls to a row, or the nearest one that is shown.
+  void ShowInMiddle(int row);
   // All rows that hold anything.
   void selectAll() override;
+  // Selects a row, or the nearest one that is shown.
+  void SelectNear(int row);
   // Makes a row the first visible one, as far as the list's end lets it.
   void ScrollToTop(int slot);
+
+  // Hides all rows but these, in rising order; nothing shows all of them. Rows that are hidden are selected no longer.
+  void ShowOnly(std::optional<Edit::Slots> rows);
+  [[nodiscard]] int HiddenRows() const;
 
   void scrollTo(const QModelIndex& index, ScrollHint hint = EnsureVisible) override;
 
@@ -37,10 +49,13 @@ class Grid : public QTableView {
   void SelectionMoved();
   // The user wants the menu of the selected rows, at a place of the screen.
   void MenuWanted(QPoint place);
+  // A row that is hidden is about to be selected.
+  void HiddenWanted();
 
  protected:
   [[nodiscard]] QItemSelectionModel::SelectionFlags selectionCommand(const QModelIndex& index,
                                                                      const QEvent* event) const override;
+  void setSelection(const QRect& area, QItemSelectionModel::SelectionFlags command) override;
   void keyPressEvent(QKeyEvent* event) override;
   void contextMenuEvent(QContextMenuEvent* event) override;
   void mousePressEvent(QMouseEvent* event) override;
@@ -60,6 +75,9 @@ class Grid : public QTableView {
   void SetUp(QTableView& view);
   [[nodiscard]] const TableModel* List() const { return static_cast<const TableModel*>(model()); }
   [[nodiscard]] QItemSelection SelectionOf(const Edit::Slots& rows) const;
+  [[nodiscard]] int ShownNear(int row) const;
+  void HideRowsOf(QTableView& view);
+  void LeaveHiddenRows();
   void ShowDropLine(QPoint place);
   [[nodiscard]] std::vector<int> SharedWidths() const;
   void FitColumns();
@@ -71,6 +89,7 @@ class Grid : public QTableView {
   QWidget* dropLine_;                // where dragged rows would land, across all columns
   std::vector<int> widths_;          // of the columns without the spare width
   std::set<std::size_t> own_ = {0};  // columns that take no part of it
+  std::optional<Edit::Slots> only_;  // the rows shown where others are hidden
 };
 
 }  // namespace Ui

@@ -10,6 +10,8 @@
 namespace Ui {
 namespace {
 
+constexpr int MarkWidth = 6;
+
 // What most of the slots are.
 Routines::RowKind MostlyIn(const Routines::State& state, int first, int end) {
   std::map<Routines::RowKind, int> counts;
@@ -40,6 +42,11 @@ void ListMap::ShowSelection(std::vector<int> slots) {
   update();
 }
 
+void ListMap::ShowFound(std::vector<int> slots) {
+  found_ = std::move(slots);
+  update();
+}
+
 int ListMap::SlotAt(int y) const {
   const int count = document_.Tables().ChannelCount;
   return std::clamp(1 + y * count / std::max(height(), 1), 1, std::max(count, 1));
@@ -62,20 +69,20 @@ void ListMap::paintEvent(QPaintEvent*) {
   painter.drawImage(rect(), bands_);
   painter.setPen(palette().color(QPalette::Mid));
   painter.drawRect(rect().adjusted(0, 0, -1, -1));
+  PaintSlots(painter, found_, width() - MarkWidth, ToColor(Colours::Found));
   PaintSlots(painter, selected_, 0, palette().color(QPalette::Highlight));
 }
 
 // As marks high enough to be seen, each line of the strip once.
 void ListMap::PaintSlots(QPainter& painter, const std::vector<int>& slots, int left,
                          const QColor& colour) const {
-  constexpr int Width = 6;
   constexpr int Least = 3;
   const int count = document_.Tables().ChannelCount;
   int painted = 0;
   for (const int slot : slots) {
     const int top = std::max((slot - 1) * height() / count, painted);
     painted = std::max({slot * height() / count, (slot - 1) * height() / count + Least, painted});
-    painter.fillRect(QRect(left, top, Width, painted - top), colour);
+    painter.fillRect(QRect(left, top, MarkWidth, painted - top), colour);
   }
 }
 

@@ -1,5 +1,5 @@
 // A narrow strip beside the grid that shows the whole channel list at a glance: a band for every few slots in the
-// colour of most of them, and which rows are selected.
+// colour of most of them, at the left which rows are selected, at the right which the filter finds.
 #pragma once
 
 #include "ui/list/document.h"
@@ -20,6 +20,7 @@ class ListMap : public QWidget {
   ListMap(const Document& document, QWidget* parent);
 
   void ShowSelection(std::vector<int> slots);
+  void ShowFound(std::vector<int> slots);
 
   [[nodiscard]] QSize sizeHint() const override { return {16, 0}; }
 
@@ -41,6 +42,7 @@ class ListMap : public QWidget {
   const Document& document_;
   QImage bands_;  // one pixel wide; made anew when the list or the height changes
   std::vector<int> selected_;
+  std::vector<int> found_;
 };
 
 }  // namespace Ui

@@ -10,12 +10,6 @@ namespace Ui {
 
 using Routines::State;
 
-namespace {
-
-constexpr int NameColumn = 1;  // of a transponder, its frequency
-
-}  // namespace
-
 const ListModel::Kind ListModel::Channels = {
     Routines::ChannelHeader,
     [](const State& state) { return state.ChannelCount; },
@@ -43,26 +37,15 @@ QString ListModel::CellText(int slot, int column) const {
   return CodePageText(Base::TrimmedRight(kind_.cell(document_.Tables(), slot, column)));
 }
 
-// What the colours say, for those who do not see them.
-QString ListModel::SpokenKind(int slot) const {
-  const bool found = !marks_.empty() && marks_[static_cast<std::size_t>(slot)] != Mark::None;
+QString ListModel::Spoken(int slot) const {
   const QString kind = Text(Routines::RowKindText(kind_.rowKind(document_.Tables(), slot)));
-  if (!found) return kind;
+  if (!Found(slot) && !painted_.contains(slot)) return kind;
   return kind.isEmpty() ? QString("trovato") : kind + ", trovato";
 }
 
-// Once a row, with its name or frequency.
-QVariant ListModel::data(const QModelIndex& index, int role) const {
-  if (role == Qt::AccessibleDescriptionRole && index.isValid())
-    return index.column() == NameColumn ? SpokenKind(index.row() + 1) : QString();
-  return TableModel::data(index, role);
-}
-
 Colour ListModel::CellColour(int slot, int column) const {
-  const Mark mark = marks_.empty() ? Mark::None : marks_[static_cast<std::size_t>(slot)];
-  if (mark == Mark::Found) return Colours::Found;
+  if (painted_.contains(slot)) return Colours::Found;
   if (column == 0) return Colours::Header;
-  if (mark == Mark::Filtered) return Colours::Filtered;
   const State& state = document_.Tables();
   if (!OfChannels() && column == Routines::TransponderColumn::Frequency &&
       Routines::ShowsNoFrequency(state.Transponder(slot).record))
@@ -70,16 +53,15 @@ Colour ListModel::CellColour(int slot, int column) const {
   return ColourOf(kind_.rowKind(state, slot));
 }
 
-void ListModel::SetMark(int slot, Mark mark) {
+void ListModel::Paint(int slot) {
   if (slot < 1 || slot > rows_) return;
-  marks_.resize(static_cast<std::size_t>(rows_) + 1, Mark::None);
-  marks_[static_cast<std::size_t>(slot)] = mark;
+  painted_.insert(slot);
   Q_EMIT dataChanged(index(slot - 1, 0), index(slot - 1, columnCount() - 1));
 }
 
-void ListModel::ClearMarks() {
-  if (marks_.empty()) return;
-  marks_.clear();
+void ListModel::ClearPaint() {
+  if (painted_.empty()) return;
+  painted_.clear();
   if (rows_ > 0) Q_EMIT dataChanged(index(0, 0), index(rows_ - 1, columnCount() - 1));
 }
 
@@ -110,7 +92,7 @@ bool ListModel::dropMimeData(const QMimeData* data, Qt::DropAction action, int r
 }
 
 void ListModel::Refresh() {
-  marks_.clear();
+  painted_.clear();
   const int rows = kind_.rows(document_.Tables());
   if (rows != rows_) {
     beginResetModel();

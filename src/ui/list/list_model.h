@@ -5,6 +5,8 @@
 #include "ui/list/document.h"
 #include "ui/list/table_model.h"
 
+#include <set>
+
 namespace Ui {
 
 class ListModel : public TableModel {
@@ -27,12 +29,10 @@ class ListModel : public TableModel {
 
   [[nodiscard]] bool OfChannels() const { return &kind_ == &Channels; }
 
-  // Rows that a search has found are painted in a colour of their own until the list changes.
-  enum class Mark : unsigned char { None, Filtered, Found };
-  void SetMark(int slot, Mark mark);
-  void ClearMarks();
+  // Rows that the search for a name has found are painted in a colour of their own until the list changes.
+  void Paint(int slot);
+  void ClearPaint();
 
-  [[nodiscard]] QVariant data(const QModelIndex& index, int role) const override;
   [[nodiscard]] bool Used(int slot) const override { return kind_.used(document_.Tables(), slot); }
   [[nodiscard]] int rowCount(const QModelIndex& parent = {}) const override;
   [[nodiscard]] Qt::ItemFlags flags(const QModelIndex& index) const override;
@@ -50,15 +50,15 @@ class ListModel : public TableModel {
  protected:
   [[nodiscard]] QString CellText(int slot, int column) const override;
   [[nodiscard]] Colour CellColour(int slot, int column) const override;
+  [[nodiscard]] QString Spoken(int slot) const override;
 
  private:
   void Refresh();
-  [[nodiscard]] QString SpokenKind(int slot) const;
 
   const Document& document_;
   const Kind& kind_;
   int rows_ = 0;
-  std::vector<Mark> marks_;  // by slot; empty when there are none
+  std::set<int> painted_;
 };
 
 }  // namespace Ui

@@ -18,9 +18,15 @@ ListView::ListView(const Document& document, QAction& showChannels, QAction& sho
       channels_(document, ListModel::Channels, this),
       transponders_(document, ListModel::Transponders, this),
       marker_(new QLabel(this)),
-      filter_(new FilterBar(document, this)),
+      filter_(new FilterBar(
+          {}, "Nome, numero, sat:A, radio… (Ctrl+Shift+F)",
+          [&document](const Review::Filter& words) {
+            return Review::MatchingSlots(document.Tables(), words);
+          },
+          this)),
       hint_(new QLabel(this)),
       grid_(new Grid(this)),
+      hits_(new Finder(*filter_, *grid_, this)),
       map_(new ListMap(document, this)),
       stack_(new QStackedWidget(this)) {
   marker_->setObjectName("Text1");
@@ -35,17 +41,17 @@ ListView::ListView(const Document& document, QAction& showChannels, QAction& sho
   grid_->setObjectName("Griglia");
   LayOut();
 
-  connect(&document, &Document::Changed, filter_, &FilterBar::Refresh);
+  connect(&document, &Document::Changed, this, &ListView::FindAgain);
   connect(&document, &Document::Changed, this, &ListView::ShowHint);
   connect(filter_, &FilterBar::Changed, this, &ListView::MarkMatches);
-  connect(filter_, &FilterBar::Step, this, &ListView::StepMatch);
-  connect(filter_, &FilterBar::Left, grid_, qOverload<>(&QWidget::setFocus));
+  hits_->bring = [this] {
+    if (filter_->ForTransponders()) Show(View::Transponders);
+    return filter_->ForTransponders() || current_ == View::Channels;
+  };
   connect(&channels_, &ListModel::Dropped, this, &ListView::Dropped, Qt::QueuedConnection);
   connect(&channels_, &ListModel::SdxDropped, this, &ListView::SdxDropped, Qt::QueuedConnection);
   connect(grid_, &Grid::SelectionMoved, this, [this] { map_->ShowSelection(grid_->Selected()); });
-  connect(map_, &ListMap::Chosen, this, [this](int slot) {
-    grid_->scrollTo(channels_.index(slot - 1, 1), QAbstractItemView::PositionAtCenter);
-  });
+  connect(map_, &ListMap::Chosen, grid_, &Grid::ShowInMiddle);
   ShowFromStart(View::None);
 }
 
@@ -86,7 +92,7 @@ void ListView::ShowFromStart(View view) {
     marker_->setText(channels ? "Canali" : "Transponders");
     printHeading_ = channels ? "Stampa Canali" : "Stampa Transponder";
     grid_->setAccessibleName(marker_->text());
-    channels_.ClearMarks();
+    channels_.ClearPaint();
     grid_->ShowList(channels ? &channels_ : &transponders_);
   }
   MarkMatches();
@@ -114,10 +120,10 @@ void ListView::ShowHint() {
 void ListView::ShowRows(FilterBar::Rows rows) {
   Show(rows.transponders ? View::Transponders : View::Channels);
   filter_->Show(std::move(rows));
-  if (!filter_->Active()) return;
+  if (filter_->Matches().empty()) return;
   grid_->clearSelection();
   grid_->selectionModel()->setCurrentIndex(grid_->model()->index(0, 1), QItemSelectionModel::NoUpdate);
-  StepMatch(true);
+  hits_->Step(true);
 }
 
 void ListView::Toggle(View view) { Show(view == current_ ? View::None : view); }
@@ -142,50 +148,35 @@ void ListView::FinishEditing() {
 
 void ListView::GoToRow(View view, int slot) {
   Show(view);
-  SelectInMiddle(slot);
-}
-
-void ListView::SelectInMiddle(int slot) {
-  grid_->SelectRow(slot);
-  grid_->scrollTo(grid_->currentIndex(), QAbstractItemView::PositionAtCenter);
+  grid_->SelectInMiddle(slot);
 }
 
 void ListView::ShowFound(int slot) {
-  channels_.SetMark(slot, ListModel::Mark::Found);
+  channels_.Paint(slot);
   GoTo(slot);
 }
 
-// Rows selected elsewhere would be out of sight, and the next command would act on them.
 void ListView::GoTo(int slot) {
-  grid_->clearSelection();
-  grid_->selectionModel()->setCurrentIndex(channels_.index(slot - 1, 1), QItemSelectionModel::NoUpdate);
+  grid_->SelectRow(slot);
   grid_->ScrollToTop(slot);
-  Q_EMIT WentTo(slot);
+}
+
+// Another list is seen whole, whatever was hidden of the one before.
+void ListView::FindAgain() {
+  if (std::exchange(listNumber_, document_.Tables().ListNumber) != listNumber_) filter_->SetOnly(false);
+  filter_->Refresh();
 }
 
 void ListView::MarkMatches() {
   const View marked = filter_->ForTransponders() ? View::Transponders : View::Channels;
-  for (ListModel* list : {&channels_, &transponders_}) list->ClearMarks();
-  ListModel& list = marked == View::Channels ? channels_ : transponders_;
-  for (const int slot : filter_->Matches()) list.SetMark(slot, ListModel::Mark::Filtered);
+  const FilterBar::Found& matches = filter_->Matches();
+  channels_.SetFound(marked == View::Channels ? matches : FilterBar::Found());
+  transponders_.SetFound(marked == View::Transponders ? matches : FilterBar::Found());
+  map_->ShowFound(marked == View::Channels ? matches : FilterBar::Found());
   const bool hadFocus = filter_->isAncestorOf(window()->focusWidget());
   filter_->setVisible(current_ == View::Channels || (current_ == marked && current_ != View::None));
   if (hadFocus && filter_->isHidden()) grid_->setFocus();
-}
-
-// Goes to the match behind the current row, or before it, and round at the ends.
-void ListView::StepMatch(bool forward) {
-  const std::vector<int>& matches = filter_->Matches();
-  if (matches.empty()) return;
-  if (filter_->ForTransponders()) Show(View::Transponders);
-  if (!filter_->ForTransponders() && current_ != View::Channels) return;
-  const int here = grid_->currentIndex().row() + 1;
-  const bool onMatch = !grid_->Selected().empty();
-  auto at = forward ? std::lower_bound(matches.begin(), matches.end(), onMatch ? here + 1 : here)
-                    : std::lower_bound(matches.begin(), matches.end(), here);
-  if (forward && at == matches.end()) at = matches.begin();
-  if (!forward) at = (at == matches.begin() ? matches.end() : at) - 1;
-  SelectInMiddle(*at);
+  hits_->Show(current_ == marked);
 }
 
 }  // namespace Ui

@@ -4,6 +4,7 @@
 
 #include "ui/list/cell_delegate.h"
 #include "ui/list/filter_bar.h"
+#include "ui/list/finder.h"
 #include "ui/list/grid.h"
 #include "ui/list/list_map.h"
 #include "ui/list/list_model.h"
@@ -27,6 +28,7 @@ class ListView : public QWidget {
   [[nodiscard]] View Current() const { return current_; }
   [[nodiscard]] Grid& ListGrid() const { return *grid_; }
   [[nodiscard]] FilterBar& Filter() const { return *filter_; }
+  [[nodiscard]] Finder& Hits() const { return *hits_; }
   // "Stampa Canali" or "Stampa Transponder", as the list last shown asks for.
   [[nodiscard]] QString PrintHeading() const { return printHeading_; }
 
@@ -51,7 +53,7 @@ class ListView : public QWidget {
 
   // Shows a list with one of its rows selected and in the middle.
   void GoToRow(View view, int slot);
-  // Makes a channel current and the first visible one, with nothing selected.
+  // Selects a channel and makes it the first visible one.
   void GoTo(int slot);
   // Does so with a channel that a search has found, and paints its row.
   void ShowFound(int slot);
@@ -62,15 +64,12 @@ class ListView : public QWidget {
   void SdxDropped(const Edit::Slots& rows, int before);
   // A list is shown anew, or none is.
   void Shown(View view);
-  // A command has made a channel current.
-  void WentTo(int slot);
 
  private:
   void LayOut();
   void ShowHint();
   void MarkMatches();
-  void StepMatch(bool forward);
-  void SelectInMiddle(int slot);
+  void FindAgain();
 
   const Document& document_;
   QAction& showChannels_;
@@ -82,10 +81,12 @@ class ListView : public QWidget {
   QLabel* hint_;  // while no list is shown
   QWidget* start_ = nullptr;
   Grid* grid_;
+  Finder* hits_;
   CellDelegate* cells_ = nullptr;
   ListMap* map_;
   QStackedWidget* stack_;
   View current_ = View::None;
+  int listNumber_ = 0;
   QString printHeading_;
 };
 

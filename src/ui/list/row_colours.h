@@ -20,8 +20,7 @@ struct Colour {
 namespace Colours {
 inline constexpr Colour Header{0xC0FFC0};
 inline constexpr Colour NoFrequency{0x008000, true};  // the frequency cell of a transponder that has none
-inline constexpr Colour Found{0x0080FF};              // by the search for a name
-inline constexpr Colour Filtered{0x80C8FF};           // by the filter above the grid
+inline constexpr Colour Found{0x0080FF};              // by the search for a name; at the edge, by the filter
 inline constexpr Colour Wrong{0x8080FF};              // whatever should be looked at
 }  // namespace Colours
 

@@ -34,6 +34,8 @@ QVariant TableModel::data(const QModelIndex& index, int role) const {
   if (!index.isValid()) return {};
   const int row = index.row() + 1;
   switch (role) {
+    case Qt::AccessibleDescriptionRole:
+      return index.column() == 1 ? Spoken(row) : QString();
     case Qt::DisplayRole:
       return CellText(row, index.column());
     case Qt::TextAlignmentRole:
@@ -44,6 +46,26 @@ QVariant TableModel::data(const QModelIndex& index, int role) const {
       return QBrush(TextOn(CellColour(row, index.column())));
     default:
       return {};
+  }
+}
+
+bool TableModel::Found(int row) const {
+  const auto place = static_cast<std::size_t>(row);
+  return place < found_.size() && found_[place];
+}
+
+void TableModel::SetFound(const Rows& rows) {
+  std::vector<bool> found(static_cast<std::size_t>(rowCount()) + 1);
+  for (const int row : rows) {
+    if (row <= rowCount()) found[static_cast<std::size_t>(row)] = true;
+  }
+  std::swap(found, found_);
+  found.resize(found_.size());
+  for (std::size_t row = 1; row < found_.size(); ++row) {
+    const std::size_t first = row;
+    while (row < found_.size() && found[row] != found_[row]) ++row;
+    if (row > first)
+      Q_EMIT dataChanged(index(static_cast<int>(first) - 1, 0), index(static_cast<int>(row) - 2, 1));
   }
 }
 

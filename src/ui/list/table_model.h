@@ -31,16 +31,23 @@ class TableModel : public QAbstractTableModel {
   // Whether there is anything in a row, which counts from 1; "everything" is all such rows.
   [[nodiscard]] virtual bool Used(int /*row*/) const { return true; }
 
+  // The rows that the filter finds, which have a mark at their edge; the rows whose mark changes are painted anew.
+  void SetFound(const Rows& rows);
+  [[nodiscard]] bool Found(int row) const;
+
  protected:
   // Text and colour of a cell; `row` counts from 1.
   [[nodiscard]] virtual QString CellText(int row, int column) const = 0;
   [[nodiscard]] virtual Colour CellColour(int row, int column) const = 0;
+  // What colours and marks of a row say, for those who do not see them; told once a row, with its name.
+  [[nodiscard]] virtual QString Spoken(int row) const { return Found(row) ? "trovato" : ""; }
 
   // The rows of some cells as dragged data of a type.
   [[nodiscard]] static QMimeData* RowsAs(const char* type, const QModelIndexList& indexes);
 
  private:
   std::vector<HeaderColumn> header_;
+  std::vector<bool> found_;  // by row; may be shorter than the list
 };
 
 }  // namespace Ui

@@ -264,9 +264,9 @@ void OverviewWindow::GoTo(const QTreeWidgetItem* item) {
     return;
   }
   const QString told = title + ": " + CountedRows(line);
-  const auto find = [&bouquets = session_.bouquets, section = line.section,
-                     text = line.text](const State& state) {
-    return Review::OverviewSlots(state, bouquets.tables.satellites, section, text);
+  const auto find = [&session = session_, section = line.section, text = line.text] {
+    return Review::OverviewSlots(session.document.Tables(), session.bouquets.tables.satellites, section,
+                                 text);
   };
   session_.view.ShowRows({title, line.transponders, find});
   session_.status.ShowResult(told);

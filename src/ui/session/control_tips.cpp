@@ -3,19 +3,23 @@
 #include <QAbstractButton>
 #include <QAction>
 
-#include <array>
 #include <utility>
 
 namespace Ui {
 namespace {
 
 // By control name; one that ends in an underscore stands for all that begin so.
-constexpr std::array<std::pair<const char*, const char*>, 43> Tips = {{
+constexpr std::pair<const char*, const char*> Tips[] = {
     {"QuantiCanali_", "Quanti canali ha il ricevitore da cui viene la lista"},
     {"FlashScrittura_", "Il tipo del ricevitore in cui si scrive la lista"},
     {"SRDef_", "Dove il ricevitore tiene il symbol rate 22000 nella sua tabella"},
     {"InizioApri", "Apre l'immagine della flash di un ricevitore"},
     {"InserisciRiga", "Inserisce tante righe vuote quante sono quelle selezionate"},
+    {"SoloTrovati", "Nasconde le righe che il filtro non ha trovato, o le mostra di nuovo"},
+    {"SoloTrovatiSDX", "Nasconde le righe che il filtro non ha trovato, o le mostra di nuovo"},
+    {"ParoleFiltro", "Le parole che il filtro conosce"},
+    {"ParoleFiltroSDX", "Le parole che il filtro conosce"},
+    {"VaiAlRisultato", "Mostra nella griglia dove sono i canali spostati"},
     {"Rinomina", "Modifica il nome del canale"},
     {"Attiva", "Rende attivi i canali selezionati"},
     {"Disattiva", "Rende non attivi i canali selezionati"},
@@ -54,7 +58,7 @@ constexpr std::array<std::pair<const char*, const char*>, 43> Tips = {{
     {"QualiCanali", "Elenca i canali di cui parla l'avviso"},
     {"Virgolette", "Il separatore fra virgolette fa parte del campo"},
     {"Intestazione", "La prima riga non è un canale"},
-}};
+};
 
 const char* TipOf(const QString& control) {
   for (const auto& [name, tip] : Tips) {

@@ -6,6 +6,10 @@ namespace Ui {
 namespace {
 
 constexpr std::string_view NoFlash = "Si deve caricare prima una FLASH di input";
+constexpr std::string_view PlacesHidden =
+    "Con Solo i trovati non si vedono i posti fra una riga e l'altra: prima si devono mostrare tutte le "
+    "righe "
+    "(Ctrl+Shift+H)";
 constexpr std::string_view ChannelsOnly = "Funzione valida solo in visualizzazione canali";
 
 Base::Outcome Or(bool met, std::string_view refusal) {
@@ -39,6 +43,8 @@ Base::Outcome Check(const Session& session, Need need) {
       return Or(channels, ChannelsOnly);
     case Need::ChannelRows:
       return Or(channels, "Deve essere visibile la lista canali");
+    case Need::Places:
+      return Or(session.view.ListGrid().HiddenRows() == 0, PlacesHidden);
     case Need::ChannelsForSdx:
       return Or(channels, "Per Caricare un file SDX si deve visualizzare la griglia Canali");
     case Need::ChannelsForDownload:

@@ -31,6 +31,7 @@ enum class Need {
   AnyView,
   ChannelView,
   ChannelRows,
+  Places,  // between the rows, none of them hidden
   ChannelsForSdx,
   ChannelsForDownload,
   ChannelsForSdxImport

@@ -11,6 +11,12 @@ QString Session::Losses(const std::vector<Edit::LostFavourite>& lost) const {
   return text.empty() ? QString() : ", " + Text(text);
 }
 
+Edit::Slots Session::SelectedChannels() {
+  Edit::Slots slots = view.ListGrid().Selected();
+  if (slots.empty()) dialogs.Message("Nessun canale selezionato", {});
+  return slots;
+}
+
 void Session::GoToChannel(int slot) {
   view.GoToRow(View::Channels, slot);
   status.ShowResult(QString("Canale %1").arg(slot));

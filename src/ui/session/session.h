@@ -59,6 +59,9 @@ struct Session {
   // Window geometry, recent files and the like.
   [[nodiscard]] QString SettingsFile() const { return PathText(programFolder + "/trovalis.ini"); }
 
+  // The selected slots; says so where there are none.
+  Edit::Slots SelectedChannels();
+
   // Shows a channel of the list and tells its number.
   void GoToChannel(int slot);
 

@@ -8,6 +8,7 @@
 #include <QProgressBar>
 #include <QPushButton>
 #include <QStatusBar>
+#include <QTimer>
 
 namespace Ui {
 
@@ -17,10 +18,12 @@ StatusLine::StatusLine(QStatusBar& bar)
       loss_(new ElidedLabel(Qt::ElideRight, line_)),
       which_(new QPushButton("Quali?", line_)),
       result_(new ElidedLabel(Qt::ElideRight, line_)),
+      link_(new QPushButton(line_)),
       channels_(AddFigure(bar, "CanaliUsati")),
       transponders_(AddFigure(bar, "TransponderUsati")),
       clipboard_(AddFigure(bar, "CanaliCopiati")),
       unsaved_(AddFigure(bar, "ModificheNonSalvate")),
+      hidden_(AddFigure(bar, "RigheNascoste")),
       output_(new ElidedLabel(Qt::ElideMiddle, &bar)),
       progress_(new QProgressBar(line_)) {
   result_->setObjectName("UltimoRisultato");
@@ -34,6 +37,12 @@ StatusLine::StatusLine(QStatusBar& bar)
   which_->setObjectName("QualiCanali");
   connect(which_, &QPushButton::clicked, this, [this] { Q_EMIT ChannelsWanted(lost_); });
   ForgetLoss();
+  link_->setObjectName("VaiAlRisultato");
+  link_->setFlat(true);
+  link_->setMaximumHeight(result_->sizeHint().height());
+  link_->hide();
+  connect(link_, &QPushButton::clicked, this, [this] { Q_EMIT GoToWanted(slot_); });
+  hidden_->hide();
   output_->setObjectName("FlashOutput");
   bar.addPermanentWidget(output_, 1);
 
@@ -50,7 +59,9 @@ StatusLine::StatusLine(QStatusBar& bar)
   row->setContentsMargins(0, 0, 0, 0);
   row->addWidget(loss_, 1);
   row->addWidget(which_);
-  row->addWidget(result_, 1);
+  row->addWidget(result_);
+  row->addWidget(link_);
+  row->addStretch(1);
   row->addWidget(progress_);
 }
 
@@ -62,7 +73,27 @@ ElidedLabel* StatusLine::AddFigure(QStatusBar& bar, const char* name) {
   return label;
 }
 
-void StatusLine::ShowResult(const QString& text) {
+void StatusLine::Remark(const QString& text) {
+  resultShown_ = false;
+  QTimer::singleShot(0, this,
+                     [this, text] { ShowResult(resultShown_ ? result_->text() + ". " + text : text); });
+}
+
+void StatusLine::ShowHidden(const QString& grid, const QString& text) {
+  hiddenRows_[grid] = text;
+  QStringList told;
+  for (const auto& [name, rows] : hiddenRows_) {
+    if (!rows.isEmpty()) told += rows;
+  }
+  hidden_->Show(told.join("; "));
+  hidden_->setVisible(!told.isEmpty());
+}
+
+void StatusLine::ShowResult(const QString& text, int slot) {
+  slot_ = slot;
+  link_->setText(QString("Vai al %1").arg(slot));
+  link_->setVisible(slot != 0);
+  resultShown_ = true;
   result_->Show(text);
   result_->show();
   Q_EMIT ResultShown(text);

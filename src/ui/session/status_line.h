@@ -7,6 +7,8 @@
 
 #include <QObject>
 
+#include <map>
+
 class QProgressBar;
 class QPushButton;
 class QStatusBar;
@@ -22,7 +24,12 @@ class StatusLine : public QObject {
   // The line of the last result and the progress bar; it belongs above the status bar.
   [[nodiscard]] QWidget* ResultLine() const { return line_; }
 
-  void ShowResult(const QString& text);
+  // `slot` is where the result can be seen; a button beside it leads there.
+  void ShowResult(const QString& text, int slot = 0);
+  // Stands behind the result of the command that is running, or alone where it has none.
+  void Remark(const QString& text);
+  // Says for as long as it is so that rows of a grid are hidden; an empty text says that none are.
+  void ShowHidden(const QString& grid, const QString& text);
   // A result that lost something stays beside later ones, with a warning sign. `channels` are lines for the window that
   // "Quali?" opens; without any there is no such button.
   enum class Loss { Saved, Edited };
@@ -40,6 +47,8 @@ class StatusLine : public QObject {
   // The user wants to see the channels of a loss.
   void ChannelsWanted(const QString& lines);
   void ResultShown(const QString& text);
+  // The user wants to see what the result tells of.
+  void GoToWanted(int slot);
 
  private:
   ElidedLabel* AddFigure(QStatusBar& bar, const char* name);
@@ -48,15 +57,20 @@ class StatusLine : public QObject {
   ElidedLabel* loss_;
   QPushButton* which_;
   ElidedLabel* result_;
+  QPushButton* link_;
+  int slot_ = 0;  // where that leads to
   ElidedLabel* channels_;
   ElidedLabel* transponders_;
   ElidedLabel* clipboard_;
   ElidedLabel* unsaved_;
+  ElidedLabel* hidden_;
   ElidedLabel* output_;
   QProgressBar* progress_;
   QString lost_;  // lines of the channels
   Loss kind_ = Loss::Saved;
   bool kept_ = true;
+  bool resultShown_ = false;               // since a remark
+  std::map<QString, QString> hiddenRows_;  // by grid
 };
 
 }  // namespace Ui

@@ -5,6 +5,7 @@
 #include "formats/sdx_import.h"
 #include "ui/kit/text.h"
 #include "ui/kit/toolkit.h"
+#include "ui/session/filter_texts.h"
 #include "ui/session/lines_window.h"
 #include "ui/sources/sdx_dialogs.h"
 
@@ -31,6 +32,7 @@ void SdxCommands::Connect(Actions& actions) {
   actions.Connect("RicercaSDX", [this] { Ricerca(); });
   actions.Connect("ImportaTuttoSDX", [this] { ImportaTutto(); });
   actions.ConnectButton("Copy SDX", [this] { CopySDX(); });
+  FollowFilter(session_, pane_.Filter(), pane_.Hits(), "righe SDX");
   session_.onChange.emplace_back([this] {
     session_.sdxShownSinceFls = session_.sdxShownSinceFls && session_.document.Tables().FromFls;
   });
@@ -133,7 +135,7 @@ void SdxCommands::CopySDX() {
 }
 
 void SdxCommands::AskAndInsert(const Rows& rows) {
-  if (!Meets(session_, Need::List)) return;
+  if (!Meets(session_, Gate(Need::List, Need::Places))) return;
   if (rows.content.empty()) {
     session_.status.ShowResult(OutOfBandText(rows.outOfBand) + ": non si inserisce");
     return;
@@ -159,6 +161,7 @@ void SdxCommands::Drop(const Edit::Slots& numbers, int before) {
     session_.status.ShowResult("Dopo l'ultimo posto della lista non si può inserire");
     return;
   }
+  if (!Meets(session_, Need::Places)) return;
   const Rows rows = RowsOf(numbers);
   Put(rows, Formats::SlotsFrom(state, before, rows.Count()), Way::Shift);
 }

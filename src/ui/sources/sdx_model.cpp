@@ -11,6 +11,24 @@ constexpr std::string_view SdxHeader =
     "^Prog.|<Canale                         |^TID    |^SID      |^VPID  |^APID  |^AECM  |^VECM  |^PCR   "
     "|^Codifica|Satellite|Frequenza|NID  |Bouquet       ";
 
+Review::FilterRow FilterRowOf(const Formats::SdxRow& row) {
+  using Routines::ChannelKind;
+  Routines::ChannelRecord flags;
+  Set(flags, Routines::ChannelField::Flags, static_cast<std::uint32_t>(row.codifica));
+  Review::FilterRow found;
+  found.name = row.name;
+  found.kind = row.type == 'T'   ? ChannelKind::Tv
+               : row.type == 'R' ? ChannelKind::Radio
+                                 : ChannelKind::Service;
+  found.sid = Base::LeadingNumber(row.sid);
+  found.megahertz = Base::LeadingCount(row.frequency, 999999);
+  found.satellite = row.satellite;
+  found.coding = row.codifica;
+  found.bouquetName = row.bouquet;
+  found.inactive = Get(flags, Routines::ChannelField::Active) == 0;
+  return found;
+}
+
 }  // namespace
 
 SdxModel::SdxModel(const Formats::SdxTable& table, QObject* parent)
@@ -29,6 +47,14 @@ Qt::ItemFlags SdxModel::flags(const QModelIndex& index) const {
 }
 
 QMimeData* SdxModel::mimeData(const QModelIndexList& indexes) const { return RowsAs(SdxRowsType, indexes); }
+
+TableModel::Rows SdxModel::Matching(const Review::Filter& filter) const {
+  Rows rows;
+  for (int row = 1; row <= rows_; ++row) {
+    if (filter.Matches(FilterRowOf(table_.rows[static_cast<std::size_t>(row - 1)]))) rows.push_back(row);
+  }
+  return rows;
+}
 
 QString SdxModel::CellText(int number, int column) const {
   const Formats::SdxRow& row = table_.rows[static_cast<std::size_t>(number - 1)];

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "formats/satcodx.h"
+#include "review/filter.h"
 #include "ui/list/table_model.h"
 
 namespace Ui {
@@ -14,6 +15,9 @@ class SdxModel : public TableModel {
 
   // The table holds other rows now.
   void Refresh();
+
+  // The rows that a filter finds, in rising order, from 1.
+  [[nodiscard]] Rows Matching(const Review::Filter& filter) const;
 
   [[nodiscard]] int rowCount(const QModelIndex& parent = {}) const override;
   [[nodiscard]] Qt::ItemFlags flags(const QModelIndex& index) const override;

@@ -1,14 +1,14 @@
 // The pane of the SDX table, beside the channel list.
 #pragma once
 
-#include "ui/list/grid.h"
+#include "ui/list/finder.h"
 #include "ui/sources/sdx_model.h"
 
 #include <QWidget>
 
-class QLabel;
-
 namespace Ui {
+
+class ElidedLabel;
 
 class SdxPane : public QWidget {
   Q_OBJECT
@@ -17,6 +17,8 @@ class SdxPane : public QWidget {
   SdxPane(const Formats::SdxTable& table, QWidget* parent);
 
   [[nodiscard]] Grid& ListGrid() const { return *grid_; }
+  [[nodiscard]] FilterBar& Filter() const { return *filter_; }
+  [[nodiscard]] Finder& Hits() const { return *hits_; }
   // The table holds other rows now; `name` is the file's satellite, or the file.
   void Refresh(const QString& name);
   [[nodiscard]] const QString& Name() const { return name_; }
@@ -34,8 +36,10 @@ class SdxPane : public QWidget {
  private:
   SdxModel model_;
   QString name_;
-  QLabel* caption_;
+  ElidedLabel* caption_;
+  FilterBar* filter_;
   Grid* grid_;
+  Finder* hits_;
 };
 
 }  // namespace Ui

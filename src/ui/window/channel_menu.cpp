@@ -23,6 +23,10 @@ ChannelMenu::ChannelMenu(Session& session, CellCommands& cells, FavouritesEdits&
   for (const CommandName name : std::initializer_list<CommandName>{"Copia", "Taglia", "Incolla", "Elimina"})
     menu_->addAction(&CommandAction(window, name));
   menu_->addSeparator();
+  for (const CommandName name :
+       std::initializer_list<CommandName>{"SpostaA", "SpostaInCima", "SpostaInFondo", "SpostaDopoUltimo"})
+    menu_->addAction(&CommandAction(window, name));
+  menu_->addSeparator();
   Add(*menu_, "InserisciRiga", "Inserisci riga vuota", [this] { cells_.InsertRows(); });
   rename_ = Add(*menu_, "Rinomina", "Rinomina", [this] { cells_.Rename(); });
   menu_->addSeparator();

@@ -36,9 +36,6 @@ TreeCommands::TreeCommands(Session& session, SourcesRoom& sources, Actions& acti
   connect(channels_, &TreePane::Closed, this, &TreeCommands::Close);
   connect(transponders_, &TreePane::Closed, this, &TreeCommands::HideTransponders);
   connect(&session.view, &ListView::Shown, this, &TreeCommands::FollowView);
-  connect(&session.view, &ListView::WentTo, this, [this](int slot) {
-    for (TreePane* pane : {channels_, transponders_}) pane->ShowChannel(slot);
-  });
   connect(&session.view.ListGrid(), &Grid::SelectionMoved, this, &TreeCommands::ShowSelection);
 }
 

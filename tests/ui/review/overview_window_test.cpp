@@ -27,11 +27,11 @@ TEST_F(OverviewLines, ALineMarksItsRowsAndGoesOnDoingSo) {
   Choose(Line("Radio"));
   EXPECT_EQ(driver_->TextOf("Text1"), "Canali");
   EXPECT_EQ(driver_->Grid().Selected().front(), 8);
-  EXPECT_EQ(driver_->TextOf("FiltroTrovati"), "2 trovati");
+  EXPECT_EQ(driver_->TextOf("FiltroTrovati"), "1 di 2");
   Action("CercaSuccessivo").trigger();
   EXPECT_EQ(driver_->Grid().Selected().front(), 9);
   Delete(8, 8);
-  EXPECT_EQ(driver_->TextOf("FiltroTrovati"), "1 trovato") << "the marks follow the list";
+  EXPECT_EQ(driver_->TextOf("FiltroTrovati"), "1 di 1") << "the marks follow the list";
   EXPECT_EQ(Line("Radio")->text(2), "1");
   while (Action("Annulla").isEnabled()) Action("Annulla").trigger();
   EXPECT_EQ(tree_->topLevelItemCount(), 0);

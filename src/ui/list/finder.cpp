@@ -1,0 +1,68 @@
+#include "ui/list/finder.h"
+
+#include <algorithm>
+
+namespace Ui {
+
+Finder::Finder(FilterBar& bar, Grid& grid, QObject* parent) : QObject(parent), bar_(bar), grid_(grid) {
+  connect(&bar, &FilterBar::Step, this, &Finder::Step);
+  connect(&bar, &FilterBar::Typed, this, &Finder::GoToFirst);
+  connect(&bar, &FilterBar::SelectWanted, this, &Finder::SelectAll);
+  connect(&bar, &FilterBar::Left, &grid, qOverload<>(&QWidget::setFocus));
+  connect(&grid, &Grid::SelectionMoved, this, &Finder::ShowPlace);
+  connect(&grid, &Grid::HiddenWanted, this, [this] {
+    bar_.SetOnly(false);
+    Q_EMIT LeftOnly();
+  });
+}
+
+void Finder::Show(bool here) {
+  here_ = here;
+  grid_.ShowOnly(here && bar_.Only() ? std::optional(bar_.Matches()) : std::nullopt);
+  ShowPlace();
+  if (std::exchange(hidden_, grid_.HiddenRows()) != hidden_) Q_EMIT HiddenChanged(hidden_);
+}
+
+bool Finder::OnSelected() const {
+  const QModelIndex here = grid_.currentIndex();
+  return here.isValid() && grid_.selectionModel()->isRowSelected(here.row());
+}
+
+void Finder::ShowPlace() {
+  const auto& matches = bar_.Matches();
+  const int row = grid_.currentIndex().row() + 1;
+  const auto at = std::lower_bound(matches.begin(), matches.end(), row);
+  const bool onHit = here_ && at != matches.end() && *at == row && OnSelected();
+  bar_.ShowPlace(onHit ? static_cast<std::size_t>(at - matches.begin()) + 1 : 0);
+}
+
+// Several selected rows stay so: the words may be for finding one more.
+void Finder::GoToFirst() {
+  if (!here_ || bar_.Matches().empty()) return;
+  const int first = bar_.Matches().front();
+  if (grid_.Selected().size() > 1) {
+    grid_.selectionModel()->setCurrentIndex(grid_.model()->index(first - 1, 1),
+                                            QItemSelectionModel::NoUpdate);
+    grid_.scrollTo(grid_.currentIndex(), QAbstractItemView::PositionAtCenter);
+  } else {
+    grid_.SelectInMiddle(first);
+  }
+}
+
+void Finder::Step(bool forward) {
+  const auto& matches = bar_.Matches();
+  if (matches.empty() || !bring()) return;
+  const int here = grid_.currentIndex().row() + 1;
+  auto at = std::lower_bound(matches.begin(), matches.end(), forward && OnSelected() ? here + 1 : here);
+  if (forward && at == matches.end()) at = matches.begin();
+  if (!forward) at = (at == matches.begin() ? matches.end() : at) - 1;
+  grid_.SelectInMiddle(*at);
+}
+
+void Finder::SelectAll() {
+  if (bar_.Matches().empty() || !bring()) return;
+  grid_.Select(bar_.Matches());
+  grid_.setFocus();
+}
+
+}  // namespace Ui
