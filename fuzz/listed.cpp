@@ -65,7 +65,7 @@ void CheckServiceRows(const SdxTable& table, const ListOptions& options, int lin
   Require(static_cast<int>(table.rows.size()) + table.dropped.Total() + full == table.lines,
           "every service is taken or dropped for a reason");
   Require(table.full || table.lines == lines, "every service is read");
-  Require(static_cast<int>(table.withoutPids.size()) == table.dropped.Count(Drop::NoPid),
+  Require(static_cast<int>(table.others.size()) == table.dropped.Count(Drop::NoPid),
           "what lacks PIDs is kept");
   for (const SdxRow& row : table.rows) {
     Require((row.type == 'T' && options.television) || (row.type == 'R' && options.radio) ||

@@ -1,6 +1,7 @@
 #include "edit/take_over.h"
 
 #include "edit/list_operations.h"
+#include "model/favourites.h"
 #include "model/symbol_rates.h"
 
 #include <optional>
@@ -11,15 +12,61 @@ namespace {
 using namespace Review;
 using namespace Routines;
 
+// What a transponder's data say of it, by the mark that takes them over.
+struct TransponderData {
+  Field<TransponderRecord> field;
+  SdxField said;
+  Mark mark;
+};
+
+constexpr std::array<TransponderData, 4> TransponderDataFields = {
+    {{TransponderField::SymbolRate, SdxField::SymbolRate, Mark::Retuned},
+     {TransponderField::Fec, SdxField::Fec, Mark::Retuned},
+     {TransponderField::Tid, SdxField::Tid, Mark::Modified},
+     {TransponderField::Nid, SdxField::Nid, Mark::Modified}}};
+
+struct ChannelData {
+  Field<ChannelRecord> field;
+  SdxField said;
+  Mark mark;
+};
+
+constexpr std::array<ChannelData, 5> ChannelDataFields = {
+    {{ChannelField::Vpid, SdxField::Vpid, Mark::Pids},
+     {ChannelField::Apid, SdxField::Apid, Mark::Pids},
+     {ChannelField::Pcr, SdxField::Pcr, Mark::Pids},
+     {ChannelField::Aecm, SdxField::Ecm, Mark::Modified},
+     {ChannelField::Vecm, SdxField::Ecm, Mark::Modified}}};
+
+void TakeFlags(ChannelRecord& mine, const OtherChannel& theirs) {
+  const std::uint32_t active = ChannelField::Active.Mask();
+  std::uint32_t taken = theirs.lacking.Has(SdxField::Coding) ? 0U : 0xFFU & ~active;
+  if (!theirs.lacking.Has(SdxField::Active)) taken |= active;
+  const std::uint32_t flags =
+      (Get(mine, ChannelField::Flags) & ~taken) | (Get(theirs.record, ChannelField::Flags) & taken);
+  Set(mine, ChannelField::Flags, flags);
+}
+
+// What one's own channel gets of the other's, its transponder left out.
+void TakeData(ChannelRecord& mine, const OtherChannel& theirs, const Difference& difference) {
+  if (difference.Has(Mark::Renamed))
+    std::copy_n(theirs.record.bytes.begin(), ChannelRecord::NameSize, mine.bytes.begin());
+  for (const ChannelData& data : ChannelDataFields) {
+    if (difference.Has(data.mark) && !theirs.lacking.Has(data.said))
+      Set(mine, data.field, Get(theirs.record, data.field));
+  }
+  if (difference.Has(Mark::Modified)) TakeFlags(mine, theirs);
+}
+
 class Taker {
  public:
-  Taker(State& state, const State& other, const Comparison& comparison, const BouquetTables& bouquets)
-      : state_(state), other_(other), comparison_(comparison), bouquets_(bouquets) {}
+  Taker(State& state, const OtherList& other, const Comparison& comparison, const BouquetTables& bouquets,
+        NewPlace place)
+      : state_(state), other_(other), comparison_(comparison), bouquets_(bouquets), place_(place) {}
 
   TakeOverReport Run(const std::vector<Difference>& chosen) {
     for (const Difference& difference : chosen) {
-      if (difference.Has(Mark::Renamed) || difference.Has(Mark::Retuned) || difference.Has(Mark::Modified))
-        Change(difference);
+      if (difference.there != 0 && difference.here != 0) Change(difference);
     }
     report_.lost = Arrange(chosen);
     for (int slot = 1; slot <= state_.ChannelCount; ++slot) {
@@ -29,78 +76,88 @@ class Taker {
     for (const Difference& difference : chosen) {
       if (difference.Has(Mark::OnlyThere)) Add(difference.there);
     }
+    TakeFavourites(chosen);
     CanaliXTransponder(state_);
     return report_;
   }
 
  private:
-  // The other list's channel, linked to its transponder here; nothing where that finds no slot. `current` is the
-  // transponder to keep when it is the same one, 0 for none.
-  std::optional<ChannelRecord> Linked(int there, int current) {
-    ChannelRecord channel = other_.Channel(there);
-    if (!HasTransponder(other_, channel)) {
-      // It must not come upon a transponder that it never had, or on one that takes a free slot later.
-      const bool inTable =
-          static_cast<int>(Get(channel, ChannelField::Transponder)) <= state_.TransponderCount;
-      if (inTable) Set(channel, ChannelField::Transponder, 0);
-      return channel;
-    }
-    const TransponderRecord wanted = Wanted(channel);
-    int slot = current;
-    if (current == 0 || !SameTransponder(state_.Transponder(current).record, wanted)) {
-      const TransponderSlot found = FindOrAddTransponder(state_, wanted);
-      if (found.added) NameBouquet(state_.Transponder(found.slot), bouquets_);
-      slot = found.slot;
-    }
-    if (slot == 0) return std::nullopt;
-    Set(channel, ChannelField::Transponder, static_cast<std::uint32_t>(slot));
-    return channel;
-  }
-
-  [[nodiscard]] TransponderRecord Wanted(const ChannelRecord& theirs) const {
-    TransponderRecord wanted = other_.Transponder(Get(theirs, ChannelField::Transponder)).record;
-    const auto code = RecodedRate(other_.SymbolRateTable, state_.SymbolRateTable,
-                                  Get(wanted, TransponderField::SymbolRate));
+  [[nodiscard]] TransponderRecord Wanted(const OtherChannel& theirs) const {
+    TransponderRecord wanted = other_.TransponderOf(theirs);
+    const auto code =
+        RecodedRate(other_.symbolRates, state_.SymbolRateTable, Get(wanted, TransponderField::SymbolRate));
     Set(wanted, TransponderField::SymbolRate, static_cast<std::uint32_t>(code));
     return wanted;
   }
 
+  // The slot of the transponder here: `current` when that is the same one, else the first that is, or a free one that
+  // takes it. 0 where there is none.
+  int SlotOf(const OtherChannel& theirs, int current) {
+    const TransponderRecord wanted = Wanted(theirs);
+    if (current != 0 && SameTransponder(state_.Transponder(current).record, wanted)) return current;
+    const TransponderSlot found = FindOrAddTransponder(state_, wanted);
+    if (found.added) NameBouquet(state_.Transponder(found.slot), bouquets_);
+    return found.slot;
+  }
+
+  // A channel without a transponder must not come upon one that it never had, or on one that takes a free slot later.
+  void Unlink(ChannelRecord& channel, const OtherChannel& theirs) const {
+    const std::uint32_t number = Get(theirs.record, ChannelField::Transponder);
+    const bool inTable = static_cast<int>(number) <= state_.TransponderCount;
+    Set(channel, ChannelField::Transponder, inTable ? 0 : number);
+  }
+
   void Change(const Difference& difference) {
-    ChannelRecord& mine = state_.Channel(difference.here);
-    const int current =
-        HasTransponder(state_, mine) ? static_cast<int>(Get(mine, ChannelField::Transponder)) : 0;
-    const auto channel = Linked(difference.there, current);
-    if (!channel) {
-      ++report_.noTransponder;
-      return;
+    const OtherChannel& theirs = other_.At(difference.there);
+    ChannelRecord channel = state_.Channel(difference.here);
+    if (difference.Has(Mark::Retuned)) {
+      const int slot = SlotOf(theirs, OtherChannelOf(state_, difference.here).transponder);
+      if (slot == 0) {
+        ++report_.noTransponder;
+        return;
+      }
+      Set(channel, ChannelField::Transponder, static_cast<std::uint32_t>(slot));
     }
-    mine = *channel;
-    ++report_.changed;
-    const ChannelRecord& theirs = other_.Channel(difference.there);
-    if (HasTransponder(other_, theirs)) Update(Get(mine, ChannelField::Transponder), Wanted(theirs));
+    TakeData(channel, theirs, difference);
+    const bool data = difference.Has(Mark::Renamed) || difference.Has(Mark::Pids);
+    const bool tuning = difference.Has(Mark::Retuned) || difference.Has(Mark::Modified);
+    state_.Channel(difference.here) = channel;
+    report_.changed += data || tuning ? 1 : 0;
+    if (tuning && theirs.transponder != 0 && OtherChannelOf(state_, difference.here).transponder != 0)
+      Update(Get(channel, ChannelField::Transponder), theirs, difference.marks);
   }
 
   // A transponder's data go for all its channels: without them the one taken over would still be another. Those that
   // the first channel brings stay, where the other list has several within 3 MHz.
-  void Update(std::size_t slot, const TransponderRecord& wanted) {
+  void Update(std::size_t slot, const OtherChannel& theirs, MarkSet marks) {
     using namespace TransponderField;
+    const TransponderRecord wanted = Wanted(theirs);
     TransponderRow& row = state_.Transponder(slot);
     TransponderRecord updated = row.record;
-    for (const auto& field : {SymbolRate, Fec, Tid, Nid}) Set(updated, field, Get(wanted, field));
-    if (Get(updated, HighBand) != Get(wanted, HighBand)) {
+    const auto wants = [&](Mark mark) {
+      const auto place = static_cast<std::size_t>(mark);
+      return marks[place] && !updated_[place][slot];
+    };
+    for (const TransponderData& data : TransponderDataFields) {
+      if (wants(data.mark) && !theirs.lacking.Has(data.said))
+        Set(updated, data.field, Get(wanted, data.field));
+    }
+    if (wants(Mark::Retuned) && !theirs.lacking.Has(SdxField::Band) &&
+        Get(updated, HighBand) != Get(wanted, HighBand)) {
       for (const auto& field : {Frequency, HighBand}) Set(updated, field, Get(wanted, field));
     }
-    if (row.record == updated || updated_[slot]) return;
+    if (row.record == updated) return;
     row.record = updated;
     NameBouquet(row, bouquets_);
-    updated_[slot] = true;
-    ++report_.updated;
+    for (std::size_t mark = 0; mark < Marks; ++mark)
+      updated_[mark][slot] = updated_[mark][slot] || marks[mark];
+    if (!counted_[slot]) ++report_.updated;
+    counted_[slot] = true;
   }
 
   // The data of a transponder that no channel was on are nobody's: they may be long out of date.
-  void UpdateUnoccupied(int there, std::size_t slot) {
-    const ChannelRecord& theirs = other_.Channel(there);
-    if (HasTransponder(other_, theirs) && !occupied_[slot]) Update(slot, Wanted(theirs));
+  void UpdateUnoccupied(const OtherChannel& theirs, std::size_t slot) {
+    if (theirs.transponder != 0 && !occupied_[slot]) Update(slot, theirs, MarkSet().set());
     occupied_[slot] = true;
   }
 
@@ -130,12 +187,13 @@ class Taker {
 
   // For each channel that stays, slot 0 for the list's head, the moved ones that come behind it, in the other's order.
   [[nodiscard]] PerChannel<std::vector<int>> Followers(const PerChannel<bool>& moves) const {
-    SlotMap here{};
-    for (int slot = 1; slot <= LastChannelSlot; ++slot) here[comparison_.there[slot]] = slot;
+    std::vector<int> here(other_.channels.size());
+    for (int slot = 1; slot <= LastChannelSlot; ++slot)
+      here[static_cast<std::size_t>(comparison_.there[slot])] = slot;
     PerChannel<std::vector<int>> behind;
     int last = 0;
-    for (int there = 1; there <= LastChannelSlot; ++there) {
-      const int slot = here[there];
+    for (int there = 1; there <= other_.offered; ++there) {
+      const int slot = here[static_cast<std::size_t>(there)];
       if (slot == 0) continue;
       if (comparison_.fixed[slot]) last = slot;
       if (moves[slot]) behind[last].push_back(slot);
@@ -143,28 +201,87 @@ class Taker {
     return behind;
   }
 
-  void Add(int there) {
-    int slot = LastOccupied(state_) + 1;
-    if (slot > state_.ChannelCount) {
-      slot = 1;
-      while (slot <= state_.ChannelCount && !state_.Channel(slot).Empty()) ++slot;
+  // 0 where every slot has a channel.
+  [[nodiscard]] int FirstHole() const {
+    for (int slot = 1; slot <= state_.ChannelCount; ++slot) {
+      if (state_.Channel(slot).Empty()) return slot;
     }
-    if (slot > state_.ChannelCount) {
+    return 0;
+  }
+
+  // Behind the last channel on a transponder of the same satellite and bouquet; 0 where there is none.
+  [[nodiscard]] int BehindBouquet(std::uint32_t transponder) const {
+    const TransponderRow* row = TransponderInUse(state_, transponder);
+    if (row == nullptr || row->BouquetCode() == "  ") return 0;
+    for (int slot = state_.ChannelCount; slot >= 1; --slot) {
+      const ChannelRecord& channel = state_.Channel(slot);
+      const TransponderRow* other = TransponderInUse(state_, Get(channel, ChannelField::Transponder));
+      if (channel.Empty() || other == nullptr || other->bouquetCode != row->bouquetCode) continue;
+      if (Get(other->record, TransponderField::Satellite) == Get(row->record, TransponderField::Satellite))
+        return slot + 1;
+    }
+    return 0;
+  }
+
+  // An empty slot, made where there is to be one between others. `hole` is the first there is.
+  int PlaceFor(const ChannelRecord& channel, int hole) {
+    if (place_ == NewPlace::Holes) return hole;
+    const int wanted =
+        place_ == NewPlace::Bouquet ? BehindBouquet(Get(channel, ChannelField::Transponder)) : 0;
+    if (wanted != 0 && wanted <= state_.ChannelCount) {
+      if (state_.Channel(wanted).Empty()) return wanted;
+      if (const auto made = MakeRoom(state_, wanted, 1)) {
+        report_.lost.insert(report_.lost.end(), made->begin(), made->end());
+        return wanted;
+      }
+    }
+    const int behind = LastOccupied(state_) + 1;
+    return behind <= state_.ChannelCount ? behind : hole;
+  }
+
+  void Add(int there) {
+    const OtherChannel& theirs = other_.At(there);
+    const int hole = FirstHole();
+    if (hole == 0) {
       ++report_.noRoom;
-    } else if (const auto channel = Linked(there, 0)) {
-      state_.Channel(slot) = *channel;
-      ++report_.added;
-      UpdateUnoccupied(there, Get(*channel, ChannelField::Transponder));
+      return;
+    }
+    ChannelRecord channel = theirs.record;
+    if (theirs.transponder == 0) {
+      Unlink(channel, theirs);
+    } else if (const int slot = SlotOf(theirs, 0); slot != 0) {
+      Set(channel, ChannelField::Transponder, static_cast<std::uint32_t>(slot));
     } else {
       ++report_.noTransponder;
+      return;
+    }
+    const int slot = PlaceFor(channel, hole);
+    state_.Channel(slot) = channel;
+    ++report_.added;
+    UpdateUnoccupied(theirs, Get(channel, ChannelField::Transponder));
+  }
+
+  // Behind all else: what was added may be named by a list.
+  void TakeFavourites(const std::vector<Difference>& chosen) {
+    const auto is = [](const Difference& difference) { return difference.Has(Mark::Favourites); };
+    if (std::none_of(chosen.begin(), chosen.end(), is)) return;
+    const Comparison now = Compare(state_, other_);
+    for (const Difference& difference : chosen) {
+      if (!is(difference)) continue;
+      const std::size_t list = difference.favourites;
+      SetFavouriteEntries(state_.FavouritesBlock, list, FavouritesHere(now, other_, list));
+      SetFavouriteName(state_.FavouritesBlock, list, FavouriteNameOf(other_.favourites, list));
+      ++report_.favourites;
     }
   }
 
   State& state_;
-  const State& other_;
+  const OtherList& other_;
   const Comparison& comparison_;
   const BouquetTables& bouquets_;
-  std::bitset<LastTransponderSlot + 1> updated_;
+  NewPlace place_;
+  std::array<std::bitset<LastTransponderSlot + 1>, Marks> updated_{};  // by the mark that did it
+  std::bitset<LastTransponderSlot + 1> counted_;
   PerSlot<bool, 255> occupied_;  // with channels on it, by the number that they have
   TakeOverReport report_;
 };
@@ -181,14 +298,21 @@ void Place(const std::vector<int>& slots, int last, int count, SlotMap& map, Per
   }
 }
 
-}  // namespace
-
-TakeOverReport TakeOver(State& state, const State& other, const Comparison& comparison,
-                        const std::vector<Difference>& chosen, const BouquetTables& bouquets) {
-  return Taker(state, other, comparison, bouquets).Run(chosen);
+int LastOccupied(const OtherList& list) {
+  int number = list.offered;
+  while (number > 0 && list.At(number).record.Empty()) --number;
+  return number;
 }
 
-int TakeOrder(State& state, const State& other, const Comparison& comparison) {
+}  // namespace
+
+TakeOverReport TakeOver(State& state, const OtherList& other, const Comparison& comparison,
+                        const std::vector<Difference>& chosen, const BouquetTables& bouquets,
+                        NewPlace place) {
+  return Taker(state, other, comparison, bouquets, place).Run(chosen);
+}
+
+int TakeOrder(State& state, const OtherList& other, const Comparison& comparison) {
   SlotMap map = SameSlots();
   PerChannel<bool> taken;
   std::vector<int> rest;   // channels without a number of the other list

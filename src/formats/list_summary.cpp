@@ -66,16 +66,23 @@ ListSummary SummaryOf(ServiceReader& reader) {
 
 std::map<int, int> ProposedSatellites(const State& state,
                                       const std::vector<ListedTransponder>& transponders) {
+  constexpr int Telling = 5;  // transponders of a part of a satellite's that no other one has by chance
   const Overlap overlap = OverlapOf(state, transponders);
+  std::map<int, int> listed;
+  for (const ListedTransponder& transponder : transponders) {
+    if (transponder.position) ++listed[*transponder.position];
+  }
   std::map<int, int> proposed;
   for (const auto& one : overlap.ofPositions) {
     const auto* const best = std::max_element(one.second.begin(), one.second.end());
     const auto satellite = static_cast<std::size_t>(best - one.second.begin());
-    const bool most = *best * 2 > overlap.all[satellite];
+    const bool most =
+        *best * 2 > overlap.all[satellite] || (*best >= Telling && *best * 2 > listed[one.first]);
     const bool rivalled = std::any_of(
         overlap.ofPositions.begin(), overlap.ofPositions.end(),
         [&](const auto& other) { return other.first != one.first && other.second[satellite] >= *best; });
-    if (most && !rivalled) proposed[one.first] = static_cast<int>(satellite);
+    const bool alone = std::count(one.second.begin(), one.second.end(), *best) == 1;
+    if (most && alone && !rivalled) proposed[one.first] = static_cast<int>(satellite);
   }
   return proposed;
 }

@@ -19,8 +19,9 @@ struct ListSummary {
 
 ListSummary SummaryOf(ServiceReader& reader);
 
-// The satellite of the loaded list (0 is A) that each position seems to be: most of its transponders are the position's, and
-// neither has more in common with another. A position that is none of the list's has no entry.
+// The satellite of the loaded list (0 is A) that each position seems to be: most of its transponders are the position's, or
+// most of the position's, if there are some, are the satellite's; and neither has more in common with another. A position that
+// is none of the list's has no entry.
 std::map<int, int> ProposedSatellites(const Routines::State& state,
                                       const std::vector<ListedTransponder>& transponders);
 

@@ -2,7 +2,7 @@
 #pragma once
 
 #include "base/short_text.h"
-#include "formats/sdx_fields.h"
+#include "model/sdx_fields.h"
 
 #include <cstdint>
 #include <optional>
@@ -11,6 +11,9 @@
 #include <vector>
 
 namespace Formats {
+
+using Routines::SdxField;
+using Routines::SdxFields;
 
 inline constexpr int NotSaid = -1;
 

@@ -70,14 +70,14 @@ class Loader {
   explicit Loader(const SdxOptions& options) : options_(options) {}
 
   SdxTable Run(std::string_view text) {
-    table_.rows.reserve(MostSdxRows);
+    table_.rows.reserve(std::min(options_.most, MostSdxRows));
     while (!text.empty()) {
       const std::string_view line = Base::TakeLine(text);
       // A download leaves every second line blank: those are no services that were dropped.
       if (table_.lines > 0 && Base::TrimmedLeft(line).empty()) continue;
       if (table_.lines++ == 0) table_.satelliteName = Cut(line, SdxLine::SatelliteName);
       if (!Passes(line)) continue;
-      if (table_.rows.size() == MostSdxRows) {
+      if (table_.rows.size() >= options_.most) {
         table_.full = true;
         break;
       }
@@ -95,20 +95,26 @@ class Loader {
     if (!wanted) return Dropped(Drop::Type);
     if (type != 'D') {
       if (Cut(line, SdxLine::Format) != "MPG2") return Dropped(Drop::NotMpeg2);
-      if (Value(Cut(line, type == 'T' ? SdxLine::Vpid : SdxLine::Apid)) == 0) return Dropped(Drop::NoPid);
+      if (Value(Cut(line, type == 'T' ? SdxLine::Vpid : SdxLine::Apid)) == 0) return WithoutPid(line);
     }
-    return PassesFilters(line);
+    const auto drop = FilteredOut(line);
+    return drop ? Dropped(*drop) : true;
   }
 
-  bool PassesFilters(std::string_view line) {
+  bool WithoutPid(std::string_view line) {
+    if (!FilteredOut(line)) Fill(table_.others.emplace_back(), line);
+    return Dropped(Drop::NoPid);
+  }
+
+  [[nodiscard]] std::optional<Drop> FilteredOut(std::string_view line) const {
     const std::string_view code = Cut(line, SdxLine::Code);
     if (!options_.allCodes &&
         std::find(options_.codes.begin(), options_.codes.end(), code) == options_.codes.end()) {
-      return Dropped(Drop::Code);
+      return Drop::Code;
     }
     const bool left = options_.LeavesOut(options_.satellite, Value(Cut(line, SdxLine::Tid)),
                                          Value(Cut(line, SdxLine::Sid)), Value(Cut(line, SdxLine::Apid)));
-    return left ? Dropped(Drop::Filter) : true;
+    return left ? std::optional(Drop::Filter) : std::nullopt;
   }
 
   bool Dropped(Drop reason) {
@@ -146,6 +152,18 @@ class Loader {
 bool SdxOptions::LeavesOut(int onSatellite, int tid, int sid, int apid) const {
   const int key = sid == SidWithoutPid ? 0 : apid == 0 ? 65535 : apid;
   return filtered.contains({key, sid}) || known.contains({onSatellite, tid, sid});
+}
+
+void KeepOthers(SdxTable& table, SdxTable whole) {
+  table.others = std::move(whole.others);
+  auto next = table.rows.begin();
+  for (const SdxRow& row : whole.rows) {
+    if (next != table.rows.end() && *next == row) {
+      ++next;
+    } else {
+      table.others.push_back(row);
+    }
+  }
 }
 
 SdxTable ReadSatcodx(std::string_view text, const SdxOptions& options) { return Loader(options).Run(text); }

@@ -25,10 +25,26 @@ struct SdxOptions {
   // service id.
   std::set<std::pair<int, int>> filtered;
   std::set<std::array<int, 3>> known;
+  std::size_t most = MostSdxRows;
 
   // Whether one of the two has the service; an absent audio PID is 0.
   [[nodiscard]] bool LeavesOut(int onSatellite, int tid, int sid, int apid) const;
 };
+
+// Leaves nothing out, as far as a list is no larger than any real one.
+inline constexpr std::size_t MostKnownRows = 100000;
+template <class Options>
+Options WithoutFilters(Options options) {
+  options.television = options.radio = options.data = options.allCodes = true;
+  options.filtered.clear();
+  options.known.clear();
+  options.most = MostKnownRows;
+  if constexpr (requires { options.keepHd; }) options.keepHd = true;
+  return options;
+}
+
+// Puts what `whole`, the same list read without filters, has beside the rows of `table` into its others.
+void KeepOthers(SdxTable& table, SdxTable whole);
 
 SdxTable ReadSatcodx(std::string_view text, const SdxOptions& options);
 

@@ -93,11 +93,8 @@ std::string Overwritten::Text() const {
   return text;
 }
 
-// The row's code in the symbol-rate table.
-std::optional<std::uint32_t> SdxImport::RateCodeOf(const SdxRow& row) const {
-  const auto has = [&](std::uint32_t code) {
-    return SymbolRateText(state_.SymbolRateTable, code) == row.symbolRate;
-  };
+std::optional<std::uint32_t> RateCodeOf(const SdxRow& row, std::string_view rates) {
+  const auto has = [&](std::uint32_t code) { return SymbolRateText(rates, code) == row.symbolRate; };
   // A table may have a rate twice: then the code that the flash has is as good as the first.
   if (row.transponder && has(Get(*row.transponder, TransponderField::SymbolRate)))
     return Get(*row.transponder, TransponderField::SymbolRate);
@@ -108,10 +105,10 @@ std::optional<std::uint32_t> SdxImport::RateCodeOf(const SdxRow& row) const {
   return std::nullopt;
 }
 
-TransponderRecord SdxImport::RecordOf(const SdxRow& row) const {
+TransponderRecord TransponderRecordOf(const SdxRow& row, std::string_view rates) {
   TransponderRecord record = row.transponder.value_or(TransponderRecord{});
   Set(record, TransponderField::ChannelCount, 1);
-  if (const auto code = RateCodeOf(row)) Set(record, TransponderField::SymbolRate, *code);
+  if (const auto code = RateCodeOf(row, rates)) Set(record, TransponderField::SymbolRate, *code);
   if (row.transponder) return record;
   Set(record, TransponderField::HighBand, row.highBand ? 1U : 0U);
   Set(record, TransponderField::Horizontal, row.horizontal ? 1U : 0U);
@@ -123,11 +120,29 @@ TransponderRecord SdxImport::RecordOf(const SdxRow& row) const {
   return record;
 }
 
+ChannelRecord ChannelRecordOf(const SdxRow& row) {
+  ChannelRecord channel;
+  const std::string_view name = std::string_view(row.name).substr(0, ChannelRecord::NameSize);
+  // A list fills names up with blanks; those of a flash are its own.
+  const std::size_t used = row.transponder ? 0 : Base::TrimmedRight(name).size();
+  std::copy_n(name.begin(), used == 0 ? name.size() : used, channel.bytes.begin());
+  Set(channel, ChannelField::Flags, static_cast<std::uint32_t>(row.codifica));
+  Set(channel, ChannelField::Sid, Low16(row.sid));
+  Set(channel, ChannelField::Vpid, Low16(row.vpid));
+  Set(channel, ChannelField::Apid, Low16(row.apid));
+  Set(channel, ChannelField::Aecm, Low16(row.aecm));
+  Set(channel, ChannelField::Vecm, Low16(row.vecm));
+  Set(channel, ChannelField::Pcr, Low16(row.pcr));
+  return channel;
+}
+
+bool IsChannel(const SdxRow& row) { return Megahertz(row) != 0; }
+
 int SdxImport::TransponderOf(const SdxRow& row, int position) {
-  const TransponderRecord record = RecordOf(row);
+  const TransponderRecord record = TransponderRecordOf(row, state_.SymbolRateTable);
   const TransponderSlot found = FindOrAddTransponder(state_, record, Megahertz(row));
   if (found.added) {
-    if (!RateCodeOf(row)) ++unknownRates_;
+    if (!RateCodeOf(row, state_.SymbolRateTable)) ++unknownRates_;
     NameBouquet(state_.Transponder(found.slot), bouquets_);
     return found.slot;
   }
@@ -147,20 +162,9 @@ void SdxImport::Put(const SdxRow& row, int slot, int position) {
   ChannelRecord& channel = state_.Channel(slot);
   if (!channel.Empty()) AddToChannelCount(state_, Get(channel, ChannelField::Transponder), -1);
   channel = {};
-  if (Megahertz(row) == 0) return;
-
-  const std::string_view name = std::string_view(row.name).substr(0, ChannelRecord::NameSize);
-  // A list fills names up with blanks; those of a flash are its own.
-  const std::size_t used = row.transponder ? 0 : Base::TrimmedRight(name).size();
-  std::copy_n(name.begin(), used == 0 ? name.size() : used, channel.bytes.begin());
-  Set(channel, ChannelField::Flags, static_cast<std::uint32_t>(row.codifica));
+  if (!IsChannel(row)) return;
+  channel = ChannelRecordOf(row);
   Set(channel, ChannelField::Transponder, static_cast<std::uint32_t>(TransponderOf(row, position)));
-  Set(channel, ChannelField::Sid, Low16(row.sid));
-  Set(channel, ChannelField::Vpid, Low16(row.vpid));
-  Set(channel, ChannelField::Apid, Low16(row.apid));
-  Set(channel, ChannelField::Aecm, Low16(row.aecm));
-  Set(channel, ChannelField::Vecm, Low16(row.vecm));
-  Set(channel, ChannelField::Pcr, Low16(row.pcr));
 }
 
 }  // namespace Formats

@@ -11,6 +11,14 @@ namespace Formats {
 // Whether a row can have a transponder: its frequency does not lie below every local oscillator, nor above what a
 // record can hold. A row of frequency 0 is an empty one, and one from a flash brings its transponder along.
 bool InBand(const SdxRow& row);
+// Whether it is no empty one.
+bool IsChannel(const SdxRow& row);
+
+// The records that a row becomes; the channel's without the number of its transponder. `rates` is the symbol-rate table
+// that gives the rate its code, 0 where it has none for it.
+Routines::ChannelRecord ChannelRecordOf(const SdxRow& row);
+Routines::TransponderRecord TransponderRecordOf(const SdxRow& row, std::string_view rates);
+std::optional<std::uint32_t> RateCodeOf(const SdxRow& row, std::string_view rates);
 
 // A service of the loaded list: satellite (0 is A), transport stream and service id; and its slot.
 struct KnownService {
@@ -54,8 +62,6 @@ class SdxImport {
 
  private:
   int TransponderOf(const SdxRow& row, int position);
-  [[nodiscard]] Routines::TransponderRecord RecordOf(const SdxRow& row) const;
-  [[nodiscard]] std::optional<std::uint32_t> RateCodeOf(const SdxRow& row) const;
 
   Routines::State& state_;
   const Routines::BouquetTables& bouquets_;

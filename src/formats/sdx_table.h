@@ -4,8 +4,8 @@
 
 #include "base/short_text.h"
 #include "formats/drop_report.h"
-#include "formats/sdx_fields.h"
 #include "model/row_kind.h"
+#include "model/sdx_fields.h"
 #include "model/transponder.h"
 
 #include <optional>
@@ -13,6 +13,9 @@
 #include <vector>
 
 namespace Formats {
+
+using Routines::SdxField;
+using Routines::SdxFields;
 
 inline constexpr std::size_t MostSdxRows = 4000;
 
@@ -49,8 +52,8 @@ struct SdxRow {
 struct SdxTable {
   std::string satelliteName;  // of the file, 17 characters
   std::vector<SdxRow> rows;
-  // What nothing but missing PIDs keeps out, and so counts as dropped: to compare a list with.
-  std::vector<SdxRow> withoutPids;
+  // What counts as dropped though the list has it: without PIDs, or not wanted by the options. To compare a list with.
+  std::vector<SdxRow> others;
   SdxFields lacking;  // what the source says of no row
   bool full = false;  // more lines were accepted than the table has rows for
 

@@ -115,10 +115,10 @@ class Maker {
     const int apid = std::max(service.apid, 0);
     if (options_.LeavesOut(satellite_, service.transponder.tid, service.sid, apid)) return Drop::Filter;
     if (!HasPids(service)) {
-      Fill(table_.withoutPids.emplace_back(), service);
+      Fill(table_.others.emplace_back(), service);
       return Drop::NoPid;
     }
-    table_.full = table_.rows.size() == MostSdxRows;
+    table_.full = table_.rows.size() >= options_.most;
     if (!table_.full) Fill(table_.rows.emplace_back(), service);
     return std::nullopt;
   }

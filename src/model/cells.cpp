@@ -13,11 +13,8 @@ std::string Decimal(const Record& record, const Field<Record>& field) {
 
 }  // namespace
 
-std::string ChannelCell(const State& state, int slot, int column) {
+std::string CellOf(const ChannelRecord& channel, int column) {
   using namespace ChannelField;
-  const ChannelRecord& channel = state.Channel(slot);
-  if (column == ChannelColumn::Number) return Base::ZeroPadded(slot, 4);
-  if (channel.Empty()) return {};
   switch (column) {
     case ChannelColumn::Name:
       return std::string(channel.Name());
@@ -44,13 +41,9 @@ std::string ChannelCell(const State& state, int slot, int column) {
   }
 }
 
-std::string TransponderCell(const State& state, int slot, int column) {
+std::string CellOf(const TransponderRecord& record, std::string_view rates, int column) {
   using namespace TransponderField;
-  const TransponderRow& row = state.Transponder(slot);
-  const TransponderRecord& record = row.record;
   switch (column) {
-    case TransponderColumn::Number:
-      return Base::ZeroPadded(slot, 3);
     case TransponderColumn::Frequency:
       return ShowsNoFrequency(record) ? "0" : std::to_string(FrequencyMHz(record));
     case TransponderColumn::Tid:
@@ -60,7 +53,7 @@ std::string TransponderCell(const State& state, int slot, int column) {
     case TransponderColumn::Channels:
       return Decimal(record, ChannelCount);
     case TransponderColumn::SymbolRate:
-      return std::string(SymbolRateText(state.SymbolRateTable, Get(record, SymbolRate)));
+      return std::string(SymbolRateText(rates, Get(record, SymbolRate)));
     case TransponderColumn::Fec:
       return std::string(FecText(record));
     case TransponderColumn::Polarisation:
@@ -69,11 +62,22 @@ std::string TransponderCell(const State& state, int slot, int column) {
       return Get(record, HighBand) != 0 ? "On" : "Off";
     case TransponderColumn::Satellite:
       return SatelliteLabel(record);
-    case TransponderColumn::Bouquet:
-      return std::string(row.BouquetName());
     default:
       return {};
   }
+}
+
+std::string ChannelCell(const State& state, int slot, int column) {
+  const ChannelRecord& channel = state.Channel(slot);
+  if (column == ChannelColumn::Number) return Base::ZeroPadded(slot, 4);
+  return channel.Empty() ? std::string() : CellOf(channel, column);
+}
+
+std::string TransponderCell(const State& state, int slot, int column) {
+  const TransponderRow& row = state.Transponder(slot);
+  if (column == TransponderColumn::Number) return Base::ZeroPadded(slot, 3);
+  if (column == TransponderColumn::Bouquet) return std::string(row.BouquetName());
+  return CellOf(row.record, state.SymbolRateTable, column);
 }
 
 }  // namespace Routines

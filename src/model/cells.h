@@ -27,6 +27,10 @@ enum : int { Number, Frequency, Tid, Nid, Channels, SymbolRate, Fec, Polarisatio
 std::string ChannelCell(const State& state, int slot, int column);
 std::string TransponderCell(const State& state, int slot, int column);
 
+// The same of a record that is in no table, but for its number and its bouquet. `rates` is its list's symbol-rate table.
+std::string CellOf(const ChannelRecord& channel, int column);
+std::string CellOf(const TransponderRecord& record, std::string_view rates, int column);
+
 // Whether a transponder's frequency cell shows that it has none, "0". Only that cell goes by the first byte: a slot is free
 // when all four are 0.
 inline bool ShowsNoFrequency(const TransponderRecord& transponder) { return transponder.bytes[0] == 0; }

@@ -15,14 +15,15 @@ bool Doubtful(const State& state, const TransponderRecord& record) {
 
 }  // namespace
 
-RowKind ChannelRowKind(const State& state, int slot) {
-  const ChannelRecord& channel = state.Channel(slot);
+RowKind RowKindOf(const ChannelRecord& channel) {
   const ChannelKind kind = KindOf(channel);
   if (kind == ChannelKind::Empty) return RowKind::EmptySlot;
   if (Get(channel, ChannelField::Active) == 0) return RowKind::Inactive;
   if (kind == ChannelKind::Tv) return RowKind::Tv;
   return kind == ChannelKind::Radio ? RowKind::Radio : RowKind::Service;
 }
+
+RowKind ChannelRowKind(const State& state, int slot) { return RowKindOf(state.Channel(slot)); }
 
 RowKind TransponderRowKind(const State& state, int slot) {
   const TransponderRecord& record = state.Transponder(slot).record;

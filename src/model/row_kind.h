@@ -20,6 +20,7 @@ enum class RowKind {
 
 // Of slots of the two tables. A channel that is not active is nothing but that, whatever streams it has.
 RowKind ChannelRowKind(const State& state, int slot);
+RowKind RowKindOf(const ChannelRecord& channel);
 RowKind TransponderRowKind(const State& state, int slot);
 
 // "Servizio", UTF-8; empty for an ordinary transponder.

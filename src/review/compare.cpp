@@ -14,110 +14,133 @@ namespace {
 
 using namespace Routines;
 
-const TransponderRecord& TransponderOf(const State& state, const ChannelRecord& channel) {
-  return state.Transponder(Get(channel, ChannelField::Transponder)).record;
-}
+using Records = std::vector<TransponderRecord>;
 
-// For each transponder slot of a list one number that stands for the same transponder in both lists; 0 for a channel
-// without one.
-using Classes = PerSlot<int, 255>;
+// For each transponder of a list one number that stands for the same transponder in both lists; 0 for none.
+using Classes = std::vector<int>;
 
-int FirstSame(const State& state, const TransponderRecord& record) {
+int FirstSame(const Records& records, const TransponderRecord& record) {
   const int megahertz = FrequencyMHz(record);
-  for (int slot = 1; slot <= state.TransponderCount; ++slot) {
-    const TransponderRecord& known = state.Transponder(slot).record;
-    if (!IsFree(known) && SameTransponder(known, record, megahertz)) return slot;
+  for (std::size_t place = 1; place < records.size(); ++place) {
+    if (!IsFree(records[place]) && SameTransponder(records[place], record, megahertz))
+      return static_cast<int>(place);
   }
   return 0;
 }
 
-Classes ClassesOf(const State& state, const State& first) {
+// A list that does not say polarisations has either.
+int FirstSame(const Records& records, TransponderRecord record, SdxFields lacking) {
+  const int same = FirstSame(records, record);
+  if (same != 0 || !lacking.Has(SdxField::Polarisation)) return same;
+  Set(record, TransponderField::Horizontal, 1 - Get(record, TransponderField::Horizontal));
+  return FirstSame(records, record);
+}
+
+Classes ClassesOf(const OtherList& list, const OtherList& first) {
   constexpr int OnlyInSecond = 1000;
-  Classes classes{};
-  for (int slot = 1; slot <= state.TransponderCount; ++slot) {
-    const TransponderRecord& record = state.Transponder(slot).record;
+  Classes classes(list.transponders.size());
+  for (std::size_t place = 1; place < classes.size(); ++place) {
+    const TransponderRecord& record = list.transponders[place];
     if (IsFree(record)) continue;
-    const int same = FirstSame(first, record);
-    classes[slot] = same != 0 ? FirstSame(first, first.Transponder(same).record)
-                              : OnlyInSecond + FirstSame(state, record);
+    const int same = FirstSame(first.transponders, record, list.lacking);
+    classes[place] = same != 0
+                         ? FirstSame(first.transponders, first.transponders[static_cast<std::size_t>(same)])
+                         : OnlyInSecond + FirstSame(list.transponders, record);
   }
   return classes;
 }
 
 // What a channel of both lists is known by, from the strictest on.
-enum class By { Contents, ServiceAndFrequency, Service, Frequency };
+enum class By { Contents, ServiceAndFrequency, Service, Frequency, ServiceWithoutNid };
+
+// A list with what its channels are paired by.
+struct Side {
+  const OtherList& list;
+  Classes classes;
+};
 
 void Append(std::string& key, std::uint32_t value) {
   for (const unsigned shift : {0U, 8U, 16U}) key += static_cast<char>(value >> shift & 255U);
 }
 
+// Appends what the channel's stream is known by; false where it is known by nothing.
+bool AppendStream(std::string& key, const TransponderRecord& record, By by) {
+  const std::uint32_t tid = Get(record, TransponderField::Tid);
+  const std::uint32_t nid = by == By::ServiceWithoutNid ? 0 : Get(record, TransponderField::Nid);
+  if (tid == 0 && nid == 0) return false;
+  for (const std::uint32_t part : {Get(record, TransponderField::Satellite), nid, tid}) Append(key, part);
+  return true;
+}
+
 // Empty where the channel cannot be known that way.
-std::string KeyOf(const State& state, const Classes& classes, const ChannelRecord& channel, By by) {
-  const auto transponder = static_cast<std::uint32_t>(classes[Get(channel, ChannelField::Transponder)]);
+std::string KeyOf(const Side& side, const OtherChannel& channel, By by) {
+  const auto transponder =
+      static_cast<std::uint32_t>(side.classes[static_cast<std::size_t>(channel.transponder)]);
   std::string key;
   if (by == By::Contents) {
-    ChannelRecord contents = channel;
+    ChannelRecord contents = channel.record;
     Set(contents, ChannelField::Transponder, 0);
     key = Base::AsText(contents.bytes);
     Append(key, transponder);
     return key;
   }
   if (transponder == 0) return key;
-  if (by != By::Frequency) {
-    const TransponderRecord& record = TransponderOf(state, channel);
-    const std::uint32_t tid = Get(record, TransponderField::Tid);
-    const std::uint32_t nid = Get(record, TransponderField::Nid);
-    if (tid == 0 && nid == 0) return key;
-    for (const std::uint32_t part : {Get(record, TransponderField::Satellite), nid, tid}) Append(key, part);
-  }
-  Append(key, Get(channel, ChannelField::Sid));
-  if (by != By::Service) Append(key, transponder);
+  if (by != By::Frequency && !AppendStream(key, side.list.TransponderOf(channel), by)) return {};
+  Append(key, Get(channel.record, ChannelField::Sid));
+  if (by == By::ServiceAndFrequency || by == By::Frequency) Append(key, transponder);
   return key;
 }
 
 // The channels of both lists.
 struct Pairs {
-  SlotMap there{};  // by slot here
-  SlotMap here{};   // by slot there
+  SlotMap there{};        // by slot here
+  std::vector<int> here;  // by number there
 };
 
-void PairChannels(const State& here, const State& there, Pairs& pairs, By by, const Classes& classesHere,
-                  const Classes& classesThere) {
+// Whether a channel of the other list may be paired that way.
+bool Waits(const OtherChannel& channel, By by) {
+  return !channel.record.Empty() && (by != By::ServiceWithoutNid || channel.lacking.Has(SdxField::Nid));
+}
+
+void PairChannels(const Side& here, const Side& there, Pairs& pairs, By by) {
   std::unordered_map<std::string, std::vector<int>> waiting;  // from the last one of the list on
-  for (int slot = there.ChannelCount; slot >= 1; --slot) {
-    const ChannelRecord& channel = there.Channel(slot);
-    if (channel.Empty() || pairs.here[slot] != 0) continue;
-    const std::string key = KeyOf(there, classesThere, channel, by);
-    if (!key.empty()) waiting[key].push_back(slot);
+  for (int number = there.list.Count(); number >= 1; --number) {
+    const OtherChannel& channel = there.list.At(number);
+    if (pairs.here[static_cast<std::size_t>(number)] != 0 || !Waits(channel, by)) continue;
+    const std::string key = KeyOf(there, channel, by);
+    if (!key.empty()) waiting[key].push_back(number);
   }
-  for (int slot = 1; slot <= here.ChannelCount && !waiting.empty(); ++slot) {
-    const ChannelRecord& channel = here.Channel(slot);
-    if (channel.Empty() || pairs.there[slot] != 0) continue;
-    const auto found = waiting.find(KeyOf(here, classesHere, channel, by));
+  for (int slot = 1; slot <= here.list.Count() && !waiting.empty(); ++slot) {
+    const OtherChannel& channel = here.list.At(slot);
+    if (channel.record.Empty() || pairs.there[slot] != 0) continue;
+    const auto found = waiting.find(KeyOf(here, channel, by));
     if (found == waiting.end() || found->second.empty()) continue;
     pairs.there[slot] = found->second.back();
-    pairs.here[found->second.back()] = slot;
+    pairs.here[static_cast<std::size_t>(found->second.back())] = slot;
     found->second.pop_back();
   }
 }
 
-Pairs PairsOf(const State& here, const State& there) {
-  const Classes classesHere = ClassesOf(here, here);
-  const Classes classesThere = ClassesOf(there, here);
-  Pairs pairs;
-  for (const By by : {By::Contents, By::ServiceAndFrequency, By::Service, By::Frequency})
-    PairChannels(here, there, pairs, by, classesHere, classesThere);
+Pairs PairsOf(const OtherList& here, const OtherList& there) {
+  const Side one{here, ClassesOf(here, here)};
+  const Side other{there, ClassesOf(there, here)};
+  Pairs pairs{{}, std::vector<int>(there.channels.size())};
+  for (const By by :
+       {By::Contents, By::ServiceAndFrequency, By::Service, By::Frequency, By::ServiceWithoutNid})
+    PairChannels(one, other, pairs, by);
   return pairs;
 }
 
 // The most channels that are in the same order in both lists: the longest run of rising numbers there. All the others
-// are moved, so that one channel put in at the top moves none.
-PerChannel<bool> InSameOrder(const SlotMap& there) {
+// are moved, so that one channel put in at the top moves none. Numbers above `last` have no place in an order.
+PerChannel<bool> InSameOrder(const SlotMap& there, int last) {
   std::vector<int> ends;  // for each length the slot that ends such a run with the lowest number
   SlotMap before{};
+  PerChannel<bool> fixed;
   const auto lower = [&there](int slot, int number) { return there[slot] < number; };
   for (int slot = 1; slot <= LastChannelSlot; ++slot) {
-    if (there[slot] == 0) continue;
+    fixed[slot] = there[slot] > last;
+    if (there[slot] == 0 || there[slot] > last) continue;
     const auto place = std::lower_bound(ends.begin(), ends.end(), there[slot], lower);
     before[slot] = place == ends.begin() ? 0 : *(place - 1);
     if (place == ends.end()) {
@@ -126,84 +149,115 @@ PerChannel<bool> InSameOrder(const SlotMap& there) {
       *place = slot;
     }
   }
-  PerChannel<bool> fixed;
   for (int slot = ends.empty() ? 0 : ends.back(); slot != 0; slot = before[slot]) fixed[slot] = true;
   return fixed;
 }
 
+// A channel with its transponder and the table by which that has its rate.
+struct Tuned {
+  const OtherChannel& channel;
+  const TransponderRecord& transponder;
+  const std::string& rates;
+};
+
+Tuned TunedIn(const OtherList& list, const OtherChannel& channel) {
+  return {channel, list.TransponderOf(channel), list.symbolRates};
+}
+
 // Whether two codes stand for the same rate, each by the table of its list.
-bool SameRate(const State& here, const State& there, const TransponderRecord& one,
+bool SameRate(const std::string& ratesHere, const std::string& ratesThere, const TransponderRecord& one,
               const TransponderRecord& other) {
   const std::uint32_t code = Get(one, TransponderField::SymbolRate);
   const std::uint32_t otherCode = Get(other, TransponderField::SymbolRate);
-  if (here.SymbolRateTable == there.SymbolRateTable) return code == otherCode;
-  const std::string_view rate = SymbolRateText(here.SymbolRateTable, code);
-  const std::string_view otherRate = SymbolRateText(there.SymbolRateTable, otherCode);
+  if (ratesHere == ratesThere) return code == otherCode;
+  const std::string_view rate = SymbolRateText(ratesHere, code);
+  const std::string_view otherRate = SymbolRateText(ratesThere, otherCode);
   const bool known = rate.find_first_of("0123456789") != std::string_view::npos;
   return rate == otherRate && (known || code == otherCode);
 }
 
+bool SameTuning(const Tuned& here, const Tuned& there) {
+  TransponderRecord other = there.transponder;
+  if (there.channel.lacking.Has(SdxField::Polarisation))
+    Set(other, TransponderField::Horizontal, Get(here.transponder, TransponderField::Horizontal));
+  return SameTransponder(here.transponder, other);
+}
+
+struct TransponderFieldOf {
+  Field<TransponderRecord> field;
+  SdxField said;
+  std::string_view name;
+  Mark mark;
+  int column;
+};
+
+constexpr std::array<TransponderFieldOf, 4> TransponderFields = {
+    {{TransponderField::Fec, SdxField::Fec, "FEC ", Mark::Retuned, TransponderColumn::Fec},
+     {TransponderField::HighBand, SdxField::Band, "22KHz ", Mark::Retuned, TransponderColumn::Tone},
+     {TransponderField::Tid, SdxField::Tid, "TID ", Mark::Modified, TransponderColumn::Tid},
+     {TransponderField::Nid, SdxField::Nid, "NID ", Mark::Modified, TransponderColumn::Nid}}};
+
 // Calls `add` with a mark, what it is about, and the texts of both sides, for all that differs between the transponders
 // of a channel of both lists.
 template <class Add>
-void EachTransponderChange(const State& here, const State& there, const ChannelRecord& one,
-                           const ChannelRecord& other, const Add& add) {
-  if (!HasTransponder(here, one) || !HasTransponder(there, other)) return;
-  const TransponderRecord& record = TransponderOf(here, one);
-  const TransponderRecord& otherRecord = TransponderOf(there, other);
-  const auto cell = [](const State& state, const ChannelRecord& channel, int column) {
-    return TransponderCell(state, static_cast<int>(Get(channel, ChannelField::Transponder)), column);
-  };
+void EachTransponderChange(const Tuned& here, const Tuned& there, const Add& add) {
+  if (here.channel.transponder == 0 || there.channel.transponder == 0) return;
+  const SdxFields lacking = there.channel.lacking;
+  const auto cell = [](const Tuned& one, int column) { return CellOf(one.transponder, one.rates, column); };
   const auto tell = [&](Mark mark, std::string_view what, int column) {
-    add(mark, what, cell(here, one, column), cell(there, other, column));
+    add(mark, what, cell(here, column), cell(there, column));
   };
-  const auto differ = [&](const Field<TransponderRecord>& field) {
-    return Get(record, field) != Get(otherRecord, field);
-  };
-  if (!SameTransponder(record, otherRecord)) {
-    const auto tuning = [&](const State& state, const ChannelRecord& channel) {
-      return cell(state, channel, TransponderColumn::Frequency) + " " +
-             cell(state, channel, TransponderColumn::Polarisation);
+  if (!SameTuning(here, there)) {
+    const auto tuning = [&](const Tuned& one) {
+      return cell(one, TransponderColumn::Frequency) + " " + cell(one, TransponderColumn::Polarisation);
     };
-    add(Mark::Retuned, "", tuning(here, one), tuning(there, other));
+    add(Mark::Retuned, "", tuning(here), tuning(there));
   }
-  if (!SameRate(here, there, record, otherRecord)) tell(Mark::Retuned, "SR ", TransponderColumn::SymbolRate);
-  if (differ(TransponderField::Fec)) tell(Mark::Retuned, "FEC ", TransponderColumn::Fec);
-  if (differ(TransponderField::HighBand)) tell(Mark::Retuned, "22KHz ", TransponderColumn::Tone);
-  if (differ(TransponderField::Tid)) tell(Mark::Modified, "TID ", TransponderColumn::Tid);
-  if (differ(TransponderField::Nid)) tell(Mark::Modified, "NID ", TransponderColumn::Nid);
+  if (!lacking.Has(SdxField::SymbolRate) &&
+      !SameRate(here.rates, there.rates, here.transponder, there.transponder)) {
+    tell(Mark::Retuned, "SR ", TransponderColumn::SymbolRate);
+  }
+  for (const TransponderFieldOf& one : TransponderFields) {
+    if (!lacking.Has(one.said) && Get(here.transponder, one.field) != Get(there.transponder, one.field))
+      tell(one.mark, one.name, one.column);
+  }
 }
 
 struct NumberField {
   Field<ChannelRecord> field;
+  SdxField said;
   std::string_view name;
   Mark mark;
 };
 
-constexpr std::array<NumberField, 5> NumberFields = {{{ChannelField::Vpid, "VPID ", Mark::Retuned},
-                                                      {ChannelField::Apid, "APID ", Mark::Retuned},
-                                                      {ChannelField::Pcr, "PCR ", Mark::Retuned},
-                                                      {ChannelField::Aecm, "AECM ", Mark::Modified},
-                                                      {ChannelField::Vecm, "VECM ", Mark::Modified}}};
+constexpr std::array<NumberField, 5> NumberFields = {
+    {{ChannelField::Vpid, SdxField::Vpid, "VPID ", Mark::Pids},
+     {ChannelField::Apid, SdxField::Apid, "APID ", Mark::Pids},
+     {ChannelField::Pcr, SdxField::Pcr, "PCR ", Mark::Pids},
+     {ChannelField::Aecm, SdxField::Ecm, "AECM ", Mark::Modified},
+     {ChannelField::Vecm, SdxField::Ecm, "VECM ", Mark::Modified}}};
 
 // The same for the channel itself.
 template <class Add>
-void EachChange(const State& here, const State& there, int slotHere, int slotThere, const Add& add) {
-  const ChannelRecord& one = here.Channel(slotHere);
-  const ChannelRecord& other = there.Channel(slotThere);
-  EachTransponderChange(here, there, one, other, add);
+void EachChange(const Tuned& here, const Tuned& there, const Add& add) {
+  const ChannelRecord& one = here.channel.record;
+  const ChannelRecord& other = there.channel.record;
+  const SdxFields lacking = there.channel.lacking;
+  EachTransponderChange(here, there, add);
   for (const NumberField& number : NumberFields) {
     const std::uint32_t value = Get(one, number.field);
     const std::uint32_t otherValue = Get(other, number.field);
-    if (value != otherValue && (HasStream(value) || HasStream(otherValue)))
+    if (!lacking.Has(number.said) && value != otherValue && (HasStream(value) || HasStream(otherValue)))
       add(number.mark, number.name, std::to_string(value), std::to_string(otherValue));
   }
   const auto tell = [&](std::string_view what, int column) {
-    add(Mark::Modified, what, ChannelCell(here, slotHere, column), ChannelCell(there, slotThere, column));
+    add(Mark::Modified, what, CellOf(one, column), CellOf(other, column));
   };
   const std::uint32_t flags = Get(one, ChannelField::Flags) ^ Get(other, ChannelField::Flags);
-  if ((flags & ~ChannelField::Active.Mask()) != 0) tell("codifica ", ChannelColumn::Flags);
-  if ((flags & ChannelField::Active.Mask()) != 0) tell("attivo ", ChannelColumn::Active);
+  if (!lacking.Has(SdxField::Coding) && (flags & ~ChannelField::Active.Mask()) != 0)
+    tell("codifica ", ChannelColumn::Flags);
+  if (!lacking.Has(SdxField::Active) && (flags & ChannelField::Active.Mask()) != 0)
+    tell("attivo ", ChannelColumn::Active);
   const std::string_view name = Base::TrimmedRight(one.Name());
   const std::string_view otherName = Base::TrimmedRight(other.Name());
   if (name != otherName) add(Mark::Renamed, "", std::string(name), std::string(otherName));
@@ -216,152 +270,188 @@ bool SameBytes(ChannelRecord one, const ChannelRecord& other) {
 }
 
 // A channel of both lists.
-Difference ComparePair(const State& here, const State& there, int slot, Comparison& comparison) {
-  Difference found{slot, comparison.there[slot], {}};
-  EachChange(here, there, slot, found.there, [&found](Mark mark, auto&&...) { found.Add(mark); });
-  const ChannelRecord& one = here.Channel(slot);
-  const ChannelRecord& other = there.Channel(found.there);
-  if (found.marks.none() && !SameBytes(one, other)) ++comparison.alike;
-  if (!found.Has(Mark::Retuned) &&
-      Get(one, ChannelField::Transponder) != Get(other, ChannelField::Transponder)) {
+Difference ComparePair(const OtherList& here, const OtherList& there, int slot, Comparison& comparison) {
+  const int number = comparison.there[slot];
+  Difference found{slot, number, {}};
+  const OtherChannel& one = here.At(slot);
+  const OtherChannel& other = there.At(number);
+  EachChange(TunedIn(here, one), TunedIn(there, other), [&found](Mark mark, auto&&...) { found.Add(mark); });
+  if (there.flash && found.marks.none() && !SameBytes(one.record, other.record)) ++comparison.alike;
+  const auto transponder = [](const OtherChannel& channel) {
+    return Get(channel.record, ChannelField::Transponder);
+  };
+  if (there.flash && !found.Has(Mark::Retuned) && transponder(one) != transponder(other))
     ++comparison.relinked;
-  }
   if (!comparison.fixed[slot]) {
     found.Add(Mark::Moved);
-  } else if (found.there != slot) {
+  } else if (there.flash && number != slot) {
     ++comparison.shifted;
   }
   return found;
 }
 
-void CompareChannels(const State& here, const State& there, const Pairs& pairs, Comparison& comparison) {
-  const auto used = [](const State& state, int slot) {
-    return slot <= state.ChannelCount && !state.Channel(slot).Empty();
-  };
-  const auto single = [](int slotHere, int slotThere, Mark mark) {
-    Difference found{slotHere, slotThere, {}};
+// Whether the other list would have the channel if it were still there.
+bool Covers(const OtherList& there, const OtherList& here, const OtherChannel& channel) {
+  if (there.flash) return true;
+  return channel.transponder != 0 &&
+         there.satellites[Get(here.TransponderOf(channel), TransponderField::Satellite)];
+}
+
+void CompareChannels(const OtherList& here, const OtherList& there, const Pairs& pairs,
+                     Comparison& comparison) {
+  const auto single = [&comparison](int slot, int number, Mark mark) {
+    Difference found{slot, number, {}};
     found.Add(mark);
-    return found;
+    comparison.differences.push_back(found);
   };
-  std::vector<Difference>& differences = comparison.differences;
-  for (int slot = 1; slot <= std::max(here.ChannelCount, there.ChannelCount); ++slot) {
-    if (used(here, slot) && pairs.there[slot] == 0) {
-      differences.push_back(single(slot, 0, Mark::OnlyHere));
-    } else if (used(here, slot)) {
+  for (int slot = 1; slot <= std::max(here.Count(), there.Count()); ++slot) {
+    const bool used = slot <= here.Count() && !here.At(slot).record.Empty();
+    if (used && pairs.there[slot] != 0) {
       const Difference found = ComparePair(here, there, slot, comparison);
-      if (found.marks.any()) differences.push_back(found);
+      if (found.marks.any()) comparison.differences.push_back(found);
+    } else if (used && Covers(there, here, here.At(slot))) {
+      single(slot, 0, Mark::OnlyHere);
+    } else if (used) {
+      ++comparison.elsewhere;
     }
-    if (used(there, slot) && pairs.here[slot] == 0) differences.push_back(single(0, slot, Mark::OnlyThere));
+    const bool offered = slot <= there.offered && !there.At(slot).record.Empty();
+    if (offered && pairs.here[static_cast<std::size_t>(slot)] == 0) single(0, slot, Mark::OnlyThere);
   }
 }
 
 // For each transponder here the one there: in the same slot where that is the same, else the first that is.
-Classes PairTransponders(const State& here, const State& there, PerSlot<bool, 255>& taken) {
-  Classes pairs{};
-  const auto same = [&](int slot, int other) {
-    const TransponderRecord& record = here.Transponder(slot).record;
-    const TransponderRecord& otherRecord = there.Transponder(other).record;
-    return !taken[other] && !IsFree(record) && !IsFree(otherRecord) && SameTransponder(record, otherRecord);
+Classes PairTransponders(const Records& here, const Records& there, std::vector<bool>& taken) {
+  Classes pairs(here.size());
+  const auto same = [&](std::size_t slot, std::size_t other) {
+    return !taken[other] && !IsFree(here[slot]) && !IsFree(there[other]) &&
+           SameTransponder(here[slot], there[other]);
   };
-  const auto pair = [&](int slot, int other) {
-    pairs[slot] = other;
+  const auto pair = [&](std::size_t slot, std::size_t other) {
+    pairs[slot] = static_cast<int>(other);
     taken[other] = true;
   };
-  for (int slot = 1; slot <= std::min(here.TransponderCount, there.TransponderCount); ++slot) {
+  for (std::size_t slot = 1; slot < std::min(here.size(), there.size()); ++slot) {
     if (same(slot, slot)) pair(slot, slot);
   }
-  for (int slot = 1; slot <= here.TransponderCount; ++slot) {
-    for (int other = 1; other <= there.TransponderCount && pairs[slot] == 0; ++other) {
+  for (std::size_t slot = 1; slot < here.size(); ++slot) {
+    for (std::size_t other = 1; other < there.size() && pairs[slot] == 0; ++other) {
       if (same(slot, other)) pair(slot, other);
     }
   }
   return pairs;
 }
 
-TransponderDifferences CompareTransponders(const State& here, const State& there) {
+TransponderDifferences CompareTransponders(const OtherList& here, const OtherList& there) {
   TransponderDifferences found;
-  PerSlot<bool, 255> taken;
-  const Classes pairs = PairTransponders(here, there, taken);
-  for (int slot = 1; slot <= here.TransponderCount; ++slot) {
-    const TransponderRecord& record = here.Transponder(slot).record;
+  std::vector<bool> taken(there.transponders.size());
+  const Classes pairs = PairTransponders(here.transponders, there.transponders, taken);
+  for (std::size_t slot = 1; slot < here.transponders.size(); ++slot) {
+    const TransponderRecord& record = here.transponders[slot];
     if (IsFree(record)) continue;
     if (pairs[slot] == 0) {
       ++found.onlyHere;
       continue;
     }
-    if (pairs[slot] != slot) ++found.renumbered;
-    TransponderRecord other = there.Transponder(pairs[slot]).record;
-    if (SameRate(here, there, record, other))
+    const auto number = static_cast<std::size_t>(pairs[slot]);
+    if (number != slot) ++found.renumbered;
+    TransponderRecord other = there.transponders[number];
+    if (SameRate(here.symbolRates, there.symbolRates, record, other))
       Set(other, TransponderField::SymbolRate, Get(record, TransponderField::SymbolRate));
     if (record == other) continue;
     Set(other, TransponderField::ChannelCount, Get(record, TransponderField::ChannelCount));
     ++(record == other ? found.recounted : found.changed);
   }
-  for (int slot = 1; slot <= there.TransponderCount; ++slot) {
-    if (!taken[slot] && !IsFree(there.Transponder(slot).record)) ++found.onlyThere;
+  for (std::size_t slot = 1; slot < taken.size(); ++slot) {
+    if (!taken[slot] && !IsFree(there.transponders[slot])) ++found.onlyThere;
   }
   return found;
 }
 
-std::vector<std::size_t> CompareFavourites(const State& here, const State& there, const SlotMap& pairs) {
-  std::vector<std::size_t> lists;
+void CompareFavourites(const OtherList& here, const OtherList& there, Comparison& comparison) {
   for (std::size_t list = 0; list < FavouriteLists; ++list) {
-    std::vector<int> entries = FavouriteEntriesOf(here.FavouritesBlock, list);
+    std::vector<int> entries = FavouriteEntriesOf(here.favourites, list);
     for (int& slot : entries) {
-      if (slot <= here.ChannelCount && !here.Channel(slot).Empty()) slot = pairs[slot];
+      if (slot <= here.Count() && !here.At(slot).record.Empty()) slot = comparison.there[slot];
     }
-    if (entries != FavouriteEntriesOf(there.FavouritesBlock, list) ||
-        FavouriteNameOf(here.FavouritesBlock, list) != FavouriteNameOf(there.FavouritesBlock, list)) {
-      lists.push_back(list);
+    if (entries == FavouriteEntriesOf(there.favourites, list) &&
+        FavouriteNameOf(here.favourites, list) == FavouriteNameOf(there.favourites, list)) {
+      continue;
     }
+    Difference found{0, 0, {}, list};
+    found.Add(Mark::Favourites);
+    comparison.differences.push_back(found);
   }
-  return lists;
 }
 
 // "11804 V SAT A, SID 3401"
-std::string ServiceText(const State& state, int slot) {
-  const ChannelRecord& channel = state.Channel(slot);
+std::string ServiceText(const Tuned& service) {
   std::string text;
-  if (HasTransponder(state, channel)) {
-    const int transponder = static_cast<int>(Get(channel, ChannelField::Transponder));
+  if (service.channel.transponder != 0) {
     for (const int column :
          {TransponderColumn::Frequency, TransponderColumn::Polarisation, TransponderColumn::Satellite})
-      text +=
-          TransponderCell(state, transponder, column) + (column == TransponderColumn::Satellite ? ", " : " ");
+      text += CellOf(service.transponder, service.rates, column) +
+              (column == TransponderColumn::Satellite ? ", " : " ");
   }
-  return Base::ToUtf8(text + "SID " + ChannelCell(state, slot, ChannelColumn::Sid));
+  return Base::ToUtf8(text + "SID " + CellOf(service.channel.record, ChannelColumn::Sid));
+}
+
+// A channel of one's own list and what it is tuned to.
+struct Own {
+  Own(const State& state, int slot)
+      : channel(OtherChannelOf(state, slot)),
+        transponder(state.Transponder(channel.transponder).record),
+        tuned{channel, transponder, state.SymbolRateTable} {}
+  Own(const Own&) = delete;
+  Own& operator=(const Own&) = delete;
+
+  OtherChannel channel;
+  TransponderRecord transponder;
+  Tuned tuned;
+};
+
+// "12 → 14 voci, Cinema → Film"
+std::string FavouritesText(const State& here, const OtherList& there, std::size_t list) {
+  const auto entries = [list](Base::ByteView block) {
+    return std::to_string(FavouriteEntriesOf(block, list).size());
+  };
+  const std::string name = FavouriteNameOf(here.FavouritesBlock, list);
+  const std::string otherName = FavouriteNameOf(there.favourites, list);
+  std::string text = "voci " + entries(here.FavouritesBlock) + " → " + entries(there.favourites);
+  if (name != otherName) text += ", " + Base::ToUtf8(name) + " → " + Base::ToUtf8(otherName);
+  return text;
 }
 
 }  // namespace
 
-bool HasTransponder(const State& state, const ChannelRecord& channel) {
-  return TransponderInUse(state, Get(channel, ChannelField::Transponder)) != nullptr;
-}
-
-Comparison Compare(const State& here, const State& there) {
+Comparison Compare(const State& state, const OtherList& there) {
+  const OtherList here = OtherListOf(state);
   const Pairs pairs = PairsOf(here, there);
   Comparison comparison;
   comparison.there = pairs.there;
-  comparison.fixed = InSameOrder(pairs.there);
+  comparison.fixed = InSameOrder(pairs.there, there.offered);
   CompareChannels(here, there, pairs, comparison);
+  if (!there.flash) return comparison;
   comparison.transponders = CompareTransponders(here, there);
-  comparison.favourites = CompareFavourites(here, there, pairs.there);
+  CompareFavourites(here, there, comparison);
   return comparison;
 }
 
-std::string DetailsOf(const State& here, const State& there, const Difference& difference) {
-  if (difference.Has(Mark::OnlyHere)) return ServiceText(here, difference.here);
-  if (difference.Has(Mark::OnlyThere)) return ServiceText(there, difference.there);
+std::string DetailsOf(const State& here, const OtherList& there, const Difference& difference) {
+  if (difference.Has(Mark::Favourites)) return FavouritesText(here, there, difference.favourites);
+  if (difference.Has(Mark::OnlyThere)) return ServiceText(TunedIn(there, there.At(difference.there)));
+  const Own own(here, difference.here);
+  if (difference.Has(Mark::OnlyHere)) return ServiceText(own.tuned);
   std::string text;
-  EachChange(here, there, difference.here, difference.there,
-             [&text](Mark, std::string_view what, const std::string& from, const std::string& to) {
+  EachChange(own.tuned, TunedIn(there, there.At(difference.there)),
+             [&](Mark mark, std::string_view what, const std::string& from, const std::string& to) {
+               if (!difference.Has(mark)) return;
                text.append(text.empty() ? "" : ", ").append(what);
                if (!from.empty() || !to.empty()) text += Base::ToUtf8(from) + " → " + Base::ToUtf8(to);
              });
   return text;
 }
 
-std::string OtherDifferences(const State& here, const Comparison& comparison, std::string_view onlyThere) {
+std::string OtherDifferences(const Comparison& comparison, std::string_view onlyThere) {
   std::string text;
   const auto add = [&text](std::string_view before, int count, std::string_view one, std::string_view more) {
     if (count > 0) text.append(before).append(Base::Counted(count, one, more));
@@ -380,16 +470,24 @@ std::string OtherDifferences(const State& here, const Comparison& comparison, st
       {comparison.relinked, "canale ha lo stesso transponder con un altro numero",
        "canali hanno lo stesso transponder con un altro numero"},
       {comparison.alike, "canale è diverso solo in byte senza effetto",
-       "canali sono diversi solo in byte senza effetto"}};
+       "canali sono diversi solo in byte senza effetto"},
+      {comparison.elsewhere, "canale è su satelliti di cui l'altra non dice niente",
+       "canali sono su satelliti di cui l'altra non dice niente"}};
   for (const auto& [count, one, more] : channels) add(text.empty() ? "" : ". ", count, one, more);
-  for (const std::size_t list : comparison.favourites) {
-    text.append(list != comparison.favourites.front() ? ", "
-                : text.empty()                        ? ""
-                                                      : ". ")
-        .append(list == comparison.favourites.front() ? "Preferiti diversi: " : "")
-        .append(FavouritesTitle(here.FavouritesBlock, list));
-  }
   return text;
+}
+
+std::vector<int> FavouritesHere(const Comparison& comparison, const OtherList& there, std::size_t list) {
+  std::vector<int> here(there.channels.size());
+  for (int slot = 1; slot <= LastChannelSlot; ++slot) {
+    if (comparison.there[slot] != 0) here[static_cast<std::size_t>(comparison.there[slot])] = slot;
+  }
+  std::vector<int> slots;
+  for (const int number : FavouriteEntriesOf(there.favourites, list)) {
+    const auto place = static_cast<std::size_t>(number);
+    if (place < here.size() && here[place] != 0) slots.push_back(here[place]);
+  }
+  return slots;
 }
 
 }  // namespace Review

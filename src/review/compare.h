@@ -2,6 +2,7 @@
 // by their name.
 #pragma once
 
+#include "model/other_list.h"
 #include "model/per_slot.h"
 
 #include <bitset>
@@ -9,6 +10,7 @@
 
 namespace Review {
 
+using Routines::OtherList;
 using Routines::SlotMap;
 using Routines::State;
 
@@ -18,15 +20,19 @@ enum class Mark {
   OnlyThere,
   Moved,  // comes in another order among the channels of both lists, whatever its number
   Renamed,
-  Retuned,   // another transponder, other data of it, other streams
-  Modified,  // coding, active or not, access streams, TID and NID of its transponder
+  Retuned,    // another transponder, other data of it
+  Pids,       // other streams
+  Modified,   // coding, active or not, access streams, TID and NID of its transponder
+  Favourites  // a favourites list with another name or other channels
 };
-inline constexpr std::size_t Marks = 6;
+inline constexpr std::size_t Marks = 8;
+using MarkSet = std::bitset<Marks>;
 
 struct Difference {
   int here = 0;   // slot in one's own list, 0 where it is not in it
-  int there = 0;  // slot in the other list, 0 where it is not in it
-  std::bitset<Marks> marks;
+  int there = 0;  // number in the other list, 0 where it is not in it
+  MarkSet marks;
+  std::size_t favourites = 0;  // of a favourites list: which of them, from 0
 
   [[nodiscard]] bool Has(Mark mark) const { return marks[static_cast<std::size_t>(mark)]; }
   void Add(Mark mark) { marks.set(static_cast<std::size_t>(mark)); }
@@ -43,37 +49,39 @@ struct TransponderDifferences {
 };
 
 struct Comparison {
-  std::vector<Difference> differences;  // by number, one's own where there are two
-  SlotMap there{};                      // slot in the other list of each channel, 0 where it is not in it
-  Routines::PerChannel<bool> fixed;     // channels of both lists that are not moved
+  // By number, one's own where there are two; favourites lists behind all channels.
+  std::vector<Difference> differences;
+  SlotMap there{};                   // number in the other list of each channel, 0 where it is not in it
+  Routines::PerChannel<bool> fixed;  // channels of both lists that are not moved
 
-  // What is no difference of a single channel.
+  // What is no difference of a single channel. Only a flash has the first three and transponders of its own.
   int shifted = 0;   // channels with another number that are not moved
   int relinked = 0;  // channels whose transponder is the same one in another slot
   int alike =
       0;  // channels that differ only in bytes without effect: padding of names, 0 or 65535 for no stream
+  int elsewhere = 0;  // channels on satellites that the other list does not know
   TransponderDifferences transponders;
-  std::vector<std::size_t> favourites;  // lists with another name or other channels
 
   [[nodiscard]] bool Nothing() const {
     return differences.empty() && shifted == 0 && relinked == 0 && alike == 0 &&
-           transponders == TransponderDifferences{} && favourites.empty();
+           transponders == TransponderDifferences{};
   }
 };
 
-// Pairs the channels of both lists by satellite, NID, TID and SID; those left over by frequency, polarisation and SID.
-// A service that a list has more than once is paired in the order of the list, equal ones first.
-Comparison Compare(const State& here, const State& there);
+// Pairs the channels of both lists by satellite, NID, TID and SID; those left over by frequency, polarisation and SID, and
+// those of which the other list does not say the NID by satellite, TID and SID. A service that a list has more than once is
+// paired in the order of the list, equal ones first. What the other list does not say of a channel is equal to anything.
+Comparison Compare(const State& here, const OtherList& there);
 
 // What is different, as from here to there: "VPID 512 → 513, Sport → Sport HD". Where the channel is in one list only,
-// what service it is. UTF-8.
-std::string DetailsOf(const State& here, const State& there, const Difference& difference);
+// what service it is. UTF-8. Of the marks that the difference has; others are passed over.
+std::string DetailsOf(const State& here, const OtherList& there, const Difference& difference);
 
 // What is no difference of a single channel, in one line of UTF-8; empty where there is none. `onlyThere`
 // is "solo nell'altra" or what fits.
-std::string OtherDifferences(const State& here, const Comparison& comparison, std::string_view onlyThere);
+std::string OtherDifferences(const Comparison& comparison, std::string_view onlyThere);
 
-// Whether the channel's number is that of a transponder of the list.
-bool HasTransponder(const State& state, const Routines::ChannelRecord& channel);
+// The channels that a favourites list of the other list names, by their slots here; those that are not here are left out.
+std::vector<int> FavouritesHere(const Comparison& comparison, const OtherList& there, std::size_t list);
 
 }  // namespace Review

@@ -69,7 +69,7 @@ TEST(ServiceRows, EachServiceIsARowOrHasItsReason) {
   const SdxTable rows = Rows(Channels, Free());
   EXPECT_EQ(Texts(rows.rows), (Lines{"Uno TA 011766V+ 27500 3 163 650 1202 12003 1 00089 4",
                                      "Radio RZ 010719H- 5632\\  65535 652 652 4435 0 65535 4"}));
-  EXPECT_EQ(Texts(rows.withoutPids), (Lines{"Later TA 011766V+ 27500 3 65535 65535 65535 9 1 00001 4"}));
+  EXPECT_EQ(Texts(rows.others), (Lines{"Later TA 011766V+ 27500 3 65535 65535 65535 9 1 00001 4"}));
   EXPECT_EQ(rows.lines, 17);
   EXPECT_EQ(
       rows.dropped.Text(),
@@ -111,7 +111,7 @@ TEST(ServiceRows, FiltersComeBeforeTheFourThousand) {
   SdxTable rows = Rows(many, options);
   EXPECT_TRUE(rows.full);
   EXPECT_EQ(rows.rows.size(), MostSdxRows);
-  EXPECT_EQ(rows.withoutPids.size(), MostSdxRows);
+  EXPECT_EQ(rows.others.size(), MostSdxRows);
   EXPECT_EQ(rows.lines, rows.dropped.Total() + 4001);
   many.resize(many.size() - Channels.size());
   EXPECT_FALSE(Rows(many, options).full);
@@ -136,7 +136,7 @@ TEST(ServiceRows, AFileWithoutPositionsHasTheSatelliteChosen) {
   const SdxTable rows = RowsOf(lamedb, options);
   EXPECT_EQ(Texts(rows.rows), (Lines{"Dati SC 011766H+ 27500 3 65535 65535 65535 7 2 00001 4",
                                      "Radio RC 011766H+ 27500 3 65535 650 650 8 2 00001 4"}));
-  EXPECT_EQ(Texts(rows.withoutPids), (Lines{"Uno TC 011766H+ 27500 3 65535 650 65535 9 2 00001 4"}));
+  EXPECT_EQ(Texts(rows.others), (Lines{"Uno TC 011766H+ 27500 3 65535 650 65535 9 2 00001 4"}));
 }
 
 TEST(ListSummary, CountsPositionsAndProposesTheirSatellites) {

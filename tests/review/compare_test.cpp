@@ -1,6 +1,9 @@
 // Comparing two lists, and taking over what the other one has without losing a channel or a favourite.
 #include "edit/move.h"
 #include "edit/take_over.h"
+#include "formats/sdx_other.h"
+#include "formats/service_rows.h"
+#include "formats/vdr_channels.h"
 #include "image_builder.h"
 #include "model/favourites.h"
 #include "model/symbol_rates.h"
@@ -38,18 +41,29 @@ State SmallList() {
   return state;
 }
 
+Comparison Compare(const State& here, const State& there) {
+  return Review::Compare(here, OtherListOf(there));
+}
+
+TakeOverReport TakeOver(State& here, const State& there, const Comparison& found,
+                        const std::vector<Difference>& chosen) {
+  return Edit::TakeOver(here, OtherListOf(there), found, chosen, {});
+}
+
 // "3>4 Moved Renamed: c3 → x; rest"
 std::string Told(const State& here, const State& there) {
-  constexpr const char* Names[] = {"OnlyHere", "OnlyThere", "Moved", "Renamed", "Retuned", "Modified"};
-  const Comparison found = Compare(here, there);
+  constexpr const char* Names[] = {"OnlyHere", "OnlyThere", "Moved",    "Renamed",
+                                   "Retuned",  "Pids",      "Modified", "Favourites"};
+  const OtherList other = OtherListOf(there);
+  const Comparison found = Review::Compare(here, other);
   std::string text;
   for (const Difference& difference : found.differences) {
     text += std::to_string(difference.here) + ">" + std::to_string(difference.there);
     for (std::size_t i = 0; i < Marks; ++i) text += difference.marks[i] ? std::string(" ") + Names[i] : "";
-    text += ": " + DetailsOf(here, there, difference) + "; ";
+    text += ": " + DetailsOf(here, other, difference) + "; ";
   }
-  EXPECT_EQ(found.Nothing(), text.empty() && OtherDifferences(here, found, "").empty());
-  return text + OtherDifferences(here, found, "solo di là");
+  EXPECT_EQ(found.Nothing(), text.empty() && OtherDifferences(found, "").empty());
+  return text + OtherDifferences(found, "solo di là");
 }
 
 const struct Change {
@@ -63,7 +77,7 @@ const struct Change {
        Set(Channel(s, 2), ChannelField::Vpid, 501);
        std::fill_n(Channel(s, 2).bytes.begin(), 2, Base::Byte{'x'});
      },
-     "2>2 Renamed Retuned: VPID 500 → 501, c2 → xx; "},
+     "2>2 Renamed Pids: VPID 500 → 501, c2 → xx; "},
     {"coding and active", [](State& s) { Set(Channel(s, 3), ChannelField::Flags, 0x20); },
      "3>3 Modified: codifica 04 → 20, attivo S → N; "},
     {"no stream, said in two ways, and padding",
@@ -83,10 +97,9 @@ const struct Change {
        Channel(s, 8) = MakeChannel("c4", 1, 999, 1, 1);
        CanaliXTransponder(s);
      },
-     "4>0 OnlyHere: 11804 V SAT A, SID 104; 0>8 OnlyThere: 11766 V SAT A, SID 999; "
-     "Transponder: 2 con un altro conteggio dei canali. 2 canali hanno un altro numero nello stesso "
-     "ordine. "
-     "Preferiti diversi: lista 2"},
+     "4>0 OnlyHere: 11804 V SAT A, SID 104; 0>8 OnlyThere: 11766 V SAT A, SID 999; 0>0 Favourites: voci 0 → "
+     "1; "
+     "Transponder: 2 con un altro conteggio dei canali. 2 canali hanno un altro numero nello stesso ordine"},
     {"the same name and SID on another satellite is another channel",
      [](State& s) { Set(Channel(s, 1), ChannelField::Transponder, 3); },
      "1>0 OnlyHere: 11766 V SAT A, SID 101; 0>1 OnlyThere: 11766 V SAT B, SID 101; "},
@@ -153,7 +166,7 @@ TEST(TakeOver, EveryListCanBecomeEveryOtherAndLosesOnlyWhatIsChosen) {
       const Comparison found = Compare(here, there);
 
       State ordered = here;
-      TakeOrder(ordered, there, found);
+      TakeOrder(ordered, OtherListOf(there), found);
       EXPECT_EQ(Named(ordered), Named(here));
       for (int slot = 1; slot <= here.ChannelCount; ++slot) {
         const int wanted = found.there[static_cast<std::size_t>(slot)];
@@ -162,13 +175,15 @@ TEST(TakeOver, EveryListCanBecomeEveryOtherAndLosesOnlyWhatIsChosen) {
       }
       State richer = here;
       std::vector<Difference> chosen = found.differences;
-      std::erase_if(chosen, [](const Difference& difference) { return difference.Has(Mark::OnlyHere); });
-      const TakeOverReport report = TakeOver(richer, there, found, chosen, {});
+      std::erase_if(chosen, [](const Difference& difference) {
+        return difference.Has(Mark::OnlyHere) || difference.Has(Mark::Favourites);
+      });
+      const TakeOverReport report = TakeOver(richer, there, found, chosen);
       EXPECT_EQ(UsedChannels(richer), UsedChannels(here) + report.added);
       EXPECT_EQ(Named(richer).size(), Named(here).size());
 
-      TakeOver(here, there, found, found.differences, {});
-      TakeOrder(here, there, Compare(here, there));
+      TakeOver(here, there, found, found.differences);
+      TakeOrder(here, OtherListOf(there), Compare(here, there));
       const Comparison last = Compare(here, there);
       EXPECT_TRUE(last.differences.empty() && last.shifted == 0);
     }
@@ -191,20 +206,20 @@ TEST(TakeOver, WhatHasNoPlaceIsLeftAndTold) {
 
   Comparison found = Compare(here, there);
   found.differences.erase(found.differences.begin(), found.differences.end() - 2);  // the two new ones
-  TakeOverReport report = TakeOver(here, there, found, found.differences, {});
+  TakeOverReport report = TakeOver(here, there, found, found.differences);
   EXPECT_EQ(report.added, 1);
   EXPECT_EQ(report.noTransponder, 1);
   EXPECT_EQ(Get(Transponder(here, 5), TransponderField::SymbolRate), 1U) << "22000 has another code here";
 
   found = Compare(here, there);
   const auto before = here.ChannelTable;
-  report = TakeOver(here, there, found, {found.differences.front()}, {});
+  report = TakeOver(here, there, found, {found.differences.front()});
   EXPECT_EQ(report.noTransponder, 1) << "a channel is not put on a transponder that is not its own";
   EXPECT_EQ(here.ChannelTable, before);
 
   here.ChannelCount = 5;  // the list is full
   found = Compare(here, there);
-  report = TakeOver(here, there, found, {found.differences.back()}, {});
+  report = TakeOver(here, there, found, {found.differences.back()});
   EXPECT_EQ(report.noRoom, 1);
   EXPECT_EQ(here.ChannelTable, before);
 }
@@ -216,9 +231,70 @@ TEST(TakeOver, AChannelWithoutATransponderGetsNoneByChance) {
   Channel(there, 8) = MakeChannel("new", 5, 8, 1, 1);
   Transponder(there, 5) = MakeTransponder(12640, true, 0, 3, 2, 50, 318);
   const Comparison found = Compare(here, there);
-  TakeOver(here, there, found, found.differences, {});
+  TakeOver(here, there, found, found.differences);
   EXPECT_EQ(Get(Channel(here, 8), ChannelField::Transponder), 4U) << "the first free slot";
-  EXPECT_FALSE(HasTransponder(here, Channel(here, 7)));
+  EXPECT_EQ(OtherChannelOf(here, 7).transponder, 0);
+}
+
+// Rows of a channels.conf for satellite A, and what else it has.
+OtherList Listed(const std::string& lines, const State& here) {
+  Formats::ListOptions options;
+  options.satellites[130] = 0;
+  options.codes = {"04"};
+  Formats::VdrReader wanted(lines);
+  Formats::SdxTable table = Formats::RowsOf(wanted, options);
+  Formats::VdrReader all(lines);
+  Formats::KeepOthers(table, Formats::RowsOf(all, Formats::WithoutFilters(options)));
+  return Formats::OtherListOf(table, here.SymbolRateTable);
+}
+
+TEST(Compare, AListOfTodayIsAskedOnlyWhatItSaysAndEachKindIsTakenByItself) {
+  State here = SmallList();
+  for (int slot = 1; slot <= 6; ++slot) Set(Channel(here, slot), ChannelField::Pcr, 500);
+  Set(Channel(here, 2), ChannelField::Flags, 0);
+  Channel(here, 7) = MakeChannel("c7", 1, 107, 500, 600);
+  Channel(here, 9) = MakeChannel("c9", 2, 109, 500, 600);
+  here.Transponder(1).SetBouquet("Uno", "01");
+  const OtherList other = Listed(
+      "c2:11767:VS0:S13E:27500:501:600:0:0:102:0:10:0\n"  // no FEC, no NID; whether it is active no list says
+      "Primo:11766:VC34S0:S13E:27500:500:0:0:0:101:318:10:0\n"  // no sound is none said
+      "c3:12500:HC34S0:S13E:22000:500:600:0:0:103:318:20:0\n"
+      "Quarto:11804:VC34S0:S13E:27500:0:0:0:0:104:318:20:0\n"     // no PIDs: no row
+      "c9:11804:VC34S0:S13E:27500:500:600:0:1801:109:318:20:0\n"  // not wanted: no row, and not gone either
+      "Criptato:11804:VC34S0:S13E:27500:500:600:0:1801:110:318:20:0\n"  // nor new
+      "Nuovo:11766:VC34S0:S13E:27500:510:610:0:0:199:318:10:0\n",
+      here);
+  const Comparison found = Review::Compare(here, other);
+  std::string told;
+  for (const Difference& difference : found.differences)
+    told += std::to_string(difference.here) + " " + difference.marks.to_string() + " " +
+            DetailsOf(here, other, difference) + "; ";
+  EXPECT_EQ(
+      told,
+      "1 00001100 c1 → Primo; 2 00100000 VPID 500 → 501, PCR 500 → 501; 3 00010000 11804 V → 12500 H, SR "
+      "27500 → "
+      "22000; 4 00001000 c4 → Quarto; 0 00000010 11766 V SAT A, SID 199; 7 00000001 11766 V SAT A, SID 107; "
+      "9 01000000 codifica 04 → 44; ");
+  EXPECT_EQ(OtherDifferences(found, ""), "2 canali sono su satelliti di cui l'altra non dice niente");
+
+  const auto take = [&](std::initializer_list<Mark> marks, NewPlace place) {
+    State state = here;
+    MarkSet kinds;
+    for (const Mark mark : marks) kinds.set(static_cast<std::size_t>(mark));
+    std::vector<Difference> chosen = found.differences;
+    for (Difference& difference : chosen) difference.marks &= kinds;
+    Edit::TakeOver(state, other, found, chosen, {}, place);
+    std::string names;
+    for (int slot = 1; slot <= state.ChannelCount; ++slot)
+      names += std::string(Channel(state, slot).Name()) + " ";
+    return names;
+  };
+  EXPECT_EQ(take({Mark::Renamed}, NewPlace::Behind), "Primo c2 c3 Quarto c5 c6 c7  c9    ");
+  EXPECT_EQ(take({Mark::Moved, Mark::OnlyHere}, NewPlace::Behind), "c2 c1 c3 c4 c5 c6  c9     ");
+  EXPECT_EQ(take({Mark::OnlyThere}, NewPlace::Behind), "c1 c2 c3 c4 c5 c6 c7  c9 Nuovo   ");
+  EXPECT_EQ(take({Mark::OnlyThere}, NewPlace::Holes), "c1 c2 c3 c4 c5 c6 c7 Nuovo c9    ");
+  Channel(here, 7) = {};
+  EXPECT_EQ(take({Mark::OnlyThere}, NewPlace::Bouquet), "c1 c2 Nuovo c3 c4 c5 c6   c9   ");
 }
 
 }  // namespace

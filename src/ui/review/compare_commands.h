@@ -1,7 +1,7 @@
-// The commands that compare the list with another flash or with what is on the disk.
+// The commands that compare the list with another flash, with what is on the disk, or with the list on the right.
 #pragma once
 
-#include "ui/review/other_flash.h"
+#include "ui/review/other_side.h"
 #include "ui/session/actions.h"
 
 class QMainWindow;
@@ -17,8 +17,9 @@ class CompareCommands {
  private:
   void Confronta();
   void ConfrontaDisco();
+  void ConfrontaSDX();
   // Shows the window, or says that there is nothing to show.
-  void Compare(OtherFlash other);
+  void Compare(OtherSide other);
 
   Session& session_;
   QMainWindow& window_;

@@ -1,6 +1,8 @@
 #include "ui/review/compare_model.h"
 
 #include "base/text.h"
+#include "model/favourites.h"
+#include "model/row_kind.h"
 #include "ui/kit/dialogs.h"
 #include "ui/kit/text.h"
 #include "ui/list/row_colours.h"
@@ -15,28 +17,34 @@ using Review::Difference;
 using Review::Mark;
 using Routines::State;
 
-namespace {
-
-// "0012 Sport", nothing for slot 0.
-QString ChannelText(const State& state, int slot) {
-  if (slot == 0) return {};
-  const auto& channel = state.Channel(slot);
-  return Text(Base::ZeroPadded(slot, 4)) + ' ' + CodePageText(Base::TrimmedRight(channel.Name()));
+const Routines::ChannelRecord& CompareModel::RecordAt(const Difference& difference, int column) const {
+  return column == Here ? here_->Channel(difference.here) : there_->At(difference.there).record;
 }
 
-}  // namespace
+// "0012 Sport", nothing where the channel is not there; what is no row has no number.
+QString CompareModel::ChannelText(const Difference& difference, int column) const {
+  if (difference.Has(Mark::Favourites)) {
+    const Base::Bytes& block = column == Here ? here_->FavouritesBlock : there_->favourites;
+    return Text(Routines::FavouritesTitle(block, difference.favourites));
+  }
+  const int number = column == Here ? difference.here : difference.there;
+  if (number == 0) return {};
+  const QString name = CodePageText(Base::TrimmedRight(RecordAt(difference, column).Name()));
+  const bool numbered = column == Here || number <= there_->offered;
+  return numbered ? Text(Base::ZeroPadded(number, 4)) + ' ' + name : name;
+}
 
 // What tells a row from all others as long as its channels stay what they are. A channel that both lists have keeps its
 // tick wherever it moves; one that is only here could be taken for its double.
 std::string CompareModel::Identity(const Difference& difference) const {
   std::string text = std::to_string(difference.there == 0 ? difference.here : 0) + ' ' +
                      std::to_string(difference.there) + difference.marks.to_string();
-  for (const auto& [state, slot] : {std::pair{here_, difference.here}, {there_, difference.there}})
-    text += Base::AsText(state->Channel(slot).bytes);
-  return text;
+  for (const int column : {Here, There}) text += Base::AsText(RecordAt(difference, column).bytes);
+  return text + std::to_string(difference.favourites);
 }
 
-void CompareModel::Show(const State& here, const State& there, Review::Comparison found, Kinds kinds) {
+void CompareModel::Show(const State& here, const Routines::OtherList& there, Review::Comparison found,
+                        Review::MarkSet kinds) {
   beginResetModel();
   std::set<std::string> ticked;
   for (std::size_t i = 0; i < ticks_.size(); ++i) {
@@ -45,6 +53,7 @@ void CompareModel::Show(const State& here, const State& there, Review::Compariso
   here_ = &here;
   there_ = &there;
   found_ = std::move(found);
+  kinds_ = kinds;
   rows_.clear();
   ticks_.clear();
   identities_.clear();
@@ -74,8 +83,12 @@ QString CompareModel::KindText(Mark mark) const {
       return "Rinominato";
     case Mark::Retuned:
       return "Risintonizzato";
+    case Mark::Pids:
+      return "PID cambiati";
     case Mark::Modified:
       return "Modificato";
+    case Mark::Favourites:
+      return "Preferiti diversi";
   }
   return {};
 }
@@ -83,7 +96,7 @@ QString CompareModel::KindText(Mark mark) const {
 std::vector<Difference> CompareModel::Ticked() const {
   std::vector<Difference> ticked;
   for (const std::size_t place : rows_) {
-    if (ticks_[place]) ticked.push_back(found_.differences[place]);
+    if (ticks_[place]) ticked.push_back(OfKinds(found_.differences[place]));
   }
   return ticked;
 }
@@ -131,9 +144,8 @@ QString CompareModel::CellText(const Difference& difference, int column) const {
       return kinds.join(", ");
     }
     case Here:
-      return ChannelText(*here_, difference.here);
     case There:
-      return ChannelText(*there_, difference.there);
+      return ChannelText(difference, column);
     case Details:
       return Text(Review::DetailsOf(*here_, *there_, difference));
     default:
@@ -144,7 +156,7 @@ QString CompareModel::CellText(const Difference& difference, int column) const {
 // The two channels have the colours that they have in the grid.
 QVariant CompareModel::data(const QModelIndex& index, int role) const {
   if (!index.isValid()) return {};
-  const Difference& difference = At(index.row());
+  const Difference difference = At(index.row());
   const bool channel = index.column() == Here || index.column() == There;
   const int slot = index.column() == Here ? difference.here : difference.there;
   switch (role) {
@@ -159,8 +171,7 @@ QVariant CompareModel::data(const QModelIndex& index, int role) const {
                                     : QVariant();
     case Qt::BackgroundRole:
       if (!channel || slot == 0) return {};
-      return QBrush(
-          ToColor(ColourOf(Routines::ChannelRowKind(index.column() == Here ? *here_ : *there_, slot))));
+      return QBrush(ToColor(ColourOf(Routines::RowKindOf(RecordAt(difference, index.column())))));
     case Qt::ForegroundRole:
       return channel && slot != 0 ? QVariant(QBrush(Qt::black)) : QVariant();
     default:

@@ -12,22 +12,23 @@ class CompareModel : public QAbstractTableModel {
 
  public:
   enum Column : int { Tick, Kind, Here, There, Details, Columns };
-  using Kinds = std::bitset<Review::Marks>;
 
   // "sul disco" or "nell'altra", for what is only in the other list.
   CompareModel(QString other, QObject* parent) : QAbstractTableModel(parent), other_(std::move(other)) {}
 
   // Shows the rows that have one of `kinds`. Both lists must live as long as they are shown. Ticks stay on the channels
   // that are different in the same way as before.
-  void Show(const Routines::State& here, const Routines::State& there, Review::Comparison found, Kinds kinds);
+  void Show(const Routines::State& here, const Routines::OtherList& there, Review::Comparison found,
+            Review::MarkSet kinds);
 
   [[nodiscard]] const Review::Comparison& Found() const { return found_; }
-  [[nodiscard]] const Review::Difference& At(int row) const { return found_.differences[Place(row)]; }
+  // With the marks of the kinds shown.
+  [[nodiscard]] Review::Difference At(int row) const { return OfKinds(found_.differences[Place(row)]); }
   [[nodiscard]] int Count(Review::Mark mark) const;
   // "Solo nell'altra"
   [[nodiscard]] QString KindText(Review::Mark mark) const;
 
-  // Of the rows shown.
+  // Of the rows shown, with the marks of the kinds shown: what is not shown is not taken over.
   [[nodiscard]] std::vector<Review::Difference> Ticked() const;
   void SetTicks(const std::vector<int>& rows, bool on);
   [[nodiscard]] bool IsTicked(int row) const { return ticks_[Place(row)]; }
@@ -44,12 +45,20 @@ class CompareModel : public QAbstractTableModel {
 
  private:
   [[nodiscard]] std::size_t Place(int row) const { return rows_[static_cast<std::size_t>(row)]; }
+  [[nodiscard]] Review::Difference OfKinds(Review::Difference difference) const {
+    difference.marks &= kinds_;
+    return difference;
+  }
+  [[nodiscard]] const Routines::ChannelRecord& RecordAt(const Review::Difference& difference,
+                                                        int column) const;
+  [[nodiscard]] QString ChannelText(const Review::Difference& difference, int column) const;
   [[nodiscard]] QString CellText(const Review::Difference& difference, int column) const;
   [[nodiscard]] std::string Identity(const Review::Difference& difference) const;
 
   QString other_;
   const Routines::State* here_ = nullptr;
-  const Routines::State* there_ = nullptr;
+  const Routines::OtherList* there_ = nullptr;
+  Review::MarkSet kinds_;
   Review::Comparison found_;
   std::vector<std::size_t> rows_;  // the differences shown
   std::vector<bool> ticks_;        // of all differences

@@ -7,6 +7,7 @@
 #include "ui/kit/text.h"
 
 #include <QCheckBox>
+#include <QComboBox>
 #include <QHeaderView>
 #include <QKeyEvent>
 #include <QLabel>
@@ -26,33 +27,55 @@ using Routines::State;
 namespace {
 
 // "2 aggiunti, 1 eliminato, 1 senza posto"
-QString Report(const Edit::TakeOverReport& report) {
+QString Report(const Edit::TakeOverReport& report, Edit::NewPlace place) {
+  constexpr std::array<const char*, 3> Places = {"in fondo", "nei posti vuoti", "dietro il loro bouquet"};
+
   QStringList parts;
   const auto add = [&parts](int count, const char* one, const char* more) {
     if (count > 0) parts += Counted(count, one, more);
   };
-  add(report.added, "canale aggiunto in fondo", "canali aggiunti in fondo");
+  add(report.added, "canale aggiunto", "canali aggiunti");
+  if (report.added > 0) parts.back() += QString(" ") + Places[static_cast<std::size_t>(place)];
   add(report.deleted, "eliminato", "eliminati");
   add(report.changed, "modificato", "modificati");
   add(report.moved, "spostato", "spostati");
   add(report.updated, "transponder aggiornato", "transponder aggiornati");
+  add(report.favourites, "lista di preferiti presa", "liste di preferiti prese");
   add(report.noRoom, "non aggiunto: la lista è piena", "non aggiunti: la lista è piena");
   add(report.noTransponder, "lasciato: nessun transponder libero", "lasciati: nessun transponder libero");
   return parts.join(", ");
 }
 
+// How each kind of other side is named.
+struct Names {
+  const char* title;
+  const char* where;  // its channels are, behind "solo"
+  const char* before;
+  const char* order;
+};
+
+const Names& NamesOf(const OtherSide& other) {
+  static constexpr Names Another = {"Confronto con un'altra flash", "nell'altra",
+                                    "L'altra: ", "Prendi l'ordine dell'altra"};
+  static constexpr Names Disk = {"Confronto con il file su disco", "sul disco",
+                                 "Sul disco: ", "Prendi l'ordine del disco"};
+  static constexpr Names Rows = {"Confronto con la lista a destra", "a destra", "A destra: ", ""};
+  if (other.What() == OtherSide::Kind::Rows) return Rows;
+  return other.OnDisk() ? Disk : Another;
+}
+
 }  // namespace
 
-CompareWindow::CompareWindow(Session& session, OtherFlash other, QMainWindow& window)
-    : ToolWindow("FinestraConfronto",
-                 other.OnDisk() ? "Confronto con il file su disco" : "Confronto con un'altra flash", &window),
+CompareWindow::CompareWindow(Session& session, OtherSide other, QMainWindow& window)
+    : ToolWindow("FinestraConfronto", NamesOf(other).title, &window),
       session_(session),
       other_(std::move(other)),
-      model_(new CompareModel(Other(), this)),
+      model_(new CompareModel(NamesOf(other_).where, this)),
       table_(new QTableView(this)),
       names_(new ElidedLabel(Qt::ElideMiddle, this)),
       rest_(new QLabel(this)),
-      result_(new ElidedLabel(Qt::ElideRight, this)) {
+      result_(new ElidedLabel(Qt::ElideRight, this)),
+      place_(new QComboBox(this)) {
   names_->setObjectName("NomiConfronto");
   rest_->setObjectName("AltreDifferenze");
   rest_->setTextFormat(Qt::PlainText);
@@ -76,7 +99,10 @@ CompareWindow::CompareWindow(Session& session, OtherFlash other, QMainWindow& wi
   connect(model_, &CompareModel::TicksChanged, this, &CompareWindow::ShowTicks);
   Refresh();
   if (model_->rowCount() > 0) table_->selectRow(0);
-  Tell("Un clic porta al canale; la barra spaziatrice segna le righe selezionate.");
+  Tell(
+      "Un clic porta al canale; la barra spaziatrice segna le righe selezionate. Si applica solo ciò che le "
+      "caselle in "
+      "alto mostrano.");
   table_->setFocus();
 }
 
@@ -85,7 +111,10 @@ QLayout* CompareWindow::KindBoxes() {
   for (std::size_t kind = 0; kind < kinds_.size(); ++kind) {
     kinds_[kind] = new QCheckBox(this);
     kinds_[kind]->setObjectName(QString("Mostra_%1").arg(kind));
-    kinds_[kind]->setChecked(true);
+    // Few lists are in an order that anybody wants, and many have but a part of what a satellite brings.
+    const auto mark = static_cast<Mark>(kind);
+    kinds_[kind]->setChecked(!IsRows() || (mark != Mark::Moved && mark != Mark::OnlyHere));
+    kinds_[kind]->setVisible(!IsRows() || kind != static_cast<std::size_t>(Mark::Favourites));
     connect(kinds_[kind], &QCheckBox::toggled, this, [this] { Fill(model_->Found()); });
     row->addWidget(kinds_[kind]);
   }
@@ -126,9 +155,12 @@ QLayout* CompareWindow::Buttons() {
   AddButton(*left, "SegnaTutti", "Segna tutti", [this] { TickAll(true); });
   AddButton(*left, "TogliSegni", "Togli i segni", [this] { TickAll(false); });
   apply_ = AddButton(*left, "ApplicaSegnati", "Applica i segnati", [this] { Apply(); });
-  order_ = AddButton(*left, "PrendiOrdine",
-                     other_.OnDisk() ? "Prendi l'ordine del disco" : "Prendi l'ordine dell'altra",
-                     [this] { TakeOrder(); });
+  order_ = AddButton(*left, "PrendiOrdine", NamesOf(other_).order, [this] { TakeOrder(); });
+  order_->setVisible(!IsRows());
+  place_->setObjectName("PostoNuovi");
+  place_->setAccessibleDescription("Posto dei canali nuovi");
+  place_->addItems({"Nuovi in fondo", "Nuovi nei posti vuoti", "Nuovi dietro il loro bouquet"});
+  left->addWidget(place_);
   return WithClose(left, "ChiudiConfronto");
 }
 
@@ -146,7 +178,7 @@ void CompareWindow::Refresh() {
 void CompareWindow::Fill(Review::Comparison found) {
   const int row = table_->currentIndex().row();
   const int top = table_->verticalScrollBar()->value();
-  CompareModel::Kinds shown;
+  Review::MarkSet shown;
   for (std::size_t kind = 0; kind < kinds_.size(); ++kind) shown[kind] = kinds_[kind]->isChecked();
   model_->Show(session_.document.Tables(), other_.List(), std::move(found), shown);
   goTo_->setEnabled(false);
@@ -159,11 +191,10 @@ void CompareWindow::Fill(Review::Comparison found) {
 void CompareWindow::ShowCounts() {
   const State& mine = session_.document.Tables();
   const QString here = PathText(Base::FileName(mine.InputFlash));
-  const QString there = other_.OnDisk() ? "Sul disco: " : "L'altra: ";
   names_->Show(QString("Questa lista: %1%2 canali   ↔   %3%4")
                    .arg(here.isEmpty() ? here : here + ", ")
                    .arg(Routines::UsedChannels(mine))
-                   .arg(there, other_.Title()));
+                   .arg(NamesOf(other_).before, other_.Title()));
   for (std::size_t kind = 0; kind < kinds_.size(); ++kind) {
     const int count = model_->Count(static_cast<Mark>(kind));
     const QString text = model_->KindText(static_cast<Mark>(kind));
@@ -172,9 +203,9 @@ void CompareWindow::ShowCounts() {
     kinds_[kind]->setEnabled(count > 0);
   }
   const bool nothing = model_->Found().Nothing();
-  rest_->setText(
-      nothing ? "Nessuna differenza"
-              : Text(Review::OtherDifferences(mine, model_->Found(), "solo " + Other().toStdString())));
+  rest_->setText(nothing ? "Nessuna differenza"
+                         : Text(Review::OtherDifferences(model_->Found(),
+                                                         std::string("solo ") + NamesOf(other_).where)));
   rest_->setVisible(!rest_->text().isEmpty());
   order_->setEnabled(model_->Count(Mark::Moved) > 0 || model_->Found().shifted > 0);
 }
@@ -216,21 +247,23 @@ void CompareWindow::GoTo(const QModelIndex& index) {
   session_.GoToChannel(slot);
 }
 
+Edit::NewPlace CompareWindow::Place() const { return static_cast<Edit::NewPlace>(place_->currentIndex()); }
+
 void CompareWindow::Apply() {
   const std::vector<Review::Difference> chosen = model_->Ticked();
   const Review::Comparison found = model_->Found();
   const std::string label = "Applica " + Base::Counted(chosen.size(), "differenza", "differenze");
   const auto report = session_.document.Apply(label, [&](State& state) {
-    return Edit::TakeOver(state, other_.List(), found, chosen, session_.bouquets.tables);
+    return Edit::TakeOver(state, other_.List(), found, chosen, session_.bouquets.tables, Place());
   });
-  const QString text = Text(label) + ": " + Report(report) + session_.Losses(report.lost);
+  const QString text = Text(label) + ": " + Report(report, Place()) + session_.Losses(report.lost);
   session_.status.ShowResult(text);
   Tell(text);
 }
 
 void CompareWindow::TakeOrder() {
   const Review::Comparison found = model_->Found();
-  const std::string label = other_.OnDisk() ? "Prendi l'ordine del disco" : "Prendi l'ordine dell'altra";
+  const std::string label = NamesOf(other_).order;
   const int moved = session_.document.Apply(
       label, [&](State& state) { return Edit::TakeOrder(state, other_.List(), found); });
   const QString text =

@@ -4,10 +4,11 @@
 
 #include "edit/take_over.h"
 #include "ui/review/compare_model.h"
-#include "ui/review/other_flash.h"
+#include "ui/review/other_side.h"
 #include "ui/session/tool_window.h"
 
 class QCheckBox;
+class QComboBox;
 class QLabel;
 class QTableView;
 
@@ -19,7 +20,7 @@ class CompareWindow : public ToolWindow {
   Q_OBJECT
 
  public:
-  CompareWindow(Session& session, OtherFlash other, QMainWindow& window);
+  CompareWindow(Session& session, OtherSide other, QMainWindow& window);
 
  protected:
   bool eventFilter(QObject* watched, QEvent* event) override;
@@ -36,7 +37,8 @@ class CompareWindow : public ToolWindow {
   void ShowTicks();
   void Tell(const QString& text);
 
-  [[nodiscard]] QString Other() const { return other_.OnDisk() ? "sul disco" : "nell'altra"; }
+  [[nodiscard]] bool IsRows() const { return other_.What() == OtherSide::Kind::Rows; }
+  [[nodiscard]] Edit::NewPlace Place() const;
   [[nodiscard]] std::vector<int> SelectedRows() const;
   void TickAll(bool on);
   void TickSelected();
@@ -45,7 +47,7 @@ class CompareWindow : public ToolWindow {
   void TakeOrder();
 
   Session& session_;
-  OtherFlash other_;
+  OtherSide other_;
   CompareModel* model_;
   QTableView* table_;
   ElidedLabel* names_;
@@ -55,6 +57,7 @@ class CompareWindow : public ToolWindow {
   QPushButton* goTo_ = nullptr;
   QPushButton* apply_ = nullptr;
   QPushButton* order_ = nullptr;
+  QComboBox* place_;  // of channels that this list does not have yet
 };
 
 }  // namespace Ui

@@ -128,6 +128,9 @@ inline constexpr Command Commands[] = {
      "Confronta la lista con quella di un'altra flash", Need::List},
     {"ConfrontaDisco", "Confronta con il file su disco", Menu::Compare, "", "",
      "Mostra che cosa cambierebbe salvando", Need::List},
+    {"ConfrontaSDX", "Confronta con la lista a destra", Menu::Compare, "", "",
+     "Confronta la lista con quella accanto, da qualunque file venga",
+     Gate(Enabled::WhileSdxShown, Need::List)},
 
     {"ScaricaInternet", "Scarica da Internet", Menu::Sdx, "internet", "",
      "Scarica una lista SatcoDX da un indirizzo", Need::ChannelsForDownload},

@@ -36,6 +36,7 @@ struct Session {
   std::function<void()> endProgram;
   const Edit::Clipboard& clipboard = document.Copied();
   Formats::SdxTable sdx = {};
+  QString sdxName = {};  // of its file, or of the satellite that this names
   bool srIniMissingTold = false;
   // What commands are enabled with, beside the list itself; ShowList() tells of a change.
   bool sdxShown = false;          // the pane of the list on the right

@@ -64,6 +64,7 @@ void SdxCommands::Load(const std::string& path) {
   if (dialog.exec() != QDialog::Accepted) return;
   const Formats::SdxOptions options = dialog.Chosen();
   Formats::SdxTable table = Formats::ReadSatcodx(text, options);
+  Formats::KeepOthers(table, Formats::ReadSatcodx(text, Formats::WithoutFilters(options)));
   const QString name = CodePageText(Base::TrimmedRight(table.satelliteName));
   Show(std::move(table), name);
   TellTaken(PathText(Base::FileName(path)));
@@ -72,6 +73,7 @@ void SdxCommands::Load(const std::string& path) {
 
 void SdxCommands::Show(Formats::SdxTable table, const QString& name) {
   session_.sdx = std::move(table);
+  session_.sdxName = name;
   ShowPane(true);
   pane_.Refresh(name);
 }

@@ -59,7 +59,11 @@ void ServiceListCommands::Import(const std::string& path, std::string_view bytes
   auto summary = Waiting([&] { return Formats::SummaryOf(*format->Services(text.View())); });
   ServiceListDialog dialog({file, *format, text.View()}, std::move(summary), session_, &window_);
   if (dialog.exec() != QDialog::Accepted) return;
-  sdx_.Show(Formats::RowsOf(*format->Services(text.View()), dialog.Chosen()), file);
+  const Formats::ListOptions options = dialog.Chosen();
+  Formats::SdxTable table = Formats::RowsOf(*format->Services(text.View()), options);
+  Formats::KeepOthers(table,
+                      Formats::RowsOf(*format->Services(text.View()), Formats::WithoutFilters(options)));
+  sdx_.Show(std::move(table), file);
   sdx_.TellTaken(file);
 }
 

@@ -144,12 +144,11 @@ QTableWidget* ServiceListDialog::Positions() {
   table->setTabKeyNavigation(false);
   table->verticalHeader()->hide();
   table->horizontalHeader()->setStretchLastSection(true);
-  KeepLines(*table, 6);
   for (const auto& [position, services] : positions) {
     const int row = static_cast<int>(positions_.size());
     const QString text = Text(Formats::PositionText(position));
     QComboBox* box = SatelliteBox(QString("Satellite_%1").arg(position));
-    box->setAccessibleName("Satellite di " + text);
+    box->setAccessibleDescription("Satellite di " + text);
     box->insertItem(0, "non importare");
     box->setCurrentIndex(0);
     if (const auto found = proposed.find(position); found != proposed.end()) Choose(*box, found->second);
@@ -160,6 +159,8 @@ QTableWidget* ServiceListDialog::Positions() {
     table->setRowHeight(row, box->sizeHint().height());
     positions_.emplace_back(position, box);
   }
+  const int rows = table->rowHeight(0) * std::min(table->rowCount(), 6);
+  table->setMaximumHeight(table->horizontalHeader()->sizeHint().height() + rows + 2 * table->frameWidth());
   table->resizeColumnToContents(0);
   table->resizeColumnToContents(1);
   return table;

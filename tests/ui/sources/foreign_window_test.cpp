@@ -133,6 +133,15 @@ TEST_F(Window, AListOfTodayBringsTheSatellitesOfItsPositions) {
   EXPECT_EQ(Said(), "canali: lette " + std::to_string(lines + 2) + " righe, prese 1; scartate: codifica " +
                         std::to_string(lines + 1));
   EXPECT_EQ(driver_->TextOf("EtichettaSDX"), "SDX: canali");
+
+  ASSERT_TRUE(driver_->Choose("ConfrontaSDX"));
+  const auto* compared = window_->findChild<QDialog*>("FinestraConfronto");
+  EXPECT_EQ(compared->findChild<QCheckBox*>("Mostra_1")->text(), "Solo a destra (1)");
+  EXPECT_FALSE(compared->findChild<QCheckBox*>("Mostra_0")->isChecked()) << "a part of what there is";
+  Click("SegnaTutti");
+  compared->findChild<QComboBox*>("PostoNuovi")->setCurrentIndex(1);
+  Click("ApplicaSegnati");
+  EXPECT_EQ(Said(), "Applica 1 differenza: 1 canale aggiunto nei posti vuoti");
 }
 
 }  // namespace Ui

@@ -1,13 +1,28 @@
-// Fields of an SDX row that a list may say nothing of. The row has something there all the same; a comparison takes it for
+// Fields of a channel that a list may say nothing of. Its rows have something there all the same; a comparison takes it for
 // equal to anything.
 #pragma once
 
 #include <cstdint>
 #include <initializer_list>
 
-namespace Formats {
+namespace Routines {
 
-enum class SdxField { Polarisation, SymbolRate, Fec, Vpid, Apid, Pcr, Sid, Tid, Nid, Type, Coding };
+enum class SdxField {
+  Polarisation,
+  Band,
+  SymbolRate,
+  Fec,
+  Vpid,
+  Apid,
+  Pcr,
+  Ecm,
+  Sid,
+  Tid,
+  Nid,
+  Type,
+  Coding,
+  Active
+};
 
 // A set of them.
 class SdxFields {
@@ -30,4 +45,4 @@ class SdxFields {
   std::uint32_t bits_ = 0;
 };
 
-}  // namespace Formats
+}  // namespace Routines

@@ -1,6 +1,7 @@
-#include "ui/review/other_flash.h"
+#include "ui/review/other_side.h"
 
 #include "base/file.h"
+#include "formats/sdx_other.h"
 #include "model/flash_loader.h"
 #include "ui/kit/text.h"
 #include "ui/kit/toolkit.h"
@@ -11,7 +12,7 @@ namespace Ui {
 
 using Routines::State;
 
-Base::Outcome OtherFlash::Read(const Session& session) {
+Base::Outcome OtherSide::Read(const Session& session) {
   const State& mine = session.document.Tables();
   const bool output = OnDisk() && path_ == mine.OutputFlash;
   const char* const title = output ? "Errore FLASH di Output" : "Errore FLASH di Input";
@@ -24,12 +25,12 @@ Base::Outcome OtherFlash::Read(const Session& session) {
   channelsRead_ = report.channelsRead;
   channelsInImage_ = report.channelsInImage;
   list->SymbolRateTable = symbolRates_;
-  list_ = std::move(list);
+  list_ = Routines::OtherListOf(*list);
   return Base::Done{};
 }
 
 // As many channels as the receiver knows that the user has chosen.
-int OtherFlash::Capacity(const Routines::Settings& settings, Base::ByteView image) const {
+int OtherSide::Capacity(const Routines::Settings& settings, Base::ByteView image) const {
   const int most = Routines::CapacityOf(image);
   if (OnDisk())
     return settings.flashScrittura
@@ -38,29 +39,35 @@ int OtherFlash::Capacity(const Routines::Settings& settings, Base::ByteView imag
   return settings.quantiCanali ? std::min(most, settings.Capacity()) : most;
 }
 
-QDateTime OtherFlash::Written() const { return QFileInfo(PathText(path_)).lastModified(); }
+QDateTime OtherSide::Written() const { return QFileInfo(PathText(path_)).lastModified(); }
 
-void OtherFlash::Follow(const Session& session) {
+void OtherSide::Follow(const Session& session) {
   if (!OnDisk()) return;
   const std::string path = PathOnDisk(session.document.Tables());
   if (path == path_ && Written() == written_) return;
   // What cannot be read any more stays as it was read last.
-  OtherFlash now(kind_, path);
+  OtherSide now(kind_, path);
   if (now.Read(session)) *this = std::move(now);
 }
 
-Review::Comparison OtherFlash::Compare(const Session& session) {
+Review::Comparison OtherSide::Compare(const Session& session) {
   const State& mine = session.document.Tables();
   // Codes are written as they are, whatever rates they stand for.
-  if (OnDisk()) list_->SymbolRateTable = mine.SymbolRateTable;
-  Review::Comparison comparison = Review::Compare(mine, *list_);
+  if (OnDisk()) list_.symbolRates = mine.SymbolRateTable;
+  if (kind_ == Kind::Rows) {
+    list_ = Formats::OtherListOf(session.sdx, mine.SymbolRateTable);
+    rowsName_ = session.sdxName;
+  }
+  Review::Comparison comparison = Review::Compare(mine, list_);
   const Routines::Settings settings = session.settings.Chosen();
   const bool written = !settings.flashScrittura || settings.Type() == Routines::FlashType::Two;
-  if (OnDisk() && !written) comparison.favourites.clear();
+  if (OnDisk() && !written)
+    std::erase_if(comparison.differences, [](const auto& one) { return one.Has(Review::Mark::Favourites); });
   return comparison;
 }
 
-QString OtherFlash::Title() const {
+QString OtherSide::Title() const {
+  if (kind_ == Kind::Rows) return rowsName_ + ", " + Counted(list_.offered, "riga", "righe");
   const QString all = channelsInImage_ > channelsRead_ ? QString(" di %1").arg(channelsInImage_) : QString();
   return PathText(Base::FileName(path_)) + (all.isEmpty() ? ", " : ", letti ") +
          QString("%1%2 canali").arg(channelsRead_).arg(all);

@@ -1,4 +1,4 @@
-// The other side of a comparison: an image that is read into memory and never written.
+// The other side of a comparison: an image that is read into memory and never written, or the list on the right.
 #pragma once
 
 #include "review/compare.h"
@@ -8,14 +8,14 @@
 
 namespace Ui {
 
-class OtherFlash {
+class OtherSide {
  public:
   // Another flash is read as it would be opened; the file on the disk is the one that the list is written to, or came
-  // from.
-  enum class Kind { Another, OnDisk };
+  // from; rows are those of the SDX table.
+  enum class Kind { Another, OnDisk, Rows };
 
   // `symbolRates` is the table that another flash is read by; the file on the disk has the list's own.
-  OtherFlash(Kind kind, std::string path, std::string symbolRates = {})
+  explicit OtherSide(Kind kind, std::string path = {}, std::string symbolRates = {})
       : kind_(kind), path_(std::move(path)), symbolRates_(std::move(symbolRates)) {}
 
   // Where a list is on the disk; empty where it is nowhere.
@@ -27,10 +27,11 @@ class OtherFlash {
   // Reads the file on the disk again where it has been written to, or where the list is now in another one.
   void Follow(const Session& session);
 
-  // The file on the disk is compared byte for byte, as a save would write it.
+  // The file on the disk is compared byte for byte, as a save would write it; rows as they are now in their table.
   Review::Comparison Compare(const Session& session);
 
-  [[nodiscard]] const Routines::State& List() const { return *list_; }
+  [[nodiscard]] const Routines::OtherList& List() const { return list_; }
+  [[nodiscard]] Kind What() const { return kind_; }
   [[nodiscard]] bool OnDisk() const { return kind_ == Kind::OnDisk; }
   // "demo.dat, letti 999 di 3700 canali"
   [[nodiscard]] QString Title() const;
@@ -45,7 +46,8 @@ class OtherFlash {
   QDateTime written_;
   int channelsRead_ = 0;
   int channelsInImage_ = 0;
-  std::unique_ptr<Routines::State> list_;
+  QString rowsName_;
+  Routines::OtherList list_;
 };
 
 }  // namespace Ui
