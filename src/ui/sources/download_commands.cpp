@@ -6,6 +6,7 @@
 #include "ui/kit/text.h"
 
 #include <QApplication>
+#include <QDir>
 #include <QFile>
 #include <QTimer>
 
@@ -71,22 +72,26 @@ Base::Outcome DownloadCommands::KeepOldList() {
   const auto old = Base::ReadFile(target, LargestList);
   if (!old && old.error().systemCode != ENOENT) return old.error();
   if (!old || old->empty()) return Base::Done{};
-  const auto copy = Routines::KeepCopy(Base::FolderOf(target), target, *old);
+  const std::string folder = Base::FolderOf(target);
+  const QStringList before = QDir(PathText(folder)).entryList(QDir::Files | QDir::Hidden);
+  const auto copy = Routines::KeepCopy(folder, target, *old);
   if (!copy) return copy.error();
-  oldLists_[target] = Base::FolderOf(target) + *copy;
+  OldList& known = oldLists_[target];
+  const bool madeEarlier = known.made && known.copy == folder + *copy;
+  known = {folder + *copy, madeEarlier || !before.contains(PathText(*copy))};
   return Base::Done{};
 }
 
 void DownloadCommands::RemoveOldList() {
   const auto old = oldLists_.extract(Base::ResolvedPath(path_));
-  if (old) QFile::remove(PathText(old.mapped()));
+  if (old && old.mapped().made) QFile::remove(PathText(old.mapped().copy));
 }
 
 void DownloadCommands::TellFailed(const QString& what) {
   const auto old = oldLists_.find(Base::ResolvedPath(path_));
   const QString rest = old == oldLists_.end()
                            ? QString()
-                           : "; la lista di prima resta come " + PathText(Base::FileName(old->second));
+                           : "; la lista di prima resta come " + PathText(Base::FileName(old->second.copy));
   session_.status.ShowResult(what + rest);
 }
 

@@ -42,8 +42,11 @@ class DownloadCommands : public QObject {
   QPointer<QProgressDialog> progress_;
   QString address_;
   std::string path_;
-  std::map<std::string, std::string>
-      oldLists_;  // copies made before the files were emptied, by resolved path
+  struct OldList {
+    std::string copy;
+    bool made = false;  // by this program: one that was there before is not its to remove
+  };
+  std::map<std::string, OldList> oldLists_;  // what files had before they were emptied, by resolved path
 };
 
 }  // namespace Ui

@@ -119,11 +119,17 @@ TEST_F(Downloading, HappensOnlyWhenTheUserAsks) {
   EXPECT_TRUE(Contents(flash_) == image);
   EXPECT_EQ(good.asked, 0);
   ASSERT_TRUE(driver_->Choose("VisualizzaBouquet"));
-  Fetch(good,
-        [this] { driver_->ExpectDialog("Opzioni importazione SDX", [](QDialog& box) { box.reject(); }); });
+  const auto rejectOptions = [this] {
+    driver_->ExpectDialog("Opzioni importazione SDX", [](QDialog& box) { box.reject(); });
+  };
+  Fetch(good, rejectOptions);
   EXPECT_FALSE(Action("VisualizzaBouquet").isChecked()) << "the tree makes room for the list";
   EXPECT_EQ(Base::AsText(Contents(path_)), "SATCODX1 uno\r\n\nSATCODX1 due\r\n");
   EXPECT_FALSE(std::filesystem::exists(path_ + ".bak")) << "a list has come in its place";
+  folder_.Write("scaricato.sdx.bak", "SATCODX1 vecchia\r\n");
+  ASSERT_TRUE(driver_->Choose("ScaricaInternet"));
+  Fetch(good, rejectOptions);
+  EXPECT_TRUE(std::filesystem::exists(path_ + ".bak")) << "a copy of the user's own";
 }
 
 TEST_F(Downloading, AReplyThatIsNoListIsToldAndItsFileLeftEmpty) {
