@@ -16,7 +16,8 @@ void CheckLoaded(const State& state, const LoadReport& report, const Layout& lay
   Require(state.MaxChannels == capacity && state.ChannelCount == capacity, "a load takes the capacity");
   Require(LastUsedChannel(state) <= capacity, "no channel past the channel count");
   Require(UsedChannels(state) == report.channelsRead, "as many channels as the report says");
-  Require(report.strandedChannels <= report.channelsRead, "stranded channels are loaded ones");
+  Require(report.stranded.size() <= static_cast<std::size_t>(report.channelsRead),
+          "stranded channels are loaded ones");
   Require(std::all_of(state.ChannelTable.begin(), state.ChannelTable.end(),
                       [](const ChannelRecord& c) { return !c.Empty() || c == ChannelRecord{}; }),
           "an empty slot is all zero");

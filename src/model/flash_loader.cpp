@@ -56,7 +56,7 @@ class Loader {
       }
     }
     if (Appending()) RenumberTransponders();
-    CountStranded();
+    FindStranded();
     return report_;
   }
 
@@ -125,11 +125,13 @@ class Loader {
     }
   }
 
-  void CountStranded() {
+  void FindStranded() {
     const auto past = static_cast<std::uint32_t>(state_.TransponderCount);
-    report_.strandedChannels = static_cast<int>(std::count_if(
-        state_.ChannelTable.begin() + 1, state_.ChannelTable.end(),
-        [past](const ChannelRecord& c) { return !c.Empty() && Get(c, ChannelField::Transponder) > past; }));
+    for (int slot = 1; slot <= LastChannelSlot; ++slot) {
+      const ChannelRecord& channel = state_.Channel(slot);
+      if (!channel.Empty() && Get(channel, ChannelField::Transponder) > past)
+        report_.stranded.push_back(slot);
+    }
   }
 
   State& state_;

@@ -13,7 +13,7 @@ namespace Routines {
 struct LoadReport {
   int channelsRead = 0;           // taken from the image, empty slots not counted
   int channelsInImage = 0;        // held by the image; a section that repeats the first one is not counted
-  int strandedChannels = 0;       // loaded channels whose transponder lies past TransponderCount
+  std::vector<int> stranded;      // slots of loaded channels whose transponder lies past TransponderCount
   int unplacedTransponders = 0;   // of an append, that found no slot
   std::vector<int> linkedToLast;  // slots of their channels, which are on the last transponder now
   bool repeats = false;           // some were taken from a section that repeats the first one

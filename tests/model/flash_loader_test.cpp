@@ -164,7 +164,7 @@ TEST(FlashLoader, AppendingMergesTranspondersAndLeavesASlotFree) {
   EXPECT_EQ(state->MaxChannels, 2999);
   EXPECT_EQ(state->TransponderCount, 4);
   EXPECT_EQ(state->Transponder(2).record, fresh);
-  EXPECT_EQ(report.strandedChannels, 2);
+  EXPECT_EQ(report.stranded, std::vector<int>({10, 11}));
   EXPECT_TRUE(report.messages.empty());
   EXPECT_EQ(state->FavouritesBlock, favourites);
 }

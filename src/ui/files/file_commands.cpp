@@ -7,7 +7,9 @@
 #include "ui/kit/text.h"
 #include "ui/kit/toolkit.h"
 
+#include <algorithm>
 #include <cerrno>
+#include <iterator>
 
 namespace Ui {
 
@@ -52,12 +54,19 @@ QString LoadResult(const State& state, const Routines::LoadReport& report, bool 
                 .arg(report.linkedToLast.size())
                 .arg(state.TransponderCount);
   }
-  if (report.strandedChannels > 0) {
+  if (!report.stranded.empty()) {
     text += QString(", %1 canali su transponder oltre il %2")
-                .arg(report.strandedChannels)
+                .arg(report.stranded.size())
                 .arg(state.TransponderCount);
   }
   return text;
+}
+
+// The channels that an append has left without a transponder of their own, in rising order.
+std::vector<int> WithoutTransponder(const Routines::LoadReport& report) {
+  std::vector<int> slots;
+  std::ranges::merge(report.linkedToLast, report.stranded, std::back_inserter(slots));
+  return slots;
 }
 
 }  // namespace
@@ -130,10 +139,11 @@ void FileCommands::Load(const std::string& path, const Base::Bytes& image, int a
   }
   const QString result = ShortName(path) + ": " + LoadResult(document.Tables(), report, appended) +
                          (ratesMoved ? RatesMovedText : "");
-  if (report.linkedToLast.empty()) {
+  const std::vector<int> lost = appended ? WithoutTransponder(report) : std::vector<int>();
+  if (lost.empty()) {
     session_.status.ShowResult(result);
   } else {
-    session_.status.ShowLoss(result, session_.ChannelLines(report.linkedToLast), StatusLine::Loss::Edited);
+    session_.status.ShowLoss(result, session_.ChannelLines(lost), StatusLine::Loss::Edited);
   }
   if (onOpened) onOpened(path);
 }
