@@ -82,9 +82,9 @@ bool Holds(const Session& session, Enabled condition) {
 
 const char* WhyDisabled(const Session& session, Enabled condition) {
   const bool byFls = condition == Enabled::WithoutFls || condition == Enabled::WhenSdxMayShow;
-  return byFls && !Holds(session, condition)
-             ? "Non disponibile dopo l'importazione da formato FLASH: Annulla la toglie"
-             : "";
+  return byFls && !Holds(session, condition) ? "Non disponibile dopo l'importazione da formato FLASH, fino "
+                                               "ad Annulla o a un salvataggio completo"
+                                             : "";
 }
 
 bool Meets(Session& session, Need need) {

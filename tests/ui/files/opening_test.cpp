@@ -49,7 +49,8 @@ TEST_F(OpeningFiles, DroppedOnesOpenLikeTheirCommandsOrItIsSaidWhyNot) {
   const std::pair<QList<QUrl>, const char*> drops[] = {
       {{file(text)}, "lista.TXT: importati 11 canali, 1 codifica cambiata"},
       {{file(raw)}, "lista.fls: importati 11 canali"},
-      {{file(flash_)}, "Non disponibile dopo l'importazione da formato FLASH: Annulla la toglie"},
+      {{file(flash_)},
+       "Non disponibile dopo l'importazione da formato FLASH, fino ad Annulla o a un salvataggio completo"},
       {{file(folder_.Path("SR.INI"))},
        "Non aperto: SR.INI non è un file .dat, .sdx, .txt o .fls, né una lista VDR, DVBv5 o Enigma2"},
       {{file(folder_.Path("cartella.dat"))}, "Non aperto: cartella.dat è una cartella"},
