@@ -11,7 +11,7 @@ void History::Push(std::string label, Kind kind, std::unique_ptr<State> before, 
   steps_.resize(done_);
   auto clipboard = copied == copiedNow ? nullptr : std::make_unique<const Copied>(Copied{copied, copiedNow});
   if (kind == Kind::Continued && done_ > 0 && clipboard == nullptr) return;
-  steps_.push_back({std::move(label), kind, std::move(before), std::move(clipboard)});
+  steps_.push_back({std::move(label), kind, ++lastNumber_, std::move(before), std::move(clipboard)});
   if (steps_.size() > MostSteps) DropOldest();
   done_ = steps_.size();
 }

@@ -31,6 +31,9 @@ class History {
   [[nodiscard]] std::string UndoLabel() const { return done_ == 0 ? "" : steps_[done_ - 1].label; }
   [[nodiscard]] std::string RedoLabel() const { return done_ == steps_.size() ? "" : steps_[done_].label; }
 
+  // A number of the last step done that no other one ever has; 0 where there is none.
+  [[nodiscard]] int LastStep() const { return done_ == 0 ? 0 : steps_[done_ - 1].number; }
+
   // Exchanges `state` with the other side of a step: the two values change hands, neither is copied. The clipboard
   // becomes what the step had there; one that left it alone leaves it alone again. False when there is no step.
   bool Undo(std::unique_ptr<Routines::State>& state, Clipboard& clipboard);
@@ -44,6 +47,7 @@ class History {
   struct Step {
     std::string label;
     Kind kind;
+    int number;
     std::unique_ptr<Routines::State> other;
     std::unique_ptr<const Copied> clipboard;  // of a step that changed it
   };
@@ -53,6 +57,7 @@ class History {
 
   std::deque<Step> steps_;
   std::size_t done_ = 0;  // steps from here on are taken back
+  int lastNumber_ = 0;
 };
 
 }  // namespace Edit

@@ -125,7 +125,7 @@ void EditCommands::TellPasted(int count, int position, const Edit::PasteReport& 
 }
 
 void EditCommands::Undo() {
-  session_.status.ForgetEditedLoss();
+  session_.status.ForgetLossOf(session_.document.Steps().LastStep());
   TakeStep(&Document::Undo, "Annullato: " + Text(session_.document.Steps().UndoLabel()));
 }
 

@@ -143,7 +143,7 @@ void FileCommands::Load(const std::string& path, const Base::Bytes& image, int a
   if (lost.empty()) {
     session_.status.ShowResult(result);
   } else {
-    session_.status.ShowLoss(result, session_.ChannelLines(lost), StatusLine::Loss::Edited);
+    session_.status.ShowLoss(result, session_.ChannelLines(lost), document.Steps().LastStep());
   }
   if (onOpened) onOpened(path);
 }
@@ -245,10 +245,10 @@ void FileCommands::TellWritten(const std::string& path, const Routines::PatchedF
   if (preparation.ratesMoved) result += RatesMovedText;
   result += CopiesText(path, saved);
   if (unwritten.Nothing()) {
-    session_.status.ForgetLoss();
+    session_.status.ForgetLosses();
     session_.status.ShowResult(result);
   } else {
-    session_.status.ShowLoss(result, LostChannels(unwritten), StatusLine::Loss::Saved);
+    session_.status.ShowLoss(result, LostChannels(unwritten), 0);
   }
   session_.dialogs.Message(Text(Routines::WriteSummary(document.Tables(), patched)), {}, Tone::Information);
 }

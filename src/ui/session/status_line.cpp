@@ -35,8 +35,8 @@ StatusLine::StatusLine(QStatusBar& bar)
   warning.setColor(QPalette::WindowText, Qt::black);
   loss_->setPalette(warning);
   which_->setObjectName("QualiCanali");
-  connect(which_, &QPushButton::clicked, this, [this] { Q_EMIT ChannelsWanted(lost_); });
-  ForgetLoss();
+  connect(which_, &QPushButton::clicked, this, [this] { Q_EMIT ChannelsWanted(losses_.back().channels); });
+  ShowLastLoss();
   link_->setObjectName("VaiAlRisultato");
   link_->setFlat(true);
   link_->setMaximumHeight(result_->sizeHint().height());
@@ -99,25 +99,29 @@ void StatusLine::ShowResult(const QString& text, int slot) {
   Q_EMIT ResultShown(text);
 }
 
-void StatusLine::ShowLoss(const QString& text, const QString& channels, Loss kind) {
+void StatusLine::ShowLoss(const QString& text, const QString& channels, int step) {
+  if (step == 0) losses_.clear();
+  losses_.push_back({text, channels, step});
   ShowResult(text);
+  ShowLastLoss();
   result_->hide();  // it would say the same beside the warning
-  loss_->Show("⚠ " + text);
-  loss_->show();
-  lost_ = channels;
-  which_->setVisible(!channels.isEmpty());
-  kind_ = kind;
 }
 
-void StatusLine::ForgetLoss() {
-  loss_->clear();
-  loss_->hide();
-  which_->hide();
-  result_->show();
+void StatusLine::ForgetLosses() {
+  losses_.clear();
+  ShowLastLoss();
 }
 
-void StatusLine::ForgetEditedLoss() {
-  if (kind_ == Loss::Edited) ForgetLoss();
+void StatusLine::ForgetLossOf(int step) {
+  if (std::erase_if(losses_, [step](const Loss& loss) { return loss.step == step; }) > 0) ShowLastLoss();
+}
+
+void StatusLine::ShowLastLoss() {
+  const Loss last = losses_.empty() ? Loss{} : losses_.back();
+  loss_->Show(last.text.isEmpty() ? QString() : "⚠ " + last.text);
+  loss_->setVisible(!losses_.empty());
+  which_->setVisible(!last.channels.isEmpty());
+  if (losses_.empty()) result_->show();
 }
 
 void StatusLine::ShowList(const Routines::State& state, bool unsaved, int clipboard) {

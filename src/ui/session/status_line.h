@@ -8,6 +8,7 @@
 #include <QObject>
 
 #include <map>
+#include <vector>
 
 class QProgressBar;
 class QPushButton;
@@ -32,11 +33,10 @@ class StatusLine : public QObject {
   void ShowHidden(const QString& grid, const QString& text);
   // A result that lost something stays beside later ones, with a warning sign. `channels` are lines for the window that
   // "Quali?" opens; without any there is no such button.
-  enum class Loss { Saved, Edited };
-  void ShowLoss(const QString& text, const QString& channels, Loss kind);
-  // Until the next save that lost nothing or, where it was an edit, until that is undone.
-  void ForgetLoss();
-  void ForgetEditedLoss();
+  // It stays until the next save or, where it was an edit, until its step is undone; `step` is 0 for a save.
+  void ShowLoss(const QString& text, const QString& channels, int step);
+  void ForgetLosses();
+  void ForgetLossOf(int step);
   void ShowList(const Routines::State& state, bool unsaved, int clipboard);
   // Whether unsaved work is put aside against a crash, from the next list shown on.
   void SetKept(bool kept) { kept_ = kept; }
@@ -51,7 +51,14 @@ class StatusLine : public QObject {
   void GoToWanted(int slot);
 
  private:
+  struct Loss {
+    QString text;
+    QString channels;
+    int step;
+  };
+
   ElidedLabel* AddFigure(QStatusBar& bar, const char* name);
+  void ShowLastLoss();
 
   QWidget* line_;
   ElidedLabel* loss_;
@@ -66,8 +73,7 @@ class StatusLine : public QObject {
   ElidedLabel* hidden_;
   ElidedLabel* output_;
   QProgressBar* progress_;
-  QString lost_;  // lines of the channels
-  Loss kind_ = Loss::Saved;
+  std::vector<Loss> losses_;  // the last one is shown
   bool kept_ = true;
   bool resultShown_ = false;               // since a remark
   std::map<QString, QString> hiddenRows_;  // by grid

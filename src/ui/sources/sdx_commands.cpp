@@ -224,7 +224,7 @@ void SdxCommands::TellPut(const Rows& rows, const QString& done, const QString& 
   if (pushedOut.isEmpty()) {
     session_.status.ShowResult(result);
   } else {
-    session_.status.ShowLoss(result, pushedOut, StatusLine::Loss::Edited);
+    session_.status.ShowLoss(result, pushedOut, session_.document.Steps().LastStep());
   }
 }
 
