@@ -68,6 +68,18 @@ std::string UpperCase(std::string_view bytes) {
   return upper;
 }
 
+std::string LowerCase(std::string_view bytes) {
+  std::string lower(bytes);
+  for (char& c : lower) {
+    const auto byte = static_cast<unsigned char>(c);
+    const bool accented = byte >= 0xC0 && byte <= 0xDE && byte != 0xD7;
+    if ((byte >= 'A' && byte <= 'Z') || accented) c = static_cast<char>(byte + 0x20);
+    if (byte == 0x8A || byte == 0x8C || byte == 0x8E) c = static_cast<char>(byte + 0x10);
+    if (byte == 0x9F) c = '\xFF';
+  }
+  return lower;
+}
+
 std::string Folded(std::string_view bytes) {
   static const std::array<std::string, 256> Folds = MakeFolds();
   std::string folded;

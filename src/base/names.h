@@ -13,8 +13,9 @@ namespace Base {
 // bytes, a character that the receiver's code page lacks, a control character.
 Base::Result<std::string> NameBytes(std::string_view typed, std::size_t most);
 
-// Upper case in the code page, accented letters included.
+// Upper and lower case in the code page, accented letters included.
 std::string UpperCase(std::string_view bytes);
+std::string LowerCase(std::string_view bytes);
 
 // A text as a search compares it, in ASCII as far as the code page lets it: lower case, letters without their accents,
 // "ss" for a sharp s, two letters for a ligature.
