@@ -163,12 +163,6 @@ SortPlan PlanSort(const State& state, const std::vector<int>& slots, const SortO
   return plan;
 }
 
-std::vector<int> SlotsFrom(const State& state, int start) {
-  std::vector<int> slots(static_cast<std::size_t>(std::max(state.ChannelCount - start + 1, 0)));
-  std::iota(slots.begin(), slots.end(), start);
-  return slots;
-}
-
 std::vector<LostFavourite> SortChannels(State& state, const SortPlan& plan) {
   return Rearrange(state, plan.map);
 }

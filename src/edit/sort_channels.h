@@ -37,9 +37,6 @@ struct SortPlan {
 // How the channels in `slots`, which rise, would be put into the same slots.
 SortPlan PlanSort(const Routines::State& state, const std::vector<int>& slots, const SortOrder& order);
 
-// All slots of the list from `start` on.
-std::vector<int> SlotsFrom(const Routines::State& state, int start);
-
 // Follows a plan of this state; favourites go along, entries on empty places among them are taken out.
 std::vector<LostFavourite> SortChannels(Routines::State& state, const SortPlan& plan);
 

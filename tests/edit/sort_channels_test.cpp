@@ -2,6 +2,7 @@
 
 #include "base/code_page.h"
 #include "edit/cell_edit.h"
+#include "edit/list_operations.h"
 #include "model/cells.h"
 #include "model/favourites.h"
 
@@ -39,6 +40,8 @@ class SortChannelsTest : public testing::Test {
     return list;
   }
 
+  [[nodiscard]] Slots From(int start) const { return SlotRun(start, state_->ChannelCount); }
+
   std::unique_ptr<State> state_ = std::make_unique<State>();
   SortPlan plan_;
   std::vector<LostFavourite> lost_;
@@ -53,8 +56,7 @@ TEST_F(SortChannelsTest, NamesAsAPersonSortsThem) {
   Put(100, "Aaa");
   state_->ChannelCount = 99;
   SetFavouriteEntries(state_->FavouritesBlock, 0, {3, 1, 100});
-  EXPECT_EQ(Sort(SlotsFrom(*state_, 1), {{SortKey::Name}}),
-            "1 Élite, 2 Epic, 3 rai 2, 4 RAI 02, 5 Rai 10, 100 Aaa");
+  EXPECT_EQ(Sort(From(1), {{SortKey::Name}}), "1 Élite, 2 Epic, 3 rai 2, 4 RAI 02, 5 Rai 10, 100 Aaa");
   EXPECT_EQ(plan_.moved, 5);
   EXPECT_EQ(FavouriteEntriesOf(state_->FavouritesBlock, 0), (std::vector{5, 100}));
   EXPECT_EQ(lost_.size(), 1U) << "an entry on an empty place";
@@ -63,10 +65,10 @@ TEST_F(SortChannelsTest, NamesAsAPersonSortsThem) {
 TEST_F(SortChannelsTest, TheSelectionKeepsItsPlacesAndGroupsBeginAtMultiples) {
   for (const auto& [slot, name] : {std::pair(2, "D HD"), {3, "C"}, {5, "B HD"}, {9, "A"}}) Put(slot, name);
   EXPECT_EQ(Sort({2, 4, 5, 9}, {{SortKey::HdFirst, SortKey::Name}}), "2 B HD, 3 C, 4 D HD, 5 A");
-  EXPECT_EQ(Sort(SlotsFrom(*state_, 3), {{SortKey::HdFirst}, 10}), "2 B HD, 10 D HD, 20 C, 21 A");
+  EXPECT_EQ(Sort(From(3), {{SortKey::HdFirst}, 10}), "2 B HD, 10 D HD, 20 C, 21 A");
   EXPECT_EQ(plan_.gaps, 16);
   EXPECT_EQ(plan_.groups, 2);
-  EXPECT_EQ(PlanSort(*state_, SlotsFrom(*state_, 50), {{SortKey::HdFirst}, 10}).groups, 0);
+  EXPECT_EQ(PlanSort(*state_, From(50), {{SortKey::HdFirst}, 10}).groups, 0);
   EXPECT_EQ(PlanSort(*state_, {2, 10, 20, 21}, {{SortKey::Name}, 10}).without, 2) << "only two multiples";
 }
 
@@ -88,7 +90,7 @@ TEST_F(SortChannelsTest, EachKey) {
   set(3, ChannelColumn::Active, "N");
   SetFavouriteEntries(state_->FavouritesBlock, 7, {3});
   const auto first = [&](SortKey key) {
-    const SortPlan plan = PlanSort(*state_, SlotsFrom(*state_, 1), {{key}});
+    const SortPlan plan = PlanSort(*state_, From(1), {{key}});
     std::string order(3, ' ');
     for (std::size_t slot = 1; slot <= 3; ++slot)
       order[static_cast<std::size_t>(plan.map[slot] - 1)] = static_cast<char>('a' + slot - 1);

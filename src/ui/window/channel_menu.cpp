@@ -29,6 +29,7 @@ ChannelMenu::ChannelMenu(Session& session, CellCommands& cells, FavouritesEdits&
   menu_->addSeparator();
   Add(*menu_, "InserisciRiga", "Inserisci riga vuota", [this] { cells_.InsertRows(); });
   rename_ = Add(*menu_, "Rinomina", "Rinomina", [this] { cells_.Rename(); });
+  menu_->addAction(&CommandAction(window, "CambiaNomi"));
   menu_->addSeparator();
   forChannels_ = {Add(*menu_, "Attiva", "Attiva", [this] { cells_.SetColumn(Active, "S"); }),
                   Add(*menu_, "Disattiva", "Disattiva", [this] { cells_.SetColumn(Active, "N"); })};

@@ -1,0 +1,51 @@
+// What a command for many channels would do, a line for each, before it does it.
+#pragma once
+
+#include <QAbstractTableModel>
+#include <QStringList>
+
+#include <vector>
+
+namespace Ui {
+
+struct PreviewLine {
+  int slot = 0;
+  QStringList cells;  // those behind the number
+  QString fault;      // why the line cannot be done; empty where it can
+};
+
+class PreviewModel : public QAbstractTableModel {
+  Q_OBJECT
+
+ public:
+  // `titles` are those of the cells behind the number; with ticks each line can be left out.
+  PreviewModel(QStringList titles, bool ticks, QObject* parent);
+
+  // A line that was left out stays so as long as its channel has one.
+  void Show(std::vector<PreviewLine> lines);
+
+  [[nodiscard]] const std::vector<PreviewLine>& Lines() const { return lines_; }
+  // Whether a line, by its place, is to be done.
+  [[nodiscard]] bool Ticked(std::size_t line) const;
+  [[nodiscard]] int TickedLines() const;
+  void TickAll(bool ticked);
+
+  [[nodiscard]] int rowCount(const QModelIndex& parent = {}) const override;
+  [[nodiscard]] int columnCount(const QModelIndex& parent = {}) const override;
+  [[nodiscard]] QVariant data(const QModelIndex& index, int role = Qt::DisplayRole) const override;
+  bool setData(const QModelIndex& index, const QVariant& value, int role = Qt::EditRole) override;
+  [[nodiscard]] QVariant headerData(int section, Qt::Orientation orientation,
+                                    int role = Qt::DisplayRole) const override;
+  [[nodiscard]] Qt::ItemFlags flags(const QModelIndex& index) const override;
+
+ Q_SIGNALS:
+  void TicksChanged();
+
+ private:
+  QStringList titles_;
+  bool ticks_;
+  std::vector<PreviewLine> lines_;
+  std::vector<int> leftOut_;  // slots, rising
+};
+
+}  // namespace Ui
