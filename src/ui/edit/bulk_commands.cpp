@@ -1,6 +1,6 @@
 #include "ui/edit/bulk_commands.h"
 
-#include "edit/source_names.h"
+#include "formats/source_names.h"
 #include "ui/edit/rename_dialog.h"
 #include "ui/edit/sort_dialog.h"
 #include "ui/kit/text.h"
@@ -9,6 +9,19 @@ namespace Ui {
 
 using Routines::State;
 
+namespace {
+
+// What the list on the right calls the channels; nothing where there is none.
+Edit::SourceName NamesAtRight(const Session& session) {
+  if (session.sdx.rows.empty()) return {};
+  return [names = Formats::NamesFrom(session.sdx, session.document.Tables())](int slot) {
+    const auto name = names.find(slot);
+    return name == names.end() ? std::nullopt : std::optional(name->second);
+  };
+}
+
+}  // namespace
+
 void BulkCommands::Connect(Actions& actions) {
   actions.Connect("CambiaNomi", [this] { CambiaNomi(); });
   actions.Connect("OrdinaCanali", [this] { OrdinaCanali(); });
@@ -16,7 +29,7 @@ void BulkCommands::Connect(Actions& actions) {
 
 void BulkCommands::CambiaNomi() {
   Document& document = session_.document;
-  RenameDialog dialog(session_, Edit::NamesOf(document.Tables(), session_.sdx), session_.view.window());
+  RenameDialog dialog(session_, NamesAtRight(session_), session_.view.window());
   if (dialog.exec() != QDialog::Accepted) return;
   const std::vector<Edit::NewName> names = dialog.Chosen();
   if (names.empty()) return;

@@ -66,8 +66,8 @@ TEST_F(Bulk, ASortIsSeenBeforeItHappensAndBringsTheFavourites) {
   ASSERT_TRUE(driver_->Choose("OrdinaCanali"));
   EXPECT_EQ(driver_->Cell(1, 1), "Uno");
   EXPECT_EQ(driver_->Cell(2, 1), "Cinque");
-  EXPECT_EQ(driver_->Cell(5, 1), "Due") << "as the one that was before the other";
-  EXPECT_EQ(Routines::FavouriteEntriesOf(List().FavouritesBlock, 0), (std::vector{5, 11, 2}));
+  EXPECT_EQ(driver_->Cell(6, 1), "Due") << "as the one that was before the other";
+  EXPECT_EQ(Routines::FavouriteEntriesOf(List().FavouritesBlock, 0), (std::vector{6, 11, 2}));
 }
 
 }  // namespace

@@ -1,16 +1,16 @@
-#include "edit/source_names.h"
+#include "formats/source_names.h"
 
 #include "base/text.h"
 
 #include <map>
 
-namespace Edit {
+namespace Formats {
 
 using namespace Routines;
 
 namespace {
 
-bool SameService(const TransponderRecord& transponder, const Formats::SdxRow& row) {
+bool SameService(const TransponderRecord& transponder, const SdxRow& row) {
   return static_cast<int>(Get(transponder, TransponderField::Satellite)) == row.satellite &&
          (Get(transponder, TransponderField::Horizontal) != 0) == row.horizontal &&
          WithinThreeMHz(FrequencyMHz(transponder), Base::LeadingNumber(row.frequency));
@@ -18,10 +18,9 @@ bool SameService(const TransponderRecord& transponder, const Formats::SdxRow& ro
 
 }  // namespace
 
-SourceName NamesOf(const State& state, const Formats::SdxTable& source) {
-  if (source.rows.empty()) return {};
-  std::multimap<int, const Formats::SdxRow*> bySid;
-  for (const Formats::SdxRow& row : source.rows) bySid.emplace(Base::LeadingNumber(row.sid), &row);
+std::map<int, std::string> NamesFrom(const SdxTable& source, const State& state) {
+  std::multimap<int, const SdxRow*> bySid;
+  for (const SdxRow& row : source.rows) bySid.emplace(Base::LeadingNumber(row.sid), &row);
   std::map<int, std::string> names;
   for (int slot = 1; slot <= state.ChannelCount; ++slot) {
     const ChannelRecord& channel = state.Channel(slot);
@@ -31,12 +30,11 @@ SourceName NamesOf(const State& state, const Formats::SdxTable& source) {
     const auto same = std::find_if(rows.first, rows.second, [&](const auto& row) {
       return SameService(transponder->record, *row.second);
     });
-    if (same != rows.second) names.emplace(slot, Base::Trimmed(same->second->name));
+    if (same == rows.second) continue;
+    if (const std::string_view name = Base::Trimmed(same->second->name); !name.empty())
+      names.emplace(slot, name);
   }
-  return [names = std::move(names)](int slot) {
-    const auto name = names.find(slot);
-    return name == names.end() || name->second.empty() ? std::nullopt : std::optional(name->second);
-  };
+  return names;
 }
 
-}  // namespace Edit
+}  // namespace Formats
