@@ -2,6 +2,7 @@
 #pragma once
 
 #include "base/short_text.h"
+#include "model/order.h"
 #include "model/sdx_fields.h"
 
 #include <cstdint>
@@ -15,7 +16,7 @@ namespace Formats {
 using Routines::SdxField;
 using Routines::SdxFields;
 
-inline constexpr int NotSaid = -1;
+using Routines::NotSaid;
 
 enum class Polarisation : std::uint8_t { Unknown, Horizontal, Vertical, Left, Right };
 // Other is no satellite: cable, terrestrial, a stream.

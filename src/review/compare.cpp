@@ -272,7 +272,7 @@ bool SameBytes(ChannelRecord one, const ChannelRecord& other) {
 // A channel of both lists.
 Difference ComparePair(const OtherList& here, const OtherList& there, int slot, Comparison& comparison) {
   const int number = comparison.there[slot];
-  Difference found{slot, number, {}};
+  Difference found{slot, number};
   const OtherChannel& one = here.At(slot);
   const OtherChannel& other = there.At(number);
   EachChange(TunedIn(here, one), TunedIn(there, other), [&found](Mark mark, auto&&...) { found.Add(mark); });
@@ -300,7 +300,7 @@ bool Covers(const OtherList& there, const OtherList& here, const OtherChannel& c
 void CompareChannels(const OtherList& here, const OtherList& there, const Pairs& pairs,
                      Comparison& comparison) {
   const auto single = [&comparison](int slot, int number, Mark mark) {
-    Difference found{slot, number, {}};
+    Difference found{slot, number};
     found.Add(mark);
     comparison.differences.push_back(found);
   };

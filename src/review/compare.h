@@ -31,8 +31,9 @@ using MarkSet = std::bitset<Marks>;
 struct Difference {
   int here = 0;   // slot in one's own list, 0 where it is not in it
   int there = 0;  // number in the other list, 0 where it is not in it
-  MarkSet marks;
+  MarkSet marks = {};
   std::size_t favourites = 0;  // of a favourites list: which of them, from 0
+  bool byName = false;         // known by nothing but its name, which only an order is
 
   [[nodiscard]] bool Has(Mark mark) const { return marks[static_cast<std::size_t>(mark)]; }
   void Add(Mark mark) { marks.set(static_cast<std::size_t>(mark)); }

@@ -1,12 +1,14 @@
 // Comparing two lists, and taking over what the other one has without losing a channel or a favourite.
 #include "edit/move.h"
 #include "edit/take_over.h"
+#include "formats/list_format.h"
 #include "formats/sdx_other.h"
 #include "formats/service_rows.h"
 #include "formats/vdr_channels.h"
 #include "image_builder.h"
 #include "model/favourites.h"
 #include "model/symbol_rates.h"
+#include "review/order_match.h"
 
 #include <gtest/gtest.h>
 
@@ -295,6 +297,38 @@ TEST(Compare, AListOfTodayIsAskedOnlyWhatItSaysAndEachKindIsTakenByItself) {
   EXPECT_EQ(take({Mark::OnlyThere}, NewPlace::Holes), "c1 c2 c3 c4 c5 c6 c7 Nuovo c9    ");
   Channel(here, 7) = {};
   EXPECT_EQ(take({Mark::OnlyThere}, NewPlace::Bouquet), "c1 c2 Nuovo c3 c4 c5 c6   c9   ");
+}
+
+TEST(OrderMatch, EntriesAreFoundByIdsThenByNameAndNumberedAsWanted) {
+  State here = SmallList();
+  Channel(here, 6) = MakeChannel("Perch\xE8", 3, 106, 1, 1);
+  const Order order = {"",
+                       {{7, "anything", {}, 318, 20, 104},  // c4
+                        {0, "c1", {}, 1, 10, 101},          // another network, but the name
+                        {3, "", {}, 0, 10, 102},            // c2, on a list that does not say networks
+                        {3, "PERCHE", {}},
+                        {9, "c4", {}},  // is taken already
+                        {900, "c3", {}}}};
+  const auto told = [&](Numbering numbering) {
+    const OrderMatch match = MatchOrder(here, order, numbering);
+    std::string text;
+    for (const Difference& one : match.found.differences)
+      text += std::to_string(one.here) + ">" + std::to_string(one.there) + (one.byName ? " name; " : "; ");
+    State ordered = here;
+    TakeOrder(ordered, match.list, match.found);
+    for (int slot = 1; slot <= here.ChannelCount; ++slot)
+      text += std::string(Channel(ordered, slot).Name()) + " ";
+    return text;
+  };
+  EXPECT_EQ(told(Numbering::Together),
+            "1>2 name; 2>3; 3>5 name; 4>1; 5>0; 6>4 name; 0>6; c4 c1 c2 Perch\xE8 c3 c5       ");
+  EXPECT_EQ(told(Numbering::AsListed),
+            "1>8 name; 2>3; 3>0; 4>7; 5>0; 6>4 name; 0>9; 0>10;   c2 Perch\xE8   c4 c1 c3 c5   ");
+  const OrderMatch own = MatchOrder(
+      here, Formats::ReadOrderText(Formats::ListText(Formats::WriteOrderText(Review::OrderOf(here))).View()),
+      Numbering::AsListed);
+  EXPECT_TRUE(own.found.differences.empty());
+  EXPECT_EQ(MatchOrder(here, OrderOfFavourites(here, 0), Numbering::Together).list.offered, 2);
 }
 
 }  // namespace

@@ -1,15 +1,45 @@
 #include "ui/review/compare_commands.h"
 
+#include "base/file.h"
+#include "formats/list_format.h"
+#include "model/favourites.h"
+#include "model/flash_loader.h"
+#include "ui/kit/text.h"
+#include "ui/kit/toolkit.h"
 #include "ui/review/compare_window.h"
 
 #include <QMainWindow>
 
 namespace Ui {
 
+using Routines::State;
+
+namespace {
+
+constexpr std::size_t LargestList = 256U << 20U;
+
+// Empty where the file is none of a list. Names alone are an order too, but not the bytes of any other file.
+Routines::Order OrderIn(Base::ByteView bytes) {
+  if (bytes.size() == Routines::FlashSize) {
+    auto flash = std::make_unique<State>();
+    Routines::LoadFlash(*flash, bytes, Routines::CapacityOf(bytes), 0, {});
+    return Review::OrderOf(*flash);
+  }
+  const Formats::ListText text(Base::AsText(bytes));
+  const Formats::ListFormat* format = Formats::FormatOf(text.View());
+  if (format != nullptr) return format->OrderOf == nullptr ? Routines::Order() : format->OrderOf(text.View());
+  const bool isText = text.View().find('\0') == std::string_view::npos;
+  return isText ? Formats::ReadOrderText(text.View()) : Routines::Order();
+}
+
+}  // namespace
+
 void CompareCommands::Connect(Actions& actions) {
   actions.Connect("Confronta", [this] { Confronta(); });
   actions.Connect("ConfrontaDisco", [this] { ConfrontaDisco(); });
   actions.Connect("ConfrontaSDX", [this] { ConfrontaSDX(); });
+  actions.Connect("OrdinaCome", [this] { OrdinaCome(); });
+  actions.Connect("SalvaOrdine", [this] { SalvaOrdine(); });
 }
 
 void CompareCommands::Confronta() {
@@ -49,6 +79,66 @@ void CompareCommands::ConfrontaSDX() {
   } else {
     Compare(OtherSide(OtherSide::Kind::Rows));
   }
+}
+
+void CompareCommands::OrdinaCome() {
+  const State& state = session_.document.Tables();
+  QStringList choices = {"Un elenco da un file…"};
+  std::vector<std::size_t> lists;
+  for (std::size_t list = 0; list < Routines::FavouriteLists; ++list) {
+    const auto entries = Review::OrderOfFavourites(state, list).entries.size();
+    if (entries == 0) continue;
+    lists.push_back(list);
+    choices += QString("Preferiti: %1 (%2)").arg(Title(list), Counted(entries, "canale", "canali"));
+  }
+  if (lists.empty()) return OrderByFile();
+  const auto chosen = session_.dialogs.Choose("Ordinare i canali come", choices, 0);
+  if (!chosen) return;
+  if (*chosen == 0) return OrderByFile();
+  const std::size_t list = lists[static_cast<std::size_t>(*chosen) - 1];
+  Compare(OtherSide(Review::OrderOfFavourites(state, list), Title(list)));
+}
+
+QString CompareCommands::Title(std::size_t list) const {
+  return Text(Routines::FavouritesTitle(session_.document.Tables().FavouritesBlock, list));
+}
+
+void CompareCommands::OrderByFile() {
+  const std::string path = session_.AskOpen("Selezionare l'elenco",
+                                            "Elenchi e liste(*.txt *.conf *.tv *.radio *.dat)|*.txt *.conf "
+                                            "*.tv *.radio *.dat|Tutti i file (*.*)|*.*|",
+                                            FolderKind::Foreign);
+  if (path.empty()) return;
+  session_.RememberFolder(FolderKind::Foreign, path);
+  const auto bytes = Waiting([&] { return Base::ReadFile(path, LargestList); });
+  if (!bytes) {
+    session_.Message(bytes.error());
+    return;
+  }
+  const QString file = PathText(Base::FileName(path));
+  Routines::Order order = OrderIn(*bytes);
+  if (order.entries.empty()) {
+    session_.dialogs.Message(file + " non è un elenco di canali", {});
+    return;
+  }
+  const int unreadable = order.unreadable;
+  Compare(OtherSide(std::move(order), file));
+  if (unreadable > 0)
+    session_.status.ShowResult(file + ": " +
+                               Counted(unreadable, "riga non è un canale", "righe non sono canali"));
+}
+
+void CompareCommands::SalvaOrdine() {
+  const std::string path = session_.AskSave("Salvare l'ordine in", "Files di testo(*.txt)|*.txt",
+                                            FolderKind::Foreign, "Ordine non salvato");
+  if (path.empty()) return;
+  const Routines::Order order = Review::OrderOf(session_.document.Tables());
+  const std::string text = Formats::WriteOrderText(order);
+  const auto written = Base::ReplaceFile(path, Base::AsBytes(text));
+  session_.status.ShowResult(
+      written ? QString("Salvato l'ordine di %1 in %2")
+                    .arg(Counted(order.entries.size(), "canale", "canali"), PathText(Base::FileName(path)))
+              : Text(written.error().message));
 }
 
 void CompareCommands::Compare(OtherSide other) {

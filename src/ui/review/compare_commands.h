@@ -18,6 +18,11 @@ class CompareCommands {
   void Confronta();
   void ConfrontaDisco();
   void ConfrontaSDX();
+  void OrdinaCome();
+  void SalvaOrdine();
+  // The order in a file: a text, a list of another program, or a flash.
+  void OrderByFile();
+  [[nodiscard]] QString Title(std::size_t list) const;
   // Shows the window, or says that there is nothing to show.
   void Compare(OtherSide other);
 

@@ -74,9 +74,9 @@ int CompareModel::Count(Mark mark) const {
 QString CompareModel::KindText(Mark mark) const {
   switch (mark) {
     case Mark::OnlyHere:
-      return "Solo in questa lista";
+      return wording_.onlyHere;
     case Mark::OnlyThere:
-      return "Solo " + other_;
+      return wording_.onlyThere;
     case Mark::Moved:
       return "Spostato";
     case Mark::Renamed:
@@ -124,7 +124,7 @@ QVariant CompareModel::headerData(int section, Qt::Orientation orientation, int 
     case Here:
       return "In questa lista";
     case There:
-      return other_.left(1).toUpper() + other_.mid(1);
+      return wording_.there;
     case Details:
       return "Dettagli";
     default:
@@ -147,7 +147,8 @@ QString CompareModel::CellText(const Difference& difference, int column) const {
     case There:
       return ChannelText(difference, column);
     case Details:
-      return Text(Review::DetailsOf(*here_, *there_, difference));
+      return difference.byName ? "riconosciuto dal nome"
+                               : Text(Review::DetailsOf(*here_, *there_, difference));
     default:
       return {};
   }

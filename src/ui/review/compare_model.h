@@ -13,8 +13,14 @@ class CompareModel : public QAbstractTableModel {
  public:
   enum Column : int { Tick, Kind, Here, There, Details, Columns };
 
-  // "sul disco" or "nell'altra", for what is only in the other list.
-  CompareModel(QString other, QObject* parent) : QAbstractTableModel(parent), other_(std::move(other)) {}
+  // How the two sides are named.
+  struct Wording {
+    const char* onlyHere;
+    const char* onlyThere;
+    const char* there;  // the title of its column
+  };
+
+  CompareModel(const Wording& wording, QObject* parent) : QAbstractTableModel(parent), wording_(wording) {}
 
   // Shows the rows that have one of `kinds`. Both lists must live as long as they are shown. Ticks stay on the channels
   // that are different in the same way as before.
@@ -55,7 +61,7 @@ class CompareModel : public QAbstractTableModel {
   [[nodiscard]] QString CellText(const Review::Difference& difference, int column) const;
   [[nodiscard]] std::string Identity(const Review::Difference& difference) const;
 
-  QString other_;
+  Wording wording_;
   const Routines::State* here_ = nullptr;
   const Routines::OtherList* there_ = nullptr;
   Review::MarkSet kinds_;

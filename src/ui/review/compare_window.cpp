@@ -5,6 +5,7 @@
 #include "ui/kit/flow_layout.h"
 #include "ui/kit/screen_fit.h"
 #include "ui/kit/text.h"
+#include "ui/session/lines_window.h"
 
 #include <QCheckBox>
 #include <QComboBox>
@@ -49,19 +50,40 @@ QString Report(const Edit::TakeOverReport& report, Edit::NewPlace place) {
 // How each kind of other side is named.
 struct Names {
   const char* title;
-  const char* where;  // its channels are, behind "solo"
+  CompareModel::Wording kinds;
   const char* before;
-  const char* order;
+  const char* order;  // the button that takes it
 };
 
 const Names& NamesOf(const OtherSide& other) {
-  static constexpr Names Another = {"Confronto con un'altra flash", "nell'altra",
-                                    "L'altra: ", "Prendi l'ordine dell'altra"};
-  static constexpr Names Disk = {"Confronto con il file su disco", "sul disco",
-                                 "Sul disco: ", "Prendi l'ordine del disco"};
-  static constexpr Names Rows = {"Confronto con la lista a destra", "a destra", "A destra: ", ""};
-  if (other.What() == OtherSide::Kind::Rows) return Rows;
-  return other.OnDisk() ? Disk : Another;
+  constexpr const char* Here = "Solo in questa lista";
+  static constexpr std::array<Names, 4> All = {
+      {{"Confronto con un'altra flash",
+        {Here, "Solo nell'altra", "Nell'altra"},
+        "L'altra: ",
+        "Prendi l'ordine dell'altra"},
+       {"Confronto con il file su disco",
+        {Here, "Solo sul disco", "Sul disco"},
+        "Sul disco: ",
+        "Prendi l'ordine del disco"},
+       {"Confronto con la lista a destra", {Here, "Solo a destra", "A destra"}, "A destra: ", ""},
+       {"Ordina come un elenco",
+        {"Non nell'elenco", "Non trovato", "Nell'elenco"},
+        "L'elenco: ",
+        "Ordina come l'elenco"}}};
+  return All[static_cast<std::size_t>(other.What())];
+}
+
+// Whether differences of that kind can be, and whether they are shown at first.
+bool HasKind(OtherSide::Kind what, Mark mark) {
+  const bool order = mark == Mark::OnlyHere || mark == Mark::OnlyThere || mark == Mark::Moved;
+  if (what == OtherSide::Kind::Order) return order;
+  return what != OtherSide::Kind::Rows || mark != Mark::Favourites;
+}
+
+// Few lists on the right are in an order that anybody wants, and many have but a part of what a satellite brings.
+bool ShownAtFirst(OtherSide::Kind what, Mark mark) {
+  return what != OtherSide::Kind::Rows || (mark != Mark::Moved && mark != Mark::OnlyHere);
 }
 
 }  // namespace
@@ -70,12 +92,13 @@ CompareWindow::CompareWindow(Session& session, OtherSide other, QMainWindow& win
     : ToolWindow("FinestraConfronto", NamesOf(other).title, &window),
       session_(session),
       other_(std::move(other)),
-      model_(new CompareModel(NamesOf(other_).where, this)),
+      model_(new CompareModel(NamesOf(other_).kinds, this)),
       table_(new QTableView(this)),
       names_(new ElidedLabel(Qt::ElideMiddle, this)),
       rest_(new QLabel(this)),
       result_(new ElidedLabel(Qt::ElideRight, this)),
-      place_(new QComboBox(this)) {
+      place_(new QComboBox(this)),
+      numbering_(new QComboBox(this)) {
   names_->setObjectName("NomiConfronto");
   rest_->setObjectName("AltreDifferenze");
   rest_->setTextFormat(Qt::PlainText);
@@ -99,10 +122,10 @@ CompareWindow::CompareWindow(Session& session, OtherSide other, QMainWindow& win
   connect(model_, &CompareModel::TicksChanged, this, &CompareWindow::ShowTicks);
   Refresh();
   if (model_->rowCount() > 0) table_->selectRow(0);
-  Tell(
-      "Un clic porta al canale; la barra spaziatrice segna le righe selezionate. Si applica solo ciò che le "
-      "caselle in "
-      "alto mostrano.");
+  Tell(IsOrder() ? "Un clic porta al canale. I canali non nell'elenco vanno dopo gli altri, nel loro ordine."
+                 : "Un clic porta al canale; la barra spaziatrice segna le righe selezionate. Si applica "
+                   "solo ciò che "
+                   "le caselle in alto mostrano.");
   table_->setFocus();
 }
 
@@ -111,10 +134,8 @@ QLayout* CompareWindow::KindBoxes() {
   for (std::size_t kind = 0; kind < kinds_.size(); ++kind) {
     kinds_[kind] = new QCheckBox(this);
     kinds_[kind]->setObjectName(QString("Mostra_%1").arg(kind));
-    // Few lists are in an order that anybody wants, and many have but a part of what a satellite brings.
-    const auto mark = static_cast<Mark>(kind);
-    kinds_[kind]->setChecked(!IsRows() || (mark != Mark::Moved && mark != Mark::OnlyHere));
-    kinds_[kind]->setVisible(!IsRows() || kind != static_cast<std::size_t>(Mark::Favourites));
+    kinds_[kind]->setChecked(ShownAtFirst(other_.What(), static_cast<Mark>(kind)));
+    kinds_[kind]->setVisible(HasKind(other_.What(), static_cast<Mark>(kind)));
     connect(kinds_[kind], &QCheckBox::toggled, this, [this] { Fill(model_->Found()); });
     row->addWidget(kinds_[kind]);
   }
@@ -152,16 +173,35 @@ void CompareWindow::SetUpTable() {
 QLayout* CompareWindow::Buttons() {
   auto* left = new FlowLayout;
   goTo_ = AddButton(*left, "VaiAlDiverso", "Vai al canale", [this] { GoTo(table_->currentIndex()); });
-  AddButton(*left, "SegnaTutti", "Segna tutti", [this] { TickAll(true); });
-  AddButton(*left, "TogliSegni", "Togli i segni", [this] { TickAll(false); });
+  auto* all = AddButton(*left, "SegnaTutti", "Segna tutti", [this] { TickAll(true); });
+  auto* none = AddButton(*left, "TogliSegni", "Togli i segni", [this] { TickAll(false); });
   apply_ = AddButton(*left, "ApplicaSegnati", "Applica i segnati", [this] { Apply(); });
+  AddChoice(*left, place_, "PostoNuovi", "Posto dei canali nuovi",
+            {"Nuovi in fondo", "Nuovi nei posti vuoti", "Nuovi dietro il loro bouquet"});
+  AddChoice(*left, numbering_, "Numerazione", "Numeri che prendono i canali",
+            {"Continua dopo l'ultimo", "Tieni i numeri dell'elenco"});
   order_ = AddButton(*left, "PrendiOrdine", NamesOf(other_).order, [this] { TakeOrder(); });
-  order_->setVisible(!IsRows());
-  place_->setObjectName("PostoNuovi");
-  place_->setAccessibleDescription("Posto dei canali nuovi");
-  place_->addItems({"Nuovi in fondo", "Nuovi nei posti vuoti", "Nuovi dietro il loro bouquet"});
-  left->addWidget(place_);
+  missing_ = AddButton(*left, "NonTrovati", "Elenco dei non trovati", [this] { ListMissing(); });
+  // An order is taken as a whole.
+  const bool order = IsOrder();
+  for (QWidget* control : std::initializer_list<QWidget*>{all, none, apply_, place_})
+    control->setVisible(!order);
+  for (QWidget* control : std::initializer_list<QWidget*>{numbering_, missing_}) control->setVisible(order);
+  order_->setVisible(other_.What() != OtherSide::Kind::Rows);
+  table_->setColumnHidden(CompareModel::Tick, order);
+  connect(numbering_, &QComboBox::currentIndexChanged, this, [this](int chosen) {
+    other_.Number(static_cast<Review::Numbering>(chosen));
+    Refresh();
+  });
   return WithClose(left, "ChiudiConfronto");
+}
+
+void CompareWindow::AddChoice(QLayout& row, QComboBox* box, const char* name, const char* what,
+                              const QStringList& choices) {
+  box->setObjectName(name);
+  box->setAccessibleDescription(what);
+  box->addItems(choices);
+  row.addWidget(box);
 }
 
 void CompareWindow::Refresh() {
@@ -203,11 +243,13 @@ void CompareWindow::ShowCounts() {
     kinds_[kind]->setEnabled(count > 0);
   }
   const bool nothing = model_->Found().Nothing();
-  rest_->setText(nothing ? "Nessuna differenza"
-                         : Text(Review::OtherDifferences(model_->Found(),
-                                                         std::string("solo ") + NamesOf(other_).where)));
+  rest_->setText(
+      nothing ? "Nessuna differenza"
+              : Text(Review::OtherDifferences(
+                    model_->Found(), QString(NamesOf(other_).kinds.onlyThere).toLower().toStdString())));
   rest_->setVisible(!rest_->text().isEmpty());
   order_->setEnabled(model_->Count(Mark::Moved) > 0 || model_->Found().shifted > 0);
+  missing_->setEnabled(model_->Count(Mark::OnlyThere) > 0);
 }
 
 void CompareWindow::ShowTicks() {
@@ -270,6 +312,17 @@ void CompareWindow::TakeOrder() {
       Text(label) + ": " + Counted(moved, "canale con un altro numero", "canali con un altro numero");
   session_.status.ShowResult(text);
   Tell(text);
+}
+
+void CompareWindow::ListMissing() {
+  QString lines;
+  for (const Review::Difference& difference : model_->Found().differences) {
+    if (!difference.Has(Mark::OnlyThere)) continue;
+    const auto& record = other_.List().At(difference.there).record;
+    lines +=
+        QString("%1;%2\n").arg(CodePageText(record.Name())).arg(Get(record, Routines::ChannelField::Sid));
+  }
+  (new LinesWindow("ElencoNonTrovati", "Voci dell'elenco non trovate", lines, session_, this))->BringUp();
 }
 
 bool CompareWindow::eventFilter(QObject* watched, QEvent* event) {

@@ -29,6 +29,8 @@ class CompareWindow : public ToolWindow {
   QLayout* KindBoxes();
   void SetUpTable();
   QLayout* Buttons();
+  static void AddChoice(QLayout& row, QComboBox* box, const char* name, const char* what,
+                        const QStringList& choices);
 
   // Compares anew; `Fill` shows the same differences by other boxes.
   void Refresh();
@@ -37,7 +39,7 @@ class CompareWindow : public ToolWindow {
   void ShowTicks();
   void Tell(const QString& text);
 
-  [[nodiscard]] bool IsRows() const { return other_.What() == OtherSide::Kind::Rows; }
+  [[nodiscard]] bool IsOrder() const { return other_.What() == OtherSide::Kind::Order; }
   [[nodiscard]] Edit::NewPlace Place() const;
   [[nodiscard]] std::vector<int> SelectedRows() const;
   void TickAll(bool on);
@@ -45,6 +47,7 @@ class CompareWindow : public ToolWindow {
   void GoTo(const QModelIndex& index);
   void Apply();
   void TakeOrder();
+  void ListMissing();
 
   Session& session_;
   OtherSide other_;
@@ -57,7 +60,9 @@ class CompareWindow : public ToolWindow {
   QPushButton* goTo_ = nullptr;
   QPushButton* apply_ = nullptr;
   QPushButton* order_ = nullptr;
-  QComboBox* place_;  // of channels that this list does not have yet
+  QPushButton* missing_ = nullptr;
+  QComboBox* place_;      // of channels that this list does not have yet
+  QComboBox* numbering_;  // of those that an order has
 };
 
 }  // namespace Ui

@@ -56,7 +56,12 @@ Review::Comparison OtherSide::Compare(const Session& session) {
   if (OnDisk()) list_.symbolRates = mine.SymbolRateTable;
   if (kind_ == Kind::Rows) {
     list_ = Formats::OtherListOf(session.sdx, mine.SymbolRateTable);
-    rowsName_ = session.sdxName;
+    name_ = session.sdxName;
+  }
+  if (kind_ == Kind::Order) {
+    Review::OrderMatch match = Review::MatchOrder(mine, order_, numbering_);
+    list_ = std::move(match.list);
+    return std::move(match.found);
   }
   Review::Comparison comparison = Review::Compare(mine, list_);
   const Routines::Settings settings = session.settings.Chosen();
@@ -67,7 +72,8 @@ Review::Comparison OtherSide::Compare(const Session& session) {
 }
 
 QString OtherSide::Title() const {
-  if (kind_ == Kind::Rows) return rowsName_ + ", " + Counted(list_.offered, "riga", "righe");
+  if (kind_ == Kind::Rows) return name_ + ", " + Counted(list_.offered, "riga", "righe");
+  if (kind_ == Kind::Order) return name_ + ", " + Counted(order_.entries.size(), "voce", "voci");
   const QString all = channelsInImage_ > channelsRead_ ? QString(" di %1").arg(channelsInImage_) : QString();
   return PathText(Base::FileName(path_)) + (all.isEmpty() ? ", " : ", letti ") +
          QString("%1%2 canali").arg(channelsRead_).arg(all);

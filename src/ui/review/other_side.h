@@ -1,7 +1,7 @@
-// The other side of a comparison: an image that is read into memory and never written, or the list on the right.
+// The other side of a comparison: an image that is read into memory and never written, the list on the right, or an order.
 #pragma once
 
-#include "review/compare.h"
+#include "review/order_match.h"
 #include "ui/session/session.h"
 
 #include <QDateTime>
@@ -11,12 +11,16 @@ namespace Ui {
 class OtherSide {
  public:
   // Another flash is read as it would be opened; the file on the disk is the one that the list is written to, or came
-  // from; rows are those of the SDX table.
-  enum class Kind { Another, OnDisk, Rows };
+  // from; rows are those of the SDX table; an order says nothing but that.
+  enum class Kind { Another, OnDisk, Rows, Order };
 
   // `symbolRates` is the table that another flash is read by; the file on the disk has the list's own.
   explicit OtherSide(Kind kind, std::string path = {}, std::string symbolRates = {})
       : kind_(kind), path_(std::move(path)), symbolRates_(std::move(symbolRates)) {}
+
+  // `name` is that of its file or list.
+  OtherSide(Routines::Order order, QString name)
+      : kind_(Kind::Order), name_(std::move(name)), order_(std::move(order)) {}
 
   // Where a list is on the disk; empty where it is nowhere.
   static std::string PathOnDisk(const Routines::State& state) {
@@ -32,6 +36,8 @@ class OtherSide {
 
   [[nodiscard]] const Routines::OtherList& List() const { return list_; }
   [[nodiscard]] Kind What() const { return kind_; }
+  // Of an order, from the next comparison on.
+  void Number(Review::Numbering numbering) { numbering_ = numbering; }
   [[nodiscard]] bool OnDisk() const { return kind_ == Kind::OnDisk; }
   // "demo.dat, letti 999 di 3700 canali"
   [[nodiscard]] QString Title() const;
@@ -46,7 +52,9 @@ class OtherSide {
   QDateTime written_;
   int channelsRead_ = 0;
   int channelsInImage_ = 0;
-  QString rowsName_;
+  QString name_;
+  Routines::Order order_;
+  Review::Numbering numbering_ = Review::Numbering::Together;
   Routines::OtherList list_;
 };
 

@@ -137,6 +137,11 @@ inline constexpr Command Commands[] = {
     {"ConfrontaSDX", "Confronta con la lista a destra", Menu::Compare, "", "",
      "Confronta la lista con quella accanto, da qualunque file venga",
      Gate(Enabled::WhileSdxShown, Need::List)},
+    {"OrdinaCome", "Ordina come un elenco…", Menu::Compare, "", "",
+     "Mette i canali nell'ordine di un elenco, di una lista di preferiti o di un'altra flash", Need::List,
+     Group},
+    {"SalvaOrdine", "Salva l'ordine…", Menu::Compare, "", "",
+     "Scrive l'ordine dei canali in un elenco, per riusarlo", Need::List},
 
     {"ScaricaInternet", "Scarica da Internet", Menu::Sdx, "internet", "",
      "Scarica una lista SatcoDX da un indirizzo", Need::ChannelsForDownload},

@@ -95,4 +95,23 @@ TEST_F(Comparing, TicksStayWhileTheListChangesAndTheOrderIsTakenLast) {
   EXPECT_EQ(Contents(flash_), SmallFlash()) << "the other one is only read";
 }
 
+TEST_F(Comparing, AnOrderSavedOnceIsTakenAgain) {
+  const Routines::State original = List();
+  const std::string path = folder_.Path("ordine.txt");
+  ChooseFile("SalvaOrdine", "Salvare l'ordine in", path);
+  ChangeList();
+  driver_->ExpectDialog("Trovalis", [](QDialog& box) { box.accept(); });  // from a file
+  driver_->ExpectFile("Selezionare l'elenco", PathText(path));
+  Compare("OrdinaCome");
+  EXPECT_TRUE(table_->isColumnHidden(CompareModel::Tick));
+  EXPECT_EQ(Rows().filter("Non trovato").size(), 2) << "those deleted";
+  Click("NonTrovati");
+  EXPECT_NE(window_->findChild<QDialog*>("ElencoNonTrovati"), nullptr);
+  found_->findChild<QComboBox*>("Numerazione")->setCurrentIndex(1);
+  Click("PrendiOrdine");
+  EXPECT_EQ(Rows().filter("Spostato").size(), 0);
+  for (const int slot : {1, 4, 7, 11}) EXPECT_TRUE(List().Channel(slot) == original.Channel(slot)) << slot;
+  EXPECT_TRUE(List().Channel(2).Empty());
+}
+
 }  // namespace Ui
