@@ -1,10 +1,13 @@
 #include "ui/edit/preview_model.h"
 
 #include "base/text.h"
+#include "ui/kit/screen_fit.h"
 #include "ui/kit/text.h"
 #include "ui/list/row_colours.h"
 
 #include <QBrush>
+#include <QHeaderView>
+#include <QTableView>
 
 #include <algorithm>
 
@@ -100,6 +103,19 @@ Qt::ItemFlags PreviewModel::flags(const QModelIndex& index) const {
   const bool done = lines_[static_cast<std::size_t>(index.row())].fault.isEmpty();
   if (ticks_ && index.column() == 0 && done) flags |= Qt::ItemIsUserCheckable;
   return flags;
+}
+
+void ShowPreview(QTableView& table, PreviewModel& preview, const std::vector<int>& letters) {
+  table.setModel(&preview);
+  table.setSelectionBehavior(QAbstractItemView::SelectRows);
+  table.setTabKeyNavigation(false);
+  table.setWordWrap(false);
+  table.verticalHeader()->hide();
+  table.verticalHeader()->setDefaultSectionSize(table.fontMetrics().height() + 6);
+  table.horizontalHeader()->setStretchLastSection(true);
+  for (std::size_t column = 0; column < letters.size(); ++column)
+    table.setColumnWidth(static_cast<int>(column), Letters(table, letters[column]));
+  KeepLines(table, 6);
 }
 
 }  // namespace Ui

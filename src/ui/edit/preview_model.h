@@ -6,6 +6,8 @@
 
 #include <vector>
 
+class QTableView;
+
 namespace Ui {
 
 struct PreviewLine {
@@ -47,5 +49,8 @@ class PreviewModel : public QAbstractTableModel {
   std::vector<PreviewLine> lines_;
   std::vector<int> leftOut_;  // slots, rising
 };
+
+// Shows a preview in a table with columns as wide as that many letters; the last one takes the rest.
+void ShowPreview(QTableView& table, PreviewModel& preview, const std::vector<int>& letters);
 
 }  // namespace Ui

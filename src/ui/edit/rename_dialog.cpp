@@ -9,7 +9,6 @@
 #include <QComboBox>
 #include <QDialogButtonBox>
 #include <QHBoxLayout>
-#include <QHeaderView>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
@@ -126,7 +125,7 @@ RenameDialog::RenameDialog(const Session& session, Edit::SourceName source, QWid
       scope_(new ScopeChoice(session, this)),
       lines_(new QVBoxLayout),
       kept_(new QComboBox(this)),
-      names_(new PreviewModel({"Nome", "Nuovo nome", "Byte"}, true, this)),
+      names_(new PreviewModel({"Nome", "Nuovo nome", "Byte", "Perché no"}, true, this)),
       table_(new QTableView(this)),
       outcome_(new QLabel(this)) {
   setObjectName("CambiaNomi");
@@ -139,21 +138,13 @@ RenameDialog::RenameDialog(const Session& session, Edit::SourceName source, QWid
   ShowKept();
   AddRule({});
   ShowTips(*this);
-  ResizeOnScreen(*this, {640, 620});
+  ResizeOnScreen(*this, {720, 620});
 }
 
 void RenameDialog::Build() {
   table_->setObjectName("NomiNuovi");
   table_->setAccessibleName("Nomi nuovi");
-  table_->setModel(names_);
-  table_->setSelectionBehavior(QAbstractItemView::SelectRows);
-  table_->setTabKeyNavigation(false);
-  table_->verticalHeader()->hide();
-  table_->horizontalHeader()->setStretchLastSection(true);
-  const int letters[] = {9, 22, 26};
-  for (int column = 0; column < 3; ++column)
-    table_->setColumnWidth(column, Letters(*table_, letters[column]));
-  KeepLines(*table_, 6);
+  ShowPreview(*table_, *names_, {11, 20, 24, 10});
   auto* another = NamedButton("AggiungiRegola", "Aggiungi una regola", this);
   connect(another, &QPushButton::clicked, this, [this] { AddRule({}); });
   auto* column = new QVBoxLayout(this);
@@ -238,7 +229,8 @@ void RenameDialog::ShowNames() {
   std::vector<PreviewLine> lines;
   for (const Edit::NewName& name : planned_) {
     const QString room = QString("%1 di %2").arg(name.bytes).arg(Routines::ChannelRecord::NameSize);
-    lines.push_back({name.slot, {Text(name.before), Text(name.after), room}, Text(name.fault)});
+    lines.push_back(
+        {name.slot, {Text(name.before), Text(name.after), room, Text(name.fault)}, Text(name.fault)});
   }
   names_->Show(std::move(lines));
 }

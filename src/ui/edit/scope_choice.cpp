@@ -11,22 +11,25 @@ ScopeChoice::ScopeChoice(const Session& session, QWidget* parent) : QWidget(pare
   setObjectName("Ambito");
   auto* line = new FlowLayout(this);
   line->setContentsMargins(0, 0, 0, 0);
+  const Routines::State& state = session.document.Tables();
   const FilterBar& filter = session.view.Filter();
   const Edit::Slots selected = session.view.ListGrid().Selected();
-  Offer("AmbitoSelezione", "Le righe selezionate", ", nelle righe selezionate", selected);
+  Offer(state, "AmbitoSelezione", "Le righe selezionate", ", nelle righe selezionate", selected);
   if (filter.Asks() && !filter.ForTransponders())
-    Offer("AmbitoTrovati", "I trovati", ", fra i trovati", filter.Matches());
-  Offer("AmbitoLista", "Tutta la lista", "",
-        Edit::SlotRun(1, Routines::LastOccupied(session.document.Tables())));
+    Offer(state, "AmbitoTrovati", "I trovati", ", fra i trovati", filter.Matches());
+  Offer(state, "AmbitoLista", "Tutta la lista", "", Edit::SlotRun(1, Routines::LastOccupied(state)));
   const auto several =
       std::find_if(scopes_.begin(), scopes_.end(), [](const Scope& scope) { return scope.slots.size() > 1; });
   (several == scopes_.end() ? scopes_.back() : *several).choice->setChecked(true);
 }
 
-void ScopeChoice::Offer(const char* name, const QString& caption, const QString& where, Edit::Slots slots) {
-  auto* choice = new QRadioButton(QString("%1 (%2)").arg(caption).arg(slots.size()), this);
+void ScopeChoice::Offer(const Routines::State& state, const char* name, const QString& caption,
+                        const QString& where, Edit::Slots slots) {
+  const auto channels =
+      std::count_if(slots.begin(), slots.end(), [&](int slot) { return !state.Channel(slot).Empty(); });
+  auto* choice = new QRadioButton(QString("%1 (%2)").arg(caption).arg(channels), this);
   choice->setObjectName(name);
-  choice->setEnabled(!slots.empty());
+  choice->setEnabled(channels > 0);
   connect(choice, &QRadioButton::toggled, this, [this](bool checked) {
     if (checked) Q_EMIT Changed();
   });

@@ -15,7 +15,7 @@ class ScopeChoice : public QWidget {
   Q_OBJECT
 
  public:
-  // Offers what there is; the smallest set of more than one row is chosen at first.
+  // Offers what there is, with the number of its channels; the smallest set of more than one row is chosen at first.
   ScopeChoice(const Session& session, QWidget* parent);
 
   // The chosen rows, rising; empty slots may be among them.
@@ -33,7 +33,8 @@ class ScopeChoice : public QWidget {
     QRadioButton* choice;
   };
 
-  void Offer(const char* name, const QString& caption, const QString& where, Edit::Slots slots);
+  void Offer(const Routines::State& state, const char* name, const QString& caption, const QString& where,
+             Edit::Slots slots);
   [[nodiscard]] const Scope& Current() const;
 
   std::vector<Scope> scopes_;

@@ -9,7 +9,6 @@
 #include <QDialogButtonBox>
 #include <QFormLayout>
 #include <QHBoxLayout>
-#include <QHeaderView>
 #include <QLabel>
 #include <QPushButton>
 #include <QRadioButton>
@@ -91,12 +90,7 @@ void SortDialog::Build(int selected) {
   auto* table = new QTableView(this);
   table->setObjectName("NuovoOrdine");
   table->setAccessibleName("La lista come diventa");
-  table->setModel(preview_);
-  table->setTabKeyNavigation(false);
-  table->verticalHeader()->hide();
-  table->horizontalHeader()->setStretchLastSection(true);
-  table->setColumnWidth(1, Letters(*table, 26));
-  KeepLines(*table, 6);
+  ShowPreview(*table, *preview_, {8, 26});
   form->addRow(table);
   form->addRow(outcome_);
   auto* buttons = new QDialogButtonBox(this);
