@@ -1,8 +1,6 @@
 #include "base/file.h"
 
-#include "support/test_folder.h"
-
-#include <gtest/gtest.h>
+#include "core_test.h"
 
 #include <cerrno>
 #include <sys/stat.h>

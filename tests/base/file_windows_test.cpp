@@ -1,9 +1,7 @@
 // The same promises as on Linux, where Windows keeps them in another way.
 #include "base/file.h"
 #include "base/system_file.h"
-#include "support/test_folder.h"
-
-#include <gtest/gtest.h>
+#include "core_test.h"
 
 #include <cerrno>
 #include <filesystem>

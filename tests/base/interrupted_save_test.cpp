@@ -1,11 +1,7 @@
 // Saves that are killed, whose system calls fail one after the other, and that are not allowed.
 #include "base/file.h"
-#include "image_builder.h"
+#include "core_test.h"
 #include "model/flash_file.h"
-#include "model/flash_image.h"
-#include "support/test_folder.h"
-
-#include <gtest/gtest.h>
 
 #include <array>
 #include <cerrno>

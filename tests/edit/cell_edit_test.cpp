@@ -1,13 +1,8 @@
 // What may be typed into a cell, and which bytes of its record it changes.
 #include "edit/cell_edit.h"
 
-#include "image_builder.h"
+#include "core_test.h"
 #include "model/cells.h"
-#include "model/symbol_rates.h"
-
-#include <gtest/gtest.h>
-
-#include <memory>
 
 namespace Edit {
 namespace {
@@ -21,8 +16,7 @@ class CellEdit : public testing::Test {
     Junk junk(7);
     state_.ChannelCount = 20;
     state_.TransponderCount = 10;
-    state_.SymbolRateTable = EmptySymbolRateTable();
-    PlaceUsualRates(state_.SymbolRateTable, Sr22000::Come2);
+    state_.SymbolRateTable = Tests::UsualRates();
     for (Base::Byte& byte : Channel(5).bytes) byte = static_cast<Base::Byte>(1 + junk.Below(255));
     std::copy_n("Uno  \0\0\0\0\0\0\0\0\0\0\0", 16, Channel(5).bytes.begin());
     Set(Channel(5), ChannelField::Transponder, 3);

@@ -1,17 +1,12 @@
 // Editing the list: every command that moves channels carries the favourites along, and every step can be undone.
+#include "core_test.h"
 #include "edit/changed_rows.h"
 #include "edit/clipboard.h"
 #include "edit/history.h"
 #include "edit/move.h"
 #include "edit/regroup.h"
-#include "image_builder.h"
-#include "model/favourites.h"
-#include "model/symbol_rates.h"
-
-#include <gtest/gtest.h>
 
 #include <functional>
-#include <memory>
 
 namespace Edit {
 namespace {
@@ -112,28 +107,21 @@ void RandomCommand(Junk& junk, State& state, Clipboard& clipboard) {
 
 // The sort as it is described: a plain exchange sort over the table's slots, then the gaps.
 void PlainSort(State& state, int start) {
-  int last = LastOccupied(state);
-  const auto takesPart = [&](int slot) { return !Channel(state, slot).Empty(); };
-  for (int i = start; i < last; ++i) {
-    for (int j = i + 1; takesPart(i) && j <= last; ++j) {
-      if (!takesPart(j)) continue;
-      const auto a = Get(Channel(state, i), ChannelField::Transponder);
-      const auto b = Get(Channel(state, j), ChannelField::Transponder);
-      if (a == 0 || a == 255 || b == 0 || b == 255) continue;
-      const auto codeA = state.Transponder(a).BouquetCode();
-      const auto codeB = state.Transponder(b).BouquetCode();
-      if (codeB < codeA || (codeA == codeB && a > b)) std::swap(Channel(state, i), Channel(state, j));
-    }
-  }
-  for (int i = start; i <= last;) {
-    const auto& bytes = Channel(state, i).bytes;
-    if (bytes[0] != 0 && !std::all_of(bytes.begin(), bytes.begin() + 5, [](int c) { return c == ' '; })) {
-      ++i;
-      continue;
-    }
-    for (int j = i; j < last; ++j) Channel(state, j) = Channel(state, j + 1);
-    Channel(state, last--) = {};
-  }
+  const int last = LastOccupied(state);
+  const auto key = [&](int slot) {
+    const auto number = Get(Channel(state, slot), ChannelField::Transponder);
+    const bool none = Channel(state, slot).Empty() || number == 0 || number == 255;
+    return none ? std::pair(std::string(), 0U)
+                : std::pair(std::string(state.Transponder(number).BouquetCode()), number);
+  };
+  for (int i = start; i < last; ++i)
+    for (int j = i + 1; j <= last; ++j)
+      if (key(j).second != 0 && key(j) < key(i)) std::swap(Channel(state, i), Channel(state, j));
+  const auto end = state.ChannelTable.begin() + last + 1;
+  const auto isGap = [](const ChannelRecord& c) {
+    return c.Empty() || Base::AsText(c.bytes).starts_with("     ");
+  };
+  std::fill(std::remove_if(state.ChannelTable.begin() + start, end, isGap), end, ChannelRecord{});
 }
 
 }  // namespace

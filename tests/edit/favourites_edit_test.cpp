@@ -1,11 +1,8 @@
 // Favourites lists changed by hand: each stays dense, ends at its first 0 and keeps every byte that is not its own.
 #include "edit/favourites_edit.h"
 
-#include "image_builder.h"
+#include "core_test.h"
 
-#include <gtest/gtest.h>
-
-#include <memory>
 #include <numeric>
 
 namespace Edit {

@@ -1,12 +1,7 @@
 #include "edit/recovery.h"
 
 #include "base/checksum.h"
-#include "image_builder.h"
-#include "model/flash_image.h"
-
-#include <gtest/gtest.h>
-
-#include <memory>
+#include "core_test.h"
 
 namespace Edit {
 namespace {

@@ -1,10 +1,6 @@
 // Lists for spreadsheets.
+#include "core_test.h"
 #include "formats/csv_format.h"
-#include "image_builder.h"
-
-#include <gtest/gtest.h>
-
-#include <memory>
 
 namespace Formats {
 

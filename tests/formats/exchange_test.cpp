@@ -1,16 +1,11 @@
 #include "base/columns.h"
 #include "base/text.h"
+#include "core_test.h"
 #include "formats/fls_format.h"
 #include "formats/list_import.h"
 #include "formats/text_format.h"
-#include "image_builder.h"
-#include "model/favourites.h"
-#include "model/flash_image.h"
-#include "model/symbol_rates.h"
 
-#include <gtest/gtest.h>
-
-#include <memory>
+#include <cstring>
 
 namespace Formats {
 namespace {
@@ -22,9 +17,8 @@ std::unique_ptr<State> SmallList() {
   auto state = std::make_unique<State>();
   state->ChannelCount = state->MaxChannels = 5;
   state->TransponderCount = 3;
-  state->SymbolRateTable = EmptySymbolRateTable();
+  state->SymbolRateTable = Tests::UsualRates();
   SetSymbolRate(state->SymbolRateTable, 5, "5632");
-  PlaceUsualRates(state->SymbolRateTable, Sr22000::Come2);
   state->Channel(1) = MakeChannel("Citt\xE0 \r1", 7, 300, 512, 65535, 0xA4);
   state->Channel(3) = MakeChannel("Mute|d", 12, 65535, 1, 2, 0xB0);
   state->Channel(4).bytes[3] = 'x';
@@ -175,49 +169,41 @@ TEST(ListImport, LeavesWhatItsFileFilledAndShowsAllOfIt) {
   EXPECT_EQ(state->ChannelCount, 5);
 }
 
-TEST(FlsFormat, IsMadeOfThirtyByteRecordsAndReadsBackWhole) {
-  const auto state = SmallList();
-  state->FavouritesBlock.resize(2291);
-  const Base::Bytes file = WriteFls(*state);
-  ASSERT_EQ(file.size(), 30U * (1 + 5 + 1 + 3 + 1 + 77));
-  const auto record = [&](std::size_t number) {
-    return std::string(Base::AsText(file).substr(30 * (number - 1), 30));
-  };
-  EXPECT_EQ(record(1), "[CANALI] 0005                 ");
-  EXPECT_EQ(record(7), "[TRANSPONDERS] 3              ");
-  EXPECT_EQ(record(8).substr(12), std::string(18, ' '));
-  EXPECT_EQ(record(11), "[PREFERITI] 2291              ");
-  auto read = std::make_unique<State>();
-  EXPECT_TRUE(ReadFls(*read, file, {}).whole);
-  EXPECT_EQ(read->ChannelTable, state->ChannelTable);
-  EXPECT_EQ(read->Transponder(3).record, state->Transponder(3).record);
-  EXPECT_EQ(read->FavouritesBlock, state->FavouritesBlock);
-}
-
-TEST(FlsFormat, EveryCutAndEveryWrongCountEndsCleanly) {
+TEST(FlsFormat, IsMadeOfThirtyByteRecordsAndEveryCutEndsCleanly) {
   const auto list = SmallList();
+  list->FavouritesBlock.resize(2291);
   const Base::Bytes file = WriteFls(*list);
-  for (std::size_t size = 0; size < 13 * 30; ++size) {
-    State state;
+  ASSERT_EQ(file.size(), 30U * (1 + 5 + 1 + 3 + 1 + 77));
+  for (const auto& [number, text] :
+       {std::pair{1, "[CANALI] 0005"}, {7, "[TRANSPONDERS] 3"}, {11, "[PREFERITI] 2291"}})
+    EXPECT_EQ(Base::AsText(file).substr(30U * static_cast<std::size_t>(number - 1), 30),
+              text + std::string(30 - std::strlen(text), ' '));
+  State state;
+  for (std::size_t size = 0; size <= file.size(); size = size == 13 * 30 ? file.size() : size + 1) {
+    state = {};
     const ImportReport report = ReadFls(state, Base::ByteView(file).first(size), {});
     EXPECT_EQ(report.changed, size >= 13) << size;
     EXPECT_EQ(static_cast<bool>(report.whole), size >= 10 * 30 + 12) << size;
     EXPECT_EQ(report.listRead, size >= 6 * 30 + 16) << size;
   }
+  EXPECT_EQ(state.ChannelTable, list->ChannelTable);
+  EXPECT_EQ(state.Transponder(3).record, list->Transponder(3).record);
+  EXPECT_EQ(state.FavouritesBlock, list->FavouritesBlock);
+}
+
+TEST(FlsFormat, WrongHeadersAndCounts) {
+  State state;
   for (const char* header :
        {"[CANALI] 0000", "[CANALI]  ", "[CANALI]00005", "[canali] 0005", "[CANALI] -1"}) {
-    State state;
-    std::string text(header);
-    text.resize(30, ' ');
-    const ImportReport report = ReadFls(state, Base::AsBytes(text), {});
-    ASSERT_FALSE(report.whole);
+    std::string record(header);
+    record.resize(30, ' ');
+    const ImportReport report = ReadFls(state, Base::AsBytes(record), {});
+    ASSERT_FALSE(report.whole || report.changed) << header;
     EXPECT_EQ(report.whole.error().message, "Formato input sconosciuto");
-    EXPECT_FALSE(report.changed) << header;
   }
-  std::string greedy = "[CANALI] 9999" + std::string(17, ' ') + std::string(30 * 9999, 'c') +
-                       "[TRANSPONDERS] 300" + std::string(12, ' ') + std::string(30 * 300, 't') +
-                       "[PREFERITI] 99999" + std::string(13, ' ') + "x";
-  State state;
+  const std::string greedy = "[CANALI] 9999" + std::string(17, ' ') + std::string(30 * 9999, 'c') +
+                             "[TRANSPONDERS] 300" + std::string(12, ' ') + std::string(30 * 300, 't') +
+                             "[PREFERITI] 99999" + std::string(13, ' ') + "x";
   EXPECT_TRUE(ReadFls(state, Base::AsBytes(greedy), {}).whole);
   EXPECT_EQ(state.TransponderCount, 254);
   Base::Bytes block(SectorSize, 0);

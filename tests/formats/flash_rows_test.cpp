@@ -1,12 +1,8 @@
 #include "formats/flash_rows.h"
 
+#include "core_test.h"
+#include "formats/row_text.h"
 #include "formats/sdx_import.h"
-#include "image_builder.h"
-#include "model/symbol_rates.h"
-
-#include <gtest/gtest.h>
-
-#include <memory>
 
 namespace Formats {
 namespace {
@@ -15,8 +11,7 @@ using namespace Routines;
 using namespace Samples;
 
 std::string Rates() {
-  std::string table = EmptySymbolRateTable();
-  PlaceUsualRates(table, Sr22000::Come2);
+  std::string table = Tests::UsualRates();
   SetSymbolRate(table, 9, "27500");
   SetSymbolRate(table, 4, "5632");
   return table;
@@ -53,11 +48,10 @@ TEST(FlashRows, CarriedOverTheyAreTheChannelsOfTheirFlash) {
   const SdxTable table = ReadFlashRows(builder.Image(), Rates(), {});
   EXPECT_EQ(table.lines, 5) << "the second copy does not count";
   EXPECT_EQ(table.dropped.Text(), "senza transponder 2");
-  ASSERT_EQ(table.rows.size(), 3U);
-  EXPECT_EQ(table.rows[0].frequency, "011766");
-  EXPECT_EQ(table.rows[0].symbolRate, "27500");
-  EXPECT_EQ(table.rows[0].fec, "3");
-  EXPECT_EQ(table.rows[1].type, 'R');
+  ASSERT_EQ(Texts(table.rows), (std::vector<std::string>{
+                                   "Uno              TB 011766V+ 27500 3 512 650 512 8001 1 01200 166",
+                                   R"(Sedici caratteri RA 012092H+ \\\\\  65535 700 65535 65535 318 05400 4)",
+                                   R"(Quattro SZ 010719H- 5632\ 1 0 65535 0 0 65535 60000 0)"}));
 
   auto list = std::make_unique<State>();
   list->SymbolRateTable = Rates();

@@ -2,6 +2,7 @@
 
 #include "formats/foreign_fields.h"
 #include "formats/foreign_text.h"
+#include "formats/row_text.h"
 
 #include <gtest/gtest.h>
 
@@ -15,16 +16,6 @@ SdxRow FirstRow(std::string_view text, ForeignLayout* guessed = nullptr) {
   const SdxTable list = ReadForeign(text, layout, 2);
   EXPECT_FALSE(list.rows.empty()) << text << list.dropped.Text();
   return list.rows.empty() ? SdxRow{} : list.rows[0];
-}
-
-std::string Summary(const SdxRow& row) {
-  std::string summary = std::string(row.name).append("|").append(row.frequency);
-  summary.append(row.horizontal ? "H" : "V").append(row.symbolRate);
-  for (const std::string_view field :
-       {std::string_view(row.fec), std::string_view(row.vpid), std::string_view(row.apid),
-        std::string_view(row.sid), std::string_view(row.tid)})
-    summary.append("|").append(field);
-  return summary + "|" + row.type;
 }
 
 std::vector<std::string> Fields(std::string_view line, Separator separator) {
@@ -55,25 +46,25 @@ TEST(ForeignText, AnyEncodingBecomesLinesOfTheCodePage) {
 
 TEST(ForeignLayout, IsGuessedFromTheFile) {
   ForeignLayout layout;
-  EXPECT_EQ(Summary(FirstRow("Nome;Frequenza (MHz);Pol;SR;FEC;V-PID;APID;SID;TSID;Tipo\n"
+  EXPECT_EQ(RowText(FirstRow("Nome;Frequenza (MHz);Pol;SR;FEC;V-PID;APID;SID;TSID;Tipo\n"
                              "\"Uno; \"\"Due\"\"\";11,766;V;27500;3/4;0200;028A;1F41;4B0;TV\n"
                              "Tre;11.766;H;27500;3/4;A1;0;11;12;Radio\n",
                              &layout)),
-            "Uno; \"Due\"|011766V27500|3|512|650|8001|01200|T");
+            "Uno; \"Due\" TC 011766V+ 27500 3 512 650 65535 8001 0 01200 4");
   EXPECT_TRUE(layout.header);
   EXPECT_TRUE(layout.columns[5].hexadecimal);
   EXPECT_FALSE(layout.columns[1].hexadecimal);
 
-  EXPECT_EQ(Summary(FirstRow("SAT1\t11766000\tO\t22000\tRai Uno\nSAT1\t12092000\tV\t22000\tLa 7\n", &layout)),
-            "Rai Uno|011766H22000||65535|65535|0|00000|T");
+  EXPECT_EQ(RowText(FirstRow("SAT1\t11766000\tO\t22000\tRai Uno\nSAT1\t12092000\tV\t22000\tLa 7\n", &layout)),
+            "Rai Uno TC 011766H+ 22000  65535 65535 65535 0 0 00000 4");
   EXPECT_FALSE(layout.header);
 
-  EXPECT_EQ(Summary(FirstRow("Rai Uno         11766 V 27500  34\n"
+  EXPECT_EQ(RowText(FirstRow("Rai Uno         11766 V 27500  34\n"
                              "La 7, Roma      12092 H 27500  34\n"
                              "Rete Quattro HD 12092 H  5632  23\n")),
-            "Rai Uno|011766V27500|3|65535|65535|0|00000|T");
-  EXPECT_EQ(Summary(FirstRow("Uno 11766 V 27500 3/4\nDieci 12092 H 27500 5/6\n")),
-            "Uno|011766V27500|3|65535|65535|0|00000|T");
+            "Rai Uno TC 011766V+ 27500 3 65535 65535 65535 0 0 00000 4");
+  EXPECT_EQ(RowText(FirstRow("Uno 11766 V 27500 3/4\nDieci 12092 H 27500 5/6\n")),
+            "Uno TC 011766V+ 27500 3 65535 65535 65535 0 0 00000 4");
 }
 
 TEST(ForeignLayout, AStrangeLineIsCutAndNotMisread) {
@@ -150,12 +141,9 @@ TEST(ForeignList, EachDroppedLineHasItsReason) {
   EXPECT_EQ(list.dropped.Text(),
             "senza nome 1, senza frequenza 2, frequenza non valida 1, polarizzazione non valida 1, numero "
             "non valido 2");
-  ASSERT_EQ(list.rows.size(), 2U);
-  EXPECT_EQ(Summary(list.rows[0]), "Uno|011766V5632\\||512|65535|1|00000|T");
-  EXPECT_EQ(list.rows[0].codifica, 0x44);
-  EXPECT_EQ(list.rows[0].satellite, 3);
-  EXPECT_TRUE(list.rows[0].highBand);
-  EXPECT_EQ(Summary(list.rows[1]), "Otto |011766H||65535|601|0|00000|R");
+  EXPECT_EQ(Texts(list.rows),
+            (std::vector<std::string>{R"(Uno TD 011766V+ 5632\  512 65535 65535 1 0 00000 68)",
+                                      "Otto  RD 011766H+   65535 601 65535 0 0 00000 4"}));
 }
 
 }  // namespace Formats

@@ -1,14 +1,9 @@
 #include "formats/satcodx.h"
 
 #include "base/columns.h"
+#include "core_test.h"
+#include "formats/row_text.h"
 #include "formats/sdx_import.h"
-#include "image_builder.h"
-#include "model/favourites.h"
-#include "model/symbol_rates.h"
-
-#include <gtest/gtest.h>
-
-#include <memory>
 
 namespace Formats {
 namespace {
@@ -63,20 +58,12 @@ TEST(Satcodx, ALineBecomesARow) {
           Line({.type = "D", .format = "    ", .vpid = "0000", .apid = "    ", .tid = "   ", .code = "????"}),
       options);
   EXPECT_EQ(table.satelliteName, "HOTBIRD 13E      ");
-  ASSERT_EQ(table.rows.size(), 3U);
-  const SdxRow& tv = table.rows[0];
-  EXPECT_EQ(tv.name, "Canale 5 Europa Plus");
-  EXPECT_EQ((std::vector{tv.vpid, tv.apid, tv.pcr, tv.sid, tv.nid, tv.tid}),
-            (std::vector<SdxRow::Number>{"0512", "0650", "44", "4903", "318", "11000"}));
-  EXPECT_EQ(tv.codifica, 0x84) << "MGIV belongs to the first group";
-  EXPECT_TRUE(tv.horizontal);
-  EXPECT_FALSE(tv.highBand);
-  EXPECT_EQ(table.rows[1].vpid, "65535") << "whatever a radio line says of video";
-  EXPECT_EQ(table.rows[2].type, 'S');
-  EXPECT_EQ(table.rows[2].apid, "65535");
-  EXPECT_EQ(table.rows[2].tid, "00000");
-  EXPECT_EQ(table.rows[1].codifica, 0xA4);
-  EXPECT_EQ(table.rows[2].codifica, 0x04);
+  EXPECT_EQ(
+      Texts(table.rows),
+      (std::vector<std::string>{"Canale 5 Europa Plus TB 010719H- 27500 3 0512 0650 44 4903 318 11000 132",
+                                "Canale 5 Europa Plus RB 010719H- 27500 3 65535 0650 44 4903 318 11000 164",
+                                "Canale 5 Europa Plus SB 010719H- 27500 3 65535 65535 44 4903 318 00000 4"}))
+      << "MGIV belongs to the first group; a radio has no video, whatever its line says of it";
 }
 
 TEST(Satcodx, EachDroppedLineHasItsReason) {
@@ -110,8 +97,7 @@ TEST(Satcodx, CodesAndFiltersAndDownloads) {
 
 TEST(SdxImport, RowsFindOrMakeTheirTransponder) {
   auto state = std::make_unique<State>();
-  state->SymbolRateTable = EmptySymbolRateTable();
-  PlaceUsualRates(state->SymbolRateTable, Sr22000::Come2);
+  state->SymbolRateTable = Tests::UsualRates();
   state->ChannelCount = 10;
   state->TransponderCount = 2;
   state->Transponder(2).record = MakeTransponder(10721, true, 0, 9, 0);

@@ -1,33 +1,14 @@
 #include "formats/service_rows.h"
 
+#include "core_test.h"
 #include "formats/dvbv5.h"
 #include "formats/lamedb.h"
 #include "formats/list_summary.h"
+#include "formats/row_text.h"
 #include "formats/vdr_channels.h"
-#include "image_builder.h"
-
-#include <gtest/gtest.h>
 
 namespace Formats {
 namespace {
-
-std::string RowText(const SdxRow& row) {
-  std::string text(row.name);
-  text += std::string(" ") + row.type + static_cast<char>('A' + row.satellite) + " ";
-  text.append(row.frequency).append(row.horizontal ? "H" : "V").append(row.highBand ? "+" : "-");
-  for (const std::string_view field :
-       {std::string_view(row.symbolRate), std::string_view(row.fec), std::string_view(row.vpid),
-        std::string_view(row.apid), std::string_view(row.pcr), std::string_view(row.sid),
-        std::string_view(row.nid), std::string_view(row.tid)})
-    text.append(" ").append(field);
-  return text + " " + std::to_string(row.codifica);
-}
-
-std::vector<std::string> Texts(const std::vector<SdxRow>& rows) {
-  std::vector<std::string> texts;
-  for (const SdxRow& row : rows) texts.push_back(RowText(row));
-  return texts;
-}
 
 SdxTable Rows(std::string_view channels, const ListOptions& options) {
   VdrReader reader(channels);

@@ -1,11 +1,7 @@
 #include "model/flash_file.h"
 
 #include "base/file.h"
-#include "image_builder.h"
-#include "model/flash_image.h"
-#include "support/test_folder.h"
-
-#include <gtest/gtest.h>
+#include "core_test.h"
 
 #include <chrono>
 #include <filesystem>

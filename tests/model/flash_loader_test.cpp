@@ -1,11 +1,6 @@
 #include "model/flash_loader.h"
 
-#include "image_builder.h"
-#include "model/favourites.h"
-
-#include <gtest/gtest.h>
-
-#include <memory>
+#include "core_test.h"
 
 namespace Routines {
 namespace {

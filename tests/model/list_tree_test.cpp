@@ -1,10 +1,6 @@
 #include "model/list_tree.h"
 
-#include "image_builder.h"
-
-#include <gtest/gtest.h>
-
-#include <memory>
+#include "core_test.h"
 
 namespace Routines {
 namespace {

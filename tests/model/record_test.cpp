@@ -1,8 +1,6 @@
-#include "image_builder.h"
+#include "core_test.h"
 #include "model/channel.h"
 #include "model/transponder.h"
-
-#include <gtest/gtest.h>
 
 #include <bit>
 #include <random>

@@ -1,17 +1,12 @@
-#include "model/symbol_rates.h"
-
-#include "image_builder.h"
-
-#include <gtest/gtest.h>
+#include "core_test.h"
 
 namespace Routines {
 
 TEST(SymbolRates, ConvertingMovesRatesAndKeepsTheCodesOfThoseThatTheOutputLacks) {
   State state;
-  state.SymbolRateTable = EmptySymbolRateTable();
+  state.SymbolRateTable = Tests::UsualRates();
   SetSymbolRate(state.SymbolRateTable, 0, "29900");
   SetSymbolRate(state.SymbolRateTable, 5, "5632");
-  PlaceUsualRates(state.SymbolRateTable, Sr22000::Come2);
   EXPECT_EQ(SymbolRateText(state.SymbolRateTable, 5), "5632\\");
   const int before[] = {1, 3, 0, 5, 9, 16, 255};
   const int after[] = {3, 1, 0, 5, 9, 16, 255};

@@ -1,16 +1,12 @@
 // Comparing two lists, and taking over what the other one has without losing a channel or a favourite.
+#include "core_test.h"
 #include "edit/move.h"
 #include "edit/take_over.h"
 #include "formats/list_format.h"
 #include "formats/sdx_other.h"
 #include "formats/service_rows.h"
 #include "formats/vdr_channels.h"
-#include "image_builder.h"
-#include "model/favourites.h"
-#include "model/symbol_rates.h"
 #include "review/order_match.h"
-
-#include <gtest/gtest.h>
 
 #include <functional>
 
@@ -30,8 +26,7 @@ State SmallList() {
   state.Loaded = true;
   state.ChannelCount = 12;
   state.TransponderCount = 5;
-  state.SymbolRateTable = EmptySymbolRateTable();
-  PlaceUsualRates(state.SymbolRateTable, Sr22000::Come2);
+  state.SymbolRateTable = Tests::UsualRates();
   Transponder(state, 1) = MakeTransponder(11766, false, 0, 3, 2, 10, 318);
   Transponder(state, 2) = MakeTransponder(11804, false, 0, 3, 2, 20, 318);
   Transponder(state, 3) = MakeTransponder(11766, false, 1, 3, 2, 10, 1);
@@ -195,8 +190,7 @@ TEST(TakeOver, EveryListCanBecomeEveryOtherAndLosesOnlyWhatIsChosen) {
 TEST(TakeOver, WhatHasNoPlaceIsLeftAndTold) {
   State here = SmallList();
   State there = here;
-  there.SymbolRateTable = EmptySymbolRateTable();
-  PlaceUsualRates(there.SymbolRateTable, Sr22000::Come0);
+  there.SymbolRateTable = Tests::UsualRates(Sr22000::Come0);
   for (int slot = 1; slot <= 3; ++slot)
     Set(Transponder(there, slot), TransponderField::SymbolRate, 1);  // 27500, as here
   Transponder(there, 4) = MakeTransponder(12600, true, 0, 3, 2, 40, 318);

@@ -1,9 +1,7 @@
 // Channels that are in the list more than once.
 #include "review/duplicates.h"
 
-#include "image_builder.h"
-
-#include <gtest/gtest.h>
+#include "core_test.h"
 
 namespace Review {
 

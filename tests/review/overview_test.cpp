@@ -1,11 +1,7 @@
 // What the overview counts, on a list with something for every line.
 #include "review/overview.h"
 
-#include "image_builder.h"
-
-#include <gtest/gtest.h>
-
-#include <memory>
+#include "core_test.h"
 
 namespace Review {
 

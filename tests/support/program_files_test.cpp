@@ -1,11 +1,9 @@
 // The files of the program folder that people write by hand, and the one that remembers their folders.
+#include "core_test.h"
 #include "support/bouquets_txt.h"
 #include "support/pos_ini.h"
 #include "support/sdx_ini.h"
 #include "support/sr_ini.h"
-#include "support/test_folder.h"
-
-#include <gtest/gtest.h>
 
 namespace Support {
 

@@ -4,14 +4,12 @@
 //   TROVALIS_MODEL_SEED=7       begins with that one
 //   TROVALIS_MODEL_STEPS=10000  lets a sequence have so many steps
 #include "demo_sdx.h"
-#include "model/favourites.h"
 #include "model/flash_file.h"
 #include "model/flash_loader.h"
+#include "review/compare.h"
 #include "support/bouquets_txt.h"
 #include "ui/list/cell_delegate.h"
 #include "ui/random_input.h"
-#include "ui/session/commands.h"
-#include "ui/window/main_window.h"
 #include "ui/window_faults.h"
 
 #include <iostream>
@@ -342,21 +340,10 @@ class Play {
   }
 
   static bool GivesBack(const State& again, const State& list) {
-    bool same = again.ChannelTable == list.ChannelTable;
-    for (std::uint32_t slot = 1; slot <= Routines::LastTransponderSlot; ++slot) {
-      const auto* ours = TransponderInUse(list, slot);
-      const auto* theirs = TransponderInUse(again, slot);
-      same = same && (ours == nullptr) == (theirs == nullptr) && (!ours || ours->record == theirs->record);
-    }
-    for (std::size_t i = 0; i < Routines::FavouriteLists; ++i) {
-      if (Routines::IsBlankFavourites(list.FavouritesBlock)) continue;
-      same = same &&
-             Routines::FavouriteEntriesOf(again.FavouritesBlock, i) ==
-                 Routines::FavouriteEntriesOf(list.FavouritesBlock, i) &&
-             Routines::FavouriteNameOf(again.FavouritesBlock, i) ==
-                 Routines::FavouriteNameOf(list.FavouritesBlock, i);
-    }
-    return same;
+    const Review::Comparison found = Review::Compare(again, list);
+    return again.ChannelTable == list.ChannelTable &&
+           found.transponders == Review::TransponderDifferences{} &&
+           (found.favourites.empty() || Routines::IsBlankFavourites(list.FavouritesBlock));
   }
 
   [[nodiscard]] std::string Fault() const { return Faults(*window_, bouquets_.tables.satellites).First(); }

@@ -3,43 +3,22 @@
 
 #include "base/text.h"
 #include "model/cells.h"
-#include "model/favourites.h"
-#include "model/list_tree.h"
-#include "ui/kit/text.h"
-#include "ui/list/document.h"
-#include "ui/list/grid.h"
+#include "ui/list/tree_model.h"
 #include "ui/session/commands.h"
-#include "ui/window/main_window.h"
-
-#include <QAction>
-#include <QApplication>
-#include <QDialog>
-#include <QLabel>
-#include <QListView>
-#include <QTreeView>
+#include "ui/window_fixture.h"
 
 namespace Ui {
 
 using Routines::ListTree;
 using Routines::State;
 
-inline std::string TreeFault(const QAbstractItemModel& model, const ListTree& tree, const QModelIndex& at,
-                             int number) {
-  const ListTree::Group& group = tree.Groups()[static_cast<std::size_t>(number)];
-  const auto channels = tree.Channels(number);
-  const int rows = group.groups > 0 ? group.groups : static_cast<int>(channels.size());
-  if (model.rowCount(at) != rows)
-    return "rows below \"" + at.data().toString().toStdString() + "\" in the tree";
-  for (int row = 0; row < rows; ++row) {
-    const QModelIndex index = model.index(row, 0, at);
-    const int child = group.firstGroup + row;
-    const std::string text = group.groups > 0 ? TreeText(tree.Groups()[static_cast<std::size_t>(child)])
-                                              : TreeText(channels[static_cast<std::size_t>(row)]);
-    if (index.data().toString() != CodePageText(text)) return "node \"" + text + "\" of the tree";
-    if (group.groups == 0) continue;
-    if (std::string fault = TreeFault(model, tree, index, child); !fault.empty()) return fault;
-  }
-  return {};
+// A node and all below it.
+inline bool SameNodes(const QAbstractItemModel& one, const QModelIndex& here, const QAbstractItemModel& other,
+                      const QModelIndex& there) {
+  bool same = here.data() == there.data() && one.rowCount(here) == other.rowCount(there);
+  for (int row = 0; same && row < one.rowCount(here); ++row)
+    same = SameNodes(one, one.index(row, 0, here), other, other.index(row, 0, there));
+  return same;
 }
 
 class Faults {
@@ -61,15 +40,14 @@ class Faults {
   [[nodiscard]] std::string TablesFault() const {
     const State& state = tables_;
     const auto within = [](int value, int last) { return value >= 0 && value <= last; };
-    if (!within(state.MaxChannels, Routines::LastChannelSlot) ||
-        !within(state.ChannelCount, Routines::LastChannelSlot) ||
-        !within(state.TransponderCount, Routines::LastTransponderSlot))
-      return "a count is past its table";
-    if (!state.ChannelTable[0].Empty()) return "slot 0 is in use";
-    if (state.FavouritesBlock.size() > 65536 ||
-        state.SymbolRateTable.size() != Routines::EmptySymbolRateTable().size())
-      return "a block has a wrong size";
-    return {};
+    const bool counts = within(state.MaxChannels, Routines::LastChannelSlot) &&
+                        within(state.ChannelCount, Routines::LastChannelSlot) &&
+                        within(state.TransponderCount, Routines::LastTransponderSlot);
+    const bool blocks = state.ChannelTable[0].Empty() && state.FavouritesBlock.size() <= 65536 &&
+                        state.SymbolRateTable.size() == Routines::EmptySymbolRateTable().size();
+    return !counts  ? "a count is past its table"
+           : blocks ? ""
+                    : "slot 0 is in use, or a block's size is wrong";
   }
 
   [[nodiscard]] std::string GridFault() const {
@@ -101,9 +79,9 @@ class Faults {
     for (const auto& [name, shape] : {std::pair{"TreeView1", ListTree::Shape::Bouquets},
                                       std::pair{"TreeView2", ListTree::Shape::Transponders}}) {
       const auto* tree = window_.findChild<QTreeView*>(name);
-      if (!tree->isVisible()) continue;
-      std::string fault = TreeFault(*tree->model(), ListTree(tables_, satellites_, shape), {}, 0);
-      if (!fault.empty()) return name + (": " + fault);
+      TreeModel anew(window_.List(), satellites_, shape, nullptr);
+      anew.Refresh();
+      if (tree->isVisible() && !SameNodes(*tree->model(), {}, anew, {})) return name;
     }
     return {};
   }

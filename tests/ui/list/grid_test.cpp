@@ -22,7 +22,7 @@ class Rows : public TableModel {
 
 // What a column says of its rows, divided by blanks: colours as they are told, blue first, with a star where the text is
 // white, and the words for those who do not see them.
-QString Colours(const TableModel& list, int column) {
+std::string Colours(const TableModel& list, int column) {
   QStringList colours;
   for (int row = 0; row < list.rowCount(); ++row) {
     const QModelIndex cell = list.index(row, column);
@@ -32,7 +32,7 @@ QString Colours(const TableModel& list, int column) {
                    .arg(qRgb(qBlue(ground), qGreen(ground), qRed(ground)) & 0xFFFFFFU, 6, 16, QChar('0'))
                    .arg(white ? "*" : "");
   }
-  return colours.join(' ').toUpper();
+  return colours.join(' ').toUpper().toStdString();
 }
 
 QString Words(const TableModel& list) {
@@ -46,25 +46,28 @@ TEST(Grid, EachKindOfRowHasItsColourAndItsWord) {
   using namespace Samples;
   Document document;
   document.Adjust([](Routines::State& state) {
-    state.SymbolRateTable = Routines::EmptySymbolRateTable();
-    PlaceUsualRates(state.SymbolRateTable, Routines::Sr22000::Come2);
+    PlaceUsualRates(state.SymbolRateTable = Routines::EmptySymbolRateTable(), Routines::Sr22000::Come2);
     state.ChannelCount = 5;
     state.Channel(1) = MakeChannel("Uno", 1, 1, 512, 650);
     state.Channel(2) = MakeChannel("Due", 1, 2, 0, 650);
     state.Channel(3) = MakeChannel("Tre", 1, 3, 65535, 0);
     state.Channel(4) = MakeChannel("Quattro", 1, 4, 512, 650, 0x20);
-    state.TransponderCount = 3;
-    state.Transponder(1).record = MakeTransponder(12092, true, 1, 3, 5);
-    state.Transponder(2).record = MakeTransponder(10699, true, 1, 3, 5);
+    state.TransponderCount = 7;
+    for (int slot = 1; const int megahertz : {12750, 10699, 10700, 12751, 12092})
+      state.Transponder(slot++).record = MakeTransponder(megahertz, true, 1, 3, 5);
+    Set(state.Transponder(5).record, Routines::TransponderField::SymbolRate, 16);  // none of the table
+    state.Transponder(7).record.bytes[1] = 1;
   });
   const ListModel channels(document, ListModel::Channels, nullptr);
   EXPECT_EQ(Colours(channels, 0), "C0FFC0 C0FFC0 C0FFC0 C0FFC0 C0FFC0");
   EXPECT_EQ(Colours(channels, 1), "00FFFF FFFF80 FF80FF C0C0C0 E0E0E0");
   EXPECT_EQ(Words(channels), "TV;Radio;Servizio;Non attivo;Posto vuoto");
   const ListModel transponders(document, ListModel::Transponders, nullptr);
-  EXPECT_EQ(Colours(transponders, 1), "FFFFFF 8080FF 008000*");
-  EXPECT_EQ(Colours(transponders, 2), "FFFFFF 8080FF FFFFFF");
-  EXPECT_EQ(Words(transponders), ";Fuori banda o senza SR;Posto libero");
+  EXPECT_EQ(Colours(transponders, 1), "FFFFFF 8080FF FFFFFF 8080FF 8080FF 008000* 008000*");
+  EXPECT_EQ(Colours(transponders, 2), "FFFFFF 8080FF FFFFFF 8080FF 8080FF FFFFFF 8080FF");
+  EXPECT_TRUE(Words(transponders).startsWith(";Fuori banda o senza SR;;") &&
+              Words(transponders).contains(";Posto libero;"));
+  EXPECT_EQ(transponders.index(6, 1).data(), "0") << "the cell goes by the first byte, the row by all four";
   Formats::SdxTable table;
   for (const char type : {'T', 'R', 'S'}) table.rows.emplace_back().type = type;
   SdxModel sdx(table, nullptr);
