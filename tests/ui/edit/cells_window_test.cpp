@@ -62,6 +62,9 @@ TEST_F(Cells, ACommandTakesWhatIsBeingTypedIntoItsOwnList) {
   ASSERT_TRUE(driver_->Press("Toolbar1_TRANSPONDERS"));
   EXPECT_EQ(Said(), "Canale 3, SID: 1234");
   EXPECT_EQ(List().TransponderTable, transponders);
+  ASSERT_TRUE(Type(1, 2, "777", Qt::Key_End));
+  ASSERT_TRUE(driver_->Choose("VisualizzaCanali"));
+  EXPECT_EQ(Said(), "Transponder 1, TID: 777");
 }
 
 TEST_F(Cells, ThePopupMenuWorksOnAllSelectedRows) {

@@ -70,14 +70,16 @@ QStringList TextsWithLetters(QWidget& shown) {
   return texts;
 }
 
+// Whichever window is in front: on a busy machine another one comes back late.
+QWidget* FocusIn(QWidget& shown) { return shown.focusWidget() == nullptr ? &shown : shown.focusWidget(); }
+
 // The key comes to every control that is enabled and leaves it again; radio buttons share one stop.
 void CheckTab(QWidget& shown, const std::set<QWidget*>& controls) {
   std::set<QWidget*> reached;
   // A page of text takes it for each of its links.
   for (int pressed = 0; pressed < 300; ++pressed) {
-    QWidget* focus = QApplication::focusWidget();
-    QTest::keyClick(focus == nullptr ? &shown : focus, Qt::Key_Tab);
-    reached.insert(QApplication::focusWidget());
+    QTest::keyClick(FocusIn(shown), Qt::Key_Tab);
+    reached.insert(shown.focusWidget());
   }
   for (QWidget* control : controls) {
     const bool byTab = control->isEnabled() && (control->focusPolicy() & Qt::TabFocus) != 0 &&
@@ -145,8 +147,7 @@ class EveryWindow : public Window, public testing::WithParamInterface<int> {
     ASSERT_NE(shown, nullptr);
     Check(*shown);
     const QPointer<QWidget> kept(shown);
-    QWidget* focus = QApplication::focusWidget();
-    QTest::keyClick(focus == nullptr ? shown : focus, Qt::Key_Escape);
+    QTest::keyClick(FocusIn(*shown), Qt::Key_Escape);
     EXPECT_TRUE(kept.isNull() || !kept->isVisible()) << Told(*shown);
   }
 
