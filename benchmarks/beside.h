@@ -28,6 +28,7 @@ double SecondsOf(const std::function<void()>& work);
 struct Row {
   const char* name;
   void (*run)(benchmark::State&);
+  int turns = 0;  // 0 for as many as the time allows
 };
 void Register(std::initializer_list<Row> rows);
 

@@ -67,64 +67,50 @@ std::unique_ptr<State> List() {
   return state;
 }
 
-std::string SatcodxText(int lines, int taken) {
-  using Base::Column;
+std::string SatcodxText() {
   std::string text;
-  const int every = lines / taken;
-  for (int number = 0; number < lines; ++number) {
-    std::string line = "SATCODX103HOT BIRD 13E     ";
+  for (int number = 0; number < 100000; ++number) {
     // A service that is not taken is of a kind, a rate or a code that nobody asked for.
-    const int reason = number % every == 0 && number / every < taken ? 0 : number % 3 + 1;
-    Base::Put(line, Column{29, 1}, reason == 1 ? "D" : "T");
-    Base::Put(line, Column{30, 4}, "MPG2");
-    Base::Put(line, Column{34, 9}, "0" + std::to_string(10700 + number % Transponders * 8) + "000");
-    Base::Put(line, Column{43, 1}, number % 2 == 0 ? "1" : "0");
-    Base::Put(line, Column{44, 8}, "Canale " + std::to_string(number % 10));
-    Base::Put(line, Column{70, 5}, reason == 2 ? "05632" : "27500");
-    Base::Put(line, Column{75, 1}, "3");
-    Base::Put(line, Column{76, 12}, "016000800160");
-    Base::Put(line, Column{88, 5}, Base::ZeroPadded(number % 65535, 5));
-    Base::Put(line, Column{93, 10}, "0031800200");
-    Base::Put(line, Column{112, 4}, reason == 3 ? "IRDT" : "____");
-    Base::Put(line, Column{116, 12}, "seconda");
-    text += line + "\r\n";
+    const int reason = number % 25 == 0 ? 0 : number % 3 + 1;
+    text.append("SATCODX103HOT BIRD 13E      ").append(reason == 1 ? "D" : "T").append("MPG20");
+    text += std::to_string(10700 + number % Transponders * 8) + "000" + (number % 2 == 0 ? "1" : "0");
+    text += "Canale " + std::to_string(number % 10) + std::string(18, ' ');
+    text.append(reason == 2 ? "05632" : "27500")
+        .append("3016000800160")
+        .append(Base::ZeroPadded(number % 65535, 5));
+    text.append("0031800200         ").append(reason == 3 ? "IRDT" : "____").append("seconda     \r\n");
   }
   return text;
 }
 
-std::string ChannelsConf(int lines) {
+std::string ChannelsConf() {
   constexpr const char* Sources[] = {":S13E", ":S19.2E", ":S28.2E", ":S5W"};
   std::string text;
-  for (int number = 0; number < lines; ++number) {
+  for (int number = 0; number < 100000; ++number) {
     const int transponder = number / 10;
     const bool second = transponder / 4 % 5 < 3;
-    const bool encrypted = number % 10 >= 4;
     text += "Canale " + std::to_string(number) + ";Rete:" + std::to_string(10700 + transponder % 250 * 8);
-    text += second ? ":HC23M5O35S1" : ":VC34M2O35S0";
-    text += Sources[transponder % 4];
+    text.append(second ? ":HC23M5O35S1" : ":VC34M2O35S0").append(Sources[transponder % 4]);
     text += ":27500:" + std::to_string(512 + number % 7000) + (second ? "=27:" : "=2:");
-    text += std::to_string(650 + number % 1000) + "=ita@3,651=eng@3;655=ita@106:577;578=ita:";
-    text += encrypted ? "1833,1801" : "0";
-    text += ":" + std::to_string(number % 65535) + ":318:" + std::to_string(transponder % 65535) + ":0\n";
+    text += "650=ita@3,651=eng@3;655=ita@106:577;578=ita:";
+    text += std::string(number % 10 < 4 ? "0" : "1833,1801") + ":" + std::to_string(number % 65535) + ":318:";
+    text += std::to_string(transponder) + ":0\n";
   }
   return text;
 }
 
-std::string LamedbText(int services) {
-  constexpr int Each = 20;
+std::string LamedbText() {
   const auto hex = [](int value) { return Base::HexByte(value >> 8 & 0xFF) + Base::HexByte(value & 0xFF); };
-  std::string text = "eDVB services /4/\ntransponders\n";
-  for (int tid = 0; tid < services / Each; ++tid) {
-    text += "00820000:" + hex(tid) + ":013e\n\ts " + std::to_string(10700000 + tid % 250 * 8000);
-    text += ":27500000:" + std::to_string(tid % 2) + ":3:130:2:0\n/\n";
+  std::string transponders = "eDVB services /4/\ntransponders\n", services = "end\nservices\n";
+  for (int sid = 0; sid < LamedbServices; ++sid) {
+    const std::string tid = hex(sid / 20);
+    if (sid % 20 == 0)
+      transponders += "00820000:" + tid + ":013e\n\ts " + std::to_string(10700000 + sid / 20 % 250 * 8000) +
+                      ":27500000:1:3:130:2:0\n/\n";
+    services += hex(sid) + ":00820000:" + tid + ":013e:1:0\nCanale " + std::to_string(sid) + "\np:Rete,c:00" +
+                hex(512 + sid % 7000) + ",c:01028a,c:020241,c:03" + hex(512 + sid % 7000) + ",C:0648,f:40\n";
   }
-  text += "end\nservices\n";
-  for (int sid = 0; sid < services; ++sid) {
-    text += hex(sid) + ":00820000:" + hex(sid / Each) + ":013e:1:0\nCanale " + std::to_string(sid);
-    text += "\np:Rete,c:00" + hex(512 + sid % 7000) + ",c:01028a,c:020241,c:03" + hex(512 + sid % 7000);
-    text += ",C:0648,f:40\n";
-  }
-  return text + "end\n";
+  return transponders + services + "end\n";
 }
 
 }  // namespace Bench

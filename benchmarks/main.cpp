@@ -1,4 +1,4 @@
-// trovalis_bench [options of Google Benchmark]: prints the table.
+// trovalis_bench [options of Google Benchmark]: measures every row of the table.
 #include "beside.h"
 #include "ui/kit/toolkit.h"
 
@@ -7,8 +7,6 @@
 
 #include <algorithm>
 #include <chrono>
-#include <cstdio>
-#include <map>
 
 namespace Bench {
 namespace {
@@ -20,35 +18,6 @@ double Median(std::vector<double> values) {
   return *middle;
 }
 
-// The medians of each row's repetitions.
-class Table : public benchmark::BenchmarkReporter {
- public:
-  bool ReportContext(const Context&) override { return true; }
-
-  void ReportRuns(const std::vector<Run>& runs) override {
-    for (const Run& run : runs) {
-      if (run.repetitions > 1 && run.aggregate_name != "median") continue;
-      const auto& figures = run.counters;
-      const double ratio = figures.at("lavoro") / figures.at("limite");
-      char line[200];
-      std::snprintf(line, sizeof line, "| %-40s | %9.1f | %9.1f | %8.2f | %9.1f%s |",
-                    run.run_name.function_name.c_str(), figures.at("lavoro").value,
-                    figures.at("limite").value, ratio, figures.at("obiettivo").value,
-                    ratio > figures.at("obiettivo") ? " MISS" : "");
-      lines_[run.family_index] = line;
-    }
-  }
-
-  void Finalize() override {
-    std::printf("| %-41s | %9s | %9s | %8s | %9s |\n", "Lavoro (µs; la memoria in kB)", "tempo", "limite",
-                "rapporto", "obiettivo");
-    for (const auto& [place, line] : lines_) std::printf("%s\n", line.c_str());
-  }
-
- private:
-  std::map<std::int64_t, std::string> lines_;  // by place, as they run in any order
-};
-
 }  // namespace
 
 double SecondsOf(const std::function<void()>& work) {
@@ -59,9 +28,9 @@ double SecondsOf(const std::function<void()>& work) {
 }
 
 void Tell(benchmark::State& run, double aim, std::vector<double> works, std::vector<double> limits) {
-  run.counters["lavoro"] = Median(std::move(works));
-  run.counters["limite"] = Median(std::move(limits));
-  run.counters["obiettivo"] = aim;
+  const double work = Median(std::move(works)), limit = Median(std::move(limits));
+  run.counters = {{"lavoro", work}, {"limite", limit}, {"rapporto", work / limit}, {"obiettivo", aim}};
+  if (work > aim * limit) run.SetLabel("MISS");
 }
 
 void RunBeside(benchmark::State& run, double aim, const Sides& sides) {
@@ -77,7 +46,10 @@ void RunBeside(benchmark::State& run, double aim, const Sides& sides) {
 }
 
 void Register(std::initializer_list<Row> rows) {
-  for (const Row& row : rows) benchmark::RegisterBenchmark(row.name, row.run)->UseManualTime();
+  for (const Row& row : rows) {
+    auto* added = benchmark::RegisterBenchmark(row.name, row.run)->UseManualTime();
+    if (row.turns > 0) added->Iterations(row.turns);
+  }
 }
 
 }  // namespace Bench
@@ -93,6 +65,5 @@ int main(int argc, char** argv) {
   Bench::RegisterCore();
   Bench::RegisterWindow();
   Bench::RegisterStarts();
-  Bench::Table table;
-  benchmark::RunSpecifiedBenchmarks(&table);
+  benchmark::RunSpecifiedBenchmarks();
 }
