@@ -30,9 +30,12 @@ RecentFiles::RecentFiles(QString settingsFile, QMainWindow& window)
     connect(item, &QAction::triggered, this, [this, item] { Q_EMIT Chosen(item->data().toString()); });
     items_.push_back(item);
   }
+  // A group of its own, in front of the line above the last command.
   auto* file = qobject_cast<QMenu*>(open_.associatedObjects().value(0));
   const QList<QAction*> commands = file->actions();
-  file->insertMenu(commands.value(commands.indexOf(&open_) + 1), menu_);
+  QAction* line = commands.value(commands.indexOf(&CommandAction(window, "Fine")) - 1);
+  file->insertSeparator(line);
+  file->insertMenu(line, menu_);
   write_.setSingleShot(true);
   write_.setInterval(WriteAfter);
   connect(&write_, &QTimer::timeout, this, &RecentFiles::Write);
