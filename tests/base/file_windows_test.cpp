@@ -1,6 +1,5 @@
 // The same promises as on Linux, where Windows keeps them in another way.
 #include "base/file.h"
-#include "base/system_file.h"
 #include "core_test.h"
 
 #include <cerrno>
@@ -35,17 +34,6 @@ TEST(File, NamesOfAnyAlphabet) {
   EXPECT_EQ(FileName(ResolvedPath(path)), "città 漢 😀.dat");
   EXPECT_TRUE(
       std::filesystem::exists(std::filesystem::path(folder.Path()) / L"citt\u00E0 \u6F22 \U0001F600.dat"));
-}
-
-TEST(File, AHeldTemporaryStaysAndAnAbandonedOneGoes) {
-  const TestFolder folder;
-  folder.Write(".trovalis-00000a", Old);
-  const std::string held = folder.Path(".trovalis-00000b");
-  SystemFile running;
-  ASSERT_EQ(running.Create(held, SystemFile::Rights::Usual), 0);
-  ASSERT_TRUE(ReplaceFile(folder.Path("flash.dat"), New));
-  EXPECT_EQ(folder.Files(), 2) << "the new file and the one that another save holds";
-  EXPECT_EQ(StatusOf(held).code, 0);
 }
 
 TEST(File, WhatIsNoFileToWriteIsRefused) {

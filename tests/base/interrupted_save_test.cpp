@@ -84,9 +84,8 @@ const Base::Bytes New = Samples::ImageFullOf('n');
 [[noreturn]] void SaveForEver(const std::string& path, const Base::Bytes& first, int begun) {
   Backups backups{Base::FolderOf(path), {}};
   static_cast<void>(RealWrite(begun, "b", 1));
-  for (bool newNext = first == Old;; newNext = !newNext) {
+  for (bool newNext = first == Old;; newNext = !newNext)
     static_cast<void>(SaveFlash(path, newNext ? Old : New, newNext ? New : Old, backups));
-  }
 }
 
 // Starts such a program and kills it behind so many microseconds of its work.
@@ -147,18 +146,6 @@ TEST(InterruptedSave, AKilledSaveLeavesTheOldImageOrTheNewOne) {
   }
   EXPECT_GT(inTheMiddle, kills / 20) << "the kills come at the wrong time";
   std::printf("%d kills, %d of them while a file was being written\n", kills, inTheMiddle);
-}
-
-TEST(InterruptedSave, ASaveThatGoesOnKeepsItsFile) {
-  const TestFolder folder;
-  const std::string path = folder.Write("a.dat", Old);
-  const auto saveOften = [](const std::string& target) {
-    for (int i = 0; i < 60; ++i) ASSERT_TRUE(Base::ReplaceFile(target, New));
-  };
-  std::thread other(saveOften, folder.Path("b.dat"));
-  saveOften(path);
-  other.join();
-  EXPECT_EQ(folder.Files(), 2);
 }
 
 // What only a power cut would show: the bytes are on the disk before the name is, and the name before it counts.

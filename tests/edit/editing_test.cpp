@@ -6,8 +6,6 @@
 #include "edit/move.h"
 #include "edit/regroup.h"
 
-#include <functional>
-
 namespace Edit {
 namespace {
 
@@ -50,9 +48,8 @@ std::unique_ptr<State> RandomList(Junk& junk, int limit) {
 // The SIDs that the entries of a list name; 0 for an entry on an empty slot.
 std::vector<int> Named(const State& state, std::size_t list) {
   std::vector<int> sids;
-  for (const int slot : FavouriteEntriesOf(state.FavouritesBlock, list)) {
+  for (const int slot : FavouriteEntriesOf(state.FavouritesBlock, list))
     sids.push_back(static_cast<int>(Get(state.Channel(slot), ChannelField::Sid)));
-  }
   return sids;
 }
 
@@ -77,6 +74,34 @@ Slots RandomSlots(Junk& junk, const State& state) {
     slot += junk.Below(2) == 0 ? 1 : 1 + static_cast<int>(junk.Below(9));
   } while (slot <= state.ChannelCount && junk.Below(6) != 0);
   return slots;
+}
+
+// Ten slots with a channel for each letter, all of them favourites in their order; a dot is an empty slot.
+State Lettered(std::string_view letters) {
+  State state;
+  state.ChannelCount = static_cast<int>(letters.size());
+  state.FavouritesBlock.assign(NormalFavouritesSize, 0);
+  std::vector<int> entries;
+  for (std::size_t i = 0; i < letters.size(); ++i) {
+    if (letters[i] != '.')
+      Channel(state, static_cast<int>(i) + 1) = MakeChannel(letters.substr(i, 1), 1, 1, 1, 1);
+    entries.push_back(static_cast<int>(i) + 1);
+  }
+  SetFavouriteEntries(state.FavouritesBlock, 0, entries);
+  return state;
+}
+
+// The slots, and behind them the favourites that name a channel.
+std::string Letters(const State& state) {
+  const auto letter = [&](int slot) {
+    return state.Channel(slot).Empty() ? '.' : state.Channel(slot).Name().front();
+  };
+  std::string text;
+  for (int slot = 1; slot <= state.ChannelCount; ++slot) text += letter(slot);
+  text += ' ';
+  for (const int slot : FavouriteEntriesOf(state.FavouritesBlock, 0))
+    if (letter(slot) != '.') text += letter(slot);
+  return text;
 }
 
 // One random command; nothing where it was refused.
@@ -149,12 +174,8 @@ TEST(Editing, FavouritesGoOnNamingTheSameChannelsAndEveryStepCanBeTakenBack) {
 }
 
 TEST(Editing, WhatAStepChangedIsShown) {
-  State before;
-  before.ChannelCount = 6;
-  for (int slot = 1; slot <= 6; ++slot) Channel(before, slot) = MakeChannel("x", 1, slot, 1, 1);
-  State deleted = before;
-  State moved = before;
-  State renamed = before;
+  const State before = Lettered("abcdef");
+  State deleted = before, moved = before, renamed = before;
   DeleteSlots(deleted, {2, 3});
   MoveChannels(moved, {1}, 3);
   Channel(renamed, 5).bytes[0] = 'y';
@@ -229,134 +250,53 @@ TEST(Editing, DeletingClosesTheListAndItsFavourites) {
   EXPECT_EQ(LastOccupied(*state), 0);
 }
 
-// Ten slots with a channel for each letter, all of them favourites in their order; a dot is an empty slot.
-State Lettered(std::string_view letters) {
-  State state;
-  state.ChannelCount = static_cast<int>(letters.size());
-  state.FavouritesBlock.assign(NormalFavouritesSize, 0);
-  std::vector<int> entries;
-  for (std::size_t i = 0; i < letters.size(); ++i) {
-    if (letters[i] != '.')
-      Channel(state, static_cast<int>(i) + 1) = MakeChannel(letters.substr(i, 1), 1, 1, 1, 1);
-    entries.push_back(static_cast<int>(i) + 1);
-  }
-  SetFavouriteEntries(state.FavouritesBlock, 0, entries);
-  return state;
-}
-
-// The slots, and behind them the favourites that name a channel.
-std::string Letters(const State& state) {
-  const auto letter = [&](int slot) {
-    return state.Channel(slot).Empty() ? '.' : state.Channel(slot).Name().front();
-  };
-  std::string text;
-  for (int slot = 1; slot <= state.ChannelCount; ++slot) text += letter(slot);
-  text += ' ';
-  for (const int slot : FavouriteEntriesOf(state.FavouritesBlock, 0))
-    if (letter(slot) != '.') text += letter(slot);
-  return text;
-}
-
 TEST(Editing, ScatteredChannelsAreMovedExactlyAndTheirFavouritesToo) {
-  Clipboard clipboard;
-  const struct {
-    const char* before;
-    std::function<void(State&)> run;
-    const char* after;
-  } cases[] = {
-      {"abcd.efg..",
-       [](State& s) {
-         MoveChannels(s, {2, 4, 7}, 1);
-       },
-       "bdfac.eg.. abcdefg"},
-      {"abcd.efg..",
-       [](State& s) {
-         MoveChannels(s, {2, 4, 7}, 4);
-       },
-       "ac.bdfeg.. abcdefg"},
-      {"abcd.efg..",
-       [](State& s) {
-         MoveChannels(s, {2, 4, 7}, 99);
-       },
-       "ac.eg..bdf abcdefg"},
-      {"abcd.efg..",
-       [](State& s) {
-         MoveChannels(s, {1, 2}, TargetBefore({1, 2}, 4));
-       },
-       "cabd.efg.. abcdefg"},
-      {"abcd.efg..",
-       [](State& s) {
-         MoveChannels(s, {2, 7}, TargetBefore({2, 7}, 4));
-       },
-       "acbfd.eg.. abcdefg"},
-      {"abcd.efg..",
-       [](State& s) {
-         MoveChannels(s, {2, 3}, TargetBefore({2, 3}, 3));
-       },
-       "abcd.efg.. abcdefg"},
-      {"abcd.efg..",
-       [](State& s) {
-         StepChannels(s, {2, 4, 7}, -1);
-       },
-       "badc.feg.. abcdefg"},
-      {"abcd.efg..",
-       [](State& s) {
-         StepChannels(s, {2, 3, 7}, 1);
-       },
-       "adbc.egf.. abcdefg"},
-      {"abcd.efg..",
-       [](State& s) {
-         EXPECT_FALSE(StepChannels(s, {1, 3}, -1));
-       },
-       "abcd.efg.. abcdefg"},
-      {"abcd.efg.x",
-       [](State& s) {
-         EXPECT_FALSE(StepChannels(s, {3, 10}, 1));
-       },
-       "abcd.efg.x abcdefgx"},
-      {"abcd.efg..", [](State& s) { SwapChannels(s, 1, 8); }, "gbcd.efa.. abcdefg"},
-      {"abcd.efg..", [](State& s) { SwapChannels(s, 2, 5); }, "a.cdbefg.. abcdefg"},
-      {"a..b.c.d.e",
-       [](State& s) {
-         CloseGaps(s, {2, 4, 5, 7, 8});
-       },
-       "ab.d.c...e abcde"},
-      {"a..b.c.d.e", [](State& s) { CloseGaps(s, SlotRun(3, 10)); }, "a.bcde.... abcde"},
-      {"a..b.c.d.e",
-       [](State& s) {
-         EXPECT_TRUE(CloseGaps(s, {1, 4}).empty());
-       },
-       "a..b.c.d.e abcde"},
-      {"a..b.c.d.e",
-       [](State& s) {
-         EXPECT_EQ(CloseGaps(s, {2, 3, 4}).size(), 2U);
-       },
-       "ab...c.d.e abcde"},
-      {"abcdef....",
-       [&](State& s) {
-         EXPECT_EQ(InsertEmpty(s, {2, 3, 5})->rows, Slots({2, 3, 7}));
-       },
-       "a..bcd.ef. abcdef"},
-      {"abcdef....", [&](State& s) { EXPECT_FALSE(InsertEmpty(s, SlotRun(1, 5))); }, "abcdef.... abcdef"},
-      {"abcd.efg..",
-       [&](State& s) {
-         DeleteSlots(s, {1, 4, 5, 8});
-       },
-       "bcef...... bcef"},
-      {"abcd.efg..",
-       [&](State& s) {
-         clipboard = CopyChannels(s, {2, 4, 7});
-         CutChannels(s, {2, 4, 7}, clipboard);
-         EXPECT_EQ(Letters(s), "ac.eg..... aceg");
-         EXPECT_TRUE(Paste(s, clipboard, 2, PasteWay::Move, {}));
-       },
-       "abdfc.eg.. abcdefg"},
-  };
-  for (const auto& [before, run, after] : cases) {
-    State state = Lettered(before);
-    run(state);
-    EXPECT_EQ(Letters(state), after);
-  }
+  State s;
+  const auto from = [&s](std::string_view letters) -> State& { return s = Lettered(letters); };
+  MoveChannels(from("abcd.efg.."), {2, 4, 7}, 1);
+  EXPECT_EQ(Letters(s), "bdfac.eg.. abcdefg");
+  MoveChannels(from("abcd.efg.."), {2, 4, 7}, 4);
+  EXPECT_EQ(Letters(s), "ac.bdfeg.. abcdefg");
+  MoveChannels(from("abcd.efg.."), {2, 4, 7}, 99);
+  EXPECT_EQ(Letters(s), "ac.eg..bdf abcdefg");
+  MoveChannels(from("abcd.efg.."), {1, 2}, TargetBefore({1, 2}, 4));
+  EXPECT_EQ(Letters(s), "cabd.efg.. abcdefg");
+  MoveChannels(from("abcd.efg.."), {2, 7}, TargetBefore({2, 7}, 4));
+  EXPECT_EQ(Letters(s), "acbfd.eg.. abcdefg");
+  MoveChannels(from("abcd.efg.."), {2, 3}, TargetBefore({2, 3}, 3));
+  EXPECT_EQ(Letters(s), "abcd.efg.. abcdefg");
+  StepChannels(from("abcd.efg.."), {2, 4, 7}, -1);
+  EXPECT_EQ(Letters(s), "badc.feg.. abcdefg");
+  StepChannels(from("abcd.efg.."), {2, 3, 7}, 1);
+  EXPECT_EQ(Letters(s), "adbc.egf.. abcdefg");
+  EXPECT_FALSE(StepChannels(from("abcd.efg.."), {1, 3}, -1));
+  EXPECT_EQ(Letters(s), "abcd.efg.. abcdefg");
+  EXPECT_FALSE(StepChannels(from("abcd.efg.x"), {3, 10}, 1));
+  EXPECT_EQ(Letters(s), "abcd.efg.x abcdefgx");
+  SwapChannels(from("abcd.efg.."), 1, 8);
+  EXPECT_EQ(Letters(s), "gbcd.efa.. abcdefg");
+  SwapChannels(from("abcd.efg.."), 2, 5);
+  EXPECT_EQ(Letters(s), "a.cdbefg.. abcdefg");
+  CloseGaps(from("a..b.c.d.e"), {2, 4, 5, 7, 8});
+  EXPECT_EQ(Letters(s), "ab.d.c...e abcde");
+  CloseGaps(from("a..b.c.d.e"), SlotRun(3, 10));
+  EXPECT_EQ(Letters(s), "a.bcde.... abcde");
+  EXPECT_TRUE(CloseGaps(from("a..b.c.d.e"), {1, 4}).empty());
+  EXPECT_EQ(Letters(s), "a..b.c.d.e abcde");
+  EXPECT_EQ(CloseGaps(from("a..b.c.d.e"), {2, 3, 4}).size(), 2U);
+  EXPECT_EQ(Letters(s), "ab...c.d.e abcde");
+  EXPECT_EQ(InsertEmpty(from("abcdef...."), {2, 3, 5})->rows, Slots({2, 3, 7}));
+  EXPECT_EQ(Letters(s), "a..bcd.ef. abcdef");
+  EXPECT_FALSE(InsertEmpty(from("abcdef...."), SlotRun(1, 5)));
+  EXPECT_EQ(Letters(s), "abcdef.... abcdef");
+  DeleteSlots(from("abcd.efg.."), {1, 4, 5, 8});
+  EXPECT_EQ(Letters(s), "bcef...... bcef");
+  from("abcd.efg..");
+  Clipboard clipboard = CopyChannels(s, {2, 4, 7});
+  CutChannels(s, {2, 4, 7}, clipboard);
+  EXPECT_EQ(Letters(s), "ac.eg..... aceg");
+  EXPECT_TRUE(Paste(s, clipboard, 2, PasteWay::Move, {}));
+  EXPECT_EQ(Letters(s), "abdfc.eg.. abcdefg");
 }
 
 TEST(Editing, CutAndPasteGivesFavouritesBackAndKeepsToTheLimit) {

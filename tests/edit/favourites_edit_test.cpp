@@ -14,9 +14,8 @@ class Preferiti : public testing::Test {
  protected:
   Preferiti() {
     state_.ChannelCount = 300;
-    for (int slot = 1; slot <= 250; ++slot) {
+    for (int slot = 1; slot <= 250; ++slot)
       state_.Channel(slot) = Samples::MakeChannel("c" + std::to_string(999 - slot), 1, slot, 1, 1);
-    }
     state_.FavouritesBlock.assign(NormalFavouritesSize, 0xEE);
     for (std::size_t list = 0; list < FavouriteLists; ++list) state_.FavouritesBlock[list * 256] = 0;
     for (std::size_t list = 0; list < FavouriteLists; ++list) state_.FavouritesBlock[list * 256 + 1] = 0;

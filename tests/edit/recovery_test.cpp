@@ -53,9 +53,8 @@ TEST(Recovery, GivesTheWholeWorkBack) {
 
 TEST(Recovery, AFileThatIsNotWholeIsDamaged) {
   const Base::Bytes file = Encode(*Work());
-  for (std::size_t size = 0; size < file.size(); size += size < 40 ? 1 : 4999) {
+  for (std::size_t size = 0; size < file.size(); size += size < 40 ? 1 : 4999)
     EXPECT_FALSE(DecodeRecovery(Base::ByteView(file).first(size))) << size;
-  }
   Base::Bytes spoilt = file;
   for (std::size_t at = 0; at < file.size(); at += at < 40 ? 1 : 997) {
     spoilt[at] ^= 0x10U;

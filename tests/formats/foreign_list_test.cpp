@@ -113,21 +113,17 @@ TEST(ForeignFields, EachWayOfWriting) {
     EXPECT_EQ(MegahertzIn(text), 11766) << text;
   for (const char* text : {"", "1.2", "12", "1176", "99999999999999999999", "11766x", "3800", "."})
     EXPECT_EQ(MegahertzIn(text), std::nullopt) << text;
-  EXPECT_EQ(SymbolRateIn("27.500"), 27500);
-  EXPECT_EQ(SymbolRateIn("27500000"), 27500);
-  EXPECT_EQ(SymbolRateIn("27"), std::nullopt);
+  EXPECT_EQ(std::tuple(SymbolRateIn("27.500"), SymbolRateIn("27500000"), SymbolRateIn("27")),
+            std::tuple(27500, 27500, std::nullopt));
   EXPECT_EQ(FecDigitIn("3/4") + FecDigitIn("56") + FecDigitIn("7") + FecDigitIn("4") + FecDigitIn("9/10"),
             "357");
-  EXPECT_EQ(NumberIn("$1F", false), 31);
-  EXPECT_EQ(NumberIn("1Fh", false), 31);
-  EXPECT_EQ(NumberIn("650, 651", false), 650);
-  EXPECT_EQ(NumberIn("650x", false), std::nullopt);
-  EXPECT_EQ(NumberIn("70000", false), std::nullopt);
-  EXPECT_EQ(CodificaIn("Seca 2", false), 0x24);
-  EXPECT_EQ(CodificaIn("0x0500", false), 0xA4);
+  for (const auto& [text, number] :
+       {std::pair{"$1F", 31}, {"1Fh", 31}, {"650, 651", 650}, {"650x", -1}, {"70000", -1}})
+    EXPECT_EQ(NumberIn(text, false).value_or(-1), number) << text;
+  for (const auto& [text, code] :
+       {std::pair{"Seca 2", 0x24}, {"0x0500", 0xA4}, {"FTA", 0x04}, {"qualcosa", -1}})
+    EXPECT_EQ(CodificaIn(text, false).value_or(-1), code) << text;
   EXPECT_EQ(CodificaIn("A4", true), 0xA4);
-  EXPECT_EQ(CodificaIn("FTA", false), 0x04);
-  EXPECT_EQ(CodificaIn("qualcosa", false), std::nullopt);
 }
 
 TEST(ForeignList, EachDroppedLineHasItsReason) {

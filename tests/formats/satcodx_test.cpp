@@ -101,6 +101,7 @@ TEST(SdxImport, RowsFindOrMakeTheirTransponder) {
   state->ChannelCount = 10;
   state->TransponderCount = 2;
   state->Transponder(2).record = MakeTransponder(10721, true, 0, 9, 0);
+  Set(state->Transponder(2).record, TransponderField::ChannelCount, 5);
   state->Channel(3) = MakeChannel("vecchio", 2, 1, 1, 1);
   const BouquetTables bouquets{{}, {{"Nuovo", "SAT A", "05", 12092}}};
   SdxImport import(*state, bouquets);
@@ -109,7 +110,7 @@ TEST(SdxImport, RowsFindOrMakeTheirTransponder) {
   Set(expected, ChannelField::Pcr, 44);
   EXPECT_EQ(state->Channel(3), expected);
   EXPECT_EQ(Get(state->Transponder(2).record, TransponderField::SymbolRate), 9U) << "linked to as it is";
-  EXPECT_EQ(Get(state->Transponder(2).record, TransponderField::ChannelCount), 1U) << "one off, one on";
+  EXPECT_EQ(Get(state->Transponder(2).record, TransponderField::ChannelCount), 5U) << "one off, one on";
   import.Put(RowAt(12092), 4, 2);
   const TransponderRow& made = state->Transponder(1);
   EXPECT_EQ(made.BouquetCode(), "05");

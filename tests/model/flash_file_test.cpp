@@ -1,6 +1,7 @@
 #include "model/flash_file.h"
 
 #include "base/file.h"
+#include "base/system_file.h"
 #include "core_test.h"
 
 #include <chrono>
@@ -37,6 +38,17 @@ TEST(FlashFile, TheFirstOverwritingOfASessionKeepsTheOldImage) {
   folder.Write("a.dat", others);
   ASSERT_TRUE(SaveFlash(path, others, Old, again));
   EXPECT_EQ(Contents(path + ".bak3"), others) << "another program has saved since";
+}
+
+TEST(FlashFile, AHeldTemporaryStaysAndAnAbandonedOneGoes) {
+  const TestFolder folder;
+  folder.Write(".trovalis-00000a", Old);
+  const std::string held = folder.Path(".trovalis-00000b");
+  Base::SystemFile running;
+  ASSERT_EQ(running.Create(held, Base::SystemFile::Rights::Usual), 0);
+  ASSERT_TRUE(Base::ReplaceFile(folder.Path("flash.dat"), New));
+  EXPECT_EQ(folder.Files(), 2) << "the new file and the one that another save holds";
+  EXPECT_EQ(Base::StatusOf(held).code, 0);
 }
 
 // A byte of the directory, one of a section's header, and a length.

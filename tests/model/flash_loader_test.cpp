@@ -53,10 +53,12 @@ TEST(FlashLoader, SectionsFollowSectorsAndDirectoryOrder) {
   image.PutRecords(1, 0, 100, "tcs", Channels("no", 5))
       .PutRecords(1, 1, 9000, "TPT", std::vector(300, At(10800)));
   image.PutRecords(3, 7, 16, "TPTX", std::vector(5, At(12500)));
+  image.PutRecords(7, 0, SectorSize - EntryHeaderSize - 60, "TCS", Channels("d", 2));
+  image.SetLength(7, SectorSize - EntryHeaderSize - 60, 60000);  // past its sector
   LoadReport report;
   const auto state = Loaded(image, 999, &report);
-  EXPECT_EQ(Told(*state, {1, 2, 3, 4, 5, 6, 7, 8}), "a1 a2 a3 b1 b2 c1 c2  1111111");
-  EXPECT_EQ(report.channelsRead, 7);
+  EXPECT_EQ(Told(*state, {1, 2, 3, 4, 5, 6, 7, 8, 9, 10}), "a1 a2 a3 b1 b2 c1 c2 d1 d2  111111111");
+  EXPECT_EQ(report.channelsRead, 9);
   EXPECT_EQ(state->TransponderCount, 5) << "the last section sets the count";
   EXPECT_EQ(state->Transponder(5).record, At(12500));
   EXPECT_EQ(state->Transponder(254).record, At(10800));

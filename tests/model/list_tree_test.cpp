@@ -44,9 +44,8 @@ TEST(ListTree, ChannelsStandUnderTheirBouquetOrTransponder) {
   put(5, 10719, true, 1, "Uno", "02");
   put(6, 10758, true, 0, "Oltre", "01");  // past the count
   const int transponders[] = {5, 1, 4, 5, 0, 6, 255, 3};
-  for (std::size_t i = 0; i < 8; ++i) {
+  for (std::size_t i = 0; i < 8; ++i)
     state->Channel(i + 1) = Samples::MakeChannel("C" + std::to_string(i), transponders[i], 1, 2, 3);
-  }
   state->Channel(9) = Samples::MakeChannel("oltre", 1, 1, 2, 3);
 
   EXPECT_EQ(

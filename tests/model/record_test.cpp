@@ -69,16 +69,11 @@ TEST(Record, FieldsAreHighByteFirstAndTouchNothingElse) {
 }
 
 TEST(Record, FrequenciesAreThoseOfSinglePrecision) {
-  std::mt19937 random(1);
   for (std::uint32_t mhz = 1; mhz < 4294; ++mhz) {
-    for (int beside = -3; beside <= 3; ++beside) {
-      const std::uint32_t hertz = mhz * 1000000U + static_cast<std::uint32_t>(beside * 37);
+    for (int beside = -30; beside <= 30; ++beside) {
+      const std::uint32_t hertz = mhz * 1000000U + static_cast<std::uint32_t>(beside * 9973);
       ASSERT_EQ(ShownMegahertz(hertz), ExactMegahertz(hertz)) << hertz;
     }
-  }
-  for (int i = 0; i < 100000; ++i) {
-    const auto hertz = static_cast<std::uint32_t>(random()) | 1U;
-    ASSERT_EQ(ShownMegahertz(hertz), ExactMegahertz(hertz)) << hertz;
   }
 }
 

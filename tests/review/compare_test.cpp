@@ -187,6 +187,14 @@ TEST(TakeOver, EveryListCanBecomeEveryOtherAndLosesOnlyWhatIsChosen) {
   }
 }
 
+TEST(TakeOver, TheOrderOfALongerListEndsWithOnesOwn) {
+  State here = SmallList(), there = here;
+  here.ChannelCount = 7;
+  MoveChannels(there, {1}, 8);
+  TakeOrder(here, OtherListOf(there), Compare(here, there));
+  EXPECT_EQ(UsedChannels(here), 6);
+}
+
 TEST(TakeOver, WhatHasNoPlaceIsLeftAndTold) {
   State here = SmallList();
   State there = here;

@@ -77,9 +77,8 @@ TEST(Filter, WordsThatAskForNothingYetAreToldAndFindAndHideNothing) {
     EXPECT_TRUE(alone.Unfinished().front().starts_with(word + std::string(" attende "))) << word;
     EXPECT_EQ(MatchingSlots(*List(), Filter(std::string(word) + " rai")), std::vector<int>({2, 5})) << word;
   }
-  for (const char* nothing : {"\"", "\"\"", "-\""}) {
+  for (const char* nothing : {"\"", "\"\"", "-\""})
     EXPECT_TRUE(Filter(nothing).Empty() && Filter(nothing).Unfinished().empty()) << nothing;
-  }
 }
 
 TEST(Filter, ARowWithoutFieldsIsFoundByItsNameAlone) {

@@ -100,9 +100,8 @@ TEST(SrIni, AMalformedLineIsAnError) {
     EXPECT_EQ(table.error().message, "Formato invalido del file SR.INI - Correggere e rilanciare");
   }
   // Codes are compared as text, so these lie between "00" and "15".
-  for (const char* line : {"0:=27500", "1 =27500", "0x=27500"}) {
+  for (const char* line : {"0:=27500", "1 =27500", "0x=27500"})
     EXPECT_TRUE(SymbolRatesOf(std::string("INPUT\n") + line, Sr22000::Come2)) << line;
-  }
 }
 
 TEST(SrIni, AMissingFileLeavesTheTwoUsualRates) {

@@ -6,7 +6,6 @@
 #include "demo_sdx.h"
 #include "model/flash_file.h"
 #include "model/flash_loader.h"
-#include "review/compare.h"
 #include "support/bouquets_txt.h"
 #include "ui/list/cell_delegate.h"
 #include "ui/random_input.h"
@@ -241,9 +240,8 @@ class Play {
   void ClickTree() {
     auto* tree = window_->findChild<QTreeView*>(random_.Chance(50) ? "TreeView1" : "TreeView2");
     QModelIndex index;
-    while (tree->model()->rowCount(index) > 0 && (!index.isValid() || random_.Chance(85))) {
+    while (tree->model()->rowCount(index) > 0 && (!index.isValid() || random_.Chance(85)))
       index = tree->model()->index(random_.Below(tree->model()->rowCount(index)), 0, index);
-    }
     tree->setCurrentIndex(index);
     if (tree->isVisible() && index.isValid()) Q_EMIT tree->clicked(index);
   }
@@ -340,10 +338,19 @@ class Play {
   }
 
   static bool GivesBack(const State& again, const State& list) {
-    const Review::Comparison found = Review::Compare(again, list);
-    return again.ChannelTable == list.ChannelTable &&
-           found.transponders == Review::TransponderDifferences{} &&
-           (found.favourites.empty() || Routines::IsBlankFavourites(list.FavouritesBlock));
+    bool same = again.ChannelTable == list.ChannelTable;
+    for (std::uint32_t slot = 1; slot <= Routines::LastTransponderSlot; ++slot) {
+      const auto* ours = TransponderInUse(list, slot);
+      const auto* theirs = TransponderInUse(again, slot);
+      same = same && (ours == nullptr) == (theirs == nullptr) && (!ours || ours->record == theirs->record);
+    }
+    const Base::Bytes& block = list.FavouritesBlock;
+    for (std::size_t i = 0; i < Routines::FavouriteLists && !Routines::IsBlankFavourites(block); ++i)
+      same =
+          same &&
+          Routines::FavouriteEntriesOf(again.FavouritesBlock, i) == Routines::FavouriteEntriesOf(block, i) &&
+          Routines::FavouriteNameOf(again.FavouritesBlock, i) == Routines::FavouriteNameOf(block, i);
+    return same;
   }
 
   [[nodiscard]] std::string Fault() const { return Faults(*window_, bouquets_.tables.satellites).First(); }

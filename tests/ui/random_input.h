@@ -63,9 +63,8 @@ class RandomAnswers : public Dialogs {
   }
   QString OpenFile(const FileQuestion& question) override {
     if (random_.Chance(10)) return {};
-    for (const QString ending : {"dat", "sdx", "txt", "fls"}) {
+    for (const QString ending : {"dat", "sdx", "txt", "fls"})
       if (question.filters.contains("*." + ending)) return File(ending);
-    }
     return File("dat");
   }
   QString SaveFile(const FileQuestion& question) override {
