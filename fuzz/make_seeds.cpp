@@ -2,6 +2,7 @@
 #include "base/code_page.h"
 #include "base/file.h"
 #include "demo_sdx.h"
+#include "formats/csv_format.h"
 #include "formats/fls_format.h"
 #include "formats/text_format.h"
 #include "hostile_flash.h"
@@ -204,6 +205,7 @@ void AddListed(Seeds& seeds) {
   seeds.Add("scan_table", "name", "Hotbird-13.0E");
   seeds.Add("userbouquet", "bouquet", bouquet);
   seeds.Add("order_text", "order", order);
+  seeds.Add("csv_channels", "list", Formats::WriteChannelsCsv(ShortList(), {1, 2, 3, 4, 5, 6, 7, 8}));
   int number = 0;
   for (const std::string& list : {channels, blocks, services, lines, table, bouquet, order})
     seeds.Add("list_format", std::to_string(++number), list);

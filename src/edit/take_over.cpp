@@ -31,8 +31,9 @@ struct ChannelData {
   Mark mark;
 };
 
-constexpr std::array<ChannelData, 5> ChannelDataFields = {
-    {{ChannelField::Vpid, SdxField::Vpid, Mark::Pids},
+constexpr std::array<ChannelData, 6> ChannelDataFields = {
+    {{ChannelField::Sid, SdxField::Sid, Mark::Modified},
+     {ChannelField::Vpid, SdxField::Vpid, Mark::Pids},
      {ChannelField::Apid, SdxField::Apid, Mark::Pids},
      {ChannelField::Pcr, SdxField::Pcr, Mark::Pids},
      {ChannelField::Aecm, SdxField::Ecm, Mark::Modified},

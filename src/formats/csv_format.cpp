@@ -57,8 +57,7 @@ std::string Field(std::string_view bytes) {
     if (static_cast<unsigned char>(c) < ' ') c = ' ';
   }
   const std::size_t begin = text.find_first_not_of(' ');
-  if (begin != std::string::npos && (std::string_view("=+-@").find(text[begin]) != std::string_view::npos ||
-                                     LooksLikeDate(std::string_view(text).substr(begin))))
+  if (begin != std::string::npos && NeedsApostrophe(std::string_view(text).substr(begin)))
     text.insert(0, "'");
   text = Base::ToUtf8(text);
   if (text.find_first_of(";\"") == std::string::npos) return text;
@@ -82,6 +81,11 @@ std::string TransponderText(const State& state, int slot, int column) {
 }
 
 }  // namespace
+
+bool NeedsApostrophe(std::string_view text) {
+  return (!text.empty() && std::string_view("=+-@").find(text.front()) != std::string_view::npos) ||
+         LooksLikeDate(text);
+}
 
 std::string WriteChannelsCsv(const State& state, const std::vector<int>& slots) {
   std::vector<std::string> fields = Titles(ChannelHeader);

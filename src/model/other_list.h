@@ -24,6 +24,7 @@ struct OtherList {
   std::string symbolRates;                // by which the transponders have their codes
   SdxFields lacking;                      // what is said of no channel
   std::bitset<32> satellites;             // on which it knows all channels
+  bool byNumber = false;                  // its channels have the numbers that they had in one's own list
   bool flash = false;                     // a receiver's whole list
   Base::Bytes favourites;                 // of a flash
 

@@ -121,6 +121,21 @@ void PairChannels(const Side& here, const Side& there, Pairs& pairs, By by) {
   }
 }
 
+// What is left over and has the same number and the same name or transponder is one whose ids were changed.
+void PairByNumber(const Side& here, const Side& there, Pairs& pairs) {
+  for (int slot = 1; slot <= std::min(here.list.Count(), there.list.Count()); ++slot) {
+    const OtherChannel& one = here.list.At(slot);
+    const OtherChannel& other = there.list.At(slot);
+    int& pair = pairs.here[static_cast<std::size_t>(slot)];
+    if (one.record.Empty() || other.record.Empty() || pairs.there[slot] != 0 || pair != 0) continue;
+    const int transponder = here.classes[static_cast<std::size_t>(one.transponder)];
+    const bool same =
+        transponder != 0 && transponder == there.classes[static_cast<std::size_t>(other.transponder)];
+    if (!same && Base::TrimmedRight(one.record.Name()) != Base::TrimmedRight(other.record.Name())) continue;
+    pairs.there[slot] = pair = slot;
+  }
+}
+
 Pairs PairsOf(const OtherList& here, const OtherList& there) {
   const Side one{here, ClassesOf(here, here)};
   const Side other{there, ClassesOf(there, here)};
@@ -128,6 +143,7 @@ Pairs PairsOf(const OtherList& here, const OtherList& there) {
   for (const By by :
        {By::Contents, By::ServiceAndFrequency, By::Service, By::Frequency, By::ServiceWithoutNid})
     PairChannels(one, other, pairs, by);
+  if (there.byNumber) PairByNumber(one, other, pairs);
   return pairs;
 }
 
@@ -230,8 +246,9 @@ struct NumberField {
   Mark mark;
 };
 
-constexpr std::array<NumberField, 5> NumberFields = {
-    {{ChannelField::Vpid, SdxField::Vpid, "VPID ", Mark::Pids},
+constexpr std::array<NumberField, 6> NumberFields = {
+    {{ChannelField::Sid, SdxField::Sid, "SID ", Mark::Modified},
+     {ChannelField::Vpid, SdxField::Vpid, "VPID ", Mark::Pids},
      {ChannelField::Apid, SdxField::Apid, "APID ", Mark::Pids},
      {ChannelField::Pcr, SdxField::Pcr, "PCR ", Mark::Pids},
      {ChannelField::Aecm, SdxField::Ecm, "AECM ", Mark::Modified},
@@ -471,8 +488,8 @@ std::string OtherDifferences(const Comparison& comparison, std::string_view only
        "canali hanno lo stesso transponder con un altro numero"},
       {comparison.alike, "canale è diverso solo in byte senza effetto",
        "canali sono diversi solo in byte senza effetto"},
-      {comparison.elsewhere, "canale è su satelliti di cui l'altra non dice niente",
-       "canali sono su satelliti di cui l'altra non dice niente"}};
+      {comparison.elsewhere, "canale non è confrontato: l'altra non ne dice niente",
+       "canali non sono confrontati: l'altra non ne dice niente"}};
   for (const auto& [count, one, more] : channels) add(text.empty() ? "" : ". ", count, one, more);
   return text;
 }

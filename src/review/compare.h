@@ -60,7 +60,7 @@ struct Comparison {
   int relinked = 0;  // channels whose transponder is the same one in another slot
   int alike =
       0;  // channels that differ only in bytes without effect: padding of names, 0 or 65535 for no stream
-  int elsewhere = 0;  // channels on satellites that the other list does not know
+  int elsewhere = 0;  // channels that the other list says nothing of, as it does not know their satellites
   TransponderDifferences transponders;
 
   [[nodiscard]] bool Nothing() const {

@@ -279,7 +279,7 @@ TEST(Compare, AListOfTodayIsAskedOnlyWhatItSaysAndEachKindIsTakenByItself) {
       "27500 → "
       "22000; 4 00001000 c4 → Quarto; 0 00000010 11766 V SAT A, SID 199; 7 00000001 11766 V SAT A, SID 107; "
       "9 01000000 codifica 04 → 44; ");
-  EXPECT_EQ(OtherDifferences(found, ""), "2 canali sono su satelliti di cui l'altra non dice niente");
+  EXPECT_EQ(OtherDifferences(found, ""), "2 canali non sono confrontati: l'altra non ne dice niente");
 
   const auto take = [&](std::initializer_list<Mark> marks, NewPlace place) {
     State state = here;

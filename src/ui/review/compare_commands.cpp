@@ -1,12 +1,15 @@
 #include "ui/review/compare_commands.h"
 
 #include "base/file.h"
+#include "formats/csv_reader.h"
+#include "formats/foreign_text.h"
 #include "formats/list_format.h"
 #include "model/favourites.h"
 #include "model/flash_loader.h"
 #include "ui/kit/text.h"
 #include "ui/kit/toolkit.h"
 #include "ui/review/compare_window.h"
+#include "ui/session/lines_window.h"
 
 #include <QMainWindow>
 
@@ -38,6 +41,7 @@ void CompareCommands::Connect(Actions& actions) {
   actions.Connect("Confronta", [this] { Confronta(); });
   actions.Connect("ConfrontaDisco", [this] { ConfrontaDisco(); });
   actions.Connect("ConfrontaSDX", [this] { ConfrontaSDX(); });
+  actions.Connect("DaCSV", [this] { DaCSV(); });
   actions.Connect("OrdinaCome", [this] { OrdinaCome(); });
   actions.Connect("SalvaOrdine", [this] { SalvaOrdine(); });
 }
@@ -79,6 +83,27 @@ void CompareCommands::ConfrontaSDX() {
   } else {
     Compare(OtherSide(OtherSide::Kind::Rows));
   }
+}
+
+void CompareCommands::DaCSV() {
+  const std::string path = session_.AskOpen(
+      "Selezionare il file CSV", "File CSV(*.csv)|*.csv|Tutti i file (*.*)|*.*|", FolderKind::Input);
+  if (path.empty()) return;
+  const auto bytes = Waiting([&] { return Base::ReadFile(path, LargestList); });
+  if (!bytes) return session_.Message(bytes.error());
+  const std::string file = Base::FileName(path);
+  const auto text = Formats::DecodeForeign(Base::AsText(*bytes), file);
+  if (!text) return session_.Message(text.error());
+  auto read = Formats::ReadChannelsCsv(text->text, session_.document.Tables());
+  if (!read) return session_.Message(read.error());
+  Compare(OtherSide(std::move(read->list), PathText(file)));
+  if (read->faults.empty()) return;
+  QString lines;
+  for (const std::string& fault : read->faults) lines += Text(fault) + "\n";
+  (new LinesWindow("ElencoRigheNonLette", "Righe del CSV lasciate fuori", lines, session_, &window_))
+      ->BringUp();
+  session_.status.ShowResult(PathText(file) + ": " +
+                             Counted(read->faults.size(), "riga lasciata fuori", "righe lasciate fuori"));
 }
 
 void CompareCommands::OrdinaCome() {

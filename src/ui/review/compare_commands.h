@@ -18,6 +18,7 @@ class CompareCommands {
   void Confronta();
   void ConfrontaDisco();
   void ConfrontaSDX();
+  void DaCSV();
   void OrdinaCome();
   void SalvaOrdine();
   // The order in a file: a text, a list of another program, or a flash.

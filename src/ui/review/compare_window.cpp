@@ -57,7 +57,7 @@ struct Names {
 
 const Names& NamesOf(const OtherSide& other) {
   constexpr const char* Here = "Solo in questa lista";
-  static constexpr std::array<Names, 4> All = {
+  static constexpr std::array<Names, 5> All = {
       {{"Confronto con un'altra flash",
         {Here, "Solo nell'altra", "Nell'altra"},
         "L'altra: ",
@@ -70,7 +70,8 @@ const Names& NamesOf(const OtherSide& other) {
        {"Ordina come un elenco",
         {"Non nell'elenco", "Non trovato", "Nell'elenco"},
         "L'elenco: ",
-        "Ordina come l'elenco"}}};
+        "Ordina come l'elenco"},
+       {"Confronto con un file CSV", {Here, "Solo nel CSV", "Nel CSV"}, "Il CSV: ", ""}}};
   return All[static_cast<std::size_t>(other.What())];
 }
 
@@ -78,11 +79,13 @@ const Names& NamesOf(const OtherSide& other) {
 bool HasKind(OtherSide::Kind what, Mark mark) {
   const bool order = mark == Mark::OnlyHere || mark == Mark::OnlyThere || mark == Mark::Moved;
   if (what == OtherSide::Kind::Order) return order;
-  return what != OtherSide::Kind::Rows || mark != Mark::Favourites;
+  return mark != Mark::Favourites || (what != OtherSide::Kind::Rows && what != OtherSide::Kind::Csv);
 }
 
 // Few lists on the right are in an order that anybody wants, and many have but a part of what a satellite brings.
 bool ShownAtFirst(OtherSide::Kind what, Mark mark) {
+  // Perhaps only some rows were exported.
+  if (what == OtherSide::Kind::Csv) return mark != Mark::OnlyHere;
   return what != OtherSide::Kind::Rows || (mark != Mark::Moved && mark != Mark::OnlyHere);
 }
 
@@ -187,7 +190,7 @@ QLayout* CompareWindow::Buttons() {
   for (QWidget* control : std::initializer_list<QWidget*>{all, none, apply_, place_})
     control->setVisible(!order);
   for (QWidget* control : std::initializer_list<QWidget*>{numbering_, missing_}) control->setVisible(order);
-  order_->setVisible(other_.What() != OtherSide::Kind::Rows);
+  order_->setVisible(*NamesOf(other_).order != '\0');
   table_->setColumnHidden(CompareModel::Tick, order);
   connect(numbering_, &QComboBox::currentIndexChanged, this, [this](int chosen) {
     other_.Number(static_cast<Review::Numbering>(chosen));

@@ -72,7 +72,8 @@ Review::Comparison OtherSide::Compare(const Session& session) {
 }
 
 QString OtherSide::Title() const {
-  if (kind_ == Kind::Rows) return name_ + ", " + Counted(list_.offered, "riga", "righe");
+  if (kind_ == Kind::Rows || kind_ == Kind::Csv)
+    return name_ + ", " + Counted(list_.offered, "riga", "righe");
   if (kind_ == Kind::Order) return name_ + ", " + Counted(order_.entries.size(), "voce", "voci");
   const QString all = channelsInImage_ > channelsRead_ ? QString(" di %1").arg(channelsInImage_) : QString();
   return PathText(Base::FileName(path_)) + (all.isEmpty() ? ", " : ", letti ") +

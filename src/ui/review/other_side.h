@@ -12,12 +12,15 @@ class OtherSide {
  public:
   // Another flash is read as it would be opened; the file on the disk is the one that the list is written to, or came
   // from; rows are those of the SDX table; an order says nothing but that.
-  enum class Kind { Another, OnDisk, Rows, Order };
+  enum class Kind { Another, OnDisk, Rows, Order, Csv };
 
   // `symbolRates` is the table that another flash is read by; the file on the disk has the list's own.
   explicit OtherSide(Kind kind, std::string path = {}, std::string symbolRates = {})
       : kind_(kind), path_(std::move(path)), symbolRates_(std::move(symbolRates)) {}
 
+  // A file for spreadsheets that somebody has worked on.
+  OtherSide(Routines::OtherList csv, QString name)
+      : kind_(Kind::Csv), name_(std::move(name)), list_(std::move(csv)) {}
   // `name` is that of its file or list.
   OtherSide(Routines::Order order, QString name)
       : kind_(Kind::Order), name_(std::move(name)), order_(std::move(order)) {}

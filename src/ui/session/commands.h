@@ -166,6 +166,8 @@ inline constexpr Command Commands[] = {
      "Carica una lista di testo di altri ricevitori, scegliendone le colonne", Need::ChannelsForSdx},
     {"ImportaElenco", "Da lista VDR, DVBv5 o Enigma2…", Menu::Import, "", "",
      "Carica una lista di oggi (channels.conf, DVBv5, lamedb) accanto ai canali", Need::ChannelsForSdx},
+    {"DaCSV", "Da formato CSV", Menu::Import, "", "",
+     "Confronta la lista con quella esportata in CSV e modificata in un foglio di calcolo", Need::List},
     {"FormatoFLASH", "In formato FLASH", Menu::Export, "", "",
      "Copia in un file .fls la flash aperta com'è su disco, che prende il posto della lista (Annulla la "
      "riporta)",

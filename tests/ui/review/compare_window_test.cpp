@@ -114,4 +114,22 @@ TEST_F(Comparing, AnOrderSavedOnceIsTakenAgain) {
   EXPECT_TRUE(List().Channel(2).Empty());
 }
 
+TEST_F(Comparing, ASpreadsheetsListIsReadBackAsDifferences) {
+  const QString dialog = "Selezionare il file CSV";
+  const std::string path = folder_.Path("lista.csv");
+  Export("FormatoCSV", path);
+  driver_->ExpectFile(dialog, PathText(path));
+  Tells("DaCSV", "Nessuna differenza");
+  std::string text(Base::AsText(Contents(path)));
+  text.replace(text.find("Due"), 3, "Duo");
+  text.replace(text.find("\r\n0001;"), 7, "\r\nuno;");
+  ChooseFile("DaCSV", dialog, folder_.Write("altra.csv", text));
+  EXPECT_EQ(Said(), "altra.csv: 1 riga lasciata fuori");
+  EXPECT_NE(window_->findChild<QDialog*>("ElencoRigheNonLette"), nullptr);
+  found_ = window_->findChild<QDialog*>("FinestraConfronto");
+  table_ = found_->findChild<QTableView*>("Differenze");
+  EXPECT_EQ(Rows(), QStringList({"Rinominato|0002 Due|0002 Duo"}))
+      << "one that is not in the file is not shown at first";
+}
+
 }  // namespace Ui
