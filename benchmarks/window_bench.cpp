@@ -7,10 +7,12 @@
 #include "ui/list/document.h"
 #include "ui/list/grid.h"
 #include "ui/list/tree_pane.h"
+#include "ui/session/commands.h"
 #include "ui/window/main_window.h"
 
 #include <QAbstractButton>
 #include <QAbstractTableModel>
+#include <QAction>
 #include <QBrush>
 #include <QCoreApplication>
 #include <QFile>
@@ -20,6 +22,7 @@
 #include <QTemporaryDir>
 
 #include <cstdlib>
+#include <cstring>
 
 namespace Bench {
 namespace {
@@ -192,6 +195,32 @@ void FilterStep(benchmark::State& run) {
              }});
 }
 
+// Nearly every second row, up to the picture of what is left, beside one move of the table and one repaint.
+void DeleteScattered(benchmark::State& run) {
+  constexpr int Deleted = 2000;
+  const Pages pages;
+  Ui::Grid& grid = pages.ours.Grid();
+  Edit::Slots slots;
+  for (int i = 0; i < Deleted; ++i) slots.push_back(1 + i * (Channels - 1) / (Deleted - 1));
+  const auto state = List();
+  const auto limit = [&] {
+    Routines::ChannelRecord* table = state->ChannelTable.data();
+    std::memmove(table, table + 1, (state->ChannelTable.size() - 1) * sizeof(Routines::ChannelRecord));
+    RepaintCells(pages.plain->Table());
+  };
+  const auto command = [&](Ui::CommandName name) { Ui::CommandAction(pages.ours.window, name).trigger(); };
+  const auto selectAndDelete = [&] {
+    grid.Select(slots);
+    command("Elimina");
+  };
+  RunBeside(run, 20,
+            {[&] { UntilPainted(*grid.viewport(), selectAndDelete); }, limit,
+             [&] {
+               if (pages.ours.window.List().Steps().UndoLabel().starts_with("Eliminati")) command("Annulla");
+               Settle();
+             }});
+}
+
 // The larger of the two trees, with every branch open, after two channels have changed places: up to its picture, as
 // the view lays its branches out just before that.
 void RebuildTree(benchmark::State& run) {
@@ -220,6 +249,7 @@ void RegisterWindow() {
             {"ridisegnare una pagina della griglia", RepaintPage},
             {"scorrere tutte le righe", Scroll, 5},
             {"un passo del filtro", FilterStep},
+            {"eliminare 2000 righe sparse", DeleteScattered},
             {"rifare l'albero dopo una modifica", RebuildTree}});
 }
 

@@ -10,7 +10,10 @@ void History::Push(std::string label, Kind kind, std::unique_ptr<State> before, 
                    const Clipboard& copiedNow) {
   steps_.resize(done_);
   auto clipboard = copied == copiedNow ? nullptr : std::make_unique<const Copied>(Copied{copied, copiedNow});
-  if (kind == Kind::Continued && done_ > 0 && clipboard == nullptr) return;
+  if (kind == Kind::Continued && done_ > 0 && clipboard == nullptr) {
+    steps_[done_ - 1].label = std::move(label);
+    return;
+  }
   steps_.push_back({std::move(label), kind, ++lastNumber_, std::move(before), std::move(clipboard)});
   if (steps_.size() > MostSteps) DropOldest();
   done_ = steps_.size();
@@ -21,6 +24,18 @@ void History::DropOldest() {
   const auto lists =
       std::count_if(steps_.begin(), steps_.end(), [](const Step& step) { return step.kind == Kind::List; });
   steps_.erase(steps_.begin() + (steps_.front().kind == Kind::List && lists == 1 ? 1 : 0));
+}
+
+std::vector<std::string> History::UndoLabels() const {
+  std::vector<std::string> labels;
+  for (std::size_t step = done_; step > 0; --step) labels.push_back(steps_[step - 1].label);
+  return labels;
+}
+
+std::vector<std::string> History::RedoLabels() const {
+  std::vector<std::string> labels;
+  for (std::size_t step = done_; step < steps_.size(); ++step) labels.push_back(steps_[step].label);
+  return labels;
 }
 
 bool History::Undo(std::unique_ptr<State>& state, Clipboard& clipboard) {

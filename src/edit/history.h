@@ -7,13 +7,14 @@
 #include <deque>
 #include <memory>
 #include <string>
+#include <vector>
 
 namespace Edit {
 
 class History {
  public:
   // What a step changed. A replaced list brings its own output and limits back; an edit leaves those alone, as a save
-  // may have set them since. A continued edit makes one step with the one before it.
+  // may have set them since. A continued edit makes one step with the one before it, which takes its label.
   enum class Kind { Edit, Continued, List };
 
   // The steps kept; at some 135 KB each they stay below 30 MB, and below 100 MB where each cut the whole list.
@@ -30,6 +31,9 @@ class History {
   // Labels of the steps that would be taken back and done again; empty when there is none.
   [[nodiscard]] std::string UndoLabel() const { return done_ == 0 ? "" : steps_[done_ - 1].label; }
   [[nodiscard]] std::string RedoLabel() const { return done_ == steps_.size() ? "" : steps_[done_].label; }
+  // All of them, in the order in which they would be.
+  [[nodiscard]] std::vector<std::string> UndoLabels() const;
+  [[nodiscard]] std::vector<std::string> RedoLabels() const;
 
   // A number of the last step done that no other one ever has; 0 where there is none.
   [[nodiscard]] int LastStep() const { return done_ == 0 ? 0 : steps_[done_ - 1].number; }

@@ -51,7 +51,7 @@ class Play {
   // Plays one step; what no longer holds after it, empty where all does.
   std::string Step() {
     const auto before = std::make_unique<State>(Tables());
-    const std::string label = window_->List().Steps().UndoLabel();
+    const auto steps = window_->List().Steps().UndoLabels().size();
     changes_ = 0;
     fault_.clear();
     const auto& [name, run] = random_.Pick(steps_);
@@ -60,8 +60,9 @@ class Play {
     Settle();
     if (fault_.empty()) fault_ = Fault();
     if (fault_.empty()) fault_ = SavedFault();
-    const bool history = name == "Annulla" || name == "Ripeti" || name == "restart";
-    if (fault_.empty() && !history && !Editor()) UndoAndRedo(*before, label);
+    const bool history = name.starts_with("Annulla") || name == "Ripeti" || name == "restart" ||
+                         name == "button Undo" || name == "button Redo";
+    if (fault_.empty() && !history && !Editor()) UndoAndRedo(*before, steps);
     return fault_.empty() ? "" : name_ + ": " + fault_;
   }
 
@@ -142,8 +143,10 @@ class Play {
     Add("popup", 12, [this] { ChooseInPopup(); });
     Add("drop", 6, [this] { Drop(); });
     Add("option", 4, [this] { ChooseOption(); });
-    Add("filter", 2,
-        [this] { window_->findChild<QLineEdit*>("Filtro")->setText(random_.Chance(40) ? "" : "c1"); });
+    Add("filter", 2, [this] {
+      const QStringList words = {"", "", "c1", "-tv", "doppi", "sat:a", "pref:1 -radio", "1"};
+      window_->findChild<QLineEdit*>("Filtro")->setText(random_.Pick(words));
+    });
     Add("tree", 6, [this] { ClickTree(); });
     Add("favourites", 10, [this] { UseFavourites(); });
     Add("window", 10, [this] { UseWindow(); });
@@ -166,6 +169,7 @@ class Play {
     if (Grid().model() == nullptr || Grid().isHidden()) return;
     const int row = random_.Below(std::min(Grid().model()->rowCount(), 60));
     const QModelIndex index = Grid().model()->index(row, random_.Below(Grid().model()->columnCount()));
+    if (Grid().isRowHidden(row)) return;
     Grid().setCurrentIndex(index);
     if (index.isValid()) static_cast<QAbstractItemView&>(Grid()).edit(index);
     QWidget* editor = Editor();
@@ -185,7 +189,8 @@ class Play {
     static const QStringList keys =
         QString(
             "Up Down PgDown Ctrl+Home Ctrl+End Shift+Down Left Right Del Ctrl+C Ctrl+X Ctrl+V Alt+Up "
-            "Alt+Down F2 F3 A Esc Return Ctrl+1 Ctrl+8 Ctrl+A")
+            "Alt+Down Alt+Home Alt+End Alt+Ins Ctrl+Space Ctrl+Down Ctrl+Shift+Down F2 F3 A Esc Return "
+            "Ctrl+1 Ctrl+8 Ctrl+A")
             .split(' ');
     window_->activateWindow();
     if (random_.Chance(70)) Grid().setFocus();
@@ -307,9 +312,9 @@ class Play {
   }
 
   // Every step can be taken back to the state before it, and done again.
-  void UndoAndRedo(const State& before, const std::string& label) {
-    const std::string now = window_->List().Steps().UndoLabel();
-    const bool continued = now == label && now.starts_with("Sposta");
+  void UndoAndRedo(const State& before, std::size_t steps) {
+    const auto& now = window_->List().Steps();
+    const bool continued = now.UndoLabels().size() == steps && now.UndoLabel().starts_with("Spostat");
     if (changes_ == 0 && !SameTables(before, Tables())) fault_ = "the tables changed and nobody was told";
     if (changes_ == 0 || continued) return;
     const auto after = std::make_unique<State>(Tables());

@@ -56,6 +56,8 @@ class Faults {
         CommandAction(window_, "VisualizzaCanali").isChecked() == channels &&
         CommandAction(window_, "VisualizzaTransponder").isChecked() == (Label("Text1") == "Transponders");
     if (!ticks) return "marker and ticks differ";
+    for (const int row : Grid().Selected())
+      if (Grid().isRowHidden(row - 1)) return "a row that nobody sees is selected";
     if (!Grid().isVisible()) return {};
     const QAbstractItemModel& model = *Grid().model();
     if (model.rowCount() != (channels ? tables_.ChannelCount : tables_.TransponderCount))

@@ -33,21 +33,24 @@ void BulkCommands::CambiaNomi() {
   if (dialog.exec() != QDialog::Accepted) return;
   const std::vector<Edit::NewName> names = dialog.Chosen();
   if (names.empty()) return;
-  const std::string count = Base::Counted(names.size(), "nome", "nomi");
-  const int renamed =
-      document.Apply("Cambia " + count, [&](State& state) { return Edit::RenameChannels(state, names); });
-  session_.status.ShowResult(
-      renamed == 1 ? QString("Rinominato %1 in %2").arg(Text(names.front().before), Text(names.front().after))
-                   : "Cambiati " + Counted(renamed, "nome", "nomi") + dialog.Where());
+  std::string label;
+  const int renamed = document.Apply(label, [&](State& state) {
+    const int changed = Edit::RenameChannels(state, names);
+    label = changed == 1 ? "Rinominato " + names.front().before + " in " + names.front().after
+                         : "Cambiati " + Base::Counted(changed, "nome", "nomi");
+    return changed;
+  });
+  session_.status.ShowResult(Text(label) + (renamed == 1 ? QString() : dialog.Where()));
 }
 
 void BulkCommands::OrdinaCanali() {
   SortDialog dialog(session_, session_.view.window());
   if (dialog.exec() != QDialog::Accepted) return;
   const Edit::SortPlan plan = dialog.Plan();
-  const auto lost = session_.document.Apply("Ordina Canali " + dialog.How().toStdString(),
+  const QString label = "Ordinati i canali " + dialog.How();
+  const auto lost = session_.document.Apply(label.toStdString(),
                                             [&](State& state) { return Edit::SortChannels(state, plan); });
-  session_.status.ShowResult("Ordinati i canali " + dialog.How() + ": spostati " +
+  session_.status.ShowResult(label + (plan.moved == 1 ? ": spostato " : ": spostati ") +
                              Counted(plan.moved, "canale", "canali") + session_.Losses(lost));
 }
 

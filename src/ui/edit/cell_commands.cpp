@@ -2,6 +2,7 @@
 
 #include "edit/cell_edit.h"
 #include "edit/move.h"
+#include "edit/told.h"
 #include "ui/kit/text.h"
 #include "ui/session/gate.h"
 
@@ -100,6 +101,14 @@ QStringList CellCommands::Choices(int column) const {
   }
 }
 
+// "Modificato Rai Uno (12)", "Modificato il transponder 3"
+std::string CellCommands::ToldEdit(bool channel, int slot) const {
+  const State& state = session_.document.Tables();
+  if (!channel) return "Modificato il transponder " + std::to_string(slot);
+  if (state.Channel(slot).Empty()) return "Riempito il " + Edit::NameIn(state, slot);
+  return "Modificato " + Edit::NameIn(state, slot) + " (" + std::to_string(slot) + ")";
+}
+
 // An editor may be closed by the very command that shows the other list: the cell says whose it is.
 QString CellCommands::Take(const QModelIndex& cell, const QString& typed) {
   const int slot = cell.row() + 1;
@@ -107,7 +116,7 @@ QString CellCommands::Take(const QModelIndex& cell, const QString& typed) {
   const std::string text = typed.toStdString();
   const bool channels = static_cast<const ListModel*>(cell.model())->OfChannels();
   const std::string title = Title(*cell.model(), column, channels);
-  const std::string label = "Modifica " + title;
+  std::string label = ToldEdit(channels, slot) + ", " + title + ": " + typed.trimmed().toStdString();
   const int revision = session_.document.Revision();
   const Base::Outcome done = session_.document.Apply(label, [&](State& state) {
     return channels ? Edit::EditChannel(state, slot, column, text)
@@ -117,12 +126,7 @@ QString CellCommands::Take(const QModelIndex& cell, const QString& typed) {
     session_.status.ShowResult("Non modificato: " + Text(done.error().message));
     return Text(done.error().message);
   }
-  if (session_.document.Revision() != revision) {
-    session_.status.ShowResult(QString("%1 %2, %3: %4")
-                                   .arg(channels ? "Canale" : "Transponder")
-                                   .arg(slot)
-                                   .arg(Text(title), typed.trimmed()));
-  }
+  if (session_.document.Revision() != revision) session_.status.ShowResult(Text(label));
   return {};
 }
 
@@ -141,8 +145,10 @@ void CellCommands::Rename() {
 void CellCommands::InsertRows() {
   const Edit::Slots rows = Rows();
   if (rows.empty() || !Meets(session_, Need::Places)) return;
-  const std::string label =
-      rows.size() == 1 ? "Inserisci riga vuota" : "Inserisci " + std::to_string(rows.size()) + " righe vuote";
+  const std::string at = std::to_string(rows.front());
+  const std::string label = rows.size() == 1
+                                ? "Inserita 1 riga vuota al " + at
+                                : "Inserite " + std::to_string(rows.size()) + " righe vuote dal " + at;
   const auto inserted =
       session_.document.Apply(label, [&](State& state) { return Edit::InsertEmpty(state, rows); });
   if (!inserted) {
@@ -150,22 +156,25 @@ void CellCommands::InsertRows() {
     return;
   }
   session_.view.ListGrid().Select(inserted->rows);
-  session_.status.ShowResult(Text(label) + QString(" al %1").arg(rows.front()) +
-                             session_.Losses(inserted->lost));
+  session_.status.ShowResult(Text(label) + session_.Losses(inserted->lost));
 }
 
 void CellCommands::SetColumn(int column, const QString& value) {
   const Edit::Slots rows = Rows();
   if (rows.empty()) return;
-  const std::string label =
-      Title(*session_.view.ListGrid().model(), column, true) + " " + value.toStdString();
+  const State& tables = session_.document.Tables();
+  Edit::Slots channels = rows;
+  std::erase_if(channels, [&tables](int slot) { return tables.Channel(slot).Empty(); });
+  const std::string what =
+      ", " + Title(*session_.view.ListGrid().model(), column, true) + " " + value.toStdString();
+  const std::string label = Edit::Told(tables, channels, "Modificato", "Modificati", what);
   const auto changed = session_.document.Apply(
       label, [&](State& state) { return Edit::EditChannels(state, rows, column, value.toStdString()); });
   if (!changed) {
     session_.Message(changed.error());
     return;
   }
-  session_.status.ShowResult(Text(label) + ": " + Counted(*changed, "canale", "canali"));
+  session_.status.ShowResult(*changed == 0 ? QString("Nessun canale fra le righe selezionate") : Text(label));
 }
 
 void CellCommands::AskTransponder() {

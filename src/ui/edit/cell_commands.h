@@ -29,6 +29,7 @@ class CellCommands : public CellEdits {
   [[nodiscard]] bool Channels() const { return session_.view.Current() == View::Channels; }
   // The selected channels; none while another list is shown.
   [[nodiscard]] Edit::Slots Rows() const;
+  [[nodiscard]] std::string ToldEdit(bool channel, int slot) const;
 
   Session& session_;
 };

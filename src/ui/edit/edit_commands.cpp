@@ -1,10 +1,10 @@
 #include "ui/edit/edit_commands.h"
 
 #include "base/text.h"
-#include "edit/changed_rows.h"
+#include "edit/told.h"
 #include "ui/kit/text.h"
+#include "ui/session/set_commands.h"
 
-#include <QAction>
 #include <QApplication>
 #include <QClipboard>
 
@@ -13,28 +13,11 @@ namespace Ui {
 using Edit::Slots;
 using Routines::State;
 
-namespace {
-
-std::string CountText(std::integral auto count) { return Base::Counted(count, "canale", "canali"); }
-
-}  // namespace
-
 void EditCommands::Connect(Actions& actions) {
-  actions.Connect("Annulla", [this] { Undo(); });
-  actions.Connect("Ripeti", [this] { Redo(); });
   actions.Connect("Copia", [this] { Copy(); });
   actions.Connect("Taglia", [this] { Cut(); });
   actions.Connect("Incolla", [this] { Paste(); });
   actions.Connect("Elimina", [this] { Delete(); });
-  session_.onChange.emplace_back([this, &actions] { ShowSteps(actions); });
-}
-
-void EditCommands::ShowSteps(Actions& actions) {
-  const auto name = [&actions](CommandName command, const std::string& step) {
-    actions[command].setText(Text(step.empty() ? command->caption : command->caption + (" " + step)));
-  };
-  name("Annulla", session_.document.Steps().UndoLabel());
-  name("Ripeti", session_.document.Steps().RedoLabel());
 }
 
 bool EditCommands::MayReplaceClipboard() {
@@ -52,14 +35,14 @@ void EditCommands::Copy() {
   GiveToOthers(slots);
   session_.document.Copy(Edit::CopyChannels(session_.document.Tables(), slots));
   session_.ShowList();
-  session_.status.ShowResult("Copia " + Text(CountText(slots.size())));
+  session_.status.ShowResult(Text(Edit::Told(session_.document.Tables(), slots, "Copiato", "Copiati")));
 }
 
 void EditCommands::Cut() {
   const Slots slots = session_.SelectedChannels();
   if (slots.empty() || !MayReplaceClipboard()) return;
   GiveToOthers(slots);
-  const std::string label = "Taglia " + CountText(slots.size());
+  const std::string label = Edit::Told(session_.document.Tables(), slots, "Tagliato", "Tagliati");
   const auto lost = session_.document.Apply(label, [&](State& state, Edit::Clipboard& clipboard) {
     clipboard = Edit::CopyChannels(state, slots);
     return Edit::CutChannels(state, slots, clipboard);
@@ -71,11 +54,8 @@ void EditCommands::Cut() {
 void EditCommands::Delete() {
   const Slots slots = session_.SelectedChannels();
   if (slots.empty()) return;
-  const std::string label = "Elimina " + CountText(slots.size());
-  const auto lost =
-      session_.document.Apply(label, [&](State& state) { return Edit::DeleteSlots(state, slots); });
+  DeleteChannels(session_, slots);
   session_.view.ListGrid().SelectNear(slots.front());
-  session_.status.ShowResult(Text(label) + session_.Losses(lost));
 }
 
 void EditCommands::Paste() {
@@ -97,57 +77,35 @@ void EditCommands::Paste() {
                                          .arg(position)
                                          .arg(count));
   if (way == Answer::Cancel) return;
-  const auto pasted =
-      session_.document.Apply("Incolla " + CountText(count), [&](State& state, Edit::Clipboard& clipboard) {
-        auto report = Edit::Paste(state, clipboard, position,
-                                  way == Answer::Yes ? Edit::PasteWay::Move : Edit::PasteWay::Overwrite,
-                                  session_.bouquets.tables);
-        if (report) clipboard = {};
-        return report;
-      });
+  std::string label;
+  const auto pasted = session_.document.Apply(label, [&](State& state, Edit::Clipboard& clipboard) {
+    auto report = Edit::Paste(state, clipboard, position,
+                              way == Answer::Yes ? Edit::PasteWay::Move : Edit::PasteWay::Overwrite,
+                              session_.bouquets.tables);
+    if (!report) return report;
+    clipboard = {};
+    label = Edit::Told(state, Edit::SlotRun(position, position + count - 1), "Incollato", "Incollati",
+                       (count == 1 ? " al " : " dal ") + std::to_string(position));
+    return report;
+  });
   if (!pasted) {
     session_.Message(pasted.error());
     return;
   }
-  TellPasted(count, position, *pasted);
-}
-
-void EditCommands::TellPasted(int count, int position, const Edit::PasteReport& report) {
   session_.view.ListGrid().Select(Edit::SlotRun(position, position + count - 1));
   session_.view.ListGrid().ScrollToTop(position);
-  QString text = "Incolla " + Text(CountText(count)) + QString(" dal %1").arg(position);
-  if (report.favouritesBack > 0) text += QString(", preferiti rimessi: %1").arg(report.favouritesBack);
-  if (report.favouritesFull > 0) text += QString(", senza posto nelle liste: %1").arg(report.favouritesFull);
+  TellPasted(Text(label), *pasted);
+}
+
+void EditCommands::TellPasted(QString text, const Edit::PasteReport& report) {
+  if (report.favouritesBack > 0)
+    text += ", " + Counted(report.favouritesBack, "preferito rimesso", "preferiti rimessi");
+  if (report.favouritesFull > 0)
+    text += ", " + Counted(report.favouritesFull, "preferito senza posto", "preferiti senza posto");
   text += session_.Losses(report.lost);
   if (report.withoutTransponder > 0)
-    text += QString(", senza transponder: %1").arg(report.withoutTransponder);
+    text += ", " + Counted(report.withoutTransponder, "canale senza transponder", "canali senza transponder");
   session_.status.ShowResult(text);
-}
-
-void EditCommands::Undo() {
-  session_.status.ForgetLossOf(session_.document.Steps().LastStep());
-  TakeStep(&Document::Undo, "Annullato: " + Text(session_.document.Steps().UndoLabel()));
-}
-
-void EditCommands::Redo() {
-  TakeStep(&Document::Redo, "Ripetuto: " + Text(session_.document.Steps().RedoLabel()));
-}
-
-// A list that came back is shown from its start; one that went away no longer is.
-void EditCommands::TakeStep(void (Document::*step)(), const QString& result) {
-  Document& document = session_.document;
-  const auto before = std::make_unique<State>(document.Tables());
-  (document.*step)();
-  const State& state = document.Tables();
-  if (state.ListNumber != before->ListNumber) {
-    session_.view.ShowFromStart(state.Loaded ? View::Channels : View::None);
-  } else if (session_.view.Current() != View::None) {
-    const bool channels = session_.view.Current() == View::Channels;
-    const Slots changed =
-        channels ? Edit::ChannelsToShow(*before, state) : Edit::TranspondersToShow(*before, state);
-    if (!changed.empty()) session_.view.ListGrid().Select(changed);
-  }
-  session_.status.ShowResult(result);
 }
 
 }  // namespace Ui

@@ -1,4 +1,4 @@
-// The commands that change the channel list by its rows: clipboard, delete and undo.
+// The commands that change the channel list by its rows: clipboard and delete.
 #pragma once
 
 #include "edit/clipboard.h"
@@ -18,17 +18,11 @@ class EditCommands {
   void Delete();
   void Paste();
 
-  void Undo();
-  void Redo();
-
  private:
-  // Names the step that would be undone, and the one that would be done again.
-  void ShowSteps(Actions& actions);
   bool MayReplaceClipboard();
   // As text, for other programs.
   void GiveToOthers(const Edit::Slots& slots);
-  void TellPasted(int count, int position, const Edit::PasteReport& report);
-  void TakeStep(void (Document::*step)(), const QString& result);
+  void TellPasted(QString text, const Edit::PasteReport& report);
 
   Session& session_;
 };

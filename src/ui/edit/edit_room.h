@@ -6,15 +6,17 @@
 #include "ui/edit/edit_commands.h"
 #include "ui/edit/list_commands.h"
 #include "ui/edit/move_commands.h"
+#include "ui/edit/step_commands.h"
 
 namespace Ui {
 
 struct EditRoom {
   EditRoom(Session& session, Actions& actions)
-      : cells(session), rows(session), moves(session), list(session), bulk(session) {
+      : cells(session), rows(session), moves(session), steps(session), list(session), bulk(session) {
     session.view.EditWith(cells);
     rows.Connect(actions);
     moves.Connect(actions);
+    steps.Connect(actions);
     list.Connect(actions);
     bulk.Connect(actions);
   }
@@ -22,6 +24,7 @@ struct EditRoom {
   CellCommands cells;
   EditCommands rows;
   MoveCommands moves;
+  StepCommands steps;
   ListCommands list;
   BulkCommands bulk;
 };

@@ -4,6 +4,7 @@
 #include "base/text.h"
 #include "edit/list_operations.h"
 #include "edit/regroup.h"
+#include "edit/told.h"
 #include "ui/kit/toolkit.h"
 #include "ui/session/filter_texts.h"
 
@@ -49,23 +50,24 @@ std::optional<int> ListCommands::AskStart(int last) {
 void ListCommands::OrdinaPerBouquet() {
   const auto start = AskStart(Routines::LastOccupied(session_.document.Tables()));
   if (!start) return;
+  const std::string label = "Canali ordinati per bouquet dal " + std::to_string(*start);
   const auto lost = Waiting([&] {
-    return session_.document.Apply("Ordina Canali per Bouquet",
+    return session_.document.Apply(label,
                                    [&](State& state) { return Edit::OrdinaPerBouquet(state, *start); });
   });
   session_.view.Show(View::Channels);
-  session_.status.ShowResult(QString("Canali ordinati per bouquet dal %1").arg(*start) +
-                             session_.Losses(lost));
+  session_.status.ShowResult(Text(label) + session_.Losses(lost));
 }
 
 void ListCommands::SpostaRadio() {
   const auto start = AskStart(Routines::LastOccupied(session_.document.Tables()));
   if (!start) return;
-  const Edit::Regrouped done = session_.document.Apply(
-      "Raggruppa RADIO e SERVIZI", [&](State& state) { return Edit::Regroup(state, *start); });
+  const std::string label = "Canali raggruppati dal " + std::to_string(*start);
+  const Edit::Regrouped done =
+      session_.document.Apply(label, [&](State& state) { return Edit::Regroup(state, *start); });
   session_.view.Show(View::Channels);
-  session_.status.ShowResult(QString("Canali raggruppati dal %1: TV %2, radio %3, servizi %4")
-                                 .arg(*start)
+  session_.status.ShowResult(QString("%1: TV %2, radio %3, servizi %4")
+                                 .arg(Text(label))
                                  .arg(done.television)
                                  .arg(done.radio)
                                  .arg(done.services) +
@@ -80,25 +82,32 @@ void ListCommands::SpostaRadio() {
 }
 
 void ListCommands::Azzera() {
-  const int cleared = session_.document.Apply("Azzera Canali e Transponder",
-                                              [](State& state) { return Edit::Azzera(state); });
+  const State& tables = session_.document.Tables();
+  const std::string label = "Azzerati " + Base::Counted(Routines::UsedChannels(tables), "canale", "canali") +
+                            " e " +
+                            Base::Counted(Routines::UsedTransponders(tables), "transponder", "transponder");
+  const int cleared = session_.document.Apply(label, [](State& state) { return Edit::Azzera(state); });
   session_.view.ShowFromStart(View::Channels);
-  session_.status.ShowResult(QString("Azzera Canali e Transponder: %1 canali").arg(cleared));
+  session_.status.ShowResult(Text(label));
   session_.dialogs.Message(QString("Sono stati azzerati %1 Canali").arg(cleared), {}, Tone::Information);
 }
 
-void ListCommands::InvertiSatelliti() { ChangeTransponders("Inverti Satelliti", Edit::InvertiSatelliti); }
+void ListCommands::InvertiSatelliti() {
+  ChangeTransponders("Invertiti i satelliti A e B, C e D", Edit::InvertiSatelliti);
+}
 
-void ListCommands::RiportaAB() { ChangeTransponders("Riporta tutto a SAT A-B", Edit::RiportaAB); }
+void ListCommands::RiportaAB() { ChangeTransponders("Riportati i transponder a SAT A-B", Edit::RiportaAB); }
 
 void ListCommands::CanaliXTransponder() {
-  ChangeTransponders("Ricalcola il numero di Canali per transponder", Edit::CanaliXTransponder);
+  ChangeTransponders("Ricalcolato il numero di canali per transponder", Edit::CanaliXTransponder);
 }
 
 void ListCommands::ChangeTransponders(const char* label, void (*operation)(State&)) {
+  const int revision = session_.document.Revision();
   session_.document.Apply(label, operation);
   session_.view.Show(View::Transponders);
-  session_.status.ShowResult(label);
+  const bool changed = session_.document.Revision() != revision;
+  session_.status.ShowResult(changed ? QString(label) : QString(label) + ": era già così");
 }
 
 void ListCommands::VaiAlCanale() {
@@ -110,7 +119,7 @@ void ListCommands::VaiAlCanale() {
     return;
   }
   session_.view.GoTo(slot);
-  session_.status.ShowResult(QString("Canale %1").arg(slot));
+  session_.TellChannel(slot);
 }
 
 void ListCommands::CercaCanale() {
@@ -124,7 +133,8 @@ void ListCommands::CercaCanale() {
   }
   while (slot != 0) {
     session_.view.ShowFound(slot);
-    session_.status.ShowResult(QString("Trovato al canale %1").arg(slot));
+    session_.status.ShowResult(
+        QString("Trovato %1 al %2").arg(Text(Edit::NameIn(session_.document.Tables(), slot))).arg(slot));
     if (!session_.dialogs.YesNo("Ricerco il successivo?")) return;
     slot = Edit::FindName(session_.document.Tables(), wanted_, slot + 1);
   }
@@ -135,7 +145,8 @@ void ListCommands::SelezionaTrovati() {
   session_.view.Hits().SelectAll();
   const auto found = session_.view.Filter().Matches().size();
   session_.status.ShowResult(found == 0 ? QString("Il filtro non ha trovato righe")
-                                        : "Selezionate " + Counted(found, "riga", "righe"));
+                                        : (found == 1 ? "Selezionata " : "Selezionate ") +
+                                              Counted(found, "riga", "righe"));
 }
 
 void ListCommands::CercaSuccessivo() {

@@ -2,6 +2,7 @@
 
 #include "base/text.h"
 #include "edit/clipboard.h"
+#include "edit/told.h"
 #include "ui/kit/text.h"
 
 #include <algorithm>
@@ -10,34 +11,6 @@ namespace Ui {
 
 using Edit::Slots;
 using Routines::State;
-
-namespace {
-
-std::string CountText(std::integral auto count) { return Base::Counted(count, "canale", "canali"); }
-
-// "RAI 1", or what stands for it where the slot is empty.
-QString NameOf(const State& state, int slot) {
-  const auto& channel = state.Channel(slot);
-  if (channel.Empty()) return "il posto vuoto";
-  const QString name = CodePageText(Base::TrimmedRight(channel.Name()));
-  return name.isEmpty() ? QString("il canale senza nome") : name;
-}
-
-// "Spostato RAI 1 dal 705 al 1" or "Spostate 3 righe ai posti da 5 a 7: RAI 1, RAI 2, RAI 3"; `state` is before the move.
-QString MovedText(const State& state, const Slots& slots, int to) {
-  constexpr std::size_t MostNames = 3;
-  if (slots.size() == 1)
-    return QString("Spostato %1 dal %2 al %3").arg(NameOf(state, slots[0])).arg(slots[0]).arg(to);
-  QStringList names;
-  for (std::size_t i = 0; i < std::min(slots.size(), MostNames); ++i) names += NameOf(state, slots[i]);
-  return QString("Spostati %1 canali ai posti da %2 a %3: %4")
-      .arg(slots.size())
-      .arg(to)
-      .arg(to + static_cast<int>(slots.size()) - 1)
-      .arg(names.join(", ") + (slots.size() > MostNames ? "…" : ""));
-}
-
-}  // namespace
 
 void MoveCommands::Connect(Actions& actions) {
   actions.Connect("SpostaSu", [this] { MoveBy(-1); });
@@ -51,8 +24,22 @@ void MoveCommands::Connect(Actions& actions) {
   QObject::connect(&session_.view, &ListView::Dropped, &session_.view,
                    [this](const Slots& slots, int before, bool copy) { Drop(slots, before, copy); });
   QObject::connect(&session_.status, &StatusLine::GoToWanted, &session_.view,
-                   [this](int slot) { session_.GoToChannel(slot); });
+                   [this](int slot) { ShowMoved(slot); });
 }
+
+namespace {
+
+// "Spostato RAI 1 dal 5 al 3", "Spostati 3 canali in su di 2 posti: …": channels that are in `slots` now.
+std::string ToldAfter(const State& state, const Slots& slots, int rows) {
+  if (slots.size() == 1)
+    return Edit::Told(state, slots, "Spostato", "",
+                      " dal " + std::to_string(slots[0] - rows) + " al " + std::to_string(slots[0]));
+  return Edit::Told(
+      state, slots, "", "Spostati",
+      (rows < 0 ? " in su di " : " in giù di ") + Base::Counted(std::abs(rows), "posto", "posti"));
+}
+
+}  // namespace
 
 void MoveCommands::MoveBy(int rows) {
   Slots slots = session_.SelectedChannels();
@@ -60,34 +47,48 @@ void MoveCommands::MoveBy(int rows) {
   Document& document = session_.document;
   // Rows that go on from where they have just been moved to make one step with it.
   const bool continues = stepped_ == slots && steppedRevision_ == document.Revision();
-  const std::string label = "Sposta " + CountText(slots.size());
+  const int sum = rows + (continues ? steppedBy_ : 0);
+  std::string label;
   const bool moved = document.Apply(
-      label, [&](State& state) { return Edit::StepChannels(state, slots, rows); },
+      label,
+      [&](State& state) {
+        const bool made = Edit::StepChannels(state, slots, rows);
+        for (int& slot : slots) slot += made ? rows : 0;
+        label = ToldAfter(state, slots, sum);
+        return made;
+      },
       continues ? Edit::History::Kind::Continued : Edit::History::Kind::Edit);
   if (!moved) return;
-  for (int& slot : slots) slot += rows;
   stepped_ = slots;
+  steppedBy_ = sum;
   steppedRevision_ = document.Revision();
   session_.view.ListGrid().Select(slots);
-  session_.status.ShowResult("Spostati " + Text(CountText(slots.size())) +
-                             QString(" al %1").arg(slots.front()));
+  session_.status.ShowResult(Text(label));
 }
 
 void MoveCommands::Move(const Slots& slots, int to) {
   Document& document = session_.document;
-  const QString result = MovedText(document.Tables(), slots, to);
   const int revision = document.Revision();
-  document.Apply("Sposta " + CountText(slots.size()),
-                 [&](State& state) { Edit::MoveChannels(state, slots, to); });
-  const Slots now = Edit::SlotRun(to, to + static_cast<int>(slots.size()) - 1);
-  lastMoved_ = now.back();
+  const std::string label = Edit::ToldMove(document.Tables(), slots, to);
+  document.Apply(label, [&](State& state) { Edit::MoveChannels(state, slots, to); });
+  moved_ = Edit::SlotRun(to, to + static_cast<int>(slots.size()) - 1);
+  movedRevision_ = document.Revision();
+  lastMoved_ = moved_.back();
   lastRecord_ = document.Tables().Channel(lastMoved_);
-  session_.view.ListGrid().SelectUnseen(now);
+  session_.view.ListGrid().SelectUnseen(moved_);
   if (document.Revision() == revision) {
     session_.status.ShowResult(QString("Già al posto %1").arg(to));
   } else {
-    session_.status.ShowResult(result, to);
+    session_.status.ShowResult(Text(label), to);
   }
+}
+
+// All of them, where they are still what was moved last.
+void MoveCommands::ShowMoved(int slot) {
+  if (movedRevision_ != session_.document.Revision()) return session_.GoToChannel(slot);
+  session_.view.Show(View::Channels);
+  session_.view.ListGrid().Select(moved_);
+  session_.view.ListGrid().setFocus();
 }
 
 void MoveCommands::SpostaA() {
@@ -143,13 +144,11 @@ void MoveCommands::Scambia() {
     return;
   }
   const State& state = session_.document.Tables();
-  const QString result = QString("Scambiati %1 e %2: ora al %3 e al %4")
-                             .arg(NameOf(state, slots[0]), NameOf(state, slots[1]))
-                             .arg(slots[1])
-                             .arg(slots[0]);
-  session_.document.Apply("Scambia 2 canali",
-                          [&](State& tables) { Edit::SwapChannels(tables, slots[0], slots[1]); });
-  session_.status.ShowResult(result);
+  const std::string label = "Scambiati " + Edit::NameIn(state, slots[0]) + " e " +
+                            Edit::NameIn(state, slots[1]) + ": ora al " + std::to_string(slots[1]) +
+                            " e al " + std::to_string(slots[0]);
+  session_.document.Apply(label, [&](State& tables) { Edit::SwapChannels(tables, slots[0], slots[1]); });
+  session_.status.ShowResult(Text(label));
 }
 
 void MoveCommands::ChiudiVuoti() {
@@ -176,22 +175,21 @@ void MoveCommands::CloseGapsFrom(int start) {
       QString("%1 %2: %3 numero. Continuo?")
           .arg(gaps == 1 ? "Si chiude" : "Si chiudono", Counted(gaps, "posto vuoto", "posti vuoti"),
                Counted(slots.end() - first - gaps, "canale cambia", "canali cambiano"));
-  if (gaps == 0 || session_.dialogs.YesNo(question)) CloseGaps(slots, QString("dal %1").arg(start));
+  if (gaps == 0 || session_.dialogs.YesNo(question)) CloseGaps(slots, "dal " + std::to_string(start));
 }
 
-void MoveCommands::CloseGaps(const Slots& slots, const QString& where) {
+void MoveCommands::CloseGaps(const Slots& slots, const std::string& where) {
   const State& state = session_.document.Tables();
-  const auto used = [&] {
-    return std::find_if(slots.rbegin(), slots.rend(), [&](int slot) { return !state.Channel(slot).Empty(); });
-  };
-  const auto before = used();
-  const auto lost = session_.document.Apply("Chiudi i posti vuoti",
-                                            [&](State& tables) { return Edit::CloseGaps(tables, slots); });
-  const auto closed = used() - before;
-  session_.status.ShowResult(closed == 0 ? "Nessun posto vuoto da chiudere " + where
-                                         : (closed == 1 ? "Chiuso " : "Chiusi ") +
-                                               Counted(closed, "posto vuoto", "posti vuoti") + ' ' + where +
-                                               session_.Losses(lost));
+  const auto empty = [&state](int slot) { return state.Channel(slot).Empty(); };
+  // Those behind the last channel stay where they are.
+  const auto last = std::find_if_not(slots.rbegin(), slots.rend(), empty);
+  const auto closed = std::count_if(last, slots.rend(), empty);
+  const std::string label = (closed == 1 ? "Chiuso " : "Chiusi ") +
+                            Base::Counted(closed, "posto vuoto", "posti vuoti") + " " + where;
+  const auto lost =
+      session_.document.Apply(label, [&](State& tables) { return Edit::CloseGaps(tables, slots); });
+  session_.status.ShowResult(closed == 0 ? "Nessun posto vuoto da chiudere " + Text(where)
+                                         : Text(label) + session_.Losses(lost));
 }
 
 void MoveCommands::Drop(const Slots& slots, int before, bool copy) {
@@ -204,16 +202,18 @@ void MoveCommands::Drop(const Slots& slots, int before, bool copy) {
 }
 
 void MoveCommands::InsertCopy(const Slots& slots, int before) {
-  const std::string label = "Copia " + CountText(slots.size());
-  const bool made = session_.document.Apply(label, [&](State& state) {
-    const Edit::Clipboard copy = Edit::CopyChannels(state, slots);
+  const State& state = session_.document.Tables();
+  const std::string label = Edit::Told(state, slots, "Copiato", "Copiati",
+                                       (slots.size() == 1 ? " al " : " dal ") + std::to_string(before));
+  const bool made = session_.document.Apply(label, [&](State& tables) {
+    const Edit::Clipboard copy = Edit::CopyChannels(tables, slots);
     return static_cast<bool>(
-        Edit::Paste(state, copy, before, Edit::PasteWay::Move, session_.bouquets.tables));
+        Edit::Paste(tables, copy, before, Edit::PasteWay::Move, session_.bouquets.tables));
   });
   if (made)
     session_.view.ListGrid().Select(Edit::SlotRun(before, before + static_cast<int>(slots.size()) - 1));
-  session_.status.ShowResult(made ? Text(label) + QString(" al %1").arg(before)
-                                  : "Non c'è posto per inserire " + Text(CountText(slots.size())));
+  session_.status.ShowResult(
+      made ? Text(label) : "Non inserito: non c'è posto per " + Counted(slots.size(), "canale", "canali"));
 }
 
 }  // namespace Ui

@@ -31,14 +31,19 @@ class MoveCommands {
 
  private:
   void Move(const Edit::Slots& slots, int to);
+  // Goes to where the result says that rows are now.
+  void ShowMoved(int slot);
   void InsertCopy(const Edit::Slots& slots, int before);
   void CloseGapsFrom(int start);
-  void CloseGaps(const Edit::Slots& slots, const QString& where);
+  void CloseGaps(const Edit::Slots& slots, const std::string& where);
   [[nodiscard]] int LastMoved() const;
 
   Session& session_;
   Edit::Slots stepped_;  // where the rows moved by one last are now
+  int steppedBy_ = 0;    // and how far these have come
   int steppedRevision_ = 0;
+  Edit::Slots moved_;  // where the rows moved as a block last are now
+  int movedRevision_ = -1;
   int lastMoved_ = 0;                   // the slot of the last row moved as a block
   Routines::ChannelRecord lastRecord_;  // and what was in it
 };

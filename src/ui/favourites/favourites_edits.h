@@ -4,6 +4,7 @@
 #include "edit/favourites_edit.h"
 #include "ui/session/session.h"
 
+#include <string>
 #include <vector>
 
 namespace Ui {
@@ -29,6 +30,8 @@ class FavouritesEdits {
   [[nodiscard]] QString Title(std::size_t list) const;
 
  private:
+  [[nodiscard]] std::string ToldEntries(std::size_t list, const Places& places, const char* one,
+                                        const char* more, const QString& where) const;
   void Tell(const QString& text);
   bool Any(const Places& places);
 

@@ -93,12 +93,12 @@ void ExchangeCommands::FormatoFLASH() {
   QString replaced;
   if (another) {
     reloaded->ListNumber = document.NextListNumber();
-    replaced = QString(" al posto della lista di %1 canali%2: Ctrl+Z la riporta")
-                   .arg(Routines::UsedChannels(document.Tables()))
+    replaced = QString(" al posto della lista di %1%2: Ctrl+Z la riporta")
+                   .arg(Counted(Routines::UsedChannels(document.Tables()), "canale", "canali"))
                    .arg(document.Unsaved() ? " con modifiche non salvate" : "");
   }
   document.Apply(
-      "Ricarica Flash per l'esportazione", [&reloaded](State& state) { state = *reloaded; },
+      "Ricaricata " + Base::FileName(flash), [&reloaded](State& state) { state = *reloaded; },
       Edit::History::Kind::List);
   document.MarkSaved(document.Tables().InputFlash);
   session_.status.ShowResult("Esportato " + PathText(Base::FileName(path)) + "; ricaricata la flash " +
@@ -124,12 +124,11 @@ std::optional<Base::Bytes> ExchangeCommands::ReadImport(const QString& title, co
 }
 
 template <class Read>
-void ExchangeCommands::Import(const char* label, const std::string& path, const Preparation& preparation,
-                              Read read) {
+void ExchangeCommands::Import(const std::string& path, const Preparation& preparation, Read read) {
   if (!session_.mayReplaceList()) return;
   Document& document = session_.document;
   const auto report = document.Apply(
-      label,
+      "Importata " + Base::FileName(path),
       [&](State& state) {
         Formats::ImportReport told = Formats::ImportList(state, preparation.symbolRates, read);
         if (told.changed) {
@@ -149,14 +148,16 @@ void ExchangeCommands::Import(const char* label, const std::string& path, const 
 
 void ExchangeCommands::TellImported(const std::string& path, const Formats::ImportReport& report) {
   if (report.listRead) {
-    QString text = PathText(Base::FileName(path)) + QString(": importati %1 canali").arg(report.channelsRead);
+    QString text = PathText(Base::FileName(path)) +
+                   (report.channelsRead == 1 ? ": importato " : ": importati ") +
+                   Counted(report.channelsRead, "canale", "canali");
     if (report.unknownRates > 0)
       text += QString(", %1 transponder con SR che SR.INI non ha").arg(report.unknownRates);
     if (const std::string codings = report.codings.Text(); !codings.empty()) text += ", " + Text(codings);
     session_.status.ShowResult(text);
   } else if (report.changed) {
-    session_.status.ShowResult(QString("Importazione interrotta: letti %1 canali, %2")
-                                   .arg(report.channelsRead)
+    session_.status.ShowResult(QString("Importazione interrotta: %1, %2")
+                                   .arg(Counted(report.channelsRead, "canale letto", "canali letti"))
                                    .arg(session_.document.Tables().Loaded
                                             ? "scritti fra quelli della lista: Annulla la riporta com'era"
                                             : "non usati"));
@@ -171,7 +172,7 @@ void ExchangeCommands::DaEsportatoTesto(std::string path) {
                                 "File di testo(*.txt)|*.txt|", path);
   if (!bytes) return;
   const std::string text = Base::FromMarkedUtf8(Base::AsText(*bytes));
-  Import("Importa da formato TESTO", path, *preparation,
+  Import(path, *preparation,
          [&](State& state) { return Formats::ReadText(state, text, path, session_.bouquets.tables); });
 }
 
@@ -180,7 +181,7 @@ void ExchangeCommands::DaEsportato(std::string path) {
   if (!preparation) return;
   const auto bytes = ReadImport("Selezionare il file di da importare", "Files di testo(*.fls)|*.fls", path);
   if (!bytes) return;
-  Import("Importa da formato FLASH", path, *preparation, [&](State& state) {
+  Import(path, *preparation, [&](State& state) {
     auto report = Formats::ReadFls(state, *bytes, session_.bouquets.tables);
     if (report.changed) state.ChannelCount = preparation->plan.maxChannels;
     if (report.whole) state.FromFls = true;

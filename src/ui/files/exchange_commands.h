@@ -35,7 +35,7 @@ class ExchangeCommands {
   // `lost` says what the file does not give back, if anything.
   void Export(const std::string& path, Base::ByteView bytes, const std::string& lost = {});
   template <class Read>
-  void Import(const char* label, const std::string& path, const Preparation& preparation, Read read);
+  void Import(const std::string& path, const Preparation& preparation, Read read);
   void TellImported(const std::string& path, const Formats::ImportReport& report);
 
   Session& session_;

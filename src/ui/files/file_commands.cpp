@@ -45,18 +45,20 @@ QString CopiesText(const std::string& path, const Routines::Saved& saved) {
 }
 
 QString LoadResult(const State& state, const Routines::LoadReport& report, bool appended) {
-  QString text = (appended ? "accodati " : "letti ") + QString::number(report.channelsRead);
-  if (report.channelsInImage > report.channelsRead) text += QString(" di %1").arg(report.channelsInImage);
-  text += " canali";
+  const bool part = report.channelsInImage > report.channelsRead;
+  const bool one = report.channelsRead == 1 && !part;
+  QString text = QString(appended ? "accodat" : "lett") + (one ? "o " : "i ");
+  text += part ? QString("%1 di %2 canali").arg(report.channelsRead).arg(report.channelsInImage)
+               : Counted(report.channelsRead, "canale", "canali");
   if (report.unplacedTransponders > 0) {
-    text += QString(", %1 transponder senza posto: %2 canali collegati al transponder %3")
+    text += QString(", %1 transponder senza posto: %2 al transponder %3")
                 .arg(report.unplacedTransponders)
-                .arg(report.linkedToLast.size())
+                .arg(Counted(report.linkedToLast.size(), "canale collegato", "canali collegati"))
                 .arg(state.TransponderCount);
   }
   if (!report.stranded.empty()) {
-    text += QString(", %1 canali su transponder oltre il %2")
-                .arg(report.stranded.size())
+    text += QString(", %1 su transponder oltre il %2")
+                .arg(Counted(report.stranded.size(), "canale", "canali"))
                 .arg(state.TransponderCount);
   }
   return text;
@@ -114,7 +116,7 @@ void FileCommands::Load(const std::string& path, const Base::Bytes& image, int a
   const bool ratesMoved = appended && RatesMoved(*rates);
   Document& document = session_.document;
   const Routines::LoadReport report = document.Apply(
-      appended ? "Accoda Flash" : "Apri Flash",
+      (appended ? "Accodata " : "Aperta ") + ShortName(path).toStdString(),
       [&](State& state) {
         auto loaded = Routines::LoadFlash(state, image, capacity, appendStart, session_.bouquets.tables);
         state.SymbolRateTable = rates->table;
@@ -241,7 +243,8 @@ void FileCommands::TellWritten(const std::string& path, const Routines::PatchedF
   QString result = "Scritta " + ShortName(path);
   if (!unwritten.Nothing()) result += ": " + Text(unwritten.Text());
   if (patched.favouritesCleared > 0)
-    result += QString(", azzerati %1 byte in fondo all'area dei preferiti").arg(patched.favouritesCleared);
+    result += ", " + Counted(patched.favouritesCleared, "byte azzerato", "byte azzerati") +
+              " in fondo all'area dei preferiti";
   if (preparation.ratesMoved) result += RatesMovedText;
   result += CopiesText(path, saved);
   if (unwritten.Nothing()) {
@@ -255,10 +258,13 @@ void FileCommands::TellWritten(const std::string& path, const Routines::PatchedF
 
 void FileCommands::ConvertiSR() {
   const auto place = session_.settings.Chosen().Place();
-  const int changed = session_.document.Apply(
-      "Converti SR", [place](State& state) { return Routines::ConvertiSR(state, place); });
+  std::string label;
+  session_.document.Apply(label, [&label, place](State& state) {
+    const int changed = Routines::ConvertiSR(state, place);
+    label = "Convertiti gli SR di " + Base::Counted(changed, "transponder", "transponder");
+  });
   session_.view.Show(View::Transponders);
-  session_.status.ShowResult(QString("Converti SR: %1 transponder ricodificati").arg(changed));
+  session_.status.ShowResult(Text(label));
 }
 
 }  // namespace Ui

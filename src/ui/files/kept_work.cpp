@@ -134,7 +134,7 @@ void KeptWork::Restore(Edit::Recovery& recovery) {
   recovery.clipboard.listNumber = sameList ? number : document.NextListNumber();
   session_.settings.Choose(recovery.settings);
   document.Apply(
-      "Recupera",
+      "Recuperato il lavoro non salvato",
       [&recovery](Routines::State& state, Edit::Clipboard& clipboard) {
         state = recovery.state;
         clipboard = recovery.clipboard;

@@ -39,7 +39,9 @@ void MakeReachable(QPrintPreviewDialog& dialog) {
   for (auto* number : dialog.findChildren<QLineEdit*>()) number->setAccessibleName("Pagina");
 }
 
-QString PagesText(int pages) { return Counted(pages, "pagina", "pagine"); }
+QString PagesText(int pages) {
+  return (pages == 1 ? "Stampata " : "Stampate ") + Counted(pages, "pagina", "pagine");
+}
 
 }  // namespace
 
@@ -90,7 +92,7 @@ QString PrintCommands::Save(const PrintReport& report, const std::string& path, 
     return {};
   }
   const auto pages = SavePdf(report, path, printer.pageLayout(), printer.pageRanges());
-  if (pages) return report.heading + ": " + PagesText(*pages) + " in " + PathText(Base::FileName(path));
+  if (pages) return PagesText(*pages) + " in " + PathText(Base::FileName(path));
   session_.Message(pages.error());
   return {};
 }
@@ -112,7 +114,7 @@ void PrintCommands::Preview(const PrintReport& report) {
       return;
     }
     const auto pages = PrintPages(*to, report);
-    result = pages ? report.heading + ": " + PagesText(*pages) : QString("La stampa non è riuscita");
+    result = pages ? PagesText(*pages) : QString("La stampa non è riuscita");
   });
   auto* save = dialog.findChild<QToolBar*>()->addAction(IconNamed("export"), "Salva come PDF");
   save->setObjectName("SalvaPdf");

@@ -39,12 +39,16 @@ bool Document::Unsaved() const {
                      saved.TransponderTable.begin() + 1, sameRecord);
 }
 
-void Document::Undo() {
-  if (history_.Undo(state_, clipboard_)) Tell();
+void Document::Undo(int steps) {
+  bool taken = false;
+  for (; steps > 0 && history_.Undo(state_, clipboard_); --steps) taken = true;
+  if (taken) Tell();
 }
 
-void Document::Redo() {
-  if (history_.Redo(state_, clipboard_)) Tell();
+void Document::Redo(int steps) {
+  bool taken = false;
+  for (; steps > 0 && history_.Redo(state_, clipboard_); --steps) taken = true;
+  if (taken) Tell();
 }
 
 void Document::MarkSaved(const std::string& path) {

@@ -26,7 +26,7 @@ class Document : public QObject {
   void Copy(Edit::Clipboard channels) { clipboard_ = std::move(channels); }
 
   // Runs `operation` on the tables as one step that can be undone, named `label` (UTF-8), and tells the views
-  // where it changed any. Without a change there is no step. One that takes the clipboard as well, as cutting and pasting
+  // where it changed any; `operation` may still write the label. Without a change there is no step. One that takes the clipboard as well, as cutting and pasting
   // do, changes both in that step. Returns what `operation` returns, if anything.
   template <class Operation>
   auto Apply(const std::string& label, Operation operation,
@@ -52,8 +52,9 @@ class Document : public QObject {
   }
 
   [[nodiscard]] const Edit::History& Steps() const { return history_; }
-  void Undo();
-  void Redo();
+  // Take back and do again that many steps, or all that there are.
+  void Undo(int steps = 1);
+  void Redo(int steps = 1);
 
   // Another one after every change.
   [[nodiscard]] int Revision() const { return revision_; }

@@ -207,6 +207,11 @@ void Grid::selectionChanged(const QItemSelection& selected, const QItemSelection
   Q_EMIT SelectionMoved();
 }
 
+void Grid::currentChanged(const QModelIndex& current, const QModelIndex& previous) {
+  QTableView::currentChanged(current, previous);
+  Q_EMIT CurrentMoved();
+}
+
 std::vector<int> Grid::SharedWidths() const {
   std::vector<int> widths = widths_;
   int spare = viewport()->width() - std::accumulate(widths.begin(), widths.end(), 0);

@@ -47,6 +47,7 @@ class Grid : public QTableView {
 
  Q_SIGNALS:
   void SelectionMoved();
+  void CurrentMoved();
   // The user wants the menu of the selected rows, at a place of the screen.
   void MenuWanted(QPoint place);
   // A row that is hidden is about to be selected.
@@ -66,6 +67,7 @@ class Grid : public QTableView {
   void dropEvent(QDropEvent* event) override;
   void reset() override;
   void selectionChanged(const QItemSelection& selected, const QItemSelection& deselected) override;
+  void currentChanged(const QModelIndex& current, const QModelIndex& previous) override;
   void resizeEvent(QResizeEvent* event) override;
   void showEvent(QShowEvent* event) override;
   void changeEvent(QEvent* event) override;

@@ -5,6 +5,7 @@
 #include "ui/list/document.h"
 #include "ui/list/table_model.h"
 
+#include <functional>
 #include <set>
 
 namespace Ui {
@@ -29,6 +30,9 @@ class ListModel : public TableModel {
 
   [[nodiscard]] bool OfChannels() const { return &kind_ == &Channels; }
 
+  // What the tips of the rows say; may be empty.
+  std::function<QString(int slot)> tip;
+
   // Rows that the search for a name has found are painted in a colour of their own until the list changes.
   void Paint(int slot);
   void ClearPaint();
@@ -51,6 +55,7 @@ class ListModel : public TableModel {
   [[nodiscard]] QString CellText(int slot, int column) const override;
   [[nodiscard]] Colour CellColour(int slot, int column) const override;
   [[nodiscard]] QString Spoken(int slot) const override;
+  [[nodiscard]] QString Tip(int slot) const override { return tip ? tip(slot) : QString(); }
 
  private:
   void Refresh();

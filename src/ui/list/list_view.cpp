@@ -1,5 +1,6 @@
 #include "ui/list/list_view.h"
 
+#include "ui/kit/elided_label.h"
 #include "ui/kit/screen_fit.h"
 
 #include <QAction>
@@ -28,7 +29,9 @@ ListView::ListView(const Document& document, QAction& showChannels, QAction& sho
       grid_(new Grid(this)),
       hits_(new Finder(*filter_, *grid_, this)),
       map_(new ListMap(document, this)),
-      stack_(new QStackedWidget(this)) {
+      stack_(new QStackedWidget(this)),
+      whereabouts_(document),
+      where_(new ElidedLabel(Qt::ElideRight, this)) {
   marker_->setObjectName("Text1");
   QFont bold = marker_->font();
   bold.setBold(true);
@@ -39,10 +42,15 @@ ListView::ListView(const Document& document, QAction& showChannels, QAction& sho
   hint_->setWordWrap(true);
   hint_->setText("Per vedere la lista: Utilities, Visualizza Canali o Visualizza Transponders.");
   grid_->setObjectName("Griglia");
+  where_->setObjectName("DoveSta");
+  where_->setAccessibleName("Dove sta il canale");
+  channels_.tip = [this](int slot) { return "<span>" + whereabouts_.Of(slot).toHtmlEscaped() + "</span>"; };
   LayOut();
 
   connect(&document, &Document::Changed, this, &ListView::FindAgain);
   connect(&document, &Document::Changed, this, &ListView::ShowHint);
+  connect(&document, &Document::Changed, this, &ListView::TellWhere);
+  connect(grid_, &Grid::CurrentMoved, this, &ListView::TellWhere);
   connect(filter_, &FilterBar::Changed, this, &ListView::MarkMatches);
   hits_->bring = [this] {
     if (filter_->ForTransponders()) Show(View::Transponders);
@@ -71,6 +79,7 @@ void ListView::LayOut() {
   column->setSpacing(3);
   column->addLayout(head);
   column->addLayout(body, 1);
+  column->addWidget(where_);
 }
 
 void ListView::Show(View view) {
@@ -96,6 +105,8 @@ void ListView::ShowFromStart(View view) {
     grid_->ShowList(channels ? &channels_ : &transponders_);
   }
   MarkMatches();
+  TellWhere();
+  where_->setVisible(view != View::None);
   marker_->setVisible(view != View::None);
   map_->setVisible(channels);
   RestoreTicks();
@@ -159,6 +170,11 @@ void ListView::ShowFound(int slot) {
 void ListView::GoTo(int slot) {
   grid_->SelectRow(slot);
   grid_->ScrollToTop(slot);
+}
+
+void ListView::TellWhere() {
+  const int slot = current_ == View::Channels ? grid_->currentIndex().row() + 1 : 0;
+  where_->Show(slot == 0 ? QString() : whereabouts_.Of(slot));
 }
 
 // Another list is seen whole, whatever was hidden of the one before.

@@ -8,6 +8,7 @@
 #include "ui/list/grid.h"
 #include "ui/list/list_map.h"
 #include "ui/list/list_model.h"
+#include "ui/list/whereabouts.h"
 
 #include <QWidget>
 
@@ -70,6 +71,7 @@ class ListView : public QWidget {
   void ShowHint();
   void MarkMatches();
   void FindAgain();
+  void TellWhere();
 
   const Document& document_;
   QAction& showChannels_;
@@ -85,6 +87,8 @@ class ListView : public QWidget {
   CellDelegate* cells_ = nullptr;
   ListMap* map_;
   QStackedWidget* stack_;
+  Whereabouts whereabouts_;
+  ElidedLabel* where_;  // of the current channel, under the grid
   View current_ = View::None;
   int listNumber_ = 0;
   QString printHeading_;

@@ -36,6 +36,8 @@ QVariant TableModel::data(const QModelIndex& index, int role) const {
   switch (role) {
     case Qt::AccessibleDescriptionRole:
       return index.column() == 1 ? Spoken(row) : QString();
+    case Qt::ToolTipRole:
+      return Tip(row);
     case Qt::DisplayRole:
       return CellText(row, index.column());
     case Qt::TextAlignmentRole:

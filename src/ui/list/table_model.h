@@ -36,6 +36,8 @@ class TableModel : public QAbstractTableModel {
   [[nodiscard]] bool Found(int row) const;
 
  protected:
+  // What the tip of a row's cells says; nothing where it is empty.
+  [[nodiscard]] virtual QString Tip(int /*row*/) const { return {}; }
   // Text and colour of a cell; `row` counts from 1.
   [[nodiscard]] virtual QString CellText(int row, int column) const = 0;
   [[nodiscard]] virtual Colour CellColour(int row, int column) const = 0;

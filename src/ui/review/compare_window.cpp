@@ -6,6 +6,7 @@
 #include "ui/kit/screen_fit.h"
 #include "ui/kit/text.h"
 #include "ui/session/lines_window.h"
+#include "ui/session/set_commands.h"
 
 #include <QCheckBox>
 #include <QComboBox>
@@ -19,6 +20,7 @@
 #include <QVBoxLayout>
 
 #include <numeric>
+#include <set>
 
 namespace Ui {
 
@@ -53,6 +55,7 @@ struct Names {
   CompareModel::Wording kinds;
   const char* before;
   const char* order;  // the button that takes it
+  const char* taken;  // the step that it makes
 };
 
 const Names& NamesOf(const OtherSide& other) {
@@ -61,17 +64,20 @@ const Names& NamesOf(const OtherSide& other) {
       {{"Confronto con un'altra flash",
         {Here, "Solo nell'altra", "Nell'altra"},
         "L'altra: ",
-        "Prendi l'ordine dell'altra"},
+        "Prendi l'ordine dell'altra",
+        "Preso l'ordine dell'altra"},
        {"Confronto con il file su disco",
         {Here, "Solo sul disco", "Sul disco"},
         "Sul disco: ",
-        "Prendi l'ordine del disco"},
-       {"Confronto con la lista a destra", {Here, "Solo a destra", "A destra"}, "A destra: ", ""},
+        "Prendi l'ordine del disco",
+        "Preso l'ordine del disco"},
+       {"Confronto con la lista a destra", {Here, "Solo a destra", "A destra"}, "A destra: ", "", ""},
        {"Ordina come un elenco",
         {"Non nell'elenco", "Non trovato", "Nell'elenco"},
         "L'elenco: ",
-        "Ordina come l'elenco"},
-       {"Confronto con un file CSV", {Here, "Solo nel CSV", "Nel CSV"}, "Il CSV: ", ""}}};
+        "Ordina come l'elenco",
+        "Ordinati i canali come l'elenco"},
+       {"Confronto con un file CSV", {Here, "Solo nel CSV", "Nel CSV"}, "Il CSV: ", "", ""}}};
   return All[static_cast<std::size_t>(other.What())];
 }
 
@@ -176,6 +182,7 @@ void CompareWindow::SetUpTable() {
 QLayout* CompareWindow::Buttons() {
   auto* left = new FlowLayout;
   goTo_ = AddButton(*left, "VaiAlDiverso", "Vai al canale", [this] { GoTo(table_->currentIndex()); });
+  select_ = AddButton(*left, "SelezionaDiversi", "Seleziona i trovati", [this] { SelectFound(); });
   auto* all = AddButton(*left, "SegnaTutti", "Segna tutti", [this] { TickAll(true); });
   auto* none = AddButton(*left, "TogliSegni", "Togli i segni", [this] { TickAll(false); });
   apply_ = AddButton(*left, "ApplicaSegnati", "Applica i segnati", [this] { Apply(); });
@@ -225,6 +232,7 @@ void CompareWindow::Fill(Review::Comparison found) {
   for (std::size_t kind = 0; kind < kinds_.size(); ++kind) shown[kind] = kinds_[kind]->isChecked();
   model_->Show(session_.document.Tables(), other_.List(), std::move(found), shown);
   goTo_->setEnabled(false);
+  select_->setEnabled(model_->rowCount() > 0);
   if (row >= 0 && model_->rowCount() > 0) {
     table_->selectRow(std::min(row, model_->rowCount() - 1));
     table_->verticalScrollBar()->setValue(top);
@@ -294,10 +302,28 @@ void CompareWindow::GoTo(const QModelIndex& index) {
 
 Edit::NewPlace CompareWindow::Place() const { return static_cast<Edit::NewPlace>(place_->currentIndex()); }
 
+// The channels of this list among the rows that are ticked, or among all where none is.
+Edit::Slots CompareWindow::FoundHere() const {
+  std::set<int> slots;
+  const bool ticked = !model_->Ticked().empty();
+  for (int row = 0; row < model_->rowCount(); ++row) {
+    if (!ticked || model_->IsTicked(row)) slots.insert(model_->At(row).here);
+  }
+  slots.erase(0);
+  return {slots.begin(), slots.end()};
+}
+
+void CompareWindow::SelectFound() {
+  const Edit::Slots slots = FoundHere();
+  if (slots.empty()) return Tell("Nessuno di questi canali è in questa lista.");
+  SelectChannels(session_, slots);
+}
+
 void CompareWindow::Apply() {
   const std::vector<Review::Difference> chosen = model_->Ticked();
   const Review::Comparison found = model_->Found();
-  const std::string label = "Applica " + Base::Counted(chosen.size(), "differenza", "differenze");
+  const std::string label = (chosen.size() == 1 ? "Applicata " : "Applicate ") +
+                            Base::Counted(chosen.size(), "differenza", "differenze");
   const auto report = session_.document.Apply(label, [&](State& state) {
     return Edit::TakeOver(state, other_.List(), found, chosen, session_.bouquets.tables, Place());
   });
@@ -308,7 +334,7 @@ void CompareWindow::Apply() {
 
 void CompareWindow::TakeOrder() {
   const Review::Comparison found = model_->Found();
-  const std::string label = NamesOf(other_).order;
+  const std::string label = NamesOf(other_).taken;
   const int moved = session_.document.Apply(
       label, [&](State& state) { return Edit::TakeOrder(state, other_.List(), found); });
   const QString text =

@@ -45,6 +45,8 @@ class CompareWindow : public ToolWindow {
   void TickAll(bool on);
   void TickSelected();
   void GoTo(const QModelIndex& index);
+  [[nodiscard]] Edit::Slots FoundHere() const;
+  void SelectFound();
   void Apply();
   void TakeOrder();
   void ListMissing();
@@ -58,6 +60,7 @@ class CompareWindow : public ToolWindow {
   QLabel* rest_;
   ElidedLabel* result_;
   QPushButton* goTo_ = nullptr;
+  QPushButton* select_ = nullptr;
   QPushButton* apply_ = nullptr;
   QPushButton* order_ = nullptr;
   QPushButton* missing_ = nullptr;

@@ -1,12 +1,12 @@
 #include "ui/review/duplicates_window.h"
 
 #include "base/text.h"
-#include "edit/list_operations.h"
 #include "model/cells.h"
 #include "model/favourites.h"
 #include "ui/kit/flow_layout.h"
 #include "ui/kit/screen_fit.h"
 #include "ui/kit/text.h"
+#include "ui/session/set_commands.h"
 
 #include <QCheckBox>
 #include <QHeaderView>
@@ -116,10 +116,14 @@ QWidget* DuplicatesWindow::RuleBoxes(const Review::DuplicateRules& rules) {
 QLayout* DuplicatesWindow::Buttons() {
   auto* left = new FlowLayout;
   goTo_ = AddButton(*left, "VaiAlDoppio", "Vai al canale", [this] { GoTo(tree_->currentItem()); });
-  deleteChosen_ = AddButton(*left, "EliminaScelti", "Elimina scelti", [this] { Delete(Chosen()); });
+  deleteChosen_ =
+      AddButton(*left, "EliminaScelti", "Elimina scelti", [this] { DeleteChannels(session_, Chosen()); });
+  deactivate_ = AddButton(*left, "DisattivaScelti", "Disattiva scelti",
+                          [this] { DeactivateChannels(session_, Chosen()); });
   deleteOthers_ = AddButton(*left, "EliminaTranneIlPrimo", "Elimina tutti tranne il primo", [this] {
-    Delete(Review::Surplus(session_.document.Tables(), Rules(), groups_));
+    DeleteChannels(session_, Review::Surplus(session_.document.Tables(), Rules(), groups_));
   });
+  select_ = AddButton(*left, "SelezionaDoppi", "Seleziona i trovati", [this] { SelectFound(); });
   return WithClose(left, "ChiudiDoppi");
 }
 
@@ -270,7 +274,9 @@ void DuplicatesWindow::TellCounts() {
                                          Counted(chosen, "scelto", "scelti"));
   goTo_->setEnabled(!groups_.empty());
   deleteOthers_->setEnabled(!groups_.empty());
+  select_->setEnabled(!groups_.empty());
   deleteChosen_->setEnabled(chosen > 0);
+  deactivate_->setEnabled(chosen > 0);
 }
 
 std::vector<int> DuplicatesWindow::Chosen() const {
@@ -281,18 +287,22 @@ std::vector<int> DuplicatesWindow::Chosen() const {
       if (head.child(static_cast<int>(k))->checkState(0) == Qt::Checked) slots.push_back(groups_[i][k]);
     }
   }
+  std::sort(slots.begin(), slots.end());
   return slots;
+}
+
+// Those that are ticked, where any is.
+void DuplicatesWindow::SelectFound() {
+  std::vector<int> slots = Chosen();
+  if (slots.empty()) {
+    for (const auto& group : groups_) slots.insert(slots.end(), group.begin(), group.end());
+  }
+  std::sort(slots.begin(), slots.end());
+  SelectChannels(session_, slots);
 }
 
 void DuplicatesWindow::GoTo(const QTreeWidgetItem* item) {
   if (item != nullptr) session_.GoToChannel(item->data(0, SlotRole).toInt());
-}
-
-void DuplicatesWindow::Delete(const std::vector<int>& slots) {
-  const std::string label = "Elimina " + Base::Counted(slots.size(), "canale doppio", "canali doppi");
-  const auto lost =
-      session_.document.Apply(label, [&](State& state) { return Edit::DeleteSlots(state, slots); });
-  session_.status.ShowResult(Text(label) + session_.Losses(lost));
 }
 
 }  // namespace Ui

@@ -48,7 +48,7 @@ class DuplicatesWindow : public ToolWindow {
   void TellCounts();
   [[nodiscard]] std::vector<int> Chosen() const;
   void GoTo(const QTreeWidgetItem* item);
-  void Delete(const std::vector<int>& slots);
+  void SelectFound();
 
   using Groups = std::vector<std::vector<int>>;  // of slots
 
@@ -63,6 +63,8 @@ class DuplicatesWindow : public ToolWindow {
   QPushButton* goTo_;
   QPushButton* deleteChosen_;
   QPushButton* deleteOthers_;
+  QPushButton* deactivate_;
+  QPushButton* select_;
 };
 
 }  // namespace Ui

@@ -1,8 +1,10 @@
 #include "ui/review/overview_window.h"
 
+#include "ui/kit/flow_layout.h"
 #include "ui/kit/screen_fit.h"
 #include "ui/kit/text.h"
 #include "ui/list/row_colours.h"
+#include "ui/session/set_commands.h"
 
 #include <QHeaderView>
 #include <QLabel>
@@ -174,12 +176,24 @@ void OverviewWindow::SetUpTree() {
 }
 
 QLayout* OverviewWindow::Bottom() {
-  auto* row = new QHBoxLayout;
+  auto* row = new FlowLayout;
   auto* hint = new QLabel("Un clic o Invio mostra le righe; F3 va alla prossima.", this);
   hint->setWordWrap(true);
-  row->addWidget(hint, 1);
   goTo_ = AddButton(*row, "VaiAlleRighe", "Vai alle righe", [this] { GoTo(tree_->currentItem()); });
-  return WithClose(row, "ChiudiRiepilogo");
+  const auto onFound = [this](void (*command)(Session&, const Edit::Slots&)) {
+    return [this, command] {
+      const OverviewLine* line = LineOf(tree_->currentItem());
+      if (HasChannels(line)) command(session_, Edit::Slots(line->slots));
+    };
+  };
+  forChannels_ = {AddButton(*row, "SelezionaRighe", "Seleziona i trovati", onFound(SelectChannels)),
+                  AddButton(*row, "EliminaRighe", "Elimina…", onFound(AskAndDelete)),
+                  AddButton(*row, "DisattivaRighe", "Disattiva…", onFound(AskAndDeactivate))};
+  connect(tree_, &QTreeWidget::currentItemChanged, this, &OverviewWindow::EnableButtons);
+  auto* column = new QVBoxLayout;
+  column->addWidget(hint);
+  column->addLayout(row);
+  return WithClose(column, "ChiudiRiepilogo");
 }
 
 void OverviewWindow::Refresh() {
@@ -251,13 +265,31 @@ void OverviewWindow::TellTotals() {
                         : "Da controllare: " + Counted(checks, "voce", "voci") + ", in fondo.";
   }
   totals_->setText(text);
-  goTo_->setEnabled(!lines_.empty());
+  EnableButtons();
+}
+
+// Places and transponders are no channels that a command could work on.
+bool OverviewWindow::HasChannels(const OverviewLine* line) {
+  return line != nullptr && !line->transponders && line->section != Section::Places && !line->slots.empty();
+}
+
+void OverviewWindow::EnableButtons() {
+  const OverviewLine* line = LineOf(tree_->currentItem());
+  goTo_->setEnabled(line != nullptr);
+  for (QPushButton* button : forChannels_) button->setEnabled(HasChannels(line));
+}
+
+const OverviewLine* OverviewWindow::LineOf(const QTreeWidgetItem* item) const {
+  const int place = item == nullptr ? -1 : item->data(What, LineRole).toInt();
+  return place < 0 || static_cast<std::size_t>(place) >= lines_.size()
+             ? nullptr
+             : &lines_[static_cast<std::size_t>(place)];
 }
 
 void OverviewWindow::GoTo(const QTreeWidgetItem* item) {
-  const int place = item == nullptr ? -1 : item->data(What, LineRole).toInt();
-  if (place < 0) return;
-  const OverviewLine& line = lines_[static_cast<std::size_t>(place)];
+  const OverviewLine* found = LineOf(item);
+  if (found == nullptr) return;
+  const OverviewLine& line = *found;
   const QString title = RowsTitle(line);
   if (line.slots.empty()) {
     session_.status.ShowResult(title + ": nessuna riga");

@@ -33,6 +33,10 @@ class OverviewWindow : public ToolWindow {
   void Rebuild();
   void FillTexts();
   void TellTotals();
+  void EnableButtons();
+  // The line of an item; none for a heading.
+  [[nodiscard]] const Review::OverviewLine* LineOf(const QTreeWidgetItem* item) const;
+  [[nodiscard]] static bool HasChannels(const Review::OverviewLine* line);
   void GoTo(const QTreeWidgetItem* item);
 
   Session& session_;
@@ -42,6 +46,7 @@ class OverviewWindow : public ToolWindow {
   QTreeWidget* tree_;
   QLabel* totals_;
   QPushButton* goTo_ = nullptr;
+  std::vector<QPushButton*> forChannels_;
 };
 
 }  // namespace Ui

@@ -31,6 +31,7 @@ class Actions {
   bool Allows(CommandName command);
 
   [[nodiscard]] QAction& operator[](CommandName command) const { return *commands_[command.Index()].action; }
+  [[nodiscard]] QAction& Button(ButtonName button) const { return *buttons_[button.Index()].action; }
 
  private:
   struct Bound {

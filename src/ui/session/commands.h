@@ -54,6 +54,9 @@ inline constexpr Command Commands[] = {
     {"Annulla", "Annulla", Menu::Edit, "undo", "Ctrl+Z",
      "Torna a com'era la lista prima dell'ultima modifica", Enabled::WithUndo},
     {"Ripeti", "Ripeti", Menu::Edit, "redo", "Ctrl+Y", "Rifà la modifica annullata", Enabled::WithRedo},
+    {"AnnullaFino", "Annulla fino a…", Menu::Edit, "", "Ctrl+Alt+Z",
+     "Elenca le modifiche fatte, l'ultima in cima: quella scelta è annullata con tutte le seguenti",
+     Enabled::WithUndo},
     {"Taglia", "Taglia", Menu::Edit, "cut", "Ctrl+X", "Toglie i canali selezionati per incollarli altrove",
      Need::ChannelRows, Group | OnRows},
     {"Copia", "Copia", Menu::Edit, "copy", "Ctrl+C", "Copia i canali selezionati", Need::ChannelRows, OnRows},
@@ -74,7 +77,7 @@ inline constexpr Command Commands[] = {
      "Sposta le righe selezionate dopo l'ultimo canale", Need::ChannelRows},
     {"SpostaDopoUltimo", "Dopo l'ultimo spostato", Menu::Edit, "", "Alt+Ins",
      "Sposta le righe selezionate dietro quelle spostate l'ultima volta", Need::ChannelRows},
-    {"Scambia", "Scambia", Menu::Edit, "", "", "Scambia di posto i due canali selezionati",
+    {"Scambia", "Scambia", Menu::Edit, "", "Ctrl+Shift+X", "Scambia di posto i due canali selezionati",
      Need::ChannelRows},
     {"ChiudiVuoti", "Chiudi i posti vuoti…", Menu::Edit, "", "",
      "Fa risalire i canali nei posti vuoti: fra le righe selezionate, o da un canale in poi",
@@ -251,6 +254,9 @@ inline constexpr ToolbarButton ToolbarButtons[] = {
     {"Copy SDX", "Copia canali selezionati SDX", "copy-sdx"},
     {"Find SDX", "Ricerca canale SDX per nome", "find-sdx", "RicercaSDX", Press::Follow},
     InNewGroup({"Fine Programma", "Fine Programma", "exit", "Fine"}),
+    InNewGroup(
+        {"Undo", "Annulla l'ultima modifica, o più d'una dalla lista", "undo", "Annulla", Press::Follow}),
+    {"Redo", "Ripeti la modifica annullata, o più d'una dalla lista", "redo", "Ripeti", Press::Follow},
 };
 
 using ButtonName = EntryOf<ToolbarButtons>;

@@ -16,7 +16,7 @@ namespace Ui {
 
 LinesWindow::LinesWindow(const char* name, const QString& title, const QString& text, Session& session,
                          QWidget* parent)
-    : ToolWindow(name, title, parent), session_(session), text_(text) {
+    : ToolWindow(name, title, parent) {
   const QByteArray listed = QByteArray(name).mid(static_cast<qsizetype>(std::string_view("Elenco").size()));
   auto* lines = new QPlainTextEdit(text, this);
   lines->setObjectName("Righe" + listed);
@@ -25,20 +25,20 @@ LinesWindow::LinesWindow(const char* name, const QString& title, const QString& 
   lines->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
   auto* buttons = new FlowLayout;
   AddButton(*buttons, "Copia" + listed, "Copia", [text] { QApplication::clipboard()->setText(text); });
-  AddButton(*buttons, "Salva" + listed, "Salva come testo…", [this] { Save(); });
+  AddButton(*buttons, "Salva" + listed, "Salva come testo…", [&session, text] { SaveLines(session, text); });
   auto* column = new QVBoxLayout(this);
   column->addWidget(lines);
   column->addLayout(WithClose(buttons, "Chiudi" + listed));
   ResizeOnScreen(*this, {420, 480});
 }
 
-void LinesWindow::Save() {
+void SaveLines(Session& session, const QString& text) {
   const std::string path =
-      session_.AskSave("Salva l'elenco", "Files di testo(*.txt)|*.txt", FolderKind::Foreign, "Non salvato");
+      session.AskSave("Salva l'elenco", "Files di testo(*.txt)|*.txt", FolderKind::Foreign, "Non salvato");
   if (path.empty()) return;
-  const std::string bytes = Base::FromUtf8Lossy(QString(text_).replace("\n", "\r\n").toStdString());
+  const std::string bytes = Base::FromUtf8Lossy(QString(text).replace("\n", "\r\n").toStdString());
   if (const auto written = Base::ReplaceFile(path, Base::AsBytes(bytes)); !written)
-    session_.Message(written.error());
+    session.Message(written.error());
 }
 
 }  // namespace Ui

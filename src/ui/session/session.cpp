@@ -2,6 +2,7 @@
 
 #include "base/file.h"
 #include "base/text.h"
+#include "edit/told.h"
 #include "ui/kit/text.h"
 
 namespace Ui {
@@ -17,9 +18,16 @@ Edit::Slots Session::SelectedChannels() {
   return slots;
 }
 
+void Session::TellChannel(int slot) const {
+  const bool empty = document.Tables().Channel(slot).Empty();
+  status.ShowResult(QString("Canale %1: %2")
+                        .arg(slot)
+                        .arg(empty ? QString("posto vuoto") : Text(Edit::NameIn(document.Tables(), slot))));
+}
+
 void Session::GoToChannel(int slot) {
   view.GoToRow(View::Channels, slot);
-  status.ShowResult(QString("Canale %1").arg(slot));
+  TellChannel(slot);
 }
 
 std::string Session::AskOpen(const QString& title, const QString& filters, FolderKind kind) const {

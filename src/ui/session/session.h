@@ -63,8 +63,9 @@ struct Session {
   // The selected slots; says so where there are none.
   Edit::Slots SelectedChannels();
 
-  // Shows a channel of the list and tells its number.
+  // Shows a channel of the list and tells which it is.
   void GoToChannel(int slot);
+  void TellChannel(int slot) const;
 
   // The file that the user chooses, asked for in the folder remembered for its kind; empty where the user gives up.
   [[nodiscard]] std::string AskOpen(const QString& title, const QString& filters, FolderKind kind) const;

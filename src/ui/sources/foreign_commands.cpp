@@ -35,9 +35,10 @@ void ForeignCommands::CaricaAggiuntiva() {
   if (!rates) return;
   Formats::SdxTable table = Formats::ReadFlashRows(*image, rates->table, session_.bouquets.tables);
   const QString file = PathText(Base::FileName(path));
-  QString result = QString("%1: letti %2 canali").arg(file).arg(table.rows.size());
+  QString result = QString(table.rows.size() == 1 ? "%1: letto %2" : "%1: letti %2")
+                       .arg(file, Counted(table.rows.size(), "canale", "canali"));
   if (const int without = table.dropped.Count(Formats::Drop::NoTransponder); without > 0)
-    result += QString("; tralasciati %1 senza transponder").arg(without);
+    result += "; " + Counted(without, "tralasciato", "tralasciati") + " senza transponder";
   sdx_.Show(std::move(table), file);
   session_.status.ShowResult(result);
 }

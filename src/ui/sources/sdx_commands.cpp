@@ -2,12 +2,17 @@
 
 #include "base/file.h"
 #include "base/text.h"
+#include "edit/told.h"
 #include "formats/sdx_import.h"
 #include "ui/kit/text.h"
 #include "ui/kit/toolkit.h"
 #include "ui/session/filter_texts.h"
-#include "ui/session/lines_window.h"
+#include "ui/sources/missing_window.h"
 #include "ui/sources/sdx_dialogs.h"
+
+#include <QMainWindow>
+
+#include <algorithm>
 
 namespace Ui {
 
@@ -88,17 +93,16 @@ void SdxCommands::TellTaken(const QString& file) {
 }
 
 void SdxCommands::ListMissing(int satellite, std::string_view text) {
-  const State& state = session_.document.Tables();
-  const auto listed = Formats::ServicesOf(text);
-  std::vector<int> missing;
-  for (const auto& [service, slot] : Formats::KnownServices(state)) {
-    if (service[0] == satellite && !listed.contains({service[1], service[2]})) missing.push_back(slot);
-  }
-  if (auto* earlier = window_.findChild<LinesWindow*>("ElencoNonInSDX")) earlier->close();
-  if (missing.empty()) return;
-  (new LinesWindow("ElencoNonInSDX", "Elenco canali Non in SDX", session_.ChannelLines(missing), session_,
-                   &window_))
-      ->BringUp();
+  const auto find = [this, listed = Formats::ServicesOf(text), satellite] {
+    Edit::Slots missing;
+    for (const auto& [service, slot] : Formats::KnownServices(session_.document.Tables())) {
+      if (service[0] == satellite && !listed.contains({service[1], service[2]})) missing.push_back(slot);
+    }
+    std::sort(missing.begin(), missing.end());
+    return missing;
+  };
+  if (auto* earlier = OpenWindow<MissingWindow>(window_)) earlier->close();
+  if (!find().empty()) (new MissingWindow(session_, find, window_))->BringUp();
 }
 
 void SdxCommands::ShowPane(bool shown) {
@@ -139,7 +143,7 @@ void SdxCommands::CopySDX() {
 void SdxCommands::AskAndInsert(const Rows& rows) {
   if (!Meets(session_, Gate(Need::List, Need::Places))) return;
   if (rows.content.empty()) {
-    session_.status.ShowResult(OutOfBandText(rows.outOfBand) + ": non si inserisce");
+    session_.status.ShowResult("Non inserito: " + OutOfBandText(rows.outOfBand));
     return;
   }
   const auto answer =
@@ -160,7 +164,7 @@ void SdxCommands::Drop(const Edit::Slots& numbers, int before) {
   const bool known = !numbers.empty() && numbers.front() >= 1 &&
                      numbers.back() <= static_cast<int>(session_.sdx.rows.size());
   if (!known || before > state.ChannelCount) {
-    session_.status.ShowResult("Dopo l'ultimo posto della lista non si può inserire");
+    session_.status.ShowResult("Non inserito: dopo l'ultimo posto della lista non ce n'è");
     return;
   }
   if (!Meets(session_, Need::Places)) return;
@@ -186,28 +190,30 @@ SdxCommands::Rows SdxCommands::RowsOf(const Edit::Slots& numbers) const {
 void SdxCommands::Put(const Rows& rows, const std::vector<int>& slots, Way way) {
   Document& document = session_.document;
   const int count = static_cast<int>(slots.size());
-  if (count == 0) return session_.status.ShowResult(OutOfBandText(rows.outOfBand) + ": non si inserisce");
+  if (count == 0) return session_.status.ShowResult("Non inserito: " + OutOfBandText(rows.outOfBand));
   const bool shift = way == Way::Shift;
   const std::vector<int> out =
       shift ? Edit::PushedOut(document.Tables(), slots.front(), count) : std::vector<int>();
   const QString pushedOut = session_.ChannelLines(out);
   const std::string over = shift ? "" : Formats::OverwrittenBy(document.Tables(), slots).Text();
-  QString result = (count == 1 ? "Inserito " : "Inseriti ") + Counted(count, "canale SDX", "canali SDX");
   const bool together = slots.back() - slots.front() == count - 1;
-  result += together ? QString(" dal %1").arg(slots.front()) : QString(" nei posti vuoti");
-  if (!over.empty()) result += ", sovrascritti " + Text(over);
+  const std::string where =
+      together ? (count == 1 ? " al " : " dal ") + std::to_string(slots.front()) : " nei posti vuoti";
+  QString more = over.empty() ? QString() : "; al posto di " + Text(over);
   std::string message;
   std::vector<Edit::LostFavourite> lost;
-  document.Apply("Inserisci " + Base::Counted(count, "canale SDX", "canali SDX"), [&](State& state) {
+  std::string label;
+  document.Apply(label, [&](State& state) {
     if (shift) lost = Edit::ShiftDown(state, slots.front(), count);
     Formats::SdxImport import(state, session_.bouquets.tables);
     for (std::size_t i = 0; i < slots.size(); ++i) import.Put(rows.content[i], slots[i], rows.numbers[i]);
     message = import.Message();
+    label = Edit::Told(state, slots, "Inserito", "Inseriti", where);
     if (import.UnknownRates() > 0)
-      result += QString(", %1 con SR che SR.INI non ha").arg(import.UnknownRates());
+      more += QString("; %1 con SR che SR.INI non ha").arg(import.UnknownRates());
   });
   if (session_.view.Current() == View::Channels) session_.view.ListGrid().Select(slots);
-  TellPut(rows, result + session_.Losses(lost), pushedOut);
+  TellPut(rows, Text(label) + more + session_.Losses(lost), pushedOut);
   if (!message.empty()) session_.dialogs.Message(Text(message), {});
   TellWithoutRoom(rows, count);
 }
@@ -219,8 +225,9 @@ void SdxCommands::TellPut(const Rows& rows, const QString& done, const QString& 
   QStringList names = pushedOut.split('\n', Qt::SkipEmptyParts);
   if (const auto more = names.size() - MostNamed; more > 0)
     names = names.first(MostNamed) + QStringList(QString("e altri %1").arg(more));
-  if (!names.isEmpty()) result += ", persi in fondo: " + names.join(", ");
-  if (rows.outOfBand > 0) result += ", " + OutOfBandText(rows.outOfBand);
+  if (!names.isEmpty())
+    result += (names.size() == 1 ? "; perso in fondo: " : "; persi in fondo: ") + names.join(", ");
+  if (rows.outOfBand > 0) result += "; " + OutOfBandText(rows.outOfBand);
   if (pushedOut.isEmpty()) {
     session_.status.ShowResult(result);
   } else {

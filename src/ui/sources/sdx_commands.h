@@ -5,13 +5,13 @@
 #include "ui/session/session.h"
 #include "ui/sources/sdx_pane.h"
 
-class QWidget;
+class QMainWindow;
 
 namespace Ui {
 
 class SdxCommands {
  public:
-  SdxCommands(Session& session, SdxPane& pane, QWidget& window)
+  SdxCommands(Session& session, SdxPane& pane, QMainWindow& window)
       : session_(session), pane_(pane), window_(window) {}
 
   void Connect(Actions& actions);
@@ -57,7 +57,7 @@ class SdxCommands {
 
   Session& session_;
   SdxPane& pane_;
-  QWidget& window_;
+  QMainWindow& window_;
 };
 
 }  // namespace Ui

@@ -6,11 +6,14 @@
 #include "ui/sources/sdx_commands.h"
 #include "ui/sources/service_list_commands.h"
 
+#include <QMainWindow>
+
 namespace Ui {
 
 struct SourcesRoom {
   // `pane` and `frame` are the caller's, to be laid out and kept as long as this.
-  SourcesRoom(Session& session, Actions& actions, SdxPane& listPane, DownloadFrame& frame, QWidget& window)
+  SourcesRoom(Session& session, Actions& actions, SdxPane& listPane, DownloadFrame& frame,
+              QMainWindow& window)
       : pane(listPane),
         sdx(session, pane, window),
         download(session, sdx, frame, window),

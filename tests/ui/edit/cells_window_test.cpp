@@ -30,8 +30,8 @@ class Cells : public SmallWindow {
 TEST_F(Cells, TakeWhatIsTypedOrKeepWhatTheyHad) {
   ASSERT_TRUE(Type(2, 1, "Città Mia"));
   EXPECT_EQ(driver_->Cell(2, 1), "Città Mia");
-  EXPECT_EQ(Said(), "Canale 2, Nome: Città Mia");
-  EXPECT_EQ(Action("Annulla").text(), "Annulla Modifica Nome");
+  EXPECT_EQ(Said(), "Modificato Due (2), Nome: Città Mia");
+  EXPECT_EQ(Action("Annulla").text(), "Annulla: Modificato Due (2), Nome: Città Mia");
   ASSERT_TRUE(Type(2, 3, "70000"));
   EXPECT_TRUE(Editing()) << "a refused value can be mended";
   EXPECT_EQ(Said(), "Non modificato: Serve un numero da 0 a 65535, con sole cifre decimali");
@@ -60,11 +60,11 @@ TEST_F(Cells, ACommandTakesWhatIsBeingTypedIntoItsOwnList) {
   const auto transponders = List().TransponderTable;
   ASSERT_TRUE(Type(3, 3, "1234", Qt::Key_End));
   ASSERT_TRUE(driver_->Press("Toolbar1_TRANSPONDERS"));
-  EXPECT_EQ(Said(), "Canale 3, SID: 1234");
+  EXPECT_EQ(Said(), "Modificato Tre (3), SID: 1234");
   EXPECT_EQ(List().TransponderTable, transponders);
   ASSERT_TRUE(Type(1, 2, "777", Qt::Key_End));
   ASSERT_TRUE(driver_->Choose("VisualizzaCanali"));
-  EXPECT_EQ(Said(), "Transponder 1, TID: 777");
+  EXPECT_EQ(Said(), "Modificato il transponder 1, TID: 777");
 }
 
 TEST_F(Cells, ThePopupMenuWorksOnAllSelectedRows) {
@@ -75,7 +75,7 @@ TEST_F(Cells, ThePopupMenuWorksOnAllSelectedRows) {
   };
   Grid().Select({1, 4, 6});
   trigger("Disattiva");
-  EXPECT_EQ(Said(), "Attivo N: 2 canali") << "one of the three is empty";
+  EXPECT_EQ(Said(), "Modificati 2 canali, Attivo N: Uno, Città HD") << "one of the three is empty";
   EXPECT_EQ(driver_->Cell(5, 10), "S") << "between them";
   trigger("AggiungiPreferiti_2");
   trigger("InserisciRiga");

@@ -49,11 +49,11 @@ TEST_F(EditingWindow, EveryStepIsTakenBackByItsNameDownToTheOpening) {
   const Routines::State before = List();
   CutThree();
   Paste(1, 3);
-  EXPECT_EQ(Action("Annulla").text(), "Annulla Incolla 3 canali");
+  EXPECT_EQ(Action("Annulla").text(), "Annulla: Incollati 2 canali e 1 posto vuoto dal 1: Tre, Cinque");
   ASSERT_TRUE(driver_->Choose("Annulla"));
   EXPECT_EQ(driver_->TextOf("CanaliCopiati"), "Appunti 3") << "as the list does, the channels cut come back";
-  EXPECT_EQ(Action("Annulla").text(), "Annulla Taglia 3 canali");
-  EXPECT_EQ(Action("Ripeti").text(), "Ripeti Incolla 3 canali");
+  EXPECT_EQ(Action("Annulla").text(), "Annulla: Tagliati 2 canali e 1 posto vuoto: Tre, Cinque");
+  EXPECT_EQ(Action("Ripeti").text(), "Ripeti: Incollati 2 canali e 1 posto vuoto dal 1: Tre, Cinque");
   driver_->Key(Qt::Key_Z, Qt::ControlModifier);
   EXPECT_EQ(List().ChannelTable, before.ChannelTable);
   driver_->Key(Qt::Key_Z, Qt::ControlModifier);

@@ -13,7 +13,7 @@ class FavouritesLists : public SmallWindow {
 TEST_F(FavouritesLists, TakeChannelsByKeyAndDroppingAndKeepTheirNames) {
   driver_->SelectRows(4, 5);
   driver_->Key(Qt::Key_2, Qt::ControlModifier);
-  EXPECT_EQ(Said(), "Sport: 1 preferito in più, 1 posto vuoto saltato");
+  EXPECT_EQ(Said(), "Aggiunto Cinque a Sport, 1 posto vuoto saltato");
   EXPECT_EQ(driver_->TextOf("ModificheNonSalvate"), "Modifiche non salvate");
   ASSERT_TRUE(driver_->Choose("VisualizzaPreferiti"));
   auto* lists = window_->findChild<QDialog*>("ListePreferiti");
@@ -42,7 +42,7 @@ TEST_F(FavouritesLists, TakeChannelsByKeyAndDroppingAndKeepTheirNames) {
   EXPECT_EQ(type("Mai", Qt::Key_Escape), "Sport");
   EXPECT_TRUE(lists->isVisible()) << "what was typed is given up, not the window";
   type("Città", Qt::Key_Return);
-  EXPECT_EQ(Action("Annulla").text(), "Annulla Nome lista preferiti");
+  EXPECT_EQ(Action("Annulla").text(), "Annulla: Rinominata Sport in Città");
   Click(*second, second->model()->index(2, 0), true);
   EXPECT_EQ(driver_->Grid().Selected().front(), 5);
 }

@@ -35,7 +35,7 @@ TEST_F(Exchange, ABrokenTextIsOneStep) {
   Tells("DaEsportatoTesto", "Formato file invalido (Transponders) per " + PathText(text_));
   EXPECT_EQ(
       Said(),
-      "Importazione interrotta: letti 11 canali, scritti fra quelli della lista: Annulla la riporta com'era");
+      "Importazione interrotta: 11 canali letti, scritti fra quelli della lista: Annulla la riporta com'era");
   ASSERT_TRUE(driver_->Choose("Annulla"));
   EXPECT_TRUE(List() == before);
 }
@@ -71,7 +71,7 @@ TEST_F(Exchange, RawRecordsComeFromTheFlashOnTheDisk) {
       Said(),
       "Esportato lista.fls; ricaricata la flash lista.dat al posto della lista di 10 canali con modifiche "
       "non salvate: Ctrl+Z la riporta");
-  EXPECT_EQ(Action("Annulla").text(), "Annulla Ricarica Flash per l'esportazione");
+  EXPECT_EQ(Action("Annulla").text(), "Annulla: Ricaricata lista.dat");
   ChooseFile("DaEsportato", "Selezionare il file di da importare", raw_);
   EXPECT_FALSE(Action("ApriFlashInput").isEnabled());
   SaveAs(folder_.Write("copia.dat", Contents(flash_)), 12);

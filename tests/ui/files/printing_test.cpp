@@ -87,7 +87,7 @@ TEST_F(PrintingWindow, TheListShownOrItsSelectedRows) {
   const QString title = "Stampa Canali - lista.dat";
   ExpectPdf(title);
   ASSERT_TRUE(driver_->Choose("StampaGriglia"));
-  EXPECT_EQ(Said(), "Stampa Canali - lista.dat: 1 pagina in lista.pdf");
+  EXPECT_EQ(Said(), "Stampata 1 pagina in lista.pdf");
   EXPECT_TRUE(Rows().back().startsWith("0012")) << "the free slots at the list's end are left out";
   driver_->Grid().Select({3, 5, 9});
   const QString which = "Stampare solo le 3 righe selezionate?\nRispondere NO per stampare tutta la lista";

@@ -98,7 +98,7 @@ TEST_F(Saving, ARepeatedMessageCanBeSilenced) {
   });
   ASSERT_TRUE(driver_->Choose("ApriFlashInput"));
   EXPECT_EQ(Said(),
-            "due.dat: accodati 1 canali, 4 transponder senza posto: 1 canali collegati al transponder 4");
+            "due.dat: accodato 1 canale, 4 transponder senza posto: 1 canale collegato al transponder 4");
 }
 
 TEST_F(Saving, AFailureLeavesFileAndListAsTheyWere) {

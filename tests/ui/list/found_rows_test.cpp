@@ -37,7 +37,7 @@ TEST_F(FoundRows, AreSelectedAtOnceAndStandAlone) {
   driver_->ExpectLine("Inserire il Nr. del canale su cui posizionarsi", "5");
   ASSERT_TRUE(driver_->Choose("VaiAlCanale"));
   QTest::qWait(1);
-  EXPECT_EQ(Said(), "Canale 5. Solo i trovati tolto, perché la riga era nascosta");
+  EXPECT_EQ(Said(), "Canale 5: Cinque. Solo i trovati tolto, perché la riga era nascosta");
   EXPECT_FALSE(driver_->Grid().isRowHidden(2));
   ASSERT_TRUE(driver_->Choose("SoloITrovati"));
   Open(flash_, "QuantiCanali_0");
@@ -57,7 +57,7 @@ TEST_F(FoundRows, AreBroughtToTheFrontOneByOneAndTheViewStays) {
   EXPECT_EQ(Names(1, 6), "due,Sette,,Città HD,Uno,Due");
   EXPECT_EQ(Routines::FavouriteEntriesOf(List().FavouritesBlock, 0), std::vector<int>({6, 7, 8}));
   Click("VaiAlRisultato");
-  EXPECT_EQ(Selected(), Edit::Slots({3}));
+  EXPECT_EQ(Selected(), Edit::Slots({3, 4})) << "all that went there";
   driver_->Grid().Select({1, 5, 6});
   Tells("Scambia", "Per scambiarli si devono selezionare due canali");
   driver_->Grid().Select({1, 5});
@@ -72,6 +72,44 @@ TEST_F(FoundRows, AreBroughtToTheFrontOneByOneAndTheViewStays) {
   ASSERT_TRUE(driver_->Choose("ChiudiVuoti"));
   EXPECT_EQ(Names(4, 6), "due,Due,Tre");
   EXPECT_EQ(Said(), "Chiuso 1 posto vuoto dal 2");
+}
+
+TEST_F(FoundRows, SeveralStepsAreTakenBackAtOneGo) {
+  const Routines::State before = List();
+  Delete(10, 10);
+  const Routines::State one = List();
+  for (int row = 1; row <= 3; ++row) Delete(row, row);
+  driver_->SelectRows(2, 2);
+  driver_->Key(Qt::Key_Down, Qt::AltModifier);
+  driver_->Key(Qt::Key_Down, Qt::AltModifier);
+  EXPECT_EQ(Said(), "Spostato posto vuoto 4 dal 2 al 4");
+  const auto choose = [this](const char* name, int entry) {
+    auto* list = window_->findChild<QMenu*>(name);
+    list->popup(window_->pos());
+    const QString text = list->actions()[entry]->text();
+    list->close();
+    list->actions()[entry]->trigger();
+    return text.toStdString();
+  };
+  EXPECT_EQ(choose("PassiFatti", 3), "&4  Eliminato Uno");
+  EXPECT_TRUE(List() == one);
+  EXPECT_EQ(Said(), "Annullate 4 modifiche, fino a: Eliminato Uno");
+  choose("PassiAnnullati", 0);
+  ASSERT_TRUE(driver_->Choose("AnnullaFino"));
+  QTest::keyClick(window_->findChild<QMenu*>("PassiFatti"), Qt::Key_2);
+  EXPECT_EQ(Said(), "Annullate 2 modifiche, fino a: Eliminato Dati");
+  EXPECT_TRUE(List() == before);
+}
+
+TEST_F(FoundRows, TheLineBelowSaysWhereAChannelStands) {
+  driver_->Grid().SelectRow(2);
+  EXPECT_EQ(driver_->TextOf("DoveSta").toStdString(),
+            "0002 Due: 11766 V SAT A, SR 27500, FEC 3/4, bouquet Reti Nazionali; preferiti Cinema");
+  driver_->SelectRows(2, 2);
+  driver_->Key(Qt::Key_C, Qt::ControlModifier);
+  Paste(13, 1);
+  EXPECT_TRUE(driver_->TextOf("DoveSta").endsWith("; doppio 2"));
+  EXPECT_TRUE(driver_->Grid().model()->index(1, 5).data(Qt::ToolTipRole).toString().contains("doppio 13"));
 }
 
 }  // namespace Ui

@@ -72,7 +72,7 @@ TEST_F(Comparing, WhatIsTickedAndShownIsTakenOver) {
   for (const char* kind : {"Mostra_1", "Mostra_7"}) found_->findChild<QCheckBox*>(kind)->click();
   EXPECT_EQ(Rows().size(), 1);
   Click("ApplicaSegnati");
-  EXPECT_TRUE(Said().starts_with("Applica 1 differenza: 1 spostato")) << Said();
+  EXPECT_TRUE(Said().starts_with("Applicata 1 differenza: 1 spostato")) << Said();
   ASSERT_TRUE(driver_->Choose("Annulla"));
   EXPECT_TRUE(List() == changed);
 }
@@ -86,7 +86,7 @@ TEST_F(Comparing, TicksStayWhileTheListChangesAndTheOrderIsTakenLast) {
   Delete(9, 9);
   EXPECT_EQ(found_->findChild<QPushButton*>("ApplicaSegnati")->text(), "Applica i segnati (1)");
   Click("ApplicaSegnati");
-  EXPECT_EQ(Said(), "Applica 1 differenza: 1 canale aggiunto in fondo");
+  EXPECT_EQ(Said(), "Applicata 1 differenza: 1 canale aggiunto in fondo");
   EXPECT_EQ(Names(9, 10), "Sette,Tre");
   Click("SegnaTutti");
   Click("ApplicaSegnati");

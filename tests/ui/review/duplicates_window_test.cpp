@@ -67,7 +67,7 @@ TEST_F(Duplicates, AllButTheFirstGoAndFavouritesAreTold) {
   driver_->Choose("Annulla");
   Row(1, 0).setCheckState(0, Qt::Checked);
   Click("EliminaScelti");
-  EXPECT_EQ(Said(), "Elimina 1 canale doppio, tolto 1 preferito (Cinema 1)");
+  EXPECT_EQ(Said(), "Eliminato Due, tolto 1 preferito (Cinema 1)");
   for (const char* rule : {"StessoServizio", "StessiPID"}) found_->findChild<QCheckBox*>(rule)->click();
   EXPECT_EQ(Counts(), "Nessun canale doppio");
 }

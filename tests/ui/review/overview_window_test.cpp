@@ -38,6 +38,19 @@ TEST_F(OverviewLines, ALineMarksItsRowsAndGoesOnDoingSo) {
   EXPECT_EQ(driver_->TextOf("RiepilogoTotali"), "Nessuna flash caricata");
 }
 
+TEST_F(OverviewLines, ALinesChannelsAreSelectedSwitchedOffAndDeleted) {
+  tree_->setCurrentItem(Line("Radio"));
+  Click("SelezionaRighe");
+  EXPECT_EQ(driver_->Grid().Selected(), Edit::Slots({8, 9}));
+  driver_->ExpectQuestion("Si disattivano 2 canali: Radio Otto, Radio Nove. Continuo?", true);
+  Click("DisattivaRighe");
+  EXPECT_EQ(Said(), "Disattivati 2 canali: Radio Otto, Radio Nove");
+  tree_->setCurrentItem(Line("di cui non attivi"));
+  driver_->ExpectQuestion("Si eliminano 3 canali: Radio Otto, Radio Nove, Dodici. Continuo?", true);
+  Click("EliminaRighe");
+  EXPECT_EQ(Names(8, 10), "Dati,due,");
+}
+
 TEST_F(OverviewLines, ALineOfTranspondersShowsThem) {
   Choose(Line("Transponder senza canali"));
   EXPECT_EQ(Said(), "Riepilogo: Transponder senza canali: nessuna riga");

@@ -141,7 +141,7 @@ TEST_F(Window, AListOfTodayBringsTheSatellitesOfItsPositions) {
   Click("SegnaTutti");
   compared->findChild<QComboBox*>("PostoNuovi")->setCurrentIndex(1);
   Click("ApplicaSegnati");
-  EXPECT_EQ(Said(), "Applica 1 differenza: 1 canale aggiunto nei posti vuoti");
+  EXPECT_EQ(Said(), "Applicata 1 differenza: 1 canale aggiunto nei posti vuoti");
 }
 
 }  // namespace Ui

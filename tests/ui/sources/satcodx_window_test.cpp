@@ -50,6 +50,14 @@ TEST_F(SatcodxWindow, ItsRowsAreShownAndInserted) {
   ExpectOpenedFlashChosen("Salva l'elenco");
   missing->findChild<QPushButton*>("SalvaNonInSDX")->click();
   EXPECT_TRUE(Contents(flash_) == image) << "no text is saved over the opened flash";
+  auto* gone = missing->findChild<QTreeWidget*>();
+  EXPECT_EQ(gone->topLevelItemCount(), 7);
+  for (const int row : {1, 4}) gone->topLevelItem(row)->setCheckState(0, Qt::Checked);
+  missing->findChild<QPushButton*>("SelezionaNonInSDX")->click();
+  EXPECT_EQ(driver_->Grid().Selected(), Edit::Slots({2, 6}));
+  missing->findChild<QPushButton*>("EliminaNonInSDX")->click();
+  EXPECT_EQ(gone->topLevelItemCount(), 5) << "it follows the list";
+  ASSERT_TRUE(driver_->Choose("Annulla"));
   missing->close();
   EXPECT_TRUE(Pane().isVisible());
   Tells("Toolbar1_Copy_SDX", "Nessun canale SDX selezionato");
@@ -72,8 +80,10 @@ TEST_F(SatcodxWindow, AllItsRowsGoWhereTheUserSaysAsFarAsThereIsRoom) {
     EXPECT_EQ(outcome->text(), "sovrascrive 3 canali, 2 voci di preferiti; 1 riga fuori banda");
   });
   ASSERT_TRUE(driver_->Choose("ImportaTuttoSDX"));
-  EXPECT_EQ(Said(),
-            "Inseriti 3 canali SDX dal 1, sovrascritti 3 canali, 2 voci di preferiti, 1 riga fuori banda");
+  EXPECT_EQ(
+      Said(),
+      "Inseriti 3 canali dal 1: Nuovo 1, Nuovo 2, Nuovo 3; al posto di 3 canali, 2 voci di preferiti; 1 "
+      "riga fuori banda");
   EXPECT_EQ(Names(1, 5), "Nuovo 1,Nuovo 2,Nuovo 3,,Cinque") << "nothing moves";
   ImportAll([](QDialog& box, const QString&) { box.findChild<QLineEdit*>("Partenza")->setText("998"); });
   Tells("ImportaTuttoSDX", "1 canale SDX non ha trovato posto");
@@ -86,7 +96,7 @@ TEST_F(SatcodxWindow, AllItsRowsGoWhereTheUserSaysAsFarAsThereIsRoom) {
     EXPECT_TRUE(confirm->isEnabled());
   });
   ASSERT_TRUE(driver_->Choose("ImportaTuttoSDX"));
-  EXPECT_EQ(Said(), "Inseriti 3 canali SDX nei posti vuoti, 1 riga fuori banda");
+  EXPECT_EQ(Said(), "Inseriti 3 canali nei posti vuoti: Nuovo 1, Nuovo 2, Nuovo 3; 1 riga fuori banda");
   EXPECT_EQ(Names(4, 4) + Names(13, 14), "Nuovo 1Nuovo 2,Nuovo 3");
 }
 
@@ -97,10 +107,9 @@ TEST_F(SatcodxWindow, ChannelsThatDropOffStayInSight) {
   driver_->ExpectLine("Inserire la posizione in cui inserire Nuovo 1", "999");
   driver_->ExpectQuestion("Si desidera spostare i canali verso il basso?", true);
   ASSERT_TRUE(driver_->Press("Toolbar1_Copy_SDX"));
-  EXPECT_EQ(Said(), "Inserito 1 canale SDX dal 999, persi in fondo: 0999 Nuovo 3");
+  EXPECT_EQ(Said(), "Inserito Nuovo 1 al 999; perso in fondo: 0999 Nuovo 3");
   ASSERT_TRUE(driver_->Choose("InvertiSatelliti"));
-  EXPECT_EQ(driver_->TextOf("RisultatoConPerdite"),
-            "⚠ Inserito 1 canale SDX dal 999, persi in fondo: 0999 Nuovo 3")
+  EXPECT_EQ(driver_->TextOf("RisultatoConPerdite"), "⚠ Inserito Nuovo 1 al 999; perso in fondo: 0999 Nuovo 3")
       << "beside what is said later";
   Click("QualiCanali");
   auto* lost = window_->findChild<QPlainTextEdit*>("RigheCanaliPersi");

@@ -89,6 +89,7 @@ void CheckTab(QWidget& shown, const std::set<QWidget*>& controls) {
 }
 
 void CheckAccess(QWidget& shown) {
+  QTest::qWait(20);  // until an activation of the window before has been told
   shown.activateWindow();
   ASSERT_TRUE(QTest::qWaitForWindowActive(&shown));
   EXPECT_FALSE(shown.windowTitle().isEmpty());
@@ -266,7 +267,7 @@ TEST_F(Menus, AnswerToFirstLettersAndHaveEveryButton) {
   }
   QTest::keyClick(menu, Qt::Key_Return);
   EXPECT_FALSE(menu->isVisible());
-  EXPECT_EQ(Said(), "Ricalcola il numero di Canali per transponder");
+  EXPECT_EQ(Said(), "Ricalcolato il numero di canali per transponder");
 }
 
 }  // namespace Ui
