@@ -76,6 +76,7 @@ class Loader {
       // A download leaves every second line blank: those are no services that were dropped.
       if (table_.lines > 0 && Base::TrimmedLeft(line).empty()) continue;
       if (table_.lines++ == 0) table_.satelliteName = Cut(line, SdxLine::SatelliteName);
+      coded_ = coded_ || SaysCode(line);
       if (!Passes(line)) continue;
       if (table_.rows.size() >= options_.most) {
         table_.full = true;
@@ -83,10 +84,16 @@ class Loader {
       }
       Fill(table_.rows.emplace_back(), line);
     }
+    // Then no line says whether its service is encrypted.
+    if (!coded_) table_.lacking.Add(SdxField::Coding);
     return std::move(table_);
   }
 
  private:
+  static bool SaysCode(std::string_view line) {
+    return Cut(line, SdxLine::Code).find_first_not_of("_ ") != std::string_view::npos;
+  }
+
   bool Passes(std::string_view line) {
     if (!Above(Cut(line, SdxLine::SymbolRate), "17999")) return Dropped(Drop::SymbolRate);
     const char type = Cut(line, SdxLine::Type).front();  // a line with a symbol rate has one
@@ -145,6 +152,7 @@ class Loader {
 
   const SdxOptions& options_;
   SdxTable table_;
+  bool coded_ = false;  // a line has an encryption code
 };
 
 }  // namespace

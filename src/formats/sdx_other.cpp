@@ -15,14 +15,16 @@ bool SaysNothing(std::string_view number) { return Base::LeadingNumber(number) =
 SdxFields LackingIn(const SdxRow& row, SdxFields lacking) {
   if (row.transponder) return lacking;
   constexpr std::string_view Absent = "65535";
+  constexpr std::string_view FecDigits = "12357";
   for (const SdxField field : {SdxField::Ecm, SdxField::Active, SdxField::Band}) lacking.Add(field);
-  const std::pair<bool, SdxField> fields[] = {{std::string_view(row.fec).empty(), SdxField::Fec},
-                                              {row.vpid == Absent && row.type != 'R', SdxField::Vpid},
-                                              {row.apid == Absent, SdxField::Apid},
-                                              {row.pcr == Absent, SdxField::Pcr},
-                                              {SaysNothing(row.pcr), SdxField::Pcr},
-                                              {SaysNothing(row.tid), SdxField::Tid},
-                                              {SaysNothing(row.nid), SdxField::Nid}};
+  const std::pair<bool, SdxField> fields[] = {
+      {std::string_view(row.fec).empty() || FecDigits.find(row.fec) == std::string_view::npos, SdxField::Fec},
+      {row.vpid == Absent && row.type != 'R', SdxField::Vpid},
+      {row.apid == Absent, SdxField::Apid},
+      {row.pcr == Absent, SdxField::Pcr},
+      {SaysNothing(row.pcr), SdxField::Pcr},
+      {SaysNothing(row.tid), SdxField::Tid},
+      {SaysNothing(row.nid), SdxField::Nid}};
   for (const auto& [absent, field] : fields) {
     if (absent) lacking.Add(field);
   }

@@ -79,6 +79,10 @@ TEST(Satcodx, EachDroppedLineHasItsReason) {
   EXPECT_EQ(table.rows.size(), 2U);
   EXPECT_EQ(table.lines, 11);
   EXPECT_EQ(table.dropped.Text(), "senza PID 1, tipo 1, non MPG2 1, symbol rate 2, codifica 1, filtri 3");
+  EXPECT_EQ(table.lacking, SdxFields{});
+  const SdxTable uncoded = ReadSatcodx(Line({.vpid = "0000", .code = "____"}), Everything());
+  EXPECT_EQ(uncoded.lacking, SdxFields{SdxField::Coding}) << "no line says whether it is encrypted";
+  EXPECT_EQ(uncoded.others.size(), 1U) << "to compare a list with";
   std::string many;
   for (int i = 0; i < 4001; ++i) many += Line({});
   EXPECT_TRUE(ReadSatcodx(many, Everything()).full);
