@@ -20,7 +20,7 @@ std::uint64_t RoundedQuotient(std::uint64_t dividend, std::uint64_t divisor) {
 
 int ExactMegahertz(std::uint32_t hertz) {
   std::uint64_t value = hertz;
-  if (const int digits = std::bit_width(hertz); digits > 24) {
+  if (const auto digits = static_cast<int>(std::bit_width(hertz)); digits > 24) {
     value = RoundedQuotient(hertz, 1ULL << (digits - 24)) << (digits - 24);
   }
   if (value < 1000000) return 0;
