@@ -29,8 +29,12 @@ void MoveCommands::Connect(Actions& actions) {
 
 namespace {
 
-// "Spostato RAI 1 dal 5 al 3", "Spostati 3 canali in su di 2 posti: …": channels that are in `slots` now.
+// "Spostato RAI 1 dal 5 al 3", "Spostati 3 canali in su di 2 posti: …": channels that are in `slots` now. Up and down
+// again they are where they were.
 std::string ToldAfter(const State& state, const Slots& slots, int rows) {
+  if (rows == 0)
+    return Edit::Told(state, slots, "Riportato", "Riportati",
+                      slots.size() == 1 ? " al suo posto" : " al loro posto");
   if (slots.size() == 1)
     return Edit::Told(state, slots, "Spostato", "",
                       " dal " + std::to_string(slots[0] - rows) + " al " + std::to_string(slots[0]));

@@ -46,8 +46,9 @@ FilterBar::FilterBar(const QString& suffix, const QString& placeholder, Find fin
   connect(field_, &QLineEdit::textChanged, this, [this] {
     rows_ = {};
     Refresh();
+    // The field's own signal for it comes before this one, when the hits are still those of the text before.
+    if (field_->isModified()) Q_EMIT Typed();
   });
-  connect(field_, &QLineEdit::textEdited, this, &FilterBar::Typed);
   connect(help, &QToolButton::clicked, this, &FilterBar::HelpWanted);
   connect(only_, &QCheckBox::toggled, this, &FilterBar::Changed);
   connect(only_, &QCheckBox::toggled, this, &FilterBar::OnlyToggled);

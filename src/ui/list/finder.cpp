@@ -36,17 +36,9 @@ void Finder::ShowPlace() {
   bar_.ShowPlace(onHit ? static_cast<std::size_t>(at - matches.begin()) + 1 : 0);
 }
 
-// Several selected rows stay so: the words may be for finding one more.
+// It alone is selected then, so that what is done next is done to what was found last.
 void Finder::GoToFirst() {
-  if (!here_ || bar_.Matches().empty()) return;
-  const int first = bar_.Matches().front();
-  if (grid_.Selected().size() > 1) {
-    grid_.selectionModel()->setCurrentIndex(grid_.model()->index(first - 1, 1),
-                                            QItemSelectionModel::NoUpdate);
-    grid_.scrollTo(grid_.currentIndex(), QAbstractItemView::PositionAtCenter);
-  } else {
-    grid_.SelectInMiddle(first);
-  }
+  if (here_ && !bar_.Matches().empty()) grid_.SelectInMiddle(bar_.Matches().front());
 }
 
 void Finder::Step(bool forward) {

@@ -15,6 +15,8 @@ class FoundRows : public SmallWindow {
 TEST_F(FoundRows, AreSelectedAtOnceAndStandAlone) {
   Find("citta ");
   EXPECT_EQ(Selected(), Edit::Slots({6})) << "typing goes to the first one";
+  Find("do");
+  EXPECT_EQ(Selected(), Edit::Slots({12})) << "the first of the whole word, not of all but its last letter";
   Find("du");
   EXPECT_EQ(driver_->TextOf("FiltroTrovati"), "1 di 2");
   driver_->Key(Qt::Key_A, Qt::ControlModifier);
