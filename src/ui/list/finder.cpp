@@ -36,9 +36,11 @@ void Finder::ShowPlace() {
   bar_.ShowPlace(onHit ? static_cast<std::size_t>(at - matches.begin()) + 1 : 0);
 }
 
-// It alone is selected then, so that what is done next is done to what was found last.
+// It alone is selected then, and nothing where there is none, so that what is done next is done to what was found last.
 void Finder::GoToFirst() {
-  if (here_ && !bar_.Matches().empty()) grid_.SelectInMiddle(bar_.Matches().front());
+  if (!here_ || !bar_.Asks()) return;
+  if (bar_.Matches().empty()) return grid_.clearSelection();
+  grid_.SelectInMiddle(bar_.Matches().front());
 }
 
 void Finder::Step(bool forward) {

@@ -12,6 +12,17 @@
 
 namespace Ui {
 
+namespace {
+
+// A flat button would look like more of the text beside it.
+void Underline(QWidget& link) {
+  QFont font = link.font();
+  font.setUnderline(true);
+  link.setFont(font);
+}
+
+}  // namespace
+
 StatusLine::StatusLine(QStatusBar& bar)
     : QObject(&bar),
       line_(new QWidget(&bar)),
@@ -39,6 +50,7 @@ StatusLine::StatusLine(QStatusBar& bar)
   ShowLastLoss();
   link_->setObjectName("VaiAlRisultato");
   link_->setFlat(true);
+  Underline(*link_);
   link_->setMaximumHeight(result_->sizeHint().height());
   link_->hide();
   connect(link_, &QPushButton::clicked, this, [this] { Q_EMIT GoToWanted(slot_); });

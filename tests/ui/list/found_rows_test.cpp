@@ -17,6 +17,8 @@ TEST_F(FoundRows, AreSelectedAtOnceAndStandAlone) {
   EXPECT_EQ(Selected(), Edit::Slots({6})) << "typing goes to the first one";
   Find("do");
   EXPECT_EQ(Selected(), Edit::Slots({12})) << "the first of the whole word, not of all but its last letter";
+  Find("dop");
+  EXPECT_TRUE(Selected().empty()) << "nothing is found";
   Find("du");
   EXPECT_EQ(driver_->TextOf("FiltroTrovati"), "1 di 2");
   driver_->Key(Qt::Key_A, Qt::ControlModifier);
