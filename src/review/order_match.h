@@ -20,8 +20,9 @@ struct OrderMatch {
   Comparison found;
 };
 
-// Entries are found by NID, TID and SID, or the latter two where they do not say the first, else by name, accents and case folded. Each finds the first
-// channel that no earlier one has; one with a number that the list does not reach counts as not found.
+// Entries are found by NID, TID and SID, or the latter two where they do not say the first, else by name, accents and
+// case folded. Each finds the first channel that no earlier one has; one with a number that the list does not reach
+// counts as not found.
 OrderMatch MatchOrder(const State& state, const Routines::Order& order, Numbering numbering);
 
 // The order that the list has, by the numbers of its channels.

@@ -26,8 +26,9 @@ class Document : public QObject {
   void Copy(Edit::Clipboard channels) { clipboard_ = std::move(channels); }
 
   // Runs `operation` on the tables as one step that can be undone, named `label` (UTF-8), and tells the views
-  // where it changed any; `operation` may still write the label. Without a change there is no step. One that takes the clipboard as well, as cutting and pasting
-  // do, changes both in that step. Returns what `operation` returns, if anything.
+  // where it changed any; `operation` may still write the label. Without a change there is no step. One that
+  // takes the clipboard as well, as cutting and pasting do, changes both in that step. Returns what `operation`
+  // returns, if anything.
   template <class Operation>
   auto Apply(const std::string& label, Operation operation,
              Edit::History::Kind kind = Edit::History::Kind::Edit) {
