@@ -34,11 +34,13 @@ for room in $(find . -name '*.cpp' -o -name '*.h' | sed 's|^\./||; s|/[^/]*$||' 
     broken=1
     continue
   fi
-  for other in $(sed -n 's|^#include "\(.*\)/[^/]*"$|\1|p' "$room"/*.h "$room"/*.cpp 2>/dev/null | sort -u); do
+  for other in $(sed -n 's|^[[:space:]]*#[[:space:]]*include[[:space:]]*["<]\(.*\)/[^/">]*[">].*|\1|p' \
+    "$room"/*.h "$room"/*.cpp 2>/dev/null | sort -u); do
     [ "$other" = "$room" ] && continue
+    allowed "$other" > /dev/null || continue # a folder of the system's headers
     case " $may " in *" $other "*) continue ;; esac
     echo "$room must not include $other:"
-    grep -n "#include \"$other/[^/]*\"" "$room"/*.h "$room"/*.cpp
+    grep -n "#[[:space:]]*include[[:space:]]*[\"<]$other/[^/]*[\">]" "$room"/*.h "$room"/*.cpp
     broken=1
   done
   case "$room" in ui | ui/*) continue ;; esac

@@ -8,6 +8,11 @@
 
 #include <algorithm>
 #include <array>
+
+// GCC 12 takes parts of its own regular expressions for uninitialised where it builds for the sanitizers.
+#if defined(__GNUC__) && !defined(__clang__)
+#pragma GCC diagnostic ignored "-Wmaybe-uninitialized"
+#endif
 #include <regex>
 
 namespace Edit {

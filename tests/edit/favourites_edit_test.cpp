@@ -10,9 +10,9 @@ namespace Edit {
 using namespace Routines;
 using Entries = std::vector<int>;
 
-class Preferiti : public testing::Test {
+class FavouritesEdit : public testing::Test {
  protected:
-  Preferiti() {
+  FavouritesEdit() {
     state_.ChannelCount = 300;
     for (int slot = 1; slot <= 250; ++slot)
       state_.Channel(slot) = Samples::MakeChannel("c" + std::to_string(999 - slot), 1, slot, 1, 1);
@@ -26,7 +26,7 @@ class Preferiti : public testing::Test {
   State state_;
 };
 
-TEST_F(Preferiti, ChannelsAreAddedOnceAndOnlyWhereThereIsRoom) {
+TEST_F(FavouritesEdit, ChannelsAreAddedOnceAndOnlyWhereThereIsRoom) {
   AddReport report = AddFavourites(state_, 2, 99, {5, 6, 5, 251, 301, 0, -1});
   EXPECT_EQ(Of(2), (Entries{5, 6}));
   EXPECT_EQ(report.known, 1);
@@ -47,7 +47,7 @@ TEST_F(Preferiti, ChannelsAreAddedOnceAndOnlyWhereThereIsRoom) {
   EXPECT_EQ(Of(2).size(), FavouriteEntries - 2);
 }
 
-TEST_F(Preferiti, EntriesMoveWithinAndBetweenLists) {
+TEST_F(FavouritesEdit, EntriesMoveWithinAndBetweenLists) {
   AddFavourites(state_, 0, 0, {1, 2, 3, 4, 5, 6});
   EXPECT_EQ(MoveFavourites(state_, 0, {1, 3}, 0, 5).first, 3U);
   EXPECT_EQ(Of(0), (Entries{1, 3, 5, 2, 4, 6}));
@@ -69,7 +69,7 @@ TEST_F(Preferiti, EntriesMoveWithinAndBetweenLists) {
   EXPECT_EQ(Of(0), (Entries{5, 2})) << "what finds no room stays";
 }
 
-TEST_F(Preferiti, SortingPutsEntriesWithoutChannelLast) {
+TEST_F(FavouritesEdit, SortingPutsEntriesWithoutChannelLast) {
   SetFavouriteEntries(state_.FavouritesBlock, 4, {9, 5000, 3, 260, 7});
   SortFavourites(state_, 4, FavouriteOrder::ByNumber);
   EXPECT_EQ(Of(4), (Entries{3, 7, 9, 260, 5000}));
@@ -77,7 +77,7 @@ TEST_F(Preferiti, SortingPutsEntriesWithoutChannelLast) {
   EXPECT_EQ(Of(4), (Entries{9, 7, 3, 260, 5000}));
 }
 
-TEST_F(Preferiti, NamesTakeTheirEightBytes) {
+TEST_F(FavouritesEdit, NamesTakeTheirEightBytes) {
   const Base::Bytes before = state_.FavouritesBlock;
   EXPECT_TRUE(RenameFavourites(state_, 3, "Città"));
   EXPECT_EQ(FavouriteNameOf(state_.FavouritesBlock, 3), "Citt\xE0");

@@ -19,7 +19,7 @@ constexpr std::size_t LargestList = 256U << 20U;
 void ForeignCommands::Connect(Actions& actions) {
   actions.Connect("CaricaAggiuntiva", [this] { CaricaAggiuntiva(); });
   for (const CommandName kind : {CommandName("Digiquest"), CommandName("Pelko")})
-    actions.Connect(kind, [this, kind] { Importa(kind->name, kind->caption); });
+    actions.Connect(kind, [this, kind] { Import(kind->name, kind->caption); });
 }
 
 void ForeignCommands::CaricaAggiuntiva() {
@@ -43,7 +43,7 @@ void ForeignCommands::CaricaAggiuntiva() {
   session_.status.ShowResult(result);
 }
 
-void ForeignCommands::Importa(const QString& kind, const QString& caption) {
+void ForeignCommands::Import(const QString& kind, const QString& caption) {
   const std::string path = session_.AskOpen(
       "Selezionare il file da importare",
       "File di testo(*.txt *.csv *.ini *.dat)|*.txt *.csv *.ini *.dat|Tutti i file (*.*)|*.*|",

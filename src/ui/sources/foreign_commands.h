@@ -15,7 +15,7 @@ class ForeignCommands {
  private:
   void CaricaAggiuntiva();
   // Menu commands Digiquest and Pelko; `kind` is the control name, under which the choices are remembered.
-  void Importa(const QString& kind, const QString& caption);
+  void Import(const QString& kind, const QString& caption);
 
   Session& session_;
   SdxCommands& sdx_;

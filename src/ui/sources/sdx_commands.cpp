@@ -33,9 +33,9 @@ QString RowName(const Formats::SdxRow& row) { return CodePageText(Base::TrimmedR
 }  // namespace
 
 void SdxCommands::Connect(Actions& actions) {
-  actions.Connect("SDX", [this] { Carica(); });
-  actions.Connect("RicercaSDX", [this] { Ricerca(); });
-  actions.Connect("ImportaTuttoSDX", [this] { ImportaTutto(); });
+  actions.Connect("SDX", [this] { Load(); });
+  actions.Connect("RicercaSDX", [this] { Find(); });
+  actions.Connect("ImportaTuttoSDX", [this] { ImportAll(); });
   actions.ConnectButton("Copy SDX", [this] { CopySDX(); });
   FollowFilter(session_, pane_.Filter(), pane_.Hits(), "righe SDX");
   session_.onChange.emplace_back([this] {
@@ -47,7 +47,7 @@ void SdxCommands::Connect(Actions& actions) {
                    [this](const Edit::Slots& rows, int before) { Drop(rows, before); });
 }
 
-void SdxCommands::Carica(std::string path) {
+void SdxCommands::Load(std::string path) {
   if (path.empty()) {
     path = session_.AskOpen("Selezionare il file SDX di input",
                             "SatcoDX files(*.sdx)|*.sdx|Tutti i file (*.*)|*.*|", FolderKind::Foreign);
@@ -113,7 +113,7 @@ void SdxCommands::ShowPane(bool shown) {
   if (onShown) onShown(shown);
 }
 
-void SdxCommands::Ricerca() {
+void SdxCommands::Find() {
   const auto answer = session_.dialogs.AskLine("Inserire il canale da ricercare");
   if (!answer || answer->isEmpty()) return;
   bool found = false;
@@ -244,7 +244,7 @@ void SdxCommands::TellWithoutRoom(const Rows& rows, int placed) {
       Counted(left, "canale SDX non ha trovato posto", "canali SDX non hanno trovato posto"), {});
 }
 
-void SdxCommands::ImportaTutto() {
+void SdxCommands::ImportAll() {
   if (session_.sdx.rows.empty()) {
     session_.dialogs.Message("Canali SDX non caricati", {});
     return;

@@ -20,7 +20,7 @@ class SdxCommands {
   std::function<void(bool)> onShown;
 
   // Menu command SDX; asks for the list unless its path is given.
-  void Carica(std::string path = {});
+  void Load(std::string path = {});
   // The loader: the options, the table, the pane. `path` is a list on the disk.
   void Load(const std::string& path);
   // Puts other rows into the table and shows them; `name` says where they are from.
@@ -31,9 +31,9 @@ class SdxCommands {
   [[nodiscard]] bool PaneShown() const { return !pane_.isHidden(); }
 
  private:
-  void Ricerca();
+  void Find();
   void CopySDX();
-  void ImportaTutto();
+  void ImportAll();
   // Rows were dropped in front of slot `before`.
   void Drop(const Edit::Slots& rows, int before);
   void ListMissing(int satellite, std::string_view text);
