@@ -33,8 +33,8 @@ namespace {
 // again they are where they were.
 std::string ToldAfter(const State& state, const Slots& slots, int rows) {
   if (rows == 0)
-    return Edit::Told(state, slots, "Riportato", "Riportati",
-                      slots.size() == 1 ? " al suo posto" : " al loro posto");
+    return Edit::Told(state, slots, "Spostato", "Spostati",
+                      slots.size() == 1 ? " e riportato al suo posto" : " e riportati al loro posto");
   if (slots.size() == 1)
     return Edit::Told(state, slots, "Spostato", "",
                       " dal " + std::to_string(slots[0] - rows) + " al " + std::to_string(slots[0]));
