@@ -62,11 +62,11 @@ void FileOpening::Open(const DroppedFile& file) {
   } else if (file.ending == "dat") {
     OpenFlash(path);
   } else if (file.ending == "sdx") {
-    if (actions_.Allows("SDX")) sdx_.Load(path);
+    if (actions_.Allows("SDX")) sdx_.Open(path);
   } else if (file.ending == "fls") {
     if (actions_.Allows("DaEsportato")) exchange_.DaEsportato(path);
   } else if (ServiceListCommands::Knows(path)) {
-    if (actions_.Allows("ImportaElenco")) lists_.Import(path);
+    if (actions_.Allows("ImportaElenco")) lists_.Open(path);
   } else if (file.ending == "txt") {
     if (actions_.Allows("DaEsportatoTesto")) exchange_.DaEsportatoTesto(path);
   } else {

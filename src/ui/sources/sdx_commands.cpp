@@ -33,7 +33,7 @@ QString RowName(const Formats::SdxRow& row) { return CodePageText(Base::TrimmedR
 }  // namespace
 
 void SdxCommands::Connect(Actions& actions) {
-  actions.Connect("SDX", [this] { Load(); });
+  actions.Connect("SDX", [this] { Open(); });
   actions.Connect("RicercaSDX", [this] { Find(); });
   actions.Connect("ImportaTuttoSDX", [this] { ImportAll(); });
   actions.ConnectButton("Copy SDX", [this] { CopySDX(); });
@@ -47,7 +47,7 @@ void SdxCommands::Connect(Actions& actions) {
                    [this](const Edit::Slots& rows, int before) { Drop(rows, before); });
 }
 
-void SdxCommands::Load(std::string path) {
+void SdxCommands::Open(std::string path) {
   if (path.empty()) {
     path = session_.AskOpen("Selezionare il file SDX di input",
                             "SatcoDX files(*.sdx)|*.sdx|Tutti i file (*.*)|*.*|", FolderKind::Foreign);

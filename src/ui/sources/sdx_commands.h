@@ -20,7 +20,7 @@ class SdxCommands {
   std::function<void(bool)> onShown;
 
   // Menu command SDX; asks for the list unless its path is given.
-  void Load(std::string path = {});
+  void Open(std::string path = {});
   // The loader: the options, the table, the pane. `path` is a list on the disk.
   void Load(const std::string& path);
   // Puts other rows into the table and shows them; `name` says where they are from.

@@ -23,7 +23,7 @@ QString WhyNone(const QString& file, const Formats::ListFormat* format) {
 }  // namespace
 
 void ServiceListCommands::Connect(Actions& actions) {
-  actions.Connect("ImportaElenco", [this] { Import(); });
+  actions.Connect("ImportaElenco", [this] { Open(); });
 }
 
 bool ServiceListCommands::Knows(const std::string& path) {
@@ -31,7 +31,7 @@ bool ServiceListCommands::Knows(const std::string& path) {
   return bytes && Formats::FormatOf(Formats::ListText(Base::AsText(*bytes)).View()) != nullptr;
 }
 
-void ServiceListCommands::Import(std::string path) {
+void ServiceListCommands::Open(std::string path) {
   if (path.empty()) {
     path = session_.AskOpen("Selezionare la lista da importare",
                             "Liste di canali(*.conf *.txt lamedb*)|*.conf *.txt lamedb*|Tutti i file "

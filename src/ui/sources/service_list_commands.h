@@ -13,7 +13,7 @@ class ServiceListCommands {
   void Connect(Actions& actions);
 
   // Menu command ImportaElenco; asks for the list unless its path is given.
-  void Import(std::string path = {});
+  void Open(std::string path = {});
 
   // Whether the file is a list that it can import, or one of that family that it can say something of.
   [[nodiscard]] static bool Knows(const std::string& path);
