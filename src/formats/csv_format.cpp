@@ -45,7 +45,7 @@ std::vector<std::string> Titles(std::string_view header) {
 bool LooksLikeDate(std::string_view text) {
   constexpr std::string_view Digits = "0123456789";
   const auto divider = text.find_first_not_of(Digits);
-  return divider != 0 && divider + 1 < text.size() &&
+  return divider != 0 && divider != std::string_view::npos && divider + 1 < text.size() &&
          std::string_view("/-.,:eE").find(text[divider]) != std::string_view::npos &&
          text.find_first_not_of("0123456789/-.,: ", divider + 1) == std::string_view::npos;
 }
