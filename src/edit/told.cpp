@@ -17,7 +17,7 @@ int ChannelsIn(const State& state, const Slots& slots) {
 std::string CountOf(const State& state, const Slots& slots) {
   const int channels = ChannelsIn(state, slots);
   const int empty = static_cast<int>(slots.size()) - channels;
-  const std::string gaps = Base::Counted(empty, "posto vuoto", "posti vuoti");
+  std::string gaps = Base::Counted(empty, "posto vuoto", "posti vuoti");
   if (channels == 0) return gaps;
   return Base::Counted(channels, "canale", "canali") + (empty == 0 ? "" : " e " + gaps);
 }
