@@ -21,15 +21,15 @@ inline std::string_view TakeField(std::string_view& rest, char separator) {
 using Base::TakeNumber;
 static_assert(NotSaid == -1);
 
-// What each character is worth as a hexadecimal digit; -1 for those that are none.
+// What each character is worth as a hexadecimal digit; 16 for those that are none.
 inline constexpr auto HexValues = [] {
   constexpr std::string_view Digits = "0123456789abcdef";
-  std::array<std::int8_t, 256> values{};
-  values.fill(-1);
+  std::array<std::uint8_t, 256> values{};
+  values.fill(Digits.size());
   for (std::size_t digit = 0; digit < Digits.size(); ++digit) {
     const auto character = static_cast<unsigned char>(Digits[digit]);
-    values[character] = static_cast<std::int8_t>(digit);
-    if (digit > 9) values[character & ~0x20U] = static_cast<std::int8_t>(digit);
+    values[character] = static_cast<std::uint8_t>(digit);
+    if (digit > 9) values[character & ~0x20U] = static_cast<std::uint8_t>(digit);
   }
   return values;
 }();
@@ -40,9 +40,9 @@ inline std::optional<std::uint32_t> TakeHex(std::string_view& rest) {
   std::size_t digits = 0;
   std::uint32_t value = 0;
   for (; digits < rest.size(); ++digits) {
-    const int digit = HexValues[static_cast<unsigned char>(rest[digits])];
-    if (digit < 0) break;
-    value = value << 4U | static_cast<unsigned>(digit);
+    const unsigned digit = HexValues[static_cast<unsigned char>(rest[digits])];
+    if (digit > 0xF) break;
+    value = value << 4U | digit;
   }
   rest.remove_prefix(digits);
   return digits == 0 || digits > MostDigits ? std::nullopt : std::optional(value);

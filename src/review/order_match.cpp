@@ -16,7 +16,7 @@ enum class Ids { All, WithoutNid };
 // Empty where the entry does not say as much.
 std::string KeyOf(const OrderEntry& entry, Ids ids) {
   if (entry.sid == NotSaid || entry.tid <= 0) return {};
-  const std::string service = std::to_string(entry.tid) + "-" + std::to_string(entry.sid);
+  std::string service = std::to_string(entry.tid) + "-" + std::to_string(entry.sid);
   if (ids == Ids::WithoutNid) return service;
   return entry.nid == NotSaid ? std::string() : std::to_string(entry.nid) + "-" + service;
 }
