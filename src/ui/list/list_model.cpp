@@ -38,7 +38,7 @@ QString ListModel::CellText(int slot, int column) const {
 }
 
 QString ListModel::Spoken(int slot) const {
-  const QString kind = Text(Routines::RowKindText(kind_.rowKind(document_.Tables(), slot)));
+  QString kind = Text(Routines::RowKindText(kind_.rowKind(document_.Tables(), slot)));
   if (!Found(slot) && !painted_.contains(slot)) return kind;
   return kind.isEmpty() ? QString("trovato") : kind + ", trovato";
 }
