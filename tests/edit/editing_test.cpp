@@ -356,7 +356,8 @@ TEST(Editing, TheSortIsTheExchangeSortsOwn) {
     Junk junk(seed);
     auto state = RandomList(junk, 60 + static_cast<int>(junk.Below(200)));
     auto plain = std::make_unique<State>(*state);
-    const int start = 1 + static_cast<int>(junk.Below(static_cast<std::size_t>(LastOccupied(*state))));
+    const int start =
+        1 + static_cast<int>(junk.Below(static_cast<std::size_t>(std::max(LastOccupied(*state), 1))));
     OrdinaPerBouquet(*state, start);
     PlainSort(*plain, start);
     ASSERT_EQ(state->ChannelTable, plain->ChannelTable) << seed;
