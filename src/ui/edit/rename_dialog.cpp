@@ -9,6 +9,7 @@
 #include <QComboBox>
 #include <QDialogButtonBox>
 #include <QHBoxLayout>
+#include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
@@ -253,6 +254,13 @@ std::vector<Edit::NewName> RenameDialog::Chosen() const {
   for (std::size_t i = 0; i < planned_.size(); ++i)
     if (names_->Ticked(i)) chosen.push_back(planned_[i]);
   return chosen;
+}
+
+// Enter in the field for a name of rules is about the rules: it must not change the list.
+void RenameDialog::keyPressEvent(QKeyEvent* event) {
+  const bool enter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
+  if (enter && kept_->lineEdit()->hasFocus()) return;
+  QDialog::keyPressEvent(event);
 }
 
 void RenameDialog::ShowKept() {

@@ -49,6 +49,9 @@ class RenameDialog : public QDialog {
   [[nodiscard]] std::vector<Edit::NewName> Chosen() const;
   [[nodiscard]] QString Where() const { return scope_->Where(); }
 
+ protected:
+  void keyPressEvent(QKeyEvent* event) override;
+
  private:
   void Build();
   QWidget* KeptRules();
