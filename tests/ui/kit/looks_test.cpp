@@ -18,7 +18,9 @@ TEST_F(Looks, EveryRowCanBeRead) {
     return driver_->Grid().model()->index(row - 1, 1).data(role).value<QBrush>().color();
   };
   for (const char* text : {"Uno", "HD"}) window_->findChild<QLineEdit*>("Filtro")->setText(text);
-  EXPECT_EQ(look(1, Qt::BackgroundRole), QColor(255, 255, 0)) << "television, and found no longer";
+  EXPECT_EQ(look(1, Qt::BackgroundRole), QColor(255, 255, 0)) << "television";
+  EXPECT_EQ(driver_->Grid().model()->index(0, 1).data(Qt::AccessibleDescriptionRole), "TV")
+      << "no longer found";
   for (const char* view : {"VisualizzaCanali", "VisualizzaTransponder"}) {
     if (!Action(view).isChecked()) Action(view).trigger();
     for (int row = 1; row <= driver_->Grid().model()->rowCount(); ++row)
