@@ -8,7 +8,6 @@
 #include "formats/text_format.h"
 #include "model/flash_loader.h"
 #include "ui/kit/text.h"
-#include "ui/kit/toolkit.h"
 
 namespace Ui {
 
@@ -117,10 +116,7 @@ std::optional<Base::Bytes> ExchangeCommands::ReadImport(const QString& title, co
                                                         std::string& path) {
   if (path.empty()) path = session_.AskOpen(title, filters, FolderKind::Input);
   if (path.empty()) return std::nullopt;
-  auto bytes = Waiting([&] { return Base::ReadFile(path, LargestImport); });
-  if (bytes) return std::move(*bytes);
-  session_.Message(bytes.error());
-  return std::nullopt;
+  return session_.Read(path, LargestImport);
 }
 
 template <class Read>

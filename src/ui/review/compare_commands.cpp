@@ -7,7 +7,6 @@
 #include "model/favourites.h"
 #include "model/flash_loader.h"
 #include "ui/kit/text.h"
-#include "ui/kit/toolkit.h"
 #include "ui/review/compare_window.h"
 #include "ui/session/lines_window.h"
 
@@ -18,8 +17,6 @@ namespace Ui {
 using Routines::State;
 
 namespace {
-
-constexpr std::size_t LargestList = 256U << 20U;
 
 // Empty where the file is none of a list. Names alone are an order too, but not the bytes of any other file.
 Routines::Order OrderIn(Base::ByteView bytes) {
@@ -89,8 +86,8 @@ void CompareCommands::DaCSV() {
   const std::string path = session_.AskOpen(
       "Selezionare il file CSV", "File CSV(*.csv)|*.csv|Tutti i file (*.*)|*.*|", FolderKind::Input);
   if (path.empty()) return;
-  const auto bytes = Waiting([&] { return Base::ReadFile(path, LargestList); });
-  if (!bytes) return session_.Message(bytes.error());
+  const auto bytes = session_.Read(path);
+  if (!bytes) return;
   const std::string file = Base::FileName(path);
   const auto text = Formats::DecodeForeign(Base::AsText(*bytes), file);
   if (!text) return session_.Message(text.error());
@@ -135,11 +132,8 @@ void CompareCommands::OrderByFile() {
                                             FolderKind::Foreign);
   if (path.empty()) return;
   session_.RememberFolder(FolderKind::Foreign, path);
-  const auto bytes = Waiting([&] { return Base::ReadFile(path, LargestList); });
-  if (!bytes) {
-    session_.Message(bytes.error());
-    return;
-  }
+  const auto bytes = session_.Read(path);
+  if (!bytes) return;
   const QString file = PathText(Base::FileName(path));
   Routines::Order order = OrderIn(*bytes);
   if (order.entries.empty()) {

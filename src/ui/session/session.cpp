@@ -4,6 +4,9 @@
 #include "base/text.h"
 #include "edit/told.h"
 #include "ui/kit/text.h"
+#include "ui/kit/toolkit.h"
+
+#include <utility>
 
 namespace Ui {
 
@@ -41,6 +44,13 @@ std::string Session::AskSave(const QString& title, const QString& filters, Folde
   if (!IsFlashOfList(path)) return path;
   status.ShowResult(QString("%1: %2").arg(refusal, FlashOfListChosen));
   return {};
+}
+
+std::optional<Base::Bytes> Session::Read(const std::string& path, std::size_t largest) {
+  auto bytes = Waiting([&] { return Base::ReadFile(path, largest); });
+  if (bytes) return std::move(*bytes);
+  Message(bytes.error());
+  return std::nullopt;
 }
 
 void Session::RememberFolder(FolderKind kind, const std::string& path) const {

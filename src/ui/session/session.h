@@ -24,6 +24,9 @@ inline constexpr const char* FlashOfListChosen = "il file scelto è la flash ape
 
 using Support::FolderKind;
 
+// No list of channels that anybody has is larger, in bytes: a SatcoDX list of a million lines is some 130 MB.
+inline constexpr std::size_t LargestList = 256U << 20U;
+
 struct Session {
   std::string programFolder;
   Support::BouquetDefinitions bouquets;
@@ -73,6 +76,8 @@ struct Session {
   // what has not been done.
   [[nodiscard]] std::string AskSave(const QString& title, const QString& filters, FolderKind kind,
                                     const char* refusal) const;
+  // What a chosen file holds, in no more than `largest` bytes; where it cannot be read a box says why.
+  [[nodiscard]] std::optional<Base::Bytes> Read(const std::string& path, std::size_t largest = LargestList);
   // Makes the folder of a chosen file the one for its kind.
   void RememberFolder(FolderKind kind, const std::string& path) const;
 

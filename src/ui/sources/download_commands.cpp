@@ -15,7 +15,7 @@
 namespace Ui {
 namespace {
 
-constexpr std::size_t LargestList = 64U << 20U;
+constexpr std::size_t LargestDownload = 64U << 20U;
 
 }  // namespace
 
@@ -69,7 +69,7 @@ void DownloadCommands::Fetch(const QString& address) {
 // Beside it, until a list has come in its place.
 Base::Outcome DownloadCommands::KeepOldList() {
   const std::string target = Base::ResolvedPath(path_);
-  const auto old = Base::ReadFile(target, LargestList);
+  const auto old = Base::ReadFile(target, LargestDownload);
   if (!old && old.error().systemCode != ENOENT) return old.error();
   if (!old || old->empty()) return Base::Done{};
   const std::string folder = Base::FolderOf(target);

@@ -10,12 +10,6 @@
 
 namespace Ui {
 
-namespace {
-
-constexpr std::size_t LargestList = 256U << 20U;
-
-}  // namespace
-
 void ForeignCommands::Connect(Actions& actions) {
   actions.Connect("CaricaAggiuntiva", [this] { CaricaAggiuntiva(); });
   for (const CommandName kind : {CommandName("Digiquest"), CommandName("Pelko")})
@@ -50,11 +44,8 @@ void ForeignCommands::Import(const QString& kind, const QString& caption) {
       FolderKind::Foreign);
   if (path.empty()) return;
   session_.RememberFolder(FolderKind::Foreign, path);
-  const auto bytes = Waiting([&] { return Base::ReadFile(path, LargestList); });
-  if (!bytes) {
-    session_.Message(bytes.error());
-    return;
-  }
+  const auto bytes = session_.Read(path);
+  if (!bytes) return;
   const std::string name = Base::FileName(path);
   const auto text = Formats::DecodeForeign(Base::AsText(*bytes), name);
   if (!text) {

@@ -5,7 +5,6 @@
 #include "edit/told.h"
 #include "formats/sdx_import.h"
 #include "ui/kit/text.h"
-#include "ui/kit/toolkit.h"
 #include "ui/session/filter_texts.h"
 #include "ui/sources/missing_window.h"
 #include "ui/sources/sdx_dialogs.h"
@@ -19,9 +18,6 @@ namespace Ui {
 using Routines::State;
 
 namespace {
-
-// A list of a million lines is some 130 MB.
-constexpr std::size_t LargestList = 256U << 20U;
 
 // "3 righe fuori banda", which have no transponder they could stand on; empty for none.
 QString OutOfBandText(int rows) {
@@ -58,11 +54,8 @@ void SdxCommands::Open(std::string path) {
 }
 
 void SdxCommands::Load(const std::string& path) {
-  const auto bytes = Waiting([&] { return Base::ReadFile(path, LargestList); });
-  if (!bytes) {
-    session_.Message(bytes.error());
-    return;
-  }
+  const auto bytes = session_.Read(path);
+  if (!bytes) return;
   const std::string_view text = Base::AsText(*bytes);
   SdxOptionsDialog dialog(session_.bouquets.tables.satellites, Formats::EncryptionCodesOf(text),
                           FiltersOf(session_), session_.dialogs, &window_);

@@ -11,8 +11,6 @@
 namespace Ui {
 namespace {
 
-constexpr std::size_t LargestList = 256U << 20U;
-
 // Why a list without services gives no rows.
 QString WhyNone(const QString& file, const Formats::ListFormat* format) {
   if (format == nullptr) return file + " non è una lista VDR, DVBv5, zap o Enigma2 (lamedb)";
@@ -40,12 +38,7 @@ void ServiceListCommands::Open(std::string path) {
   }
   if (path.empty()) return;
   session_.RememberFolder(FolderKind::Foreign, path);
-  const auto bytes = Waiting([&] { return Base::ReadFile(path, LargestList); });
-  if (bytes) {
-    Import(path, Base::AsText(*bytes));
-  } else {
-    session_.Message(bytes.error());
-  }
+  if (const auto bytes = session_.Read(path)) Import(path, Base::AsText(*bytes));
 }
 
 void ServiceListCommands::Import(const std::string& path, std::string_view bytes) {
