@@ -259,7 +259,7 @@ std::vector<Edit::NewName> RenameDialog::Chosen() const {
 // Enter in the field for a name of rules is about the rules: it must not change the list.
 void RenameDialog::keyPressEvent(QKeyEvent* event) {
   const bool enter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
-  if (enter && kept_->lineEdit()->hasFocus()) return;
+  if (enter && focusWidget() == kept_) return;
   QDialog::keyPressEvent(event);
 }
 

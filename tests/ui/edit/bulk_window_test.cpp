@@ -30,7 +30,8 @@ TEST_F(Bulk, NamesChangeByKeptRulesAsThePreviewShowsThem) {
         ->setData(names->index(2, 0), Qt::Unchecked, Qt::CheckStateRole);
     dialog.findChild<QComboBox*>("RegoleTenute")->setCurrentText("alta/definizione");
     ClickIn(dialog, "TieniRegole");
-    QTest::keyClick(dialog.findChild<QComboBox*>("RegoleTenute")->lineEdit(), Qt::Key_Return);
+    dialog.findChild<QComboBox*>("RegoleTenute")->setFocus();
+    QTest::keyClick(dialog.findChild<QComboBox*>("RegoleTenute"), Qt::Key_Return);
     EXPECT_TRUE(dialog.isVisible()) << "Enter there is about the rules";
     dialog.accept();
   });
