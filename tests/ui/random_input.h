@@ -36,7 +36,7 @@ inline Base::Bytes RandomImage(Random& random) {
   Base::Bytes image = SmallFlash();
   for (int i = random.Below(random.Chance(50) ? 60 : 3000); i > 0; --i) {
     const int place = random.Chance(5) ? random.Below(16) : 52 + random.Below(2400);
-    image[static_cast<std::size_t>((1 + random.Below(4)) * 65536 + place)] =
+    image[static_cast<std::size_t>(1 + random.Below(4)) * 65536 + static_cast<std::size_t>(place)] =
         static_cast<Base::Byte>(random.Next());
   }
   return image;

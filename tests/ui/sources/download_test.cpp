@@ -139,7 +139,9 @@ TEST_F(Downloading, AReplyThatIsNoListIsToldAndItsFileLeftEmpty) {
         {"HTTP/1.0 200 OK\r\nContent-Length: 900\r\n\r\nSATCODX103 cut", "SATCODX103 cut"},
         {"HTTP/1.0 404 Not Found\r\n\r\nSATCODX103", "SATCODX103"}}) {
     const Server server(reply);
-    Fetch(server, [&] { driver_->ExpectMessage("Errore di connessione a : " + server.Address() + told); });
+    Fetch(server, [&, text = told] {
+      driver_->ExpectMessage("Errore di connessione a : " + server.Address() + text);
+    });
     EXPECT_TRUE(Contents(path_).empty()) << told;
     EXPECT_EQ(Base::AsText(Contents(path_ + ".bak")), "SATCODX1 vecchia\r\n");
   }
