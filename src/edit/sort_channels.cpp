@@ -163,6 +163,17 @@ SortPlan PlanSort(const State& state, const std::vector<int>& slots, const SortO
   return plan;
 }
 
+std::string TextOf(const SortPlan& plan) {
+  if (plan.without > 0)
+    return "Non si può: " + Base::Counted(plan.without, "canale non trova posto", "canali non trovano posto");
+  std::string text = plan.moved == 0
+                         ? "Nessun canale cambia posto"
+                         : Base::Counted(plan.moved, "canale cambia posto", "canali cambiano posto") + ", " +
+                               Base::Counted(plan.groups, "gruppo", "gruppi");
+  if (plan.gaps > 0) text += ", " + Base::Counted(plan.gaps, "posto vuoto", "posti vuoti") + " fra i canali";
+  return text;
+}
+
 std::vector<LostFavourite> SortChannels(State& state, const SortPlan& plan) {
   return Rearrange(state, plan.map);
 }

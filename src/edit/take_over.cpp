@@ -1,9 +1,11 @@
 #include "edit/take_over.h"
 
+#include "base/text.h"
 #include "edit/list_operations.h"
 #include "model/favourites.h"
 #include "model/symbol_rates.h"
 
+#include <array>
 #include <optional>
 
 namespace Edit {
@@ -306,6 +308,24 @@ int LastOccupied(const OtherList& list) {
 }
 
 }  // namespace
+
+std::string TextOf(const TakeOverReport& report, NewPlace place) {
+  constexpr std::array<const char*, 3> Places = {" in fondo", " nei posti vuoti", " dietro il loro bouquet"};
+
+  std::string text;
+  const auto add = [&text](int count, const char* one, const char* more, const char* where = "") {
+    if (count > 0) text += (text.empty() ? "" : ", ") + Base::Counted(count, one, more) + where;
+  };
+  add(report.added, "canale aggiunto", "canali aggiunti", Places[static_cast<std::size_t>(place)]);
+  add(report.deleted, "eliminato", "eliminati");
+  add(report.changed, "modificato", "modificati");
+  add(report.moved, "spostato", "spostati");
+  add(report.updated, "transponder aggiornato", "transponder aggiornati");
+  add(report.favourites, "lista di preferiti presa", "liste di preferiti prese");
+  add(report.noRoom, "non aggiunto: la lista è piena", "non aggiunti: la lista è piena");
+  add(report.noTransponder, "lasciato: nessun transponder libero", "lasciati: nessun transponder libero");
+  return text;
+}
 
 TakeOverReport TakeOver(State& state, const OtherList& other, const Comparison& comparison,
                         const std::vector<Difference>& chosen, const BouquetTables& bouquets,

@@ -5,6 +5,8 @@
 #include "model/bouquets.h"
 #include "review/compare.h"
 
+#include <string>
+
 namespace Edit {
 
 using Review::Comparison;
@@ -30,6 +32,9 @@ struct TakeOverReport {
   int noTransponder = 0;  // channels left alone: no slot is free for their transponder
   std::vector<LostFavourite> lost;
 };
+
+// "2 canali aggiunti in fondo, 1 eliminato, 1 non aggiunto: la lista è piena", without the lost favourites; UTF-8.
+std::string TextOf(const TakeOverReport& report, NewPlace place);
 
 // `chosen` are some of the differences between `state` and `other`, each with the marks that are to be taken over and no
 // others. Channels only there are put in place; channels only here are deleted; a renamed one gets the name, one of other

@@ -6,6 +6,7 @@
 #include "formats/scan_table.h"
 #include "formats/userbouquet.h"
 #include "formats/vdr_channels.h"
+#include "model/flash_loader.h"
 
 #include <algorithm>
 
@@ -68,6 +69,19 @@ const ListFormat* FormatOf(std::string_view text) {
   const auto* found = std::find_if(std::begin(Formats), std::end(Formats),
                                    [&](const ListFormat& format) { return format.Recognised(text); });
   return found == std::end(Formats) ? nullptr : found;
+}
+
+Order OrderInFile(Base::ByteView bytes) {
+  if (bytes.size() == Routines::FlashSize) {
+    auto flash = std::make_unique<Routines::State>();
+    Routines::LoadFlash(*flash, bytes, Routines::CapacityOf(bytes), 0, {});
+    return Routines::OrderOf(*flash);
+  }
+  const ListText text(Base::AsText(bytes));
+  const ListFormat* format = FormatOf(text.View());
+  if (format != nullptr) return format->OrderOf == nullptr ? Order() : format->OrderOf(text.View());
+  const bool isText = text.View().find('\0') == std::string_view::npos;
+  return isText ? ReadOrderText(text.View()) : Order();
 }
 
 }  // namespace Formats

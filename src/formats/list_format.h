@@ -1,6 +1,7 @@
 // The lists of today that can be read. A list's format is recognised by what is in it, never by its file's name.
 #pragma once
 
+#include "base/bytes.h"
 #include "formats/order_list.h"
 
 #include <memory>
@@ -38,5 +39,9 @@ std::span<const ListFormat> ListFormats();
 
 // The format of a text; null where it is none of these.
 const ListFormat* FormatOf(std::string_view text);
+
+// The order in a file: of a flash image, of one of these lists, or of names alone, which the bytes of no other file are.
+// Empty where there is none.
+Order OrderInFile(Base::ByteView bytes);
 
 }  // namespace Formats

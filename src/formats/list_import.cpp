@@ -1,5 +1,7 @@
 #include "formats/list_import.h"
 
+#include "base/text.h"
+
 #include <memory>
 
 namespace Formats {
@@ -26,6 +28,15 @@ ImportReport ImportList(State& state, const std::string& symbolRates, const List
   }
   state.MaxChannels = state.ChannelCount = std::max(state.ChannelCount, LastUsedChannel(state));
   return report;
+}
+
+std::string TextOf(const ImportReport& report) {
+  std::string text = report.channelsRead == 1 ? "importato " : "importati ";
+  text += Base::Counted(report.channelsRead, "canale", "canali");
+  if (report.unknownRates > 0)
+    text += ", " + std::to_string(report.unknownRates) + " transponder con SR che SR.INI non ha";
+  if (const std::string codings = report.codings.Text(); !codings.empty()) text += ", " + codings;
+  return text;
 }
 
 }  // namespace Formats

@@ -17,4 +17,7 @@ using ListReader = std::function<ImportReport(Routines::State&)>;
 // transponders' rates are read with.
 ImportReport ImportList(Routines::State& state, const std::string& symbolRates, const ListReader& read);
 
+// "importati 7 canali, 1 transponder con SR che SR.INI non ha", of a list that was read; UTF-8.
+std::string TextOf(const ImportReport& report);
+
 }  // namespace Formats

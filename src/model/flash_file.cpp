@@ -1,6 +1,7 @@
 #include "model/flash_file.h"
 
 #include "base/file.h"
+#include "base/text.h"
 #include "model/flash_copies.h"
 #include "model/flash_image.h"
 #include "model/flash_writer.h"
@@ -63,6 +64,18 @@ Base::Result<Base::Bytes> ReadFlash(const std::string& path, const std::string& 
   if (!bytes) return Base::Error{bytes.error().message, title, bytes.error().systemCode};
   if (bytes->size() != FlashSize) return WrongFlashSize(bytes->size(), title);
   return bytes;
+}
+
+std::string TextOf(const Saved& saved, const std::string& name) {
+  std::string text;
+  if (!saved.othersCopy.empty())
+    text += " - quello che un altro programma vi ha salvato intanto resta come " + saved.othersCopy;
+  if (saved.removedCopies > 0) {
+    text += (saved.removedCopies == 1 ? " - tolta " : " - tolte ") +
+            Base::Counted(saved.removedCopies, "copia di sicurezza", "copie di sicurezza") +
+            " di troppo: restano " + name + ".bak e le 20 più recenti";
+  }
+  return text;
 }
 
 Base::Result<Saved> SaveFlash(const std::string& path, Base::ByteView before, Base::ByteView after,

@@ -28,6 +28,9 @@ struct Saved {
   int removedCopies = 0;  // old ones that have given way to newer ones
 };
 
+// " - tolte 2 copie di sicurezza di troppo: …" of the image called `name`, UTF-8; empty where there is nothing to tell.
+std::string TextOf(const Saved& saved, const std::string& name);
+
 // Overwrites the image at `path`, which held `before` when it was read, with `after`. Where they differ outside of the
 // sections that a write may change, that is an error and nothing is written. Unless the old bytes are what the last save
 // wrote, they are kept as NAME.bak beside it (NAME.bak2, … where another one exists), and so is what the file holds by the

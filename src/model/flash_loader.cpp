@@ -1,5 +1,6 @@
 #include "model/flash_loader.h"
 
+#include "base/text.h"
 #include "model/write_settings.h"
 
 #include <cstring>
@@ -174,6 +175,25 @@ int CapacityOf(Base::ByteView image) {
       capacity = option.channels;
   }
   return capacity;
+}
+
+std::string TextOf(const LoadReport& report, int count, bool appended) {
+  const bool part = report.channelsInImage > report.channelsRead;
+  std::string text = appended ? "accodat" : "lett";
+  text += report.channelsRead == 1 && !part ? "o " : "i ";
+  text +=
+      part ? std::to_string(report.channelsRead) + " di " + std::to_string(report.channelsInImage) + " canali"
+           : Base::Counted(report.channelsRead, "canale", "canali");
+  if (report.unplacedTransponders > 0) {
+    text += ", " + std::to_string(report.unplacedTransponders) + " transponder senza posto: " +
+            Base::Counted(report.linkedToLast.size(), "canale collegato", "canali collegati") +
+            " al transponder " + std::to_string(count);
+  }
+  if (!report.stranded.empty()) {
+    text += ", " + Base::Counted(report.stranded.size(), "canale", "canali") + " su transponder oltre il " +
+            std::to_string(count);
+  }
+  return text;
 }
 
 std::string TooManyTransponders(int count) {

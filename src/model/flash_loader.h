@@ -32,6 +32,9 @@ int CapacityOf(Base::ByteView image);
 // Where a second flash begins: one slot behind the last channel stays empty between the two.
 inline int AppendStart(const State& state) { return LastUsedChannel(state) + 1; }
 
+// "letti 999 di 3700 canali, 2 canali su transponder oltre il 120", for a list that manages `count` transponders; UTF-8.
+std::string TextOf(const LoadReport& report, int count, bool appended);
+
 // "Superato il numero di transponders gestibili …", for a list that manages `count` transponders.
 std::string TooManyTransponders(int count);
 

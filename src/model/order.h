@@ -1,6 +1,8 @@
 // An order of channels without their data, as a list of another kind gives it.
 #pragma once
 
+#include "model/routines.h"
+
 #include <optional>
 #include <string>
 #include <vector>
@@ -28,5 +30,13 @@ struct Order {
 
   friend bool operator==(const Order&, const Order&) = default;
 };
+
+// A channel of the list as an entry.
+OrderEntry OrderEntryOf(const State& state, int slot);
+
+// The order that the list has, by the numbers of its channels.
+Order OrderOf(const State& state);
+// That of a favourites list, 0 to 7.
+Order OrderOfFavourites(const State& state, std::size_t list);
 
 }  // namespace Routines

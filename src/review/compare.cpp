@@ -300,6 +300,12 @@ Comparison Compare(const State& state, const OtherList& there) {
   return comparison;
 }
 
+std::string_view TextOf(Mark mark) {
+  constexpr std::array<std::string_view, Marks> Texts = {
+      "", "", "Spostato", "Rinominato", "Risintonizzato", "PID cambiati", "Modificato", "Preferiti diversi"};
+  return Texts[static_cast<std::size_t>(mark)];
+}
+
 std::string DetailsOf(const State& here, const OtherList& there, const Difference& difference) {
   if (difference.Has(Mark::Favourites)) return FavouritesText(here, there, difference.favourites);
   if (difference.Has(Mark::OnlyThere)) return ServiceText(TunedIn(there, there.At(difference.there)));

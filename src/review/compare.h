@@ -6,6 +6,7 @@
 #include "model/per_slot.h"
 
 #include <bitset>
+#include <string_view>
 #include <vector>
 
 namespace Review {
@@ -73,6 +74,9 @@ struct Comparison {
 // those of which the other list does not say the NID by satellite, TID and SID. A service that a list has more than once is
 // paired in the order of the list, equal ones first. What the other list does not say of a channel is equal to anything.
 Comparison Compare(const State& here, const OtherList& there);
+
+// "Rinominato", UTF-8; empty for a channel that is in one list only, which has other words for each kind of list.
+std::string_view TextOf(Mark mark);
 
 // What is different, as from here to there: "VPID 512 → 513, Sport → Sport HD". Where the channel is in one list only,
 // what service it is. UTF-8. Of the marks that the difference has; others are passed over.

@@ -2,7 +2,6 @@
 
 #include "base/names.h"
 #include "base/text.h"
-#include "model/favourites.h"
 
 #include <unordered_map>
 
@@ -19,19 +18,6 @@ std::string KeyOf(const OrderEntry& entry, Ids ids) {
   std::string service = std::to_string(entry.tid) + "-" + std::to_string(entry.sid);
   if (ids == Ids::WithoutNid) return service;
   return entry.nid == NotSaid ? std::string() : std::to_string(entry.nid) + "-" + service;
-}
-
-OrderEntry EntryOf(const State& state, int slot) {
-  const ChannelRecord& channel = state.Channel(slot);
-  OrderEntry entry;
-  entry.number = slot;
-  entry.name = Base::TrimmedRight(channel.Name());
-  entry.sid = static_cast<int>(Get(channel, ChannelField::Sid));
-  if (const TransponderRow* row = TransponderInUse(state, Get(channel, ChannelField::Transponder))) {
-    entry.nid = static_cast<int>(Get(row->record, TransponderField::Nid));
-    entry.tid = static_cast<int>(Get(row->record, TransponderField::Tid));
-  }
-  return entry;
 }
 
 class Matcher {
@@ -61,7 +47,7 @@ class Matcher {
     std::unordered_map<std::string, std::vector<int>> waiting;  // from the list's end on
     for (int slot = state_.ChannelCount; slot >= 1; --slot) {
       if (state_.Channel(slot).Empty() || taken_[slot]) continue;
-      if (std::string key = known(EntryOf(state_, slot)); !key.empty())
+      if (std::string key = known(OrderEntryOf(state_, slot)); !key.empty())
         waiting[std::move(key)].push_back(slot);
     }
     for (std::size_t i = 0; i < slots_.size(); ++i) {
@@ -140,24 +126,6 @@ class Matcher {
 
 OrderMatch MatchOrder(const State& state, const Order& order, Numbering numbering) {
   return Matcher(state, order).Run(numbering);
-}
-
-Order OrderOf(const State& state) {
-  Order order;
-  for (int slot = 1; slot <= state.ChannelCount; ++slot) {
-    if (!state.Channel(slot).Empty()) order.entries.push_back(EntryOf(state, slot));
-  }
-  return order;
-}
-
-Order OrderOfFavourites(const State& state, std::size_t list) {
-  Order order;
-  for (const int slot : FavouriteEntriesOf(state.FavouritesBlock, list)) {
-    if (slot > state.ChannelCount || state.Channel(slot).Empty()) continue;
-    order.entries.push_back(EntryOf(state, slot));
-    order.entries.back().number = 0;
-  }
-  return order;
 }
 
 }  // namespace Review

@@ -25,9 +25,4 @@ struct OrderMatch {
 // counts as not found.
 OrderMatch MatchOrder(const State& state, const Routines::Order& order, Numbering numbering);
 
-// The order that the list has, by the numbers of its channels.
-Routines::Order OrderOf(const State& state);
-// That of a favourites list, 0 to 7.
-Routines::Order OrderOfFavourites(const State& state, std::size_t list);
-
 }  // namespace Review

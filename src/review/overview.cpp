@@ -5,6 +5,7 @@
 #include "model/per_slot.h"
 #include "review/duplicates.h"
 
+#include <array>
 #include <map>
 #include <utility>
 
@@ -184,6 +185,19 @@ std::vector<int> OverviewSlots(const State& state, const std::vector<Satellite>&
     if (line.section == section && line.text == text) return std::move(line.slots);
   }
   return {};
+}
+
+std::string_view TitleOf(OverviewSection section) {
+  constexpr std::array<std::string_view, 7> Titles = {"Tipo",        "Satellite", "Bouquet",       "Codifica",
+                                                      "Transponder", "Posti",     "Da controllare"};
+  return Titles[static_cast<std::size_t>(section)];
+}
+
+std::string CountedRows(const OverviewLine& line) {
+  const auto count = line.slots.size();
+  if (line.transponders) return Base::Counted(count, "transponder", "transponder");
+  if (line.section == Section::Places) return Base::Counted(count, "posto", "posti");
+  return Base::Counted(count, "canale", "canali");
 }
 
 }  // namespace Review

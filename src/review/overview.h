@@ -7,6 +7,7 @@
 
 #include <optional>
 #include <string>
+#include <string_view>
 #include <vector>
 
 namespace Review {
@@ -32,5 +33,10 @@ std::vector<OverviewLine> Overview(const Routines::State& state,
 std::vector<int> OverviewSlots(const Routines::State& state,
                                const std::vector<Routines::Satellite>& satellites, OverviewSection section,
                                const std::string& text);
+
+// "Da controllare"
+std::string_view TitleOf(OverviewSection section);
+// "3 canali"
+std::string CountedRows(const OverviewLine& line);
 
 }  // namespace Review

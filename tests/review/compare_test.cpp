@@ -327,7 +327,8 @@ TEST(OrderMatch, EntriesAreFoundByIdsThenByNameAndNumberedAsWanted) {
   EXPECT_EQ(told(Numbering::AsListed),
             "1>8 name; 2>3; 3>0; 4>7; 5>0; 6>4 name; 0>9; 0>10;   c2 Perch\xE8   c4 c1 c3 c5   ");
   const OrderMatch own = MatchOrder(
-      here, Formats::ReadOrderText(Formats::ListText(Formats::WriteOrderText(Review::OrderOf(here))).View()),
+      here,
+      Formats::ReadOrderText(Formats::ListText(Formats::WriteOrderText(Routines::OrderOf(here))).View()),
       Numbering::AsListed);
   EXPECT_TRUE(own.found.differences.empty());
   EXPECT_EQ(MatchOrder(here, OrderOfFavourites(here, 0), Numbering::Together).list.offered, 2);

@@ -147,13 +147,7 @@ void SortDialog::ShowPlan() {
 }
 
 void SortDialog::ShowOutcome() {
-  QString said = plan_.moved == 0 ? QString("Nessun canale cambia posto")
-                                  : Counted(plan_.moved, "canale cambia posto", "canali cambiano posto") +
-                                        ", " + Counted(plan_.groups, "gruppo", "gruppi");
-  if (plan_.gaps > 0) said += ", " + Counted(plan_.gaps, "posto vuoto", "posti vuoti") + " fra i canali";
-  if (plan_.without > 0)
-    said = "Non si può: " + Counted(plan_.without, "canale non trova posto", "canali non trovano posto");
-  outcome_->setText(said);
+  outcome_->setText(Text(Edit::TextOf(plan_)));
   if (confirm_ != nullptr) confirm_->setEnabled(plan_.moved > 0 && plan_.without == 0);
 }
 

@@ -144,13 +144,7 @@ void ExchangeCommands::Import(const std::string& path, const Preparation& prepar
 
 void ExchangeCommands::TellImported(const std::string& path, const Formats::ImportReport& report) {
   if (report.listRead) {
-    QString text = PathText(Base::FileName(path)) +
-                   (report.channelsRead == 1 ? ": importato " : ": importati ") +
-                   Counted(report.channelsRead, "canale", "canali");
-    if (report.unknownRates > 0)
-      text += QString(", %1 transponder con SR che SR.INI non ha").arg(report.unknownRates);
-    if (const std::string codings = report.codings.Text(); !codings.empty()) text += ", " + Text(codings);
-    session_.status.ShowResult(text);
+    session_.status.ShowResult(PathText(Base::FileName(path)) + ": " + Text(Formats::TextOf(report)));
   } else if (report.changed) {
     session_.status.ShowResult(QString("Importazione interrotta: %1, %2")
                                    .arg(Counted(report.channelsRead, "canale letto", "canali letti"))

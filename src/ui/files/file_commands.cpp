@@ -32,38 +32,6 @@ Base::Result<Base::Bytes> ReadWaiting(const std::string& path, const char* title
   return Waiting([&] { return Routines::ReadFlash(path, title); });
 }
 
-QString CopiesText(const std::string& path, const Routines::Saved& saved) {
-  QString text;
-  if (!saved.othersCopy.empty())
-    text += " - quello che un altro programma vi ha salvato intanto resta come " + PathText(saved.othersCopy);
-  if (saved.removedCopies > 0) {
-    text += (saved.removedCopies == 1 ? " - tolta " : " - tolte ") +
-            Counted(saved.removedCopies, "copia di sicurezza", "copie di sicurezza") +
-            QString(" di troppo: restano %1.bak e le 20 più recenti").arg(ShortName(path));
-  }
-  return text;
-}
-
-QString LoadResult(const State& state, const Routines::LoadReport& report, bool appended) {
-  const bool part = report.channelsInImage > report.channelsRead;
-  const bool one = report.channelsRead == 1 && !part;
-  QString text = QString(appended ? "accodat" : "lett") + (one ? "o " : "i ");
-  text += part ? QString("%1 di %2 canali").arg(report.channelsRead).arg(report.channelsInImage)
-               : Counted(report.channelsRead, "canale", "canali");
-  if (report.unplacedTransponders > 0) {
-    text += QString(", %1 transponder senza posto: %2 al transponder %3")
-                .arg(report.unplacedTransponders)
-                .arg(Counted(report.linkedToLast.size(), "canale collegato", "canali collegati"))
-                .arg(state.TransponderCount);
-  }
-  if (!report.stranded.empty()) {
-    text += QString(", %1 su transponder oltre il %2")
-                .arg(Counted(report.stranded.size(), "canale", "canali"))
-                .arg(state.TransponderCount);
-  }
-  return text;
-}
-
 // The channels that an append has left without a transponder of their own, in rising order.
 std::vector<int> WithoutTransponder(const Routines::LoadReport& report) {
   std::vector<int> slots;
@@ -139,7 +107,8 @@ void FileCommands::Load(const std::string& path, const Base::Bytes& image, int a
       tellMore = session_.dialogs.RepeatedMessage(Text(message));
     }
   }
-  const QString result = ShortName(path) + ": " + LoadResult(document.Tables(), report, appended) +
+  const QString result = ShortName(path) + ": " +
+                         Text(Routines::TextOf(report, document.Tables().TransponderCount, appended)) +
                          (ratesMoved ? RatesMovedText : "");
   const std::vector<int> lost = appended ? WithoutTransponder(report) : std::vector<int>();
   if (lost.empty()) {
@@ -246,7 +215,7 @@ void FileCommands::TellWritten(const std::string& path, const Routines::PatchedF
     result += ", " + Counted(patched.favouritesCleared, "byte azzerato", "byte azzerati") +
               " in fondo all'area dei preferiti";
   if (preparation.ratesMoved) result += RatesMovedText;
-  result += CopiesText(path, saved);
+  result += Text(Routines::TextOf(saved, ShortName(path).toStdString()));
   if (unwritten.Nothing()) {
     session_.status.ForgetLosses();
     session_.status.ShowResult(result);

@@ -5,7 +5,6 @@
 #include "formats/foreign_text.h"
 #include "formats/list_format.h"
 #include "model/favourites.h"
-#include "model/flash_loader.h"
 #include "ui/kit/text.h"
 #include "ui/review/compare_window.h"
 #include "ui/session/lines_window.h"
@@ -15,24 +14,6 @@
 namespace Ui {
 
 using Routines::State;
-
-namespace {
-
-// Empty where the file is none of a list. Names alone are an order too, but not the bytes of any other file.
-Routines::Order OrderIn(Base::ByteView bytes) {
-  if (bytes.size() == Routines::FlashSize) {
-    auto flash = std::make_unique<State>();
-    Routines::LoadFlash(*flash, bytes, Routines::CapacityOf(bytes), 0, {});
-    return Review::OrderOf(*flash);
-  }
-  const Formats::ListText text(Base::AsText(bytes));
-  const Formats::ListFormat* format = Formats::FormatOf(text.View());
-  if (format != nullptr) return format->OrderOf == nullptr ? Routines::Order() : format->OrderOf(text.View());
-  const bool isText = text.View().find('\0') == std::string_view::npos;
-  return isText ? Formats::ReadOrderText(text.View()) : Routines::Order();
-}
-
-}  // namespace
 
 void CompareCommands::Connect(Actions& actions) {
   actions.Connect("Confronta", [this] { Confronta(); });
@@ -108,7 +89,7 @@ void CompareCommands::OrdinaCome() {
   QStringList choices = {"Un elenco da un file…"};
   std::vector<std::size_t> lists;
   for (std::size_t list = 0; list < Routines::FavouriteLists; ++list) {
-    const auto entries = Review::OrderOfFavourites(state, list).entries.size();
+    const auto entries = Routines::OrderOfFavourites(state, list).entries.size();
     if (entries == 0) continue;
     lists.push_back(list);
     choices += QString("Preferiti: %1 (%2)").arg(Title(list), Counted(entries, "canale", "canali"));
@@ -118,7 +99,7 @@ void CompareCommands::OrdinaCome() {
   if (!chosen) return;
   if (*chosen == 0) return OrderByFile();
   const std::size_t list = lists[static_cast<std::size_t>(*chosen) - 1];
-  Compare(OtherSide(Review::OrderOfFavourites(state, list), Title(list)));
+  Compare(OtherSide(Routines::OrderOfFavourites(state, list), Title(list)));
 }
 
 QString CompareCommands::Title(std::size_t list) const {
@@ -135,7 +116,7 @@ void CompareCommands::OrderByFile() {
   const auto bytes = session_.Read(path);
   if (!bytes) return;
   const QString file = PathText(Base::FileName(path));
-  Routines::Order order = OrderIn(*bytes);
+  Routines::Order order = Formats::OrderInFile(*bytes);
   if (order.entries.empty()) {
     session_.dialogs.Message(file + " non è un elenco di canali", {});
     return;
@@ -151,7 +132,7 @@ void CompareCommands::SalvaOrdine() {
   const std::string path = session_.AskSave("Salvare l'ordine in", "Files di testo(*.txt)|*.txt",
                                             FolderKind::Foreign, "Ordine non salvato");
   if (path.empty()) return;
-  const Routines::Order order = Review::OrderOf(session_.document.Tables());
+  const Routines::Order order = Routines::OrderOf(session_.document.Tables());
   const std::string text = Formats::WriteOrderText(order);
   const auto written = Base::ReplaceFile(path, Base::AsBytes(text));
   session_.status.ShowResult(

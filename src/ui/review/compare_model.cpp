@@ -77,20 +77,9 @@ QString CompareModel::KindText(Mark mark) const {
       return wording_.onlyHere;
     case Mark::OnlyThere:
       return wording_.onlyThere;
-    case Mark::Moved:
-      return "Spostato";
-    case Mark::Renamed:
-      return "Rinominato";
-    case Mark::Retuned:
-      return "Risintonizzato";
-    case Mark::Pids:
-      return "PID cambiati";
-    case Mark::Modified:
-      return "Modificato";
-    case Mark::Favourites:
-      return "Preferiti diversi";
+    default:
+      return Text(Review::TextOf(mark));
   }
-  return {};
 }
 
 std::vector<Difference> CompareModel::Ticked() const {

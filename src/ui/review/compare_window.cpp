@@ -29,26 +29,6 @@ using Routines::State;
 
 namespace {
 
-// "2 aggiunti, 1 eliminato, 1 senza posto"
-QString Report(const Edit::TakeOverReport& report, Edit::NewPlace place) {
-  constexpr std::array<const char*, 3> Places = {"in fondo", "nei posti vuoti", "dietro il loro bouquet"};
-
-  QStringList parts;
-  const auto add = [&parts](int count, const char* one, const char* more) {
-    if (count > 0) parts += Counted(count, one, more);
-  };
-  add(report.added, "canale aggiunto", "canali aggiunti");
-  if (report.added > 0) parts.back() += QString(" ") + Places[static_cast<std::size_t>(place)];
-  add(report.deleted, "eliminato", "eliminati");
-  add(report.changed, "modificato", "modificati");
-  add(report.moved, "spostato", "spostati");
-  add(report.updated, "transponder aggiornato", "transponder aggiornati");
-  add(report.favourites, "lista di preferiti presa", "liste di preferiti prese");
-  add(report.noRoom, "non aggiunto: la lista è piena", "non aggiunti: la lista è piena");
-  add(report.noTransponder, "lasciato: nessun transponder libero", "lasciati: nessun transponder libero");
-  return parts.join(", ");
-}
-
 // How each kind of other side is named.
 struct Names {
   const char* title;
@@ -327,7 +307,8 @@ void CompareWindow::Apply() {
   const auto report = session_.document.Apply(label, [&](State& state) {
     return Edit::TakeOver(state, other_.List(), found, chosen, session_.bouquets.tables, Place());
   });
-  const QString text = Text(label) + ": " + Report(report, Place()) + session_.Losses(report.lost);
+  const QString text =
+      Text(label) + ": " + Text(Edit::TextOf(report, Place())) + session_.Losses(report.lost);
   session_.status.ShowResult(text);
   Tell(text);
 }

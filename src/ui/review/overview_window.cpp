@@ -29,38 +29,12 @@ constexpr int LengthRole = Qt::UserRole + 1;  // of the bar, 0 to 1
 constexpr int ColourRole = Qt::UserRole + 2;
 constexpr int SectionRole = Qt::UserRole + 3;  // of a heading
 
-QString Title(Section section) {
-  switch (section) {
-    case Section::Kind:
-      return "Tipo";
-    case Section::Satellite:
-      return "Satellite";
-    case Section::Bouquet:
-      return "Bouquet";
-    case Section::Coding:
-      return "Codifica";
-    case Section::Transponders:
-      return "Transponder";
-    case Section::Places:
-      return "Posti";
-    case Section::Checks:
-      return "Da controllare";
-  }
-  return {};
-}
-
 // What the filter shows while it marks the line's rows.
 QString RowsTitle(const OverviewLine& line) {
   const bool tellsSection = line.section == Section::Coding || line.section == Section::Transponders ||
                             line.section == Section::Places;
-  return "Riepilogo: " + (tellsSection ? Title(line.section) + ' ' : "") + Text(line.text);
-}
-
-QString CountedRows(const OverviewLine& line) {
-  const auto count = line.slots.size();
-  if (line.transponders) return Counted(count, "transponder", "transponder");
-  if (line.section == Section::Places) return Counted(count, "posto", "posti");
-  return Counted(count, "canale", "canali");
+  return "Riepilogo: " + (tellsSection ? Text(Review::TitleOf(line.section)) + ' ' : QString()) +
+         Text(line.text);
 }
 
 // Of the rows in the grid where they are of one kind, else one that stands for the section.
@@ -219,7 +193,7 @@ void OverviewWindow::Rebuild() {
   for (std::size_t i = 0; i < lines_.size(); ++i) {
     const Section section = lines_[i].section;
     if (i == 0 || section != lines_[i - 1].section) {
-      head = new QTreeWidgetItem(tree_, {Title(section)});
+      head = new QTreeWidgetItem(tree_, {Text(Review::TitleOf(section))});
       head->setFont(What, bold);
       head->setSizeHint(What, {0, tree_->fontMetrics().height() + 6});
       head->setData(What, LineRole, -1);
@@ -295,7 +269,7 @@ void OverviewWindow::GoTo(const QTreeWidgetItem* item) {
     session_.status.ShowResult(title + ": nessuna riga");
     return;
   }
-  const QString told = title + ": " + CountedRows(line);
+  const QString told = title + ": " + Text(Review::CountedRows(line));
   const auto find = [&session = session_, section = line.section, text = line.text] {
     return Review::OverviewSlots(session.document.Tables(), session.bouquets.tables.satellites, section,
                                  text);

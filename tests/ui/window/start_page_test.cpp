@@ -1,6 +1,6 @@
 // The first minutes, from an empty home folder, and files of the program that are missing or wrong.
+#include "support/program_folder.h"
 #include "ui/kit/text.h"
-#include "ui/session/program_folder.h"
 #include "ui/window_fixture.h"
 
 namespace Ui {
@@ -8,7 +8,7 @@ namespace Ui {
 class FirstMinutes : public Window {
  protected:
   void SetUp() override {
-    FillProgramFolder(folder_.Path(), home_);
+    Support::FillProgramFolder(folder_.Path(), home_);
     Start(home_);
     ASSERT_TRUE(window_->Start());
   }
@@ -41,7 +41,7 @@ TEST_F(FirstMinutes, TheStartPageLeadsThroughTheFirstStepsAndTicksThem) {
 TEST_F(FirstMinutes, ADemoListThatWasDeletedStaysAway) {
   EXPECT_EQ(Contents(home_ + "/demo.dat"), Contents(flash_));
   std::filesystem::remove(home_ + "/demo.dat");
-  FillProgramFolder(folder_.Path(), home_);
+  Support::FillProgramFolder(folder_.Path(), home_);
   EXPECT_FALSE(std::filesystem::exists(home_ + "/demo.dat"));
 }
 

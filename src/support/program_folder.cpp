@@ -1,0 +1,69 @@
+#include "support/program_folder.h"
+
+#include "base/file.h"
+#include "support/pos_ini.h"
+
+#include <algorithm>
+#include <array>
+#include <filesystem>
+#include <vector>
+
+namespace Support {
+namespace {
+
+constexpr std::array<const char*, 3> SupportFiles = {"Bouquets.txt", "SR.INI", "SDX.INI"};
+constexpr const char* Demo = "demo.dat";
+constexpr std::array<const char*, 3> Demos = {Demo, "demo.sdx", "demo.csv"};
+constexpr std::size_t LargestShipped = 16U << 20U;
+
+std::filesystem::path SystemPath(const std::string& path) { return std::u8string(path.begin(), path.end()); }
+
+bool Exists(const std::string& path) {
+  std::error_code error;
+  return std::filesystem::exists(SystemPath(path), error);
+}
+
+// Whether the file is in `to` now, if there is one; an older one there is left alone and counts as not copied.
+bool Copy(const std::string& from, const std::string& to) {
+  if (Exists(to)) return false;
+  const auto bytes = Base::ReadFile(from, LargestShipped);
+  return bytes && Base::ReplaceFile(to, *bytes);
+}
+
+}  // namespace
+
+ProgramFolder FindProgramFolder(const ProgramPlaces& places) {
+  const std::string shipped = places.executable + "/../share/trovalis";
+  const bool installed = Exists(shipped);
+  if (!installed && places.writable) return {places.executable, {}};
+  return {places.data + "/trovalis", installed ? shipped : places.executable};
+}
+
+bool HasSupportFiles(const std::string& folder) {
+  return std::any_of(SupportFiles.begin(), SupportFiles.end(),
+                     [&folder](const char* name) { return Exists(folder + "/" + name); });
+}
+
+void FillProgramFolder(const std::string& shipped, const std::string& folder) {
+  std::error_code error;
+  std::filesystem::create_directories(SystemPath(folder), error);
+  if (HasSupportFiles(folder)) return;
+  std::vector<std::string> names(SupportFiles.begin(), SupportFiles.end());
+  names.insert(names.end(), Demos.begin(), Demos.end());
+  std::vector<std::string> copied;
+  for (const std::string& name : names) {
+    const std::string from = shipped + "/" + name;
+    if (!Exists(from)) continue;
+    if (!Copy(from, folder + "/" + name)) {
+      // On a full disk nothing is better than a part, which the next start would take for what the user wants.
+      for (const std::string& part : copied) std::filesystem::remove(SystemPath(folder + "/" + part), error);
+      return;
+    }
+    copied.push_back(name);
+  }
+  if (std::find(copied.begin(), copied.end(), Demo) == copied.end()) return;
+  for (const auto kind : {FolderKind::Input, FolderKind::Foreign, FolderKind::Output})
+    SaveFolderOf(folder, kind, folder + "/" + Demo);
+}
+
+}  // namespace Support
