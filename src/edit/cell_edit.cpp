@@ -67,7 +67,7 @@ Outcome SetName(ChannelRecord& channel, std::string_view typed) {
   return Done{};
 }
 
-Outcome SetTransponder(State& state, ChannelRecord& channel, std::string_view text) {
+Outcome SetTransponder(const State& state, ChannelRecord& channel, std::string_view text) {
   const auto number = WholeNumber(FirstWord(text));
   const bool slot = number && *number >= 1 && static_cast<int>(*number) <= state.TransponderCount;
   if (!slot) return Error{"Serve un transponder da 1 a " + std::to_string(state.TransponderCount)};
@@ -88,34 +88,6 @@ Outcome SetFlags(ChannelRecord& channel, std::string_view text) {
   }
   Set(channel, ChannelField::Flags, *value);
   return Done{};
-}
-
-Outcome SetChannelField(State& state, ChannelRecord& channel, int column, std::string_view text) {
-  using namespace ChannelField;
-  switch (column) {
-    case ChannelColumn::Name:
-      return SetName(channel, text);
-    case ChannelColumn::Transponder:
-      return SetTransponder(state, channel, Base::Trimmed(text));
-    case ChannelColumn::Sid:
-      return SetNumber(channel, Sid, Base::Trimmed(text));
-    case ChannelColumn::Vpid:
-      return SetNumber(channel, Vpid, Base::Trimmed(text));
-    case ChannelColumn::Apid:
-      return SetNumber(channel, Apid, Base::Trimmed(text));
-    case ChannelColumn::Aecm:
-      return SetNumber(channel, Aecm, Base::Trimmed(text));
-    case ChannelColumn::Vecm:
-      return SetNumber(channel, Vecm, Base::Trimmed(text));
-    case ChannelColumn::Pcr:
-      return SetNumber(channel, Pcr, Base::Trimmed(text));
-    case ChannelColumn::Flags:
-      return SetFlags(channel, Base::Trimmed(text));
-    case ChannelColumn::Active:
-      return SetChoice(channel, Active, Base::Trimmed(text), std::array<std::string_view, 2>{"N", "S"});
-    default:
-      return Error{"Il numero è il posto del canale: si cambia spostandolo"};
-  }
 }
 
 // What the four bytes can show, in MHz above the oscillator.
@@ -231,14 +203,46 @@ void CountAgain(State& state, const ChannelRecord& before, const ChannelRecord& 
 
 }  // namespace
 
-Outcome EditChannel(State& state, int slot, int column, std::string_view typed) {
-  if (slot < 1 || slot > state.ChannelCount) return Error{"Il canale non c'è più"};
+Outcome SetCell(const State& state, ChannelRecord& channel, int column, std::string_view typed) {
+  using namespace ChannelField;
+  switch (column) {
+    case ChannelColumn::Name:
+      return SetName(channel, typed);
+    case ChannelColumn::Transponder:
+      return SetTransponder(state, channel, Base::Trimmed(typed));
+    case ChannelColumn::Sid:
+      return SetNumber(channel, Sid, Base::Trimmed(typed));
+    case ChannelColumn::Vpid:
+      return SetNumber(channel, Vpid, Base::Trimmed(typed));
+    case ChannelColumn::Apid:
+      return SetNumber(channel, Apid, Base::Trimmed(typed));
+    case ChannelColumn::Aecm:
+      return SetNumber(channel, Aecm, Base::Trimmed(typed));
+    case ChannelColumn::Vecm:
+      return SetNumber(channel, Vecm, Base::Trimmed(typed));
+    case ChannelColumn::Pcr:
+      return SetNumber(channel, Pcr, Base::Trimmed(typed));
+    case ChannelColumn::Flags:
+      return SetFlags(channel, Base::Trimmed(typed));
+    case ChannelColumn::Active:
+      return SetChoice(channel, Active, Base::Trimmed(typed), std::array<std::string_view, 2>{"N", "S"});
+    default:
+      return Error{"Il numero è il posto del canale: si cambia spostandolo"};
+  }
+}
+
+void StoreChannel(State& state, int slot, const ChannelRecord& channel) {
   ChannelRecord& stored = state.Channel(slot);
-  ChannelRecord channel = stored;
-  if (channel.Empty()) channel = NewChannel(slot);
-  if (Outcome done = SetChannelField(state, channel, column, typed); !done) return done;
   CountAgain(state, stored, channel);
   stored = channel;
+}
+
+Outcome EditChannel(State& state, int slot, int column, std::string_view typed) {
+  if (slot < 1 || slot > state.ChannelCount) return Error{"Il canale non c'è più"};
+  ChannelRecord channel = state.Channel(slot);
+  if (channel.Empty()) channel = NewChannel(slot);
+  if (Outcome done = SetCell(state, channel, column, typed); !done) return done;
+  StoreChannel(state, slot, channel);
   return Done{};
 }
 

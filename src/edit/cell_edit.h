@@ -9,8 +9,15 @@
 
 namespace Edit {
 
-// Sets the field that a column of the channel list shows (see ChannelColumn) to `typed` (UTF-8). An error says why it
-// is refused and changes nothing. An empty slot becomes a channel, named by its number unless the name is typed.
+// Sets the field of a channel that a column of the list shows (see ChannelColumn) to `typed` (UTF-8). An error says why it
+// is refused and changes nothing.
+Base::Outcome SetCell(const State& state, Routines::ChannelRecord& channel, int column,
+                      std::string_view typed);
+
+// Puts a channel into a slot; the counts of its transponder and of the one before follow.
+void StoreChannel(State& state, int slot, const Routines::ChannelRecord& channel);
+
+// The same for a slot of the list. An empty slot becomes a channel, named by its number unless the name is typed.
 Base::Outcome EditChannel(State& state, int slot, int column, std::string_view typed);
 
 // The same for the transponder list (see TransponderColumn). A free slot becomes a transponder with its frequency.

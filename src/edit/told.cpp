@@ -54,6 +54,10 @@ std::string Told(const State& state, const Slots& slots, std::string_view one, s
   return std::string(more).append(" ").append(CountOf(state, slots)).append(what) + WithNames(state, slots);
 }
 
+std::string ToldActive(const State& state, const Slots& slots, bool active) {
+  return Told(state, slots, active ? "Attivato" : "Disattivato", active ? "Attivati" : "Disattivati");
+}
+
 std::string ToldMove(const State& state, const Slots& slots, int to) {
   if (slots.size() == 1)
     return Told(state, slots, "Spostato", "",

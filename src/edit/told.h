@@ -19,6 +19,9 @@ std::string NamesIn(const State& state, const Slots& slots);
 std::string Told(const State& state, const Slots& slots, std::string_view one, std::string_view more,
                  std::string_view what = {});
 
+// "Attivato RAI 1", "Disattivati 7 canali: …"
+std::string ToldActive(const State& state, const Slots& slots, bool active);
+
 // "Spostato RAI 1 dal 705 al 1", "Spostati 3 canali ai posti da 1 a 3: …": channels about to be gathered from slot `to` on.
 std::string ToldMove(const State& state, const Slots& slots, int to);
 

@@ -1,7 +1,10 @@
 #include "ui/edit/bulk_commands.h"
 
+#include "edit/told.h"
 #include "formats/source_names.h"
+#include "model/cells.h"
 #include "ui/edit/rename_dialog.h"
+#include "ui/edit/set_dialog.h"
 #include "ui/edit/sort_dialog.h"
 #include "ui/kit/text.h"
 
@@ -24,6 +27,7 @@ Edit::SourceName NamesAtRight(const Session& session) {
 
 void BulkCommands::Connect(Actions& actions) {
   actions.Connect("CambiaNomi", [this] { CambiaNomi(); });
+  actions.Connect("ImpostaCampi", [this] { ImpostaCampi(); });
   actions.Connect("OrdinaCanali", [this] { OrdinaCanali(); });
 }
 
@@ -41,6 +45,23 @@ void BulkCommands::CambiaNomi() {
     return changed;
   });
   session_.status.ShowResult(Text(label) + (renamed == 1 ? QString() : dialog.Where()));
+}
+
+void BulkCommands::ImpostaCampi() {
+  SetDialog dialog(session_, session_.view.window());
+  if (dialog.exec() != QDialog::Accepted) return;
+  const std::vector<Edit::ChangedChannel> plan = dialog.Chosen();
+  const Edit::FieldChanges changes = dialog.Changes();
+  Edit::Slots slots;
+  for (const Edit::ChangedChannel& channel : plan) slots.push_back(channel.slot);
+  const bool onlyActive = changes.shifts.empty() && changes.values.size() == 1 &&
+                          changes.values[0].column == Routines::ChannelColumn::Active;
+  const State& tables = session_.document.Tables();
+  const std::string label =
+      onlyActive ? Edit::ToldActive(tables, slots, changes.values[0].text == "S")
+                 : Edit::Told(tables, slots, "Modificato", "Modificati", dialog.What().toStdString());
+  session_.document.Apply(label, [&](State& state) { return Edit::SetFields(state, plan); });
+  session_.status.ShowResult(Text(label));
 }
 
 void BulkCommands::OrdinaCanali() {

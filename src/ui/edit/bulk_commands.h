@@ -13,6 +13,7 @@ class BulkCommands {
   void Connect(Actions& actions);
 
   void CambiaNomi();
+  void ImpostaCampi();
   void OrdinaCanali();
 
  private:

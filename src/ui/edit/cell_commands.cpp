@@ -167,7 +167,9 @@ void CellCommands::SetColumn(int column, const QString& value) {
   std::erase_if(channels, [&tables](int slot) { return tables.Channel(slot).Empty(); });
   const std::string what =
       ", " + Title(*session_.view.ListGrid().model(), column, true) + " " + value.toStdString();
-  const std::string label = Edit::Told(tables, channels, "Modificato", "Modificati", what);
+  const std::string label = column == Routines::ChannelColumn::Active
+                                ? Edit::ToldActive(tables, channels, value == "S")
+                                : Edit::Told(tables, channels, "Modificato", "Modificati", what);
   const auto changed = session_.document.Apply(
       label, [&](State& state) { return Edit::EditChannels(state, rows, column, value.toStdString()); });
   if (!changed) {

@@ -6,7 +6,10 @@
 #include "ui/list/row_colours.h"
 
 #include <QBrush>
+#include <QDialog>
+#include <QDialogButtonBox>
 #include <QHeaderView>
+#include <QPushButton>
 #include <QTableView>
 
 #include <algorithm>
@@ -103,6 +106,23 @@ Qt::ItemFlags PreviewModel::flags(const QModelIndex& index) const {
   const bool done = lines_[static_cast<std::size_t>(index.row())].fault.isEmpty();
   if (ticks_ && index.column() == 0 && done) flags |= Qt::ItemIsUserCheckable;
   return flags;
+}
+
+PreviewButtons::PreviewButtons(QDialog& dialog, PreviewModel& preview, const QString& caption)
+    : box(new QDialogButtonBox(&dialog)), confirm(box->addButton(caption, QDialogButtonBox::AcceptRole)) {
+  confirm->setObjectName("Command1");
+  const auto add = [&](const char* name, const char* text, bool tick) {
+    auto* button = box->addButton(text, QDialogButtonBox::ActionRole);
+    button->setObjectName(name);
+    QObject::connect(button, &QPushButton::clicked, &preview, [&preview, tick] { preview.TickAll(tick); });
+  };
+  if (preview.HasTicks()) {
+    add("SegnaRighe", "Segna tutti", true);
+    add("TogliSegniRighe", "Togli i segni", false);
+  }
+  box->addButton(QDialogButtonBox::Cancel)->setObjectName("cmdAnnulla");
+  QObject::connect(box, &QDialogButtonBox::accepted, &dialog, &QDialog::accept);
+  QObject::connect(box, &QDialogButtonBox::rejected, &dialog, &QDialog::reject);
 }
 
 void ShowPreview(QTableView& table, PreviewModel& preview, const std::vector<int>& letters) {

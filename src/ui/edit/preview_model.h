@@ -6,6 +6,9 @@
 
 #include <vector>
 
+class QDialog;
+class QDialogButtonBox;
+class QPushButton;
 class QTableView;
 
 namespace Ui {
@@ -31,6 +34,7 @@ class PreviewModel : public QAbstractTableModel {
   [[nodiscard]] bool Ticked(std::size_t line) const;
   [[nodiscard]] int TickedLines() const;
   void TickAll(bool ticked);
+  [[nodiscard]] bool HasTicks() const { return ticks_; }
 
   [[nodiscard]] int rowCount(const QModelIndex& parent = {}) const override;
   [[nodiscard]] int columnCount(const QModelIndex& parent = {}) const override;
@@ -48,6 +52,15 @@ class PreviewModel : public QAbstractTableModel {
   bool ticks_;
   std::vector<PreviewLine> lines_;
   std::vector<int> leftOut_;  // slots, rising
+};
+
+// The buttons below a preview: one that follows it, one that cancels, and, where it has ticks, two that set and take off
+// all of them.
+struct PreviewButtons {
+  PreviewButtons(QDialog& dialog, PreviewModel& preview, const QString& caption);
+
+  QDialogButtonBox* box;
+  QPushButton* confirm;
 };
 
 // Shows a preview in a table with columns as wide as that many letters; the last one takes the rest.

@@ -155,7 +155,9 @@ void RenameDialog::Build() {
   column->addWidget(KeptRules());
   column->addWidget(table_, 1);
   column->addWidget(outcome_);
-  column->addWidget(Buttons());
+  const PreviewButtons buttons(*this, *names_, "Cambia");
+  confirm_ = buttons.confirm;
+  column->addWidget(buttons.box);
 }
 
 QWidget* RenameDialog::KeptRules() {
@@ -179,22 +181,6 @@ QWidget* RenameDialog::KeptRules() {
   connect(keep, &QPushButton::clicked, this, &RenameDialog::Keep);
   connect(forget, &QPushButton::clicked, this, &RenameDialog::Forget);
   return box;
-}
-
-QWidget* RenameDialog::Buttons() {
-  auto* buttons = new QDialogButtonBox(this);
-  confirm_ = buttons->addButton("Cambia", QDialogButtonBox::AcceptRole);
-  confirm_->setObjectName("Command1");
-  auto* all = buttons->addButton("Segna tutti", QDialogButtonBox::ActionRole);
-  auto* none = buttons->addButton("Togli i segni", QDialogButtonBox::ActionRole);
-  all->setObjectName("SegnaNomi");
-  none->setObjectName("TogliSegniNomi");
-  buttons->addButton(QDialogButtonBox::Cancel)->setObjectName("cmdAnnulla");
-  connect(all, &QPushButton::clicked, this, [this] { names_->TickAll(true); });
-  connect(none, &QPushButton::clicked, this, [this] { names_->TickAll(false); });
-  connect(buttons, &QDialogButtonBox::accepted, this, &QDialog::accept);
-  connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
-  return buttons;
 }
 
 void RenameDialog::AddRule(const RenameRule& rule) {

@@ -55,7 +55,6 @@ class RenameDialog : public QDialog {
  private:
   void Build();
   QWidget* KeptRules();
-  QWidget* Buttons();
   void AddRule(const Edit::RenameRule& rule);
   void RemoveRule(RuleLine* line);
   [[nodiscard]] std::vector<Edit::RenameRule> Rules() const;

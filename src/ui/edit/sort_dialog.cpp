@@ -93,13 +93,9 @@ void SortDialog::Build(int selected) {
   ShowPreview(*table, *preview_, {8, 26});
   form->addRow(table);
   form->addRow(outcome_);
-  auto* buttons = new QDialogButtonBox(this);
-  confirm_ = buttons->addButton("Ordina", QDialogButtonBox::AcceptRole);
-  confirm_->setObjectName("Command1");
-  buttons->addButton(QDialogButtonBox::Cancel)->setObjectName("cmdAnnulla");
-  form->addRow(buttons);
-  connect(buttons, &QDialogButtonBox::accepted, this, &QDialog::accept);
-  connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
+  const PreviewButtons buttons(*this, *preview_, "Ordina");
+  confirm_ = buttons.confirm;
+  form->addRow(buttons.box);
   connect(fromChannel_, &QRadioButton::toggled, this, &SortDialog::ShowPlan);
   connect(start_, &QSpinBox::valueChanged, this, &SortDialog::ShowPlan);
   connect(multiple_, &QComboBox::currentIndexChanged, this, &SortDialog::ShowPlan);

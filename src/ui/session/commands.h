@@ -85,6 +85,10 @@ inline constexpr Command Commands[] = {
     {"CambiaNomi", "Cambia nomi…", Menu::Edit, "", "Ctrl+Shift+R",
      "Cambia i nomi di molti canali con delle regole, mostrando prima che cosa cambia", Need::ChannelView,
      Group},
+    {"ImpostaCampi", "Imposta…", Menu::Edit, "", "Ctrl+Shift+I",
+     "Dà a molti canali la stessa codifica o lo stesso transponder, li attiva, sposta SID e PID, mostrando "
+     "prima che cosa cambia",
+     Need::ChannelView},
     {"OrdinaCanali", "Ordina Canali…", Menu::Edit, "", "",
      "Ordina i canali per nome, satellite, bouquet o altro, mostrando prima la lista come diventa",
      Gate(Need::ChannelView, Need::Places)},

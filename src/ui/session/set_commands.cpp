@@ -25,7 +25,7 @@ void DeleteChannels(Session& session, const Edit::Slots& slots) {
 }
 
 void DeactivateChannels(Session& session, const Edit::Slots& slots) {
-  const std::string label = Edit::Told(session.document.Tables(), slots, "Disattivato", "Disattivati");
+  const std::string label = Edit::ToldActive(session.document.Tables(), slots, false);
   const auto changed = session.document.Apply(label, [&](State& state) {
     return Edit::EditChannels(state, slots, Routines::ChannelColumn::Active, "N");
   });

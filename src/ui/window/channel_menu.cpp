@@ -36,6 +36,7 @@ ChannelMenu::ChannelMenu(Session& session, CellCommands& cells, FavouritesEdits&
   AddCodings();
   forChannels_.push_back(
       Add(*menu_, "ImpostaTransponder", "Transponder…", [this] { cells_.AskTransponder(); }));
+  menu_->addAction(&CommandAction(window, "ImpostaCampi"));
   toTransponder_ =
       Add(*menu_, "VaiAlTransponder", "Vai al transponder", [this] { cells_.GoToTransponder(); });
   menu_->addSeparator();

@@ -55,6 +55,31 @@ TEST_F(Bulk, NamesChangeByKeptRulesAsThePreviewShowsThem) {
   EXPECT_EQ(driver_->Cell(3, 1), "Tre");
 }
 
+TEST_F(Bulk, FieldsAreSetAsThePreviewShowsThem) {
+  driver_->SelectRows(1, 5);
+  driver_->ExpectDialog("Imposta", [](QDialog& dialog) {
+    const auto* lines = dialog.findChild<QTableView*>("ValoriNuovi")->model();
+    const auto* outcome = dialog.findChild<QLabel*>("Esito");
+    EXPECT_EQ(lines->rowCount(), 0);
+    EXPECT_FALSE(dialog.findChild<QAbstractButton*>("Command1")->isEnabled());
+    dialog.findChild<QComboBox*>("NuovaCodifica")->setCurrentText("2");
+    EXPECT_TRUE(outcome->text().startsWith("Servono due cifre")) << outcome->text().toStdString();
+    dialog.findChild<QComboBox*>("NuovaCodifica")->setCurrentText("24 Seca");
+    dialog.findChild<QSpinBox*>("SommaSID")->setValue(-102);
+    EXPECT_EQ(lines->rowCount(), 4);
+    EXPECT_EQ(lines->index(0, 4).data().toString(), "SID sarebbe -1, fuori da 0-65535");
+    EXPECT_EQ(lines->index(1, 2).data().toString(), "Codifica 04, SID 102");
+    EXPECT_EQ(lines->index(1, 3).data().toString(), "Codifica 24, SID 0");
+    EXPECT_EQ(outcome->text(),
+              "Da cambiare: 3 canali; Codifica 04 → 24 (3); in rosso quelli che non possono cambiare: 1");
+    dialog.accept();
+  });
+  ASSERT_TRUE(driver_->Choose("ImpostaCampi"));
+  EXPECT_EQ(Said(), "Modificati 3 canali, Codifica 24 Seca, SID -102: Due, Tre, Cinque");
+  EXPECT_EQ(driver_->Cell(5, 3) + " " + driver_->Cell(5, 9), "3 24");
+  EXPECT_EQ(driver_->Cell(1, 3), "101");
+}
+
 TEST_F(Bulk, ASortIsSeenBeforeItHappensAndBringsTheFavourites) {
   driver_->ExpectDialog("Ordina Canali", [](QDialog& dialog) {
     dialog.findChild<QComboBox*>("GruppiAMultipli")->setCurrentText("a un multiplo di 100");

@@ -75,7 +75,7 @@ TEST_F(Cells, ThePopupMenuWorksOnAllSelectedRows) {
   };
   Grid().Select({1, 4, 6});
   trigger("Disattiva");
-  EXPECT_EQ(Said(), "Modificati 2 canali, Attivo N: Uno, Città HD") << "one of the three is empty";
+  EXPECT_EQ(Said(), "Disattivati 2 canali: Uno, Città HD") << "one of the three is empty";
   EXPECT_EQ(driver_->Cell(5, 10), "S") << "between them";
   trigger("AggiungiPreferiti_2");
   trigger("InserisciRiga");
