@@ -1,13 +1,12 @@
 #include "formats/drop_report.h"
 
 #include <numeric>
-#include <string_view>
 
 namespace Formats {
 
 int DropReport::Total() const { return std::accumulate(counts_.begin(), counts_.end(), 0); }
 
-std::string DropReport::Text() const {
+std::vector<std::pair<std::string_view, int>> DropReport::Counts() const {
   // In the order of Drop.
   constexpr std::array<std::string_view, std::tuple_size_v<decltype(counts_)>> Reasons = {
       "senza PID",
@@ -30,11 +29,16 @@ std::string DropReport::Text() const {
       "satellite non scelto",
       "fuori banda",
       "righe non valide"};
+  std::vector<std::pair<std::string_view, int>> counts;
+  for (std::size_t i = 0; i < counts_.size(); ++i)
+    if (counts_[i] != 0) counts.emplace_back(Reasons[i], counts_[i]);
+  return counts;
+}
+
+std::string DropReport::Text() const {
   std::string text;
-  for (std::size_t i = 0; i < counts_.size(); ++i) {
-    if (counts_[i] == 0) continue;
-    text.append(text.empty() ? "" : ", ").append(Reasons[i]).append(" ").append(std::to_string(counts_[i]));
-  }
+  for (const auto& [reason, count] : Counts())
+    text.append(text.empty() ? "" : ", ").append(reason).append(" ").append(std::to_string(count));
   return text;
 }
 

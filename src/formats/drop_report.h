@@ -4,6 +4,9 @@
 #include <array>
 #include <cstddef>
 #include <string>
+#include <string_view>
+#include <utility>
+#include <vector>
 
 namespace Formats {
 
@@ -37,6 +40,8 @@ class DropReport {
 
   [[nodiscard]] int Count(Drop reason) const { return counts_[static_cast<std::size_t>(reason)]; }
   [[nodiscard]] int Total() const;
+  // The reasons that left something out, in words, each with how much.
+  [[nodiscard]] std::vector<std::pair<std::string_view, int>> Counts() const;
   // "senza nome 3, numero non valido 1"; empty when nothing was left out.
   [[nodiscard]] std::string Text() const;
 

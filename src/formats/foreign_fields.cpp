@@ -182,4 +182,12 @@ std::optional<int> CodificaOfSystem(int number) {
   return std::nullopt;
 }
 
+int SystemOfCodifica(int coding) {
+  constexpr int Active = 0x04;
+  for (const auto& [highByte, known] : SystemNumbers) {
+    if (known == (coding | Active)) return highByte * 256;
+  }
+  return 0;
+}
+
 }  // namespace Formats

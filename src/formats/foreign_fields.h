@@ -43,5 +43,8 @@ std::optional<int> CodificaIn(std::string_view text, bool hexadecimal);
 
 // The receiver's coding byte for an encryption system's registered number (0x0500); nothing where it has none.
 std::optional<int> CodificaOfSystem(int number);
+// The lowest number of the system that a coding byte stands for, be the channel active or not; 0 where it is free or none
+// that is known.
+int SystemOfCodifica(int coding);
 
 }  // namespace Formats

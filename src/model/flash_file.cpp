@@ -30,7 +30,7 @@ Base::Result<Kept> BackUp(const std::string& target, Base::ByteView bytes, const
 }
 
 // In one step, or where the image lies when its folder takes no new file. Up to the last moment another program may
-// save there too: what it leaves is kept.
+// save there too: what it leaves is kept. `before` is empty where there is no file yet.
 Base::Outcome Overwrite(const std::string& target, Base::ByteView before, Base::ByteView after,
                         const Backups& backups, Saved& saved) {
   Base::Bytes last(before.begin(), before.end());
@@ -46,9 +46,33 @@ Base::Outcome Overwrite(const std::string& target, Base::ByteView before, Base::
     return Base::Done{};
   };
   auto replaced = Base::ReplaceFile(target, after, {}, lookAgain);
-  if (replaced || !Base::FolderRefuses(replaced.error())) return replaced;
+  if (replaced || before.empty() || !Base::FolderRefuses(replaced.error())) return replaced;
   if (auto looked = lookAgain(); !looked) return looked;
   return Base::OverwriteInPlace(target, last, after);
+}
+
+// Keeps `before`, which the file at `target` holds, unless this program has written it, and replaces it.
+Base::Result<Saved> PutInPlace(const std::string& target, Base::ByteView before, Base::ByteView after,
+                               Backups& backups) {
+  const auto last = backups.written.find(target);
+  Saved saved;
+  std::string folder;
+  if (last == backups.written.end() || Base::AsText(last->second) != Base::AsText(before)) {
+    const auto kept = BackUp(target, before, backups);
+    if (!kept) return kept.error();
+    folder = kept->folder;
+    saved.copy = kept->name;
+  }
+  const auto written = Overwrite(target, before, after, backups, saved);
+  // A failed attempt does not count: the file may hold something else by the next one.
+  if (!written) return written.error();
+  backups.written[target].assign(after.begin(), after.end());
+  if (!folder.empty()) saved.removedCopies = RemoveOldCopies(folder, target);
+  return saved;
+}
+
+Base::Error LeavesSections(const std::string& path) {
+  return {"Impossibile scrivere " + Base::FileName(path) + ": la modifica esce dalle sezioni conosciute"};
 }
 
 }  // namespace
@@ -80,23 +104,21 @@ std::string TextOf(const Saved& saved, const std::string& name) {
 
 Base::Result<Saved> SaveFlash(const std::string& path, Base::ByteView before, Base::ByteView after,
                               Backups& backups) {
-  if (!DiffersOnlyInSections(before, after))
-    return Base::Error{"Impossibile scrivere " + Base::FileName(path) +
-                       ": la modifica esce dalle sezioni conosciute"};
+  if (!DiffersOnlyInSections(before, after)) return LeavesSections(path);
+  return PutInPlace(Base::ResolvedPath(path), before, after, backups);
+}
+
+Base::Result<Saved> SaveFlashCopy(const std::string& path, Base::ByteView original, Base::ByteView after,
+                                  Backups& backups) {
+  if (!DiffersOnlyInSections(original, after)) return LeavesSections(path);
   const std::string target = Base::ResolvedPath(path);
-  const auto last = backups.written.find(target);
+  const auto before = Base::ReadFile(target, LargestCopy);
+  if (before) return PutInPlace(target, *before, after, backups);
+  if (before.error().systemCode != ENOENT) return before.error();
   Saved saved;
-  std::string folder;
-  if (last == backups.written.end() || Base::AsText(last->second) != Base::AsText(before)) {
-    const auto kept = BackUp(target, before, backups);
-    if (!kept) return kept.error();
-    folder = kept->folder;
-  }
-  const auto written = Overwrite(target, before, after, backups, saved);
-  // A failed attempt does not count: the file may hold something else by the next one.
+  const auto written = Overwrite(target, {}, after, backups, saved);
   if (!written) return written.error();
   backups.written[target].assign(after.begin(), after.end());
-  if (!folder.empty()) saved.removedCopies = RemoveOldCopies(folder, target);
   return saved;
 }
 

@@ -23,8 +23,9 @@ struct Backups {
 };
 
 struct Saved {
+  std::string copy = {};  // name of the one made of the old image; empty where it is what this program wrote
   // Name of the copy of what another program has saved there meanwhile, empty for none.
-  std::string othersCopy;
+  std::string othersCopy = {};
   int removedCopies = 0;  // old ones that have given way to newer ones
 };
 
@@ -37,5 +38,10 @@ std::string TextOf(const Saved& saved, const std::string& name);
 // time it is replaced, if that is something else; without those copies nothing is written.
 Base::Result<Saved> SaveFlash(const std::string& path, Base::ByteView before, Base::ByteView after,
                               Backups& backups);
+
+// Writes `after`, which was made of another file's `original`, to `path`, be it new or not, with the same check. Whatever it
+// held is kept as above.
+Base::Result<Saved> SaveFlashCopy(const std::string& path, Base::ByteView original, Base::ByteView after,
+                                  Backups& backups);
 
 }  // namespace Routines

@@ -171,6 +171,15 @@ std::string Unwritten::Text() const {
   return text;
 }
 
+std::string TextOf(const PatchedFlash& patched, const Unwritten& unwritten) {
+  std::string text;
+  if (!unwritten.Nothing()) text = ": " + unwritten.Text();
+  if (patched.favouritesCleared > 0)
+    text += ", " + Base::Counted(patched.favouritesCleared, "byte azzerato", "byte azzerati") +
+            " in fondo all'area dei preferiti";
+  return text;
+}
+
 Unwritten FindUnwritten(const State& state, Base::ByteView written, const WritePlan& plan) {
   const auto reloaded = std::make_unique<State>();
   LoadFlash(*reloaded, written, std::min(state.ChannelCount, plan.maxChannels), 0, {});

@@ -43,6 +43,10 @@ struct Unwritten {
   [[nodiscard]] std::string Text() const;
 };
 
+// ": 344 canali non scritti, 16 byte azzerati in fondo all'area dei preferiti" behind an image's name, UTF-8; empty where there
+// is nothing to tell.
+std::string TextOf(const PatchedFlash& patched, const Unwritten& unwritten);
+
 // `written` is loaded as the receiver that `plan` was made for does, up to the channels it can take. Whatever its
 // type, the favourites count too, unless the list has none.
 Unwritten FindUnwritten(const State& state, Base::ByteView written, const WritePlan& plan);

@@ -33,6 +33,7 @@ class SdxFields {
   }
 
   constexpr void Add(SdxField field) { bits_ |= Bit(field); }
+  constexpr void Add(SdxFields fields) { bits_ |= fields.bits_; }
   [[nodiscard]] constexpr bool Has(SdxField field) const { return (bits_ & Bit(field)) != 0; }
 
   friend bool operator==(const SdxFields&, const SdxFields&) = default;

@@ -209,11 +209,7 @@ void FileCommands::TellWritten(const std::string& path, const Routines::PatchedF
     document.MarkUnsaved();
   }
 
-  QString result = "Scritta " + ShortName(path);
-  if (!unwritten.Nothing()) result += ": " + Text(unwritten.Text());
-  if (patched.favouritesCleared > 0)
-    result += ", " + Counted(patched.favouritesCleared, "byte azzerato", "byte azzerati") +
-              " in fondo all'area dei preferiti";
+  QString result = "Scritta " + ShortName(path) + Text(Routines::TextOf(patched, unwritten));
   if (preparation.ratesMoved) result += RatesMovedText;
   result += Text(Routines::TextOf(saved, ShortName(path).toStdString()));
   if (unwritten.Nothing()) {
