@@ -1,10 +1,17 @@
-// From the start of the process to the first picture, beside an empty window with a table.
+// From the start of the process to the first picture, beside an empty window with a table; and a command without a window,
+// beside one that reads the same file.
 #include "beside.h"
+#include "full_list.h"
 
 #include <QCoreApplication>
 #include <QProcess>
+#include <QTemporaryDir>
 
 #include <cstdlib>
+#include <fcntl.h>
+#include <fstream>
+#include <spawn.h>
+#include <sys/wait.h>
 
 namespace Bench {
 namespace {
@@ -36,10 +43,35 @@ void StartBeside(benchmark::State& run) {
   Tell(run, 1.3, works, limits);
 }
 
+// Runs a program to its end, with nothing of the toolkit between the two.
+void RunOnce(std::string program, std::string argument, std::string file) {
+  posix_spawn_file_actions_t quiet;
+  ::posix_spawn_file_actions_init(&quiet);
+  ::posix_spawn_file_actions_addopen(&quiet, STDOUT_FILENO, "/dev/null", O_WRONLY, 0);
+  char* arguments[] = {program.data(), argument.empty() ? file.data() : argument.data(),
+                       argument.empty() ? nullptr : file.data(), nullptr};
+  pid_t process = 0;
+  int status = 0;
+  if (::posix_spawnp(&process, program.c_str(), &quiet, nullptr, arguments, environ) != 0) std::abort();
+  if (::waitpid(process, &status, 0) != process || status != 0) std::abort();
+  ::posix_spawn_file_actions_destroy(&quiet);
+}
+
+void CommandBesideCksum(benchmark::State& run) {
+  const QTemporaryDir folder;
+  const std::string file = folder.filePath("lista.dat").toStdString();
+  const Base::Bytes image = Image();
+  std::ofstream(file, std::ios::binary)
+      .write(reinterpret_cast<const char*>(image.data()), static_cast<std::streamsize>(image.size()));
+  const std::string program = QCoreApplication::applicationDirPath().toStdString() + "/trovalis-cli";
+  RunBeside(run, 2, {[&] { RunOnce(program, "info", file); }, [&] { RunOnce("cksum", "", file); }});
+}
+
 }  // namespace
 
 void RegisterStarts() {
-  Register({{"avvio fino alla prima immagine", StartBeside<&Start::microseconds>},
+  Register({{"trovalis-cli info, dall'inizio alla fine", CommandBesideCksum},
+            {{"avvio fino alla prima immagine", StartBeside<&Start::microseconds>},
             {"memoria residente all'avvio", StartBeside<&Start::kilobytes>}});
 }
 

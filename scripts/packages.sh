@@ -1,6 +1,6 @@
 # Sourced by run, test and .ci/run: makes sure that Debian packages are there.
 
-BUILD_PACKAGES="build-essential cmake ninja-build qt6-base-dev qt6-svg-dev qt6-translations-l10n fonts-dejavu-core"
+BUILD_PACKAGES="build-essential cmake ninja-build qt6-base-dev qt6-svg-dev qt6-translations-l10n fonts-dejavu-core libcli11-dev nlohmann-json3-dev"
 SHOW_PACKAGES="xvfb xauth qt6-wayland"
 TEST_PACKAGES="libgtest-dev libbenchmark-dev poppler-utils"
 PACKAGE_CHECK_PACKAGES="lintian desktop-file-utils appstream xdotool"

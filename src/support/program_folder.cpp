@@ -33,7 +33,9 @@ bool Copy(const std::string& from, const std::string& to) {
 }  // namespace
 
 ProgramFolder FindProgramFolder(const ProgramPlaces& places) {
-  const std::string shipped = places.executable + "/../share/trovalis";
+  // Each of the two programs may be installed alone.
+  const std::string both = places.executable + "/../share/trovalis";
+  const std::string shipped = Exists(both) ? both : both + "-cli";
   const bool installed = Exists(shipped);
   if (!installed && places.writable) return {places.executable, {}};
   return {places.data + "/trovalis", installed ? shipped : places.executable};

@@ -1,0 +1,69 @@
+#include "base/bytes.h"
+#include "base/file.h"
+#include "cli/program.h"
+
+#include <array>
+#include <cerrno>
+#include <csignal>
+#include <cstdlib>
+#include <filesystem>
+#include <unistd.h>
+
+namespace {
+
+constexpr std::size_t LargestInput = 64U << 20U;
+
+// All of the standard input, up to what any list may be.
+Base::Result<Base::Bytes> ReadInput() {
+  Base::Bytes bytes;
+  std::array<Base::Byte, 65536> part{};
+  for (;;) {
+    const ssize_t count = ::read(STDIN_FILENO, part.data(), part.size());
+    if (count == 0) return bytes;
+    if (count < 0 && errno == EINTR) continue;
+    if (count < 0) return Base::Error{"Impossibile leggere: " + Base::SystemReason(errno), {}, errno};
+    bytes.insert(bytes.end(), part.begin(), part.begin() + count);
+    if (bytes.size() > LargestInput)
+      return Base::Error{"Impossibile leggere: " + Base::SystemReason(EFBIG), {}, EFBIG};
+  }
+}
+
+// 0, or why the text did not go out.
+int WriteAll(int file, std::string_view text) {
+  while (!text.empty()) {
+    const ssize_t count = ::write(file, text.data(), text.size());
+    if (count < 0 && errno == EINTR) continue;
+    if (count < 0) return errno;
+    text.remove_prefix(static_cast<std::size_t>(count));
+  }
+  return 0;
+}
+
+std::string Variable(const char* name) {
+  const char* value = std::getenv(name);  // NOLINT(concurrency-mt-unsafe): nothing else runs
+  return value == nullptr ? std::string() : std::string(value);
+}
+
+// As the window finds them: the user's data folder is a path from the root, or the usual one.
+Support::ProgramPlaces PlacesOf() {
+  std::error_code error;
+  const auto program = std::filesystem::read_symlink("/proc/self/exe", error);
+  const std::string folder = program.parent_path().string();
+  const std::string data = Variable("XDG_DATA_HOME");
+  return {folder, !error && ::access(folder.c_str(), W_OK) == 0,
+          data.starts_with('/') ? data : Variable("HOME") + "/.local/share"};
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+  // Whoever reads the results may stop when it has seen enough.
+  std::signal(SIGPIPE, SIG_IGN);
+  Cli::Console console{ReadInput};
+  Cli::Run(std::vector<std::string>(argv + std::min(argc, 1), argv + argc), PlacesOf(), console);
+  const int code = WriteAll(STDOUT_FILENO, console.out);
+  if (code != 0 && code != EPIPE)
+    console.Fail(Cli::Exit::NotWritten, "uscita standard: " + Base::SystemReason(code));
+  WriteAll(STDERR_FILENO, console.err);
+  return static_cast<int>(console.exit);
+}
