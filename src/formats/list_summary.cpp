@@ -12,11 +12,17 @@ namespace {
 using namespace Routines;
 
 constexpr std::size_t Satellites = 32;
+constexpr int Telling = 5;  // transponders of a part of a satellite's that no other one has by chance
 
 bool Matches(const TransponderRecord& record, const ListedTransponder& transponder) {
   const bool horizontal = transponder.polarisation == Polarisation::Horizontal;
   return WithinThreeMHz(FrequencyMHz(record), transponder.frequency / 1000.0) &&
          horizontal == (Get(record, TransponderField::Horizontal) != 0);
+}
+
+bool Has(const std::vector<ListedTransponder>& listed, const TransponderRecord& record) {
+  return std::any_of(listed.begin(), listed.end(),
+                     [&](const ListedTransponder& one) { return Matches(record, one); });
 }
 
 struct Overlap {
@@ -36,11 +42,8 @@ Overlap OverlapOf(const State& state, const std::vector<ListedTransponder>& tran
     if (IsFree(record)) continue;
     const std::size_t satellite = Get(record, TransponderField::Satellite);
     ++overlap.all[satellite];
-    for (const auto& [position, listed] : positions) {
-      const bool has = std::any_of(listed.begin(), listed.end(),
-                                   [&](const ListedTransponder& one) { return Matches(record, one); });
-      overlap.ofPositions[position][satellite] += has ? 1 : 0;
-    }
+    for (const auto& [position, listed] : positions)
+      overlap.ofPositions[position][satellite] += Has(listed, record) ? 1 : 0;
   }
   return overlap;
 }
@@ -66,7 +69,6 @@ ListSummary SummaryOf(ServiceReader& reader) {
 
 std::map<int, int> ProposedSatellites(const State& state,
                                       const std::vector<ListedTransponder>& transponders) {
-  constexpr int Telling = 5;  // transponders of a part of a satellite's that no other one has by chance
   const Overlap overlap = OverlapOf(state, transponders);
   std::map<int, int> listed;
   for (const ListedTransponder& transponder : transponders) {
@@ -85,6 +87,17 @@ std::map<int, int> ProposedSatellites(const State& state,
     if (most && alone && !rivalled) proposed[one.first] = static_cast<int>(satellite);
   }
   return proposed;
+}
+
+bool LooksLikeAnother(const State& state, const std::vector<ListedTransponder>& transponders, int satellite) {
+  int all = 0, both = 0;
+  for (int number = 1; number <= state.TransponderCount; ++number) {
+    const TransponderRecord& record = state.Transponder(number).record;
+    if (IsFree(record) || static_cast<int>(Get(record, TransponderField::Satellite)) != satellite) continue;
+    ++all;
+    both += Has(transponders, record) ? 1 : 0;
+  }
+  return all >= Telling && both * 2 <= all && both * 2 <= static_cast<int>(transponders.size());
 }
 
 }  // namespace Formats

@@ -25,4 +25,9 @@ ListSummary SummaryOf(ServiceReader& reader);
 std::map<int, int> ProposedSatellites(const Routines::State& state,
                                       const std::vector<ListedTransponder>& transponders);
 
+// Whether a satellite of the loaded list looks like another one than that of the transponders: it has some, and no more than
+// half of them, nor of these, are both.
+bool LooksLikeAnother(const Routines::State& state, const std::vector<ListedTransponder>& transponders,
+                      int satellite);
+
 }  // namespace Formats

@@ -2,10 +2,13 @@
 
 #include "base/columns.h"
 #include "base/text.h"
+#include "formats/list_fields.h"
+#include "formats/scan_table.h"
 
 #include <algorithm>
 #include <array>
 #include <cstdint>
+#include <map>
 
 namespace Formats {
 namespace {
@@ -15,8 +18,8 @@ using Base::Cut;
 
 namespace SdxLine {
 constexpr Column SatelliteName{11, 17}, Type{29, 1}, Format{30, 4}, Frequency{34, 6}, Polarisation{43, 1},
-    NameStart{44, 8}, SymbolRate{70, 5}, Fec{75, 1}, Vpid{76, 4}, Apid{80, 4}, Pcr{84, 4}, Sid{88, 5},
-    Nid{93, 5}, Tid{98, 5}, Code{112, 4}, NameEnd{116, 12};
+    NameStart{44, 8}, Position{52, 4}, SymbolRate{70, 5}, Fec{75, 1}, Vpid{76, 4}, Apid{80, 4}, Pcr{84, 4},
+    Sid{88, 5}, Nid{93, 5}, Tid{98, 5}, Code{112, 4}, NameEnd{116, 12};
 }  // namespace SdxLine
 
 constexpr std::string_view NoCode = "____";
@@ -65,6 +68,11 @@ SdxRow::Number FiveDigits(int value) {
   return std::string_view(digits.data(), digits.size());
 }
 
+bool IsHorizontal(std::string_view line) {
+  const std::string_view polarisation = Cut(line, SdxLine::Polarisation);
+  return polarisation == "H" || polarisation == "1";
+}
+
 class Loader {
  public:
   explicit Loader(const SdxOptions& options) : options_(options) {}
@@ -95,13 +103,14 @@ class Loader {
   }
 
   bool Passes(std::string_view line) {
-    if (!Above(Cut(line, SdxLine::SymbolRate), "17999")) return Dropped(Drop::SymbolRate);
+    const bool rate = Above(Cut(line, SdxLine::SymbolRate), options_.allFormats ? "" : "17999");
+    if (!rate) return Dropped(Drop::SymbolRate);
     const char type = Cut(line, SdxLine::Type).front();  // a line with a symbol rate has one
     const bool wanted = (type == 'T' && options_.television) || (type == 'R' && options_.radio) ||
                         (type == 'D' && options_.data);
     if (!wanted) return Dropped(Drop::Type);
     if (type != 'D') {
-      if (Cut(line, SdxLine::Format) != "MPG2") return Dropped(Drop::NotMpeg2);
+      if (!options_.allFormats && Cut(line, SdxLine::Format) != "MPG2") return Dropped(Drop::NotMpeg2);
       if (Value(Cut(line, type == 'T' ? SdxLine::Vpid : SdxLine::Apid)) == 0) return WithoutPid(line);
     }
     const auto drop = FilteredOut(line);
@@ -136,8 +145,7 @@ class Loader {
     row.satellite = options_.satellite;
     row.frequency = Cut(line, SdxLine::Frequency);
     row.highBand = Value(row.frequency) >= 11700;
-    const std::string_view polarisation = Cut(line, SdxLine::Polarisation);
-    row.horizontal = polarisation == "H" || polarisation == "1";
+    row.horizontal = IsHorizontal(line);
     row.symbolRate = Cut(line, SdxLine::SymbolRate);
     row.fec = Cut(line, SdxLine::Fec);
     // Whatever a radio line says of video, the channel has none.
@@ -175,6 +183,29 @@ void KeepOthers(SdxTable& table, SdxTable whole) {
 }
 
 SdxTable ReadSatcodx(std::string_view text, const SdxOptions& options) { return Loader(options).Run(text); }
+
+SatcodxSummary SummaryOf(std::string_view text) {
+  SatcodxSummary summary;
+  DistinctTransponders distinct;
+  std::map<std::string, std::size_t> places;
+  while (!text.empty()) {
+    const std::string_view line = Base::TakeLine(text);
+    if (Base::TrimmedLeft(line).empty()) continue;
+    ++summary.lines;
+    if (Value(Cut(line, SdxLine::Frequency)) == 0) continue;
+    const std::string name(Base::Trimmed(Cut(line, SdxLine::SatelliteName)));
+    const auto [place, added] = places.try_emplace(name, summary.satellites.size());
+    if (added) summary.satellites.emplace_back(name, 0);
+    ++summary.satellites[place->second].second;
+    ListedTransponder transponder;
+    transponder.position = PositionOf(Value(Cut(line, SdxLine::Position)) % 3600);
+    transponder.frequency = Value(Cut(line, SdxLine::Frequency)) * 1000;
+    transponder.polarisation = IsHorizontal(line) ? Polarisation::Horizontal : Polarisation::Vertical;
+    distinct.Add(transponder);
+  }
+  summary.transponders = std::move(distinct.list);
+  return summary;
+}
 
 std::vector<std::string> EncryptionCodesOf(std::string_view text) {
   std::vector<std::string> codes;

@@ -2,6 +2,7 @@
 // rows of the SDX table, which keeps their fields as texts.
 #pragma once
 
+#include "formats/listed_service.h"
 #include "formats/sdx_table.h"
 
 #include <array>
@@ -20,6 +21,7 @@ struct SdxOptions {
   bool radio = true;
   bool data = false;
   bool allCodes = false;
+  bool allFormats = false;         // also what a receiver of MPEG-2 does not show, and rates below its own
   std::vector<std::string> codes;  // encryption codes, four characters each
   // Services to leave out: by audio PID and service id, and those of the loaded list by satellite, transport stream and
   // service id.
@@ -35,7 +37,7 @@ struct SdxOptions {
 inline constexpr std::size_t MostKnownRows = 100000;
 template <class Options>
 Options WithoutFilters(Options options) {
-  options.television = options.radio = options.data = options.allCodes = true;
+  options.television = options.radio = options.data = options.allCodes = options.allFormats = true;
   options.filtered.clear();
   options.known.clear();
   options.most = MostKnownRows;
@@ -47,6 +49,15 @@ Options WithoutFilters(Options options) {
 void KeepOthers(SdxTable& table, SdxTable whole);
 
 SdxTable ReadSatcodx(std::string_view text, const SdxOptions& options);
+
+// What a list holds, whatever becomes of its lines.
+struct SatcodxSummary {
+  int lines = 0;
+  std::vector<std::pair<std::string, int>>
+      satellites;  // by the names in it: how many lines, in the order of their first
+  std::vector<ListedTransponder> transponders;  // each once
+};
+SatcodxSummary SummaryOf(std::string_view text);
 
 // Each encryption code of a list once, in the order of their first lines; "____" and short lines give none.
 std::vector<std::string> EncryptionCodesOf(std::string_view text);

@@ -5,6 +5,9 @@
 #include "model/flash_loader.h"
 #include "model/symbol_rates.h"
 
+#include <algorithm>
+#include <map>
+
 namespace Formats {
 namespace {
 
@@ -22,6 +25,15 @@ std::int64_t Hertz(const SdxRow& row) {
   TransponderRecord record;
   Set(record, TransponderField::HighBand, row.highBand ? 1U : 0U);
   return std::int64_t{Megahertz(row) - LocalOscillator(record)} * 1000000;
+}
+
+// `one` is of the row's satellite and SID.
+bool Has(const State& state, const KnownService& one, const SdxRow& row) {
+  if (const int tid = Base::LeadingCount(row.tid, 999999); tid != 0) return one.service[1] == tid;
+  const auto number = Get(state.Channel(one.slot), ChannelField::Transponder);
+  const TransponderRecord& transponder = state.Transponder(number).record;
+  return WithinThreeMHz(FrequencyMHz(transponder), Megahertz(row)) &&
+         row.horizontal == (Get(transponder, TransponderField::Horizontal) != 0);
 }
 
 std::uint32_t FecCode(std::string_view digit) {
@@ -51,6 +63,19 @@ std::vector<KnownService> KnownServices(const State& state) {
                         slot});
   }
   return services;
+}
+
+std::vector<int> SlotsWith(const State& state, const std::vector<SdxRow>& rows) {
+  std::map<std::pair<int, int>, std::vector<KnownService>> known;  // by satellite and SID
+  for (const KnownService& one : KnownServices(state)) known[{one.service[0], one.service[2]}].push_back(one);
+  std::vector<int> slots;
+  for (const SdxRow& row : rows) {
+    const auto& services = known[{row.satellite, Base::LeadingCount(row.sid, 999999)}];
+    const auto first = std::find_if(services.begin(), services.end(),
+                                    [&](const KnownService& one) { return Has(state, one, row); });
+    slots.push_back(first == services.end() ? 0 : first->slot);
+  }
+  return slots;
 }
 
 std::vector<int> SlotsFrom(const State& state, int start, int count) {

@@ -5,6 +5,7 @@
 #include "model/bouquets.h"
 
 #include <array>
+#include <vector>
 
 namespace Formats {
 
@@ -28,6 +29,10 @@ struct KnownService {
 
 // Each channel whose transponder the list has.
 std::vector<KnownService> KnownServices(const Routines::State& state);
+
+// For each row of a table the first slot of the list that has its service, 0 where none has it: by satellite, transport
+// stream and service id, and by satellite, transponder and service id where the row does not say its stream.
+std::vector<int> SlotsWith(const Routines::State& state, const std::vector<SdxRow>& rows);
 
 // The slots that `count` rows take: from `start` on, as far as the list goes, or its empty ones.
 std::vector<int> SlotsFrom(const Routines::State& state, int start, int count);

@@ -71,15 +71,17 @@ TEST(Satcodx, EachDroppedLineHasItsReason) {
   options.codes = {"MGIV"};
   options.filtered = {{650, 77}, {0, 4435}};
   options.known = {{0, 11000, 88}, {1, 11000, 77}};
-  const SdxTable table =
-      ReadSatcodx(Line({}) + Line({.rate = "5632 "}) + Line({.rate = "05632"}) + Line({.type = "D"}) +
-                      Line({.format = "MPG4"}) + Line({.vpid = "0000"}) + Line({.code = "NAGV"}) +
-                      Line({.sid = "00077"}) + Line({.sid = "00088"}) + Line({.sid = "04435"}) + "corta\n",
-                  options);
+  const std::string list = Line({}) + Line({.rate = "5632 "}) + Line({.rate = "05632"}) +
+                           Line({.type = "D"}) + Line({.format = "MPG4"}) + Line({.vpid = "0000"}) +
+                           Line({.code = "NAGV"}) + Line({.sid = "00077"}) + Line({.sid = "00088"}) +
+                           Line({.sid = "04435"}) + "corta\n";
+  SdxTable table = ReadSatcodx(list, options);
   EXPECT_EQ(table.rows.size(), 2U);
   EXPECT_EQ(table.lines, 11);
   EXPECT_EQ(table.dropped.Text(), "senza PID 1, tipo 1, non MPG2 1, symbol rate 2, codifica 1, filtri 3");
   EXPECT_EQ(table.lacking, SdxFields{});
+  KeepOthers(table, ReadSatcodx(list, WithoutFilters(options)));
+  EXPECT_EQ(table.others.size(), 8U) << "none that is there counts as gone";
   const SdxTable uncoded = ReadSatcodx(Line({.vpid = "0000", .code = "____"}), Everything());
   EXPECT_EQ(uncoded.lacking, SdxFields{SdxField::Coding}) << "no line says whether it is encrypted";
   EXPECT_EQ(uncoded.others.size(), 1U) << "to compare a list with";
@@ -145,6 +147,37 @@ TEST(SdxImport, RowsFindOrMakeTheirTransponder) {
   EXPECT_EQ(SlotsFrom(*state, 9, 9), std::vector({9, 10}));
   EXPECT_EQ(OverwrittenBy(*state, SlotsFrom(*state, 5, 2)).Text(), "2 canali, 2 voci di preferiti");
   EXPECT_EQ(OverwrittenBy(*state, {1}).Text(), "");
+}
+
+TEST(SdxImport, TheListHasARowByItsStreamOrByItsTransponder) {
+  auto state = std::make_unique<State>();
+  state->ChannelCount = 3;
+  state->TransponderCount = 2;
+  state->Transponder(1).record = MakeTransponder(12092, true, 0, 3, 2, 11000, 318);
+  state->Transponder(2).record = MakeTransponder(11500, true, 0, 3, 2, 7, 318);
+  for (const auto& [slot, transponder] : {std::pair{1, 2}, {2, 1}, {3, 1}})
+    state->Channel(slot) = MakeChannel("uno", transponder, 4903, 512, 650);
+  std::vector<SdxRow> rows(6, RowAt(12093));
+  rows[1].tid = rows[2].tid = "00000";
+  rows[2].horizontal = false;
+  rows[3].tid = "00007";
+  rows[4].satellite = 1;
+  rows[5].sid = "4904";
+  EXPECT_EQ(SlotsWith(*state, rows), std::vector({2, 2, 0, 1, 0, 0}));
+}
+
+TEST(Satcodx, WhatAListHolds) {
+  std::string other = Line({.frequency = "011766"});
+  other.replace(10, 17, "ASTRA 19E        ");
+  other.replace(51, 4, "3550");
+  const SatcodxSummary summary = SummaryOf(Line({}) + "\r\n" + Line({.type = "R"}) + other + "corta\r\n");
+  EXPECT_EQ(summary.lines, 4);
+  EXPECT_EQ(summary.satellites,
+            (std::vector<std::pair<std::string, int>>{{"HOTBIRD 13E", 2}, {"ASTRA 19E", 1}}));
+  ASSERT_EQ(summary.transponders.size(), 2U);
+  EXPECT_EQ(summary.transponders[1].position, -50);
+  EXPECT_EQ(summary.transponders[1].frequency, 11766000);
+  EXPECT_EQ(summary.transponders[1].polarisation, Polarisation::Horizontal);
 }
 
 }  // namespace Formats

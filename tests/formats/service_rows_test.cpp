@@ -137,6 +137,21 @@ TEST(ListSummary, CountsPositionsAndProposesTheirSatellites) {
       << "two positions have the first one";
   state.Transponder(3).record = Samples::MakeTransponder(11766, false, 7, 0, 0);
   EXPECT_EQ(ProposedSatellites(state, summary.transponders), (std::map<int, int>{})) << "half is not most";
+
+  state.TransponderCount = 5;
+  for (int slot = 1; slot <= 5; ++slot)
+    state.Transponder(slot).record = Samples::MakeTransponder(11000 + 100 * slot, false, 7, 0, 0);
+  std::vector<ListedTransponder> listed(5, summary.transponders.front());
+  const auto alike = [&](int transponders) {
+    for (int slot = 1; slot <= transponders; ++slot) {
+      listed[static_cast<std::size_t>(slot) - 1].frequency = 11000000 + 100000 * slot;
+      listed[static_cast<std::size_t>(slot) - 1].polarisation = Polarisation::Vertical;
+    }
+    return !LooksLikeAnother(state, listed, 7);
+  };
+  EXPECT_FALSE(alike(2));
+  EXPECT_TRUE(alike(3)) << "more than half are both";
+  EXPECT_FALSE(LooksLikeAnother(state, {}, 8)) << "a satellite without transponders is nobody's yet";
 }
 
 }  // namespace Formats

@@ -54,7 +54,7 @@ class RandomAnswers : public Dialogs {
     return random_.Pick(std::vector{Answer::Yes, Answer::No, Answer::Cancel});
   }
   bool OkCancel(const QString&) override { return random_.Chance(50); }
-  std::optional<QString> AskLine(const QString&) override {
+  std::optional<QString> AskLine(const QString&, const QString&) override {
     if (random_.Chance(10)) return std::nullopt;
     return random_.Chance(80) ? random_.Number(random_.Chance(50) ? 60 : 4000) : random_.Words();
   }

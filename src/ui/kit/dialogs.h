@@ -32,8 +32,9 @@ class Dialogs {
   virtual bool FinalYesNo(const QString& question) = 0;
   virtual Answer YesNoCancel(const QString& question) = 0;
   virtual bool OkCancel(const QString& question) = 0;
-  // The line typed, nothing when the user cancels.
-  virtual std::optional<QString> AskLine(const QString& question) = 0;
+  // The line typed, nothing when the user cancels. `proposed` stands there at first.
+  virtual std::optional<QString> AskLine(const QString& question, const QString& proposed) = 0;
+  std::optional<QString> AskLine(const QString& question) { return AskLine(question, {}); }
   // The place of the text chosen among `choices`, which must not be empty; `current` is offered first.
   virtual std::optional<int> Choose(const QString& question, const QStringList& choices, int current) = 0;
   // The chosen path, empty when the user cancels. A file to save may exist already.

@@ -108,9 +108,10 @@ bool QtDialogs::OkCancel(const QString& question) {
          QMessageBox::Ok;
 }
 
-std::optional<QString> QtDialogs::AskLine(const QString& question) {
+std::optional<QString> QtDialogs::AskLine(const QString& question, const QString& proposed) {
   QInputDialog dialog(parent_);
   SetUp(dialog, question);
+  dialog.setTextValue(proposed);
   if (dialog.exec() != QDialog::Accepted) return std::nullopt;
   return dialog.textValue();
 }

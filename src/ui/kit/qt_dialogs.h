@@ -19,7 +19,8 @@ class QtDialogs : public Dialogs {
   bool FinalYesNo(const QString& question) override;
   Answer YesNoCancel(const QString& question) override;
   bool OkCancel(const QString& question) override;
-  std::optional<QString> AskLine(const QString& question) override;
+  using Dialogs::AskLine;
+  std::optional<QString> AskLine(const QString& question, const QString& proposed) override;
   std::optional<int> Choose(const QString& question, const QStringList& choices, int current) override;
   QString OpenFile(const FileQuestion& question) override;
   QString SaveFile(const FileQuestion& question) override;

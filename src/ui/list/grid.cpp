@@ -22,6 +22,7 @@ namespace Ui {
 namespace {
 
 constexpr int CellMargin = 14;
+constexpr int TickRoom = 14;
 
 QString HeaderStyle() {
   return QString(
@@ -30,7 +31,7 @@ QString HeaderStyle() {
       .arg(ToColor(Colours::Header).name());
 }
 
-// The numbers, with a mark at the edge of the rows that the filter finds.
+// The numbers, with a mark at the edge of the rows that the filter finds, and a tick on those that the channel list has.
 class NumberDelegate : public QStyledItemDelegate {
  public:
   using QStyledItemDelegate::QStyledItemDelegate;
@@ -41,16 +42,34 @@ class NumberDelegate : public QStyledItemDelegate {
   void paint(QPainter* painter, const QStyleOptionViewItem& option, const QModelIndex& index) const override {
     constexpr int MarkWidth = 5;
     QStyledItemDelegate::paint(painter, option, index);
-    if (!static_cast<const TableModel*>(index.model())->Found(index.row() + 1)) return;
+    const auto& list = *static_cast<const TableModel*>(index.model());
+    if (list.InChannelList(index.row() + 1)) PaintTick(*painter, option);
+    if (!list.Found(index.row() + 1)) return;
     painter->fillRect(QRect(option.rect.topLeft(), QSize(MarkWidth, option.rect.height())),
                       ToColor(Colours::Found));
+  }
+
+ private:
+  static void PaintTick(QPainter& painter, const QStyleOptionViewItem& option) {
+    constexpr int Size = 6;
+    const bool selected = option.state.testFlag(QStyle::State_Selected);
+    const QPoint foot(option.rect.right() - 6, option.rect.center().y() + Size / 2);
+    painter.save();
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(
+        QPen(selected ? option.palette.color(QPalette::HighlightedText) : ToColor(Colours::InList), 2));
+    painter.drawPolyline(QPolygon({foot - QPoint(3, 3), foot, foot + QPoint(4, -Size)}));
+    painter.restore();
   }
 };
 
 }  // namespace
 
-Grid::Grid(QWidget* parent)
-    : QTableView(parent), frozen_(new QTableView(this)), dropLine_(new QWidget(this)) {
+Grid::Grid(QWidget* parent, int frozen)
+    : QTableView(parent),
+      frozenColumns_(frozen),
+      frozen_(new QTableView(this)),
+      dropLine_(new QWidget(this)) {
   SetUp(*this);
   SetUp(*frozen_);
   setHorizontalScrollMode(ScrollPerPixel);
@@ -119,6 +138,7 @@ void Grid::ShowList(TableModel* list) {
   for (const HeaderColumn& column : list->Header()) {
     widths_.push_back(fontMetrics().horizontalAdvance(column.widthText) + CellMargin);
   }
+  if (list->KnowsChannelList()) widths_.front() += TickRoom;
   FitColumns();
   selectionModel()->clear();
   selectionModel()->setCurrentIndex(list->index(0, 1), QItemSelectionModel::NoUpdate);
@@ -239,7 +259,6 @@ void Grid::FitColumns() {
   }
   updateGeometries();
   viewport()->update();
-  frozen_->setColumnWidth(0, widths[0]);
   PlaceFrozen();
 }
 
@@ -248,7 +267,6 @@ void Grid::KeepWidth(int column, int width) {
   if (static_cast<std::size_t>(column) >= widths_.size()) return;
   widths_[static_cast<std::size_t>(column)] = width;
   own_.insert(static_cast<std::size_t>(column));
-  frozen_->setColumnWidth(0, columnWidth(0));
   PlaceFrozen();
 }
 
@@ -262,8 +280,9 @@ void Grid::ShowFrozen(int sideways) {
     frozen_->setModel(model());
     const std::unique_ptr<QItemSelectionModel> unused(frozen_->selectionModel());
     frozen_->setSelectionModel(selectionModel());
-    for (int column = 1; column < model()->columnCount(); ++column) frozen_->setColumnHidden(column, true);
-    frozen_->setColumnWidth(0, columnWidth(0));
+    for (int column = frozenColumns_; column < model()->columnCount(); ++column)
+      frozen_->setColumnHidden(column, true);
+    PlaceFrozen();
   }
   HideRowsOf(*frozen_);
   // Hidden, it had no rows to scroll by.
@@ -271,10 +290,18 @@ void Grid::ShowFrozen(int sideways) {
   frozen_->verticalScrollBar()->setValue(verticalScrollBar()->value());
 }
 
+int Grid::FrozenWidth() const {
+  int width = 0;
+  for (int column = 0; column < frozenColumns_; ++column) width += columnWidth(column);
+  return width;
+}
+
 void Grid::PlaceFrozen() {
+  for (int column = 0; column < frozenColumns_; ++column)
+    frozen_->setColumnWidth(column, columnWidth(column));
   const int header = horizontalHeader()->height();
   frozen_->horizontalHeader()->setFixedHeight(header);
-  frozen_->setGeometry(frameWidth(), frameWidth(), columnWidth(0), viewport()->height() + header);
+  frozen_->setGeometry(frameWidth(), frameWidth(), FrozenWidth(), viewport()->height() + header);
 }
 
 void Grid::resizeEvent(QResizeEvent* event) {
@@ -302,8 +329,8 @@ QModelIndex Grid::moveCursor(CursorAction action, Qt::KeyboardModifiers modifier
   QScrollBar& sideways = *horizontalScrollBar();
   if (index.column() == 0) {
     sideways.setValue(0);
-  } else if (visualRect(index).left() < columnWidth(0)) {
-    sideways.setValue(sideways.value() + visualRect(index).left() - columnWidth(0));
+  } else if (index.column() >= frozenColumns_ && visualRect(index).left() < FrozenWidth()) {
+    sideways.setValue(sideways.value() + visualRect(index).left() - FrozenWidth());
   }
   return index;
 }
@@ -311,7 +338,7 @@ QModelIndex Grid::moveCursor(CursorAction action, Qt::KeyboardModifiers modifier
 void Grid::scrollTo(const QModelIndex& index, ScrollHint hint) {
   const int sideways = horizontalScrollBar()->value();
   QTableView::scrollTo(index, hint);
-  if (index.column() == 0) horizontalScrollBar()->setValue(sideways);
+  if (index.column() < frozenColumns_) horizontalScrollBar()->setValue(sideways);
 }
 
 }  // namespace Ui

@@ -1,4 +1,4 @@
-// A grid whose first column stays in view when it is scrolled sideways, and whose columns
+// A grid whose first column, or more of them, stays in view when it is scrolled sideways, and whose columns
 // share the spare width.
 #pragma once
 
@@ -16,7 +16,8 @@ class Grid : public QTableView {
   Q_OBJECT
 
  public:
-  explicit Grid(QWidget* parent);
+  // The first `frozen` columns stay in view.
+  explicit Grid(QWidget* parent, int frozen = 1);
 
   // Shows a list from its first row on: row 1 is current, nothing is selected. Its columns share the
   // spare width of the window by the widths that the header gives them, all but the first one.
@@ -86,8 +87,10 @@ class Grid : public QTableView {
   void KeepWidth(int column, int width);
   void ShowFrozen(int sideways);
   void PlaceFrozen();
+  [[nodiscard]] int FrozenWidth() const;
 
-  QTableView* frozen_;               // the first column, on the same model
+  int frozenColumns_;
+  QTableView* frozen_;               // the first columns, on the same model
   QWidget* dropLine_;                // where dragged rows would land, across all columns
   std::vector<int> widths_;          // of the columns without the spare width
   std::set<std::size_t> own_ = {0};  // columns that take no part of it

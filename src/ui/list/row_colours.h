@@ -22,6 +22,7 @@ inline constexpr Colour Header{0xC0FFC0};
 inline constexpr Colour NoFrequency{0x008000, true};  // the frequency cell of a transponder that has none
 inline constexpr Colour Found{0x0080FF};              // by the search for a name; at the edge, by the filter
 inline constexpr Colour Wrong{0x8080FF};              // whatever should be looked at
+inline constexpr Colour InList{0x006000};             // the tick of a row that the channel list has
 }  // namespace Colours
 
 // Of a row of the two lists, and of one of the SDX table, which are paler.

@@ -30,6 +30,9 @@ class TableModel : public QAbstractTableModel {
 
   // Whether there is anything in a row, which counts from 1; "everything" is all such rows.
   [[nodiscard]] virtual bool Used(int /*row*/) const { return true; }
+  // Whether it is a row of another list that the channel list has too, and whether there may be any.
+  [[nodiscard]] virtual bool InChannelList(int /*row*/) const { return false; }
+  [[nodiscard]] virtual bool KnowsChannelList() const { return false; }
 
   // The rows that the filter finds, which have a mark at their edge; the rows whose mark changes are painted anew.
   void SetFound(const Rows& rows);

@@ -1,6 +1,6 @@
 #include "ui/list/tree_pane.h"
 
-#include "ui/kit/elided_label.h"
+#include "ui/kit/pane_head.h"
 
 #include <QStyledItemDelegate>
 #include <QToolButton>
@@ -47,22 +47,8 @@ TreePane::TreePane(const Document& document, const std::vector<Routines::Satelli
   connect(tree_, &BranchView::Walked, this, &TreePane::Choose);
   connect(&document, &Document::Changed, this, &TreePane::Refresh);
 
-  auto* label = new ElidedLabel(Qt::ElideRight, this);
-  label->Show(caption);
-  QFont bold = label->font();
-  bold.setBold(true);
-  label->setFont(bold);
-  auto* close = new QToolButton(this);
-  close->setObjectName("Chiudi" + name);
-  close->setText("✕");
-  close->setAutoRaise(true);
-  close->setAccessibleName("Chiudi");
-  close->setToolTip("Chiudi");
-  connect(close, &QToolButton::clicked, this, &TreePane::Closed);
-
-  auto* head = new QHBoxLayout;
-  head->addWidget(label, 1);
-  head->addWidget(close);
+  auto* head = new PaneHead(name, caption, this);
+  connect(&head->Close(), &QToolButton::clicked, this, &TreePane::Closed);
   auto* column = new QVBoxLayout(this);
   column->setContentsMargins(0, 0, 0, 0);
   column->setSpacing(3);

@@ -37,6 +37,7 @@ class RowChoices {
   RowChoices(std::vector<std::string> codes, RowFilters filters, QWidget& dialog);
 
   [[nodiscard]] QListWidget& List() const { return *list_; }
+  [[nodiscard]] const std::vector<std::string>& Codes() const { return codes_; }
   // Behind the codes: the entry that stands for all of them.
   void AddAllCodes();
   void AddTo(QFormLayout& form);

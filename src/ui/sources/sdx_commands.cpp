@@ -34,6 +34,8 @@ void SdxCommands::Connect(Actions& actions) {
   actions.Connect("ImportaTuttoSDX", [this] { ImportAll(); });
   actions.ConnectButton("Copy SDX", [this] { CopySDX(); });
   FollowFilter(session_, pane_.Filter(), pane_.Hits(), "righe SDX");
+  QObject::connect(&pane_, &SdxPane::Shown, &pane_, [this] { MarkKnown(); });
+  QObject::connect(&session_.document, &Document::Changed, &pane_, [this] { MarkKnown(); });
   session_.onChange.emplace_back([this] {
     session_.sdxShownSinceFls = session_.sdxShownSinceFls && session_.document.Tables().FromFls;
   });
@@ -57,8 +59,7 @@ void SdxCommands::Load(const std::string& path) {
   const auto bytes = session_.Read(path);
   if (!bytes) return;
   const std::string_view text = Base::AsText(*bytes);
-  SdxOptionsDialog dialog(session_.bouquets.tables.satellites, Formats::EncryptionCodesOf(text),
-                          FiltersOf(session_), session_.dialogs, &window_);
+  SdxOptionsDialog dialog(PathText(Base::FileName(path)), text, session_, &window_);
   if (dialog.exec() != QDialog::Accepted) return;
   const Formats::SdxOptions options = dialog.Chosen();
   Formats::SdxTable table = Formats::ReadSatcodx(text, options);
@@ -74,6 +75,21 @@ void SdxCommands::Show(Formats::SdxTable table, const QString& name) {
   session_.sdxName = name;
   ShowPane(true);
   pane_.Refresh(name);
+  MarkKnown();
+}
+
+void SdxCommands::MarkKnown() {
+  if (PaneShown()) pane_.Model().ShowSlots(Formats::SlotsWith(session_.document.Tables(), session_.sdx.rows));
+}
+
+void SdxCommands::SelectNew() {
+  Edit::Slots rows;
+  for (int row = 1; row <= pane_.Model().rowCount(); ++row) {
+    if (!pane_.Model().InChannelList(row)) rows.push_back(row);
+  }
+  if (!rows.empty()) pane_.ListGrid().Select(rows);
+  session_.status.ShowResult(rows.empty() ? QString("La lista ha già tutte le righe a destra")
+                                          : "Selezionate a destra " + Counted(rows.size(), "riga", "righe"));
 }
 
 void SdxCommands::TellTaken(const QString& file) {
@@ -139,10 +155,13 @@ void SdxCommands::AskAndInsert(const Rows& rows) {
     session_.status.ShowResult("Non inserito: " + OutOfBandText(rows.outOfBand));
     return;
   }
-  const auto answer =
-      session_.dialogs.AskLine("Inserire la posizione in cui inserire " + RowName(rows.content.front()));
-  if (!answer || answer->isEmpty()) return;
   const State& state = session_.document.Tables();
+  // A full list has no such place to offer.
+  const int behind = LastOccupied(state) + 1;
+  const auto answer =
+      session_.dialogs.AskLine("Inserire la posizione in cui inserire " + RowName(rows.content.front()),
+                               behind <= state.ChannelCount ? QString::number(behind) : QString());
+  if (!answer || answer->isEmpty()) return;
   const int position = Base::LeadingNumber(answer->toStdString());
   if (position < 1 || position > state.ChannelCount) {
     session_.dialogs.Message("Posizione non valida", {});

@@ -28,11 +28,15 @@ class SdxCommands {
   // Tells how many lines of a file the table took and dropped, and why.
   void TellTaken(const QString& file);
   void ShowPane(bool shown);
+  // Selects the rows that the list does not have.
+  void SelectNew();
+  void CopySDX();
   [[nodiscard]] bool PaneShown() const { return !pane_.isHidden(); }
 
  private:
   void Find();
-  void CopySDX();
+  // Marks the rows that the list has.
+  void MarkKnown();
   void ImportAll();
   // Rows were dropped in front of slot `before`.
   void Drop(const Edit::Slots& rows, int before);

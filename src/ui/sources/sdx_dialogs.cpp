@@ -1,10 +1,12 @@
 #include "ui/sources/sdx_dialogs.h"
 
 #include "base/text.h"
+#include "formats/list_summary.h"
 #include "formats/sdx_import.h"
 #include "ui/kit/screen_fit.h"
 #include "ui/kit/text.h"
 #include "ui/session/control_tips.h"
+#include "ui/session/session.h"
 
 #include <QComboBox>
 #include <QDialogButtonBox>
@@ -27,21 +29,35 @@ Widget* Named(const char* name, Arguments&&... arguments) {
 
 }  // namespace
 
-SdxOptionsDialog::SdxOptionsDialog(const std::vector<Routines::Satellite>& satellites,
-                                   const std::vector<std::string>& codes, RowFilters filters,
-                                   Dialogs& dialogs, QWidget* parent)
+SdxOptionsDialog::SdxOptionsDialog(const QString& fileName, std::string_view text, const Session& session,
+                                   QWidget* parent)
     : QDialog(parent),
-      dialogs_(dialogs),
+      session_(session),
+      summary_(Formats::SummaryOf(text)),
       satellite_(Named<QComboBox>("Combo1", this)),
-      rows_(codes, std::move(filters), *this) {
+      warning_(Named<QLabel>("AvvisoSatellite", this)),
+      rows_(Formats::EncryptionCodesOf(text), FiltersOf(session), *this) {
   setObjectName("OpzioniImportSDX");
   setWindowTitle("Opzioni importazione SDX");
-  FillSatellites(*satellite_, satellites);
-  for (const std::string& code : codes) rows_.List().addItem(CodePageText(code));
+  FillSatellites(*satellite_, session.bouquets.tables.satellites);
+  for (const std::string& code : rows_.Codes()) rows_.List().addItem(CodePageText(code));
   rows_.AddAllCodes();
+  // Codes are short: beside each other all of them are in sight.
+  rows_.List().setFlow(QListView::LeftToRight);
+  rows_.List().setWrapping(true);
+  rows_.List().setResizeMode(QListView::Adjust);
+  rows_.List().setSpacing(2);
 
+  auto* file = Named<QLabel>("FileSDX", FileText(fileName), this);
+  for (QLabel* label : {file, warning_}) {
+    label->setTextFormat(Qt::PlainText);
+    label->setWordWrap(true);
+  }
+  warning_->setMinimumHeight(2 * fontMetrics().lineSpacing());
   auto* form = new QFormLayout(this);
+  form->addRow(file);
   form->addRow("Satellite da assegnare", satellite_);
+  form->addRow("", warning_);
   rows_.AddTo(*form);
   auto* buttons = new QDialogButtonBox(this);
   auto* confirm = buttons->addButton(QDialogButtonBox::Ok);
@@ -50,15 +66,46 @@ SdxOptionsDialog::SdxOptionsDialog(const std::vector<Routines::Satellite>& satel
   cancel->setObjectName("cmdAnnulla");
   connect(confirm, &QPushButton::clicked, this, &SdxOptionsDialog::Confirm);
   connect(cancel, &QPushButton::clicked, this, &QDialog::reject);
+  connect(satellite_, &QComboBox::currentIndexChanged, this, [this] { warning_->setText(Warning()); });
   form->addRow(buttons);
   ShowTips(*this);
 }
 
+QString SdxOptionsDialog::FileText(const QString& fileName) const {
+  constexpr std::size_t MostNamed = 4;
+  QStringList satellites;
+  for (const auto& [name, lines] : summary_.satellites) {
+    if (name.empty()) continue;
+    const QString count = summary_.satellites.size() > 1 ? QString(" (%1)").arg(lines) : QString();
+    satellites += CodePageText(name) + count;
+  }
+  if (const auto more = satellites.size() - static_cast<qsizetype>(MostNamed); more > 0)
+    satellites = satellites.first(MostNamed) + QStringList(QString("e altri %1").arg(more));
+  const QString lines = fileName + ": " + Counted(summary_.lines, "riga", "righe");
+  return satellites.isEmpty() ? lines : lines + ", " + satellites.join(", ");
+}
+
+QString SdxOptionsDialog::Warning() const {
+  if (satellite_->currentIndex() < 0) return {};
+  const Routines::State& state = session_.document.Tables();
+  const auto chosen = static_cast<std::uint32_t>(SatelliteIn(*satellite_));
+  const auto proposed = Formats::ProposedSatellites(state, summary_.transponders);
+  // A file of more satellites is none of them.
+  if (proposed.size() == 1 && proposed.begin()->second != static_cast<int>(chosen)) {
+    const auto other = static_cast<std::uint32_t>(proposed.begin()->second);
+    return QString("⚠ Nella lista i transponder del file sono in %1, non in %2")
+        .arg(Text(Routines::SatelliteLabel(other)), Text(Routines::SatelliteLabel(chosen)));
+  }
+  if (!Formats::LooksLikeAnother(state, summary_.transponders, static_cast<int>(chosen))) return {};
+  return QString("⚠ I transponder di %1 nella lista non sono quelli del file")
+      .arg(Text(Routines::SatelliteLabel(chosen)));
+}
+
 void SdxOptionsDialog::Confirm() {
   if (satellite_->currentIndex() < 0) {
-    dialogs_.Message(NoSatelliteChosen, {});
+    session_.dialogs.Message(NoSatelliteChosen, {});
   } else if (const char* refusal = rows_.Refusal(); refusal != nullptr) {
-    dialogs_.Message(refusal, {});
+    session_.dialogs.Message(refusal, {});
   } else {
     accept();
   }

@@ -1,9 +1,7 @@
 // The boxes of the SatcoDX import: its options, and where a whole table goes.
 #pragma once
 
-#include "model/bouquets.h"
 #include "model/routines.h"
-#include "ui/kit/dialogs.h"
 #include "ui/sources/row_choices.h"
 
 #include <QDialog>
@@ -21,16 +19,22 @@ class SdxOptionsDialog : public QDialog {
   Q_OBJECT
 
  public:
-  SdxOptionsDialog(const std::vector<Routines::Satellite>& satellites, const std::vector<std::string>& codes,
-                   RowFilters filters, Dialogs& dialogs, QWidget* parent);
+  // `text` is what the file holds.
+  SdxOptionsDialog(const QString& fileName, std::string_view text, const Session& session, QWidget* parent);
 
   [[nodiscard]] Formats::SdxOptions Chosen() const;
 
  private:
   void Confirm();
+  // "prova.sdx: 1100 righe, HOTBIRD 13E"
+  [[nodiscard]] QString FileText(const QString& fileName) const;
+  // Where the satellite chosen does not seem to be the file's; empty where it may well be.
+  [[nodiscard]] QString Warning() const;
 
-  Dialogs& dialogs_;
+  const Session& session_;
+  Formats::SatcodxSummary summary_;
   QComboBox* satellite_;
+  QLabel* warning_;
   RowChoices rows_;
 };
 

@@ -4,12 +4,20 @@
 #include "ui/kit/dialogs.h"
 #include "ui/kit/text.h"
 
+#include <algorithm>
+
 namespace Ui {
 namespace {
 
 constexpr std::string_view SdxHeader =
     "^Prog.|<Canale                         |^TID    |^SID      |^VPID  |^APID  |^AECM  |^VECM  |^PCR   "
     "|^Codifica|Satellite|Frequenza|NID  |Bouquet       ";
+
+// Sources write PIDs with and without zeros in front.
+std::string PidCell(std::string_view pid) {
+  constexpr std::size_t Digits = 4;
+  return std::string(Digits - std::min(Digits, pid.size()), '0').append(pid);
+}
 
 Review::FilterRow FilterRowOf(const Formats::SdxRow& row) {
   using Routines::ChannelKind;
@@ -40,6 +48,17 @@ void SdxModel::Refresh() {
   endResetModel();
 }
 
+void SdxModel::ShowSlots(std::vector<int> slots) {
+  if (slots == slots_) return;
+  slots_ = std::move(slots);
+  if (rows_ > 0) Q_EMIT dataChanged(index(0, 0), index(rows_ - 1, 0));
+}
+
+int SdxModel::SlotOf(int row) const {
+  const auto place = static_cast<std::size_t>(row) - 1;
+  return place < slots_.size() ? slots_[place] : 0;
+}
+
 int SdxModel::rowCount(const QModelIndex& parent) const { return parent.isValid() ? 0 : rows_; }
 
 Qt::ItemFlags SdxModel::flags(const QModelIndex& index) const {
@@ -62,15 +81,25 @@ QString SdxModel::CellText(int number, int column) const {
   if (std::string_view(row.name).starts_with('\0')) return {};
   const std::string codifica = Base::HexByte(row.codifica);
   const std::string satellite = Routines::SatelliteLabel(static_cast<std::uint32_t>(row.satellite));
-  const std::string_view cells[] = {row.name,      row.tid,  row.sid,    row.vpid, row.apid,
-                                    row.aecm,      row.vecm, row.pcr,    codifica, satellite,
-                                    row.frequency, row.nid,  row.bouquet};
+  const std::string vpid = PidCell(row.vpid), apid = PidCell(row.apid), pcr = PidCell(row.pcr);
+  const std::string aecm = PidCell(row.aecm), vecm = PidCell(row.vecm);
+  const std::string_view cells[] = {row.name, row.tid,  row.sid,   vpid,          apid,    aecm,       vecm,
+                                    pcr,      codifica, satellite, row.frequency, row.nid, row.bouquet};
   return CodePageText(Base::TrimmedRight(cells[static_cast<std::size_t>(column - 1)]));
 }
 
 Colour SdxModel::CellColour(int number, int column) const {
   if (column == 0) return Colours::Header;
   return SdxColourOf(table_.rows[static_cast<std::size_t>(number - 1)].Kind());
+}
+
+QString SdxModel::Tip(int row) const {
+  return InChannelList(row) ? "Già in lista al " + Text(Base::ZeroPadded(SlotOf(row), 4)) : QString();
+}
+
+QString SdxModel::Spoken(int row) const {
+  const QString found = TableModel::Spoken(row);
+  return InChannelList(row) ? found + (found.isEmpty() ? "" : ", ") + "già in lista" : found;
 }
 
 }  // namespace Ui

@@ -1,8 +1,12 @@
 #include "ui/sources/sdx_pane.h"
 
 #include "ui/kit/elided_label.h"
+#include "ui/kit/pane_head.h"
+#include "ui/kit/text.h"
 
 #include <QKeyEvent>
+#include <QLabel>
+#include <QToolButton>
 #include <QVBoxLayout>
 
 namespace Ui {
@@ -10,17 +14,18 @@ namespace Ui {
 SdxPane::SdxPane(const Formats::SdxTable& table, QWidget* parent)
     : QWidget(parent),
       model_(table, this),
-      caption_(new ElidedLabel(Qt::ElideRight, this)),
+      head_(new PaneHead("SDX", "SDX", this)),
+      count_(new QLabel(this)),
       filter_(new FilterBar(
           "SDX", "Nome, numero, sat:A, radio…",
           [this](const Review::Filter& words) { return model_.Matching(words); }, this)),
-      grid_(new Grid(this)),
+      grid_(new Grid(this, 2)),
       hits_(new Finder(*filter_, *grid_, this)) {
-  caption_->setObjectName("EtichettaSDX");
-  QFont bold = caption_->font();
-  bold.setBold(true);
-  caption_->setFont(bold);
-  caption_->Show("SDX");
+  head_->Caption().setObjectName("EtichettaSDX");
+  count_->setObjectName("ConteggioSDX");
+  head_->Add(count_);
+  head_->Add(filter_, 1);
+  connect(&head_->Close(), &QToolButton::clicked, this, &SdxPane::CloseWanted);
   grid_->setObjectName("GrigliaSDX");
   grid_->setAccessibleName("Canali SDX");
   grid_->setAcceptDrops(false);
@@ -32,13 +37,10 @@ SdxPane::SdxPane(const Formats::SdxTable& table, QWidget* parent)
     hits_->Show(true);
   });
 
-  auto* head = new QHBoxLayout;
-  head->addWidget(caption_);
-  head->addWidget(filter_, 1);
   auto* column = new QVBoxLayout(this);
   column->setContentsMargins(0, 0, 0, 0);
   column->setSpacing(3);
-  column->addLayout(head);
+  column->addLayout(head_);
   column->addWidget(grid_, 1);
 }
 
@@ -46,7 +48,8 @@ void SdxPane::Refresh(const QString& name) {
   name_ = name;
   model_.Refresh();
   grid_->ShowList(&model_);
-  caption_->Show(name.isEmpty() ? QString("SDX") : "SDX: " + name);
+  head_->Caption().Show(name.isEmpty() ? QString("SDX") : "SDX: " + name);
+  count_->setText(Counted(model_.rowCount(), "riga", "righe"));
   filter_->SetOnly(false);
   filter_->Refresh();
 }
@@ -54,6 +57,7 @@ void SdxPane::Refresh(const QString& name) {
 // Most of the time the pane is never looked at.
 void SdxPane::showEvent(QShowEvent* event) {
   if (grid_->model() == nullptr) grid_->ShowList(&model_);
+  Q_EMIT Shown();
   QWidget::showEvent(event);
 }
 

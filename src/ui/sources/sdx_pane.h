@@ -6,9 +6,11 @@
 
 #include <QWidget>
 
+class QLabel;
+
 namespace Ui {
 
-class ElidedLabel;
+class PaneHead;
 
 class SdxPane : public QWidget {
   Q_OBJECT
@@ -22,12 +24,18 @@ class SdxPane : public QWidget {
   // The table holds other rows now; `name` is the file's satellite, or the file.
   void Refresh(const QString& name);
   [[nodiscard]] const QString& Name() const { return name_; }
+  [[nodiscard]] SdxModel& Model() { return model_; }
+  // The slot of the channel list that has the current row's service; 0 for none.
+  [[nodiscard]] int CurrentSlot() const { return model_.SlotOf(grid_->currentIndex().row() + 1); }
 
  Q_SIGNALS:
   // The user wants a row, from 1, in the channel list.
   void Chosen(int row);
   // The user wants the selected rows there.
   void CopyWanted();
+  // The pane is about to be seen.
+  void Shown();
+  void CloseWanted();
 
  protected:
   void showEvent(QShowEvent* event) override;
@@ -36,7 +44,8 @@ class SdxPane : public QWidget {
  private:
   SdxModel model_;
   QString name_;
-  ElidedLabel* caption_;
+  PaneHead* head_;
+  QLabel* count_;
   FilterBar* filter_;
   Grid* grid_;
   Finder* hits_;

@@ -3,7 +3,7 @@
 
 #include "ui/sources/download_commands.h"
 #include "ui/sources/foreign_commands.h"
-#include "ui/sources/sdx_commands.h"
+#include "ui/sources/sdx_menu.h"
 #include "ui/sources/service_list_commands.h"
 
 #include <QMainWindow>
@@ -18,7 +18,8 @@ struct SourcesRoom {
         sdx(session, pane, window),
         download(session, sdx, frame, window),
         foreign(session, sdx, window),
-        lists(session, sdx, window) {
+        lists(session, sdx, window),
+        menu(session, sdx, pane, window) {
     sdx.Connect(actions);
     download.Connect(actions);
     foreign.Connect(actions);
@@ -30,6 +31,7 @@ struct SourcesRoom {
   DownloadCommands download;
   ForeignCommands foreign;
   ServiceListCommands lists;
+  SdxMenu menu;
 };
 
 }  // namespace Ui

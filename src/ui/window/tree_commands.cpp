@@ -44,6 +44,7 @@ void TreeCommands::Connect(Actions& actions) {
   actions.Connect("VisualizzaTransponder", [this] { session_.view.Toggle(View::Transponders); });
   actions.Connect("VisualizzaBouquet", [this] { VisualizzaBouquet(); });
   actions.Connect("VediSDX", [this] { VediSDX(); });
+  connect(&sources_.pane, &SdxPane::CloseWanted, &actions["VediSDX"], &QAction::trigger);
   sources_.sdx.onShown = [this, &actions](bool shown) {
     actions["VediSDX"].setChecked(shown);
     if (shown) Hide();

@@ -31,6 +31,7 @@ class SatcodxWindow : public SmallWindow {
   [[nodiscard]] Ui::Grid& Pane() const { return *window_->findChild<Ui::Grid*>("GrigliaSDX"); }
 
   void Answer(QDialog& box) {
+    EXPECT_EQ(box.findChild<QLabel*>("FileSDX")->text(), "prova.sdx: 5 righe, HOTBIRD 13E");
     driver_->ExpectMessage("Si deve specificare il codice da assegnare al satellite");
     box.findChild<QPushButton*>("Command1")->click();
     box.findChild<QComboBox*>("Combo1")->setCurrentIndex(0);
@@ -62,6 +63,11 @@ TEST_F(SatcodxWindow, ItsRowsAreShownAndInserted) {
   EXPECT_TRUE(Pane().isVisible());
   Tells("Toolbar1_Copy_SDX", "Nessun canale SDX selezionato");
   Pane().Select({1, 3});
+  driver_->ExpectDialog("Trovalis", [](QDialog& box) {
+    EXPECT_EQ(dynamic_cast<QInputDialog&>(box).textValue(), "13") << "behind the last channel";
+    box.reject();
+  });
+  ASSERT_TRUE(driver_->Press("Toolbar1_Copy_SDX"));
   driver_->ExpectLine("Inserire la posizione in cui inserire Nuovo 1", "1000");
   Tells("Toolbar1_Copy_SDX", "Posizione non valida");
   driver_->ExpectLine("Inserire la posizione in cui inserire Nuovo 1", "1");
@@ -69,6 +75,65 @@ TEST_F(SatcodxWindow, ItsRowsAreShownAndInserted) {
   ASSERT_TRUE(driver_->Press("Toolbar1_Copy_SDX"));
   EXPECT_EQ(Names(1, 4), "Nuovo 1,Nuovo 3,Uno,Due");
   EXPECT_EQ(driver_->Cell(1, 2), "004") << "a transponder of its own";
+}
+
+TEST_F(SatcodxWindow, ThePaneMarksWhatTheListHasAndClosesByItself) {
+  window_->findChild<QDialog*>("ElencoNonInSDX")->close();
+  EXPECT_EQ(driver_->TextOf("ConteggioSDX"), "4 righe");
+  Pane().Select({1, 3});
+  driver_->ExpectLine("Inserire la posizione in cui inserire Nuovo 1", "2");
+  driver_->ExpectQuestion("Si desidera spostare i canali verso il basso?", true);
+  Pane().setFocus();
+  driver_->Key(Qt::Key_F10, Qt::ShiftModifier);
+  auto* menu = window_->findChild<QMenu*>("MenuSDX");
+  ASSERT_TRUE(menu->isVisible());
+  EXPECT_FALSE(Action("VaiAlGiaInLista").isEnabled());
+  menu->close();
+  Action("InserisciSDX").trigger();
+  const auto cell = [this](int row, int column, int role = Qt::DisplayRole) {
+    return Pane().model()->index(row - 1, column).data(role).toString();
+  };
+  EXPECT_EQ(cell(1, 1, Qt::AccessibleDescriptionRole) + cell(3, 2, Qt::ToolTipRole),
+            "già in listaGià in lista al 0003");
+  EXPECT_EQ(cell(2, 1, Qt::AccessibleDescriptionRole) + cell(2, 1, Qt::ToolTipRole), "");
+  EXPECT_EQ(cell(1, 4) + cell(1, 8), "00510050") << "PIDs of one width";
+  Pane().SelectRow(3);
+  driver_->Key(Qt::Key_F10, Qt::ShiftModifier);
+  menu->close();
+  Action("VaiAlGiaInLista").trigger();
+  EXPECT_EQ(driver_->Grid().Selected(), Edit::Slots({3}));
+  Action("SelezionaNuoviSDX").trigger();
+  EXPECT_EQ(Pane().Selected(), Edit::Slots({2})) << "row 4 is the service of row 1";
+  ASSERT_TRUE(driver_->Choose("Annulla"));
+  EXPECT_EQ(cell(1, 1, Qt::ToolTipRole), "") << "with the list";
+
+  Pane().horizontalScrollBar()->setValue(20);
+  const auto* frozen = Pane().findChild<QTableView*>("ColonnaFissa");
+  EXPECT_TRUE(frozen->isVisible() && frozen->width() == Pane().columnWidth(0) + Pane().columnWidth(1));
+  QTest::mouseClick(window_->findChild<QToolButton*>("ChiudiSDX"), Qt::LeftButton);
+  EXPECT_FALSE(Pane().isVisible() || Action("VediSDX").isChecked());
+}
+
+TEST_F(Window, ASatelliteThatIsNotTheFilesIsWarnedOf) {
+  std::string sdx;
+  for (int slot = 1; slot <= List().TransponderCount; ++slot) {
+    const Routines::TransponderRecord& record = List().Transponder(slot).record;
+    if (Get(record, Routines::TransponderField::Satellite) != 1) continue;
+    const bool horizontal = Get(record, Routines::TransponderField::Horizontal) != 0;
+    sdx += "SATCODX103ASTRA 19E         TMPG20" + std::to_string(FrequencyMHz(record)) + "000" +
+           (horizontal ? 'H' : 'V') + "Nuovo   0192___     ______2970020051006000500007000001\r\n";
+  }
+  driver_->ExpectFile("Selezionare il file SDX di input", PathText(folder_.Write("prova.sdx", sdx)));
+  driver_->ExpectDialog("Opzioni importazione SDX", [](QDialog& box) {
+    const auto warning = [&box](int satellite) {
+      box.findChild<QComboBox*>("Combo1")->setCurrentIndex(satellite);
+      return box.findChild<QLabel*>("AvvisoSatellite")->text();
+    };
+    EXPECT_EQ(warning(0), "⚠ Nella lista i transponder del file sono in SAT B, non in SAT A");
+    EXPECT_EQ(warning(1), "");
+    box.reject();
+  });
+  ASSERT_TRUE(driver_->Choose("SDX"));
 }
 
 TEST_F(SatcodxWindow, AllItsRowsGoWhereTheUserSaysAsFarAsThereIsRoom) {
