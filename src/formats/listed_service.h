@@ -1,8 +1,7 @@
 // A service as the channel lists of today describe it, whatever their layout, and the way through such a list.
 #pragma once
 
-#include "base/short_text.h"
-#include "model/order.h"
+#include "model/listed_transponder.h"
 #include "model/sdx_fields.h"
 
 #include <cstdint>
@@ -16,27 +15,13 @@ namespace Formats {
 using Routines::SdxField;
 using Routines::SdxFields;
 
+using Routines::Delivery;
+using Routines::ListedTransponder;
+using Routines::Modulation;
 using Routines::NotSaid;
+using Routines::Polarisation;
 
-enum class Polarisation : std::uint8_t { Unknown, Horizontal, Vertical, Left, Right };
-// Other is no satellite: cable, terrestrial, a stream.
-enum class Delivery : std::uint8_t { DvbS, DvbS2, Other };
-enum class Modulation : std::uint8_t { Unknown, Qpsk, Other };
 enum class Video : std::uint8_t { Unknown, Mpeg2, H264, Hevc, Other };
-
-struct ListedTransponder {
-  std::optional<int> position;  // tenths of a degree, west below 0; nothing where the file does not say
-  int frequency = NotSaid;      // kHz
-  int symbolRate = NotSaid;     // Bd
-  int nid = NotSaid;
-  int tid = NotSaid;
-  Base::ShortText<4> fec;  // "3/4"; empty where it is automatic or not said
-  Polarisation polarisation = Polarisation::Unknown;
-  Delivery delivery = Delivery::DvbS;
-  Modulation modulation = Modulation::Unknown;
-
-  friend bool operator==(const ListedTransponder&, const ListedTransponder&) = default;
-};
 
 struct ListedService {
   ListedTransponder transponder;

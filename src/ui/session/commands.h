@@ -149,6 +149,9 @@ inline constexpr Command Commands[] = {
      Group},
     {"SalvaOrdine", "Salva l'ordine…", Menu::Compare, "", "",
      "Scrive l'ordine dei canali in un elenco, per riusarlo", Need::List},
+    {"ControllaTransponder", "Controlla i transponder con un elenco…", Menu::Compare, "", "",
+     "Dice quali transponder mancano, sono cambiati o non ci sono più secondo un elenco di oggi", Need::List,
+     Group},
 
     {"ScaricaInternet", "Scarica da Internet", Menu::Sdx, "internet", "",
      "Scarica una lista SatcoDX da un indirizzo", Need::ChannelsForDownload},

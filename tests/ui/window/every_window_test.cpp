@@ -225,6 +225,9 @@ TEST_P(EveryWindow, EveryDialog) {
   CheckBox("StampaGriglia", "Trovalis");
   CheckBox("ImpostaTransponder", "Trovalis");
 
+  const std::string ini = folder_.Write("lista.ini", "[DVB]\n1=11766,V,22000,34\n");
+  driver_->ExpectFile("Selezionare l'elenco di transponder", PathText(ini));
+  CheckWindow("ControllaTransponder", "FinestraControlloTransponder");
   const std::string text = folder_.Write("lista.csv", "Uno;99;11766;V;10\nDue;98;12092;H;11\n");
   driver_->ExpectFile("Selezionare il file da importare", PathText(text));
   CheckBox("Pelko", "Da File Pelko");
