@@ -36,5 +36,7 @@ void Register(std::initializer_list<Row> rows);
 void RegisterCore();
 void RegisterWindow();
 void RegisterStarts();
+// Other programs that do the same, where there are any.
+void RegisterPeers();
 
 }  // namespace Bench

@@ -65,5 +65,6 @@ int main(int argc, char** argv) {
   Bench::RegisterCore();
   Bench::RegisterWindow();
   Bench::RegisterStarts();
+  Bench::RegisterPeers();
   benchmark::RunSpecifiedBenchmarks();
 }

@@ -1,7 +1,10 @@
 // The work of the window on a full list, beside a plain table that shows as many constant cells in as much room.
 #include "base/file.h"
 #include "beside.h"
+#include "formats/flash_rows.h"
+#include "formats/sdx_other.h"
 #include "full_list.h"
+#include "review/compare.h"
 #include "support/pos_ini.h"
 #include "ui/kit/text.h"
 #include "ui/list/document.h"
@@ -21,6 +24,7 @@
 #include <QScrollBar>
 #include <QTemporaryDir>
 
+#include <algorithm>
 #include <cstdlib>
 #include <cstring>
 
@@ -242,6 +246,31 @@ void RebuildTree(benchmark::State& run) {
       {[&] { UntilPainted(*tree.viewport(), edit); }, [&] { RepaintCells(pages.plain->Table()); }, Settle});
 }
 
+// Of 4000 rows: every third has another name, every fifth other PIDs, every seventh another transponder; and all are in
+// another order.
+Formats::SdxTable RowsLike(const Routines::State& list) {
+  Formats::SdxTable table = Formats::ReadFlashRows(Image(), list.SymbolRateTable, Bouquets());
+  table.rows.resize(Formats::MostSdxRows, table.rows.front());
+  for (std::size_t i = 0; i < table.rows.size(); ++i) {
+    Formats::SdxRow& row = table.rows[i];
+    if (i % 3 == 0) row.name = "Un altro nome";
+    if (i % 5 == 0) row.vpid = "777";
+    if (i % 7 == 0) row.transponder = table.rows[(i + 1000) % table.rows.size()].transponder;
+  }
+  std::reverse(table.rows.begin(), table.rows.end());
+  return table;
+}
+
+void CompareRows(benchmark::State& run) {
+  const Pages pages;
+  const auto list = List();
+  const Formats::SdxTable table = RowsLike(*list);
+  const auto compare = [&] {
+    if (Review::Compare(*list, Formats::OtherListOf(table, list->SymbolRateTable)).Nothing()) std::abort();
+  };
+  RunBeside(run, 1, {compare, [&] { RepaintCells(pages.plain->Table()); }});
+}
+
 }  // namespace
 
 void RegisterWindow() {
@@ -250,6 +279,7 @@ void RegisterWindow() {
             {"scorrere tutte le righe", Scroll, 5},
             {"un passo del filtro", FilterStep},
             {"eliminare 2000 righe sparse", DeleteScattered},
+            {"confrontare 3996 canali con 4000 righe", CompareRows},
             {"rifare l'albero dopo una modifica", RebuildTree}});
 }
 
