@@ -12,6 +12,7 @@
 #include <fstream>
 #include <spawn.h>
 #include <sys/wait.h>
+#include <unistd.h>
 
 namespace Bench {
 namespace {

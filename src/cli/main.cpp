@@ -40,7 +40,7 @@ int WriteAll(int file, std::string_view text) {
 }
 
 std::string Variable(const char* name) {
-  const char* value = std::getenv(name);  // NOLINT(concurrency-mt-unsafe): nothing else runs
+  const char* value = std::getenv(name);
   return value == nullptr ? std::string() : std::string(value);
 }
 

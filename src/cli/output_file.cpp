@@ -2,6 +2,7 @@
 
 #include "base/code_page.h"
 #include "base/file.h"
+#include "base/system_file.h"
 #include "base/text.h"
 #include "cli/json.h"
 #include "model/flash_copies.h"
@@ -41,7 +42,8 @@ Routines::Settings SettingsOf(const Options& options) {
 }
 
 // Copies go to the program's folder where an image's own takes none; a new user has none yet.
-void MakeKeeping(const Work& work) {
+void MakeKeeping(const Work& work, const std::string& path) {
+  if (Base::WriteRefusal(Base::FolderOf(Base::ResolvedPath(path))) == 0) return;
   std::error_code error;
   std::filesystem::create_directories(work.keeping, error);
 }
@@ -54,7 +56,7 @@ bool Put(Work& work, const std::string& path, Base::ByteView original, Base::Byt
     work.console.out.assign(Base::AsText(after));
     return true;
   }
-  MakeKeeping(work);
+  MakeKeeping(work, options.inPlace ? path : options.output);
   Routines::Backups backups{work.keeping, {}};
   auto put = options.inPlace ? Routines::SaveFlash(path, original, after, backups)
                              : Routines::SaveFlashCopy(options.output, original, after, backups);

@@ -19,7 +19,8 @@ bool LoadSupport(Work& work) {
   const auto rates = Support::CaricaTabelleSR(work.folder, place);
   if (!rates) return work.console.Fail(Exit::Unreadable, work.folder + "/SR.INI", rates.error().message);
   work.rates = rates->table;
-  work.missingRates = rates->missing;
+  work.missingRates = !rates->missing.empty();
+  if (work.missingRates) work.console.Note(rates->missing);
   auto bouquets = Support::LoadBouquets(work.folder);
   work.bouquets = std::move(bouquets.tables);
   for (const std::string& error : bouquets.errors) work.console.Note(work.folder + "/Bouquets.txt", error);
@@ -39,7 +40,7 @@ void Run(const std::vector<std::string>& arguments, const Support::ProgramPlaces
     return;
   }
   const Support::ProgramFolder found = Support::FindProgramFolder(places);
-  Work work{*parsed.options, console, FolderOf(*parsed.options, found), found.folder, {}, {}, {}};
+  Work work{*parsed.options, console, FolderOf(*parsed.options, found), found.folder, {}, false, {}};
   if (!LoadSupport(work)) return;
   constexpr std::array<void (*)(Work&), 11> Commands = {Info,  List,  Check, Diff, Sdx,   Convert,
                                                         Write, Apply, Order, Sort, Rename};

@@ -14,14 +14,17 @@ namespace Cli {
 struct Work {
   const Options& options;
   Console& console;
-  std::string folder;        // of the support files
-  std::string keeping;       // that takes copies where an image's own folder takes none
-  std::string rates;         // the symbol-rate table
-  std::string missingRates;  // why it has but the usual two; empty where it has all
+  std::string folder;         // of the support files
+  std::string keeping;        // that takes copies where an image's own folder takes none
+  std::string rates;          // the symbol-rate table
+  bool missingRates = false;  // it has but the usual two, as has been noted
   Routines::BouquetTables bouquets;
 
-  // Whether there are symbol rates: without them no list is imported and nothing is written.
-  bool NeedsRates() { return missingRates.empty() || console.Fail(Exit::Unreadable, missingRates); }
+  // Whether it has all: without SR.INI no list is imported and nothing is written.
+  [[nodiscard]] bool NeedsRates() const {
+    if (missingRates) console.exit = Exit::Unreadable;
+    return !missingRates;
+  }
 };
 
 // `arguments` are those behind the program's name.
