@@ -72,7 +72,7 @@ void CommandBesideCksum(benchmark::State& run) {
 
 void RegisterStarts() {
   Register({{"trovalis-cli info, dall'inizio alla fine", CommandBesideCksum},
-            {{"avvio fino alla prima immagine", StartBeside<&Start::microseconds>},
+            {"avvio fino alla prima immagine", StartBeside<&Start::microseconds>},
             {"memoria residente all'avvio", StartBeside<&Start::kilobytes>}});
 }
 
