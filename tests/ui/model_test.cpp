@@ -84,8 +84,10 @@ class Play {
     return text;
   }
 
+  // What is chosen in a menu that a step has brought up belongs to that step.
   static void Settle() {
-    for (int i = 0; i < 3; ++i) QApplication::processEvents();
+    for (int i = 0; i < 3 || qobject_cast<QMenu*>(QApplication::activePopupWidget()) != nullptr; ++i)
+      QApplication::processEvents();
     QApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
   }
 
