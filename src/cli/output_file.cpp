@@ -93,11 +93,9 @@ std::vector<std::string> LinesOf(const Work& work, const Made& made, const Writt
     lines.push_back(written.target + ": era già così");
     return lines;
   }
-  const std::string& copy = written.saved.copy;
   const std::string name = written.target == "-" ? "uscita standard" : written.target;
   lines.push_back((work.options.dryRun ? "Prova, non scritta " : "Scritta ") + name +
                   Routines::TextOf(written.patched, written.unwritten) +
-                  (copy.empty() ? "" : "; la vecchia resta come " + copy) +
                   Routines::TextOf(written.saved, Base::FileName(name)));
   const std::string summary = Routines::WriteSummary(written.state, written.patched);
   for (const std::string_view line : Base::Lines(summary)) lines.emplace_back(line);

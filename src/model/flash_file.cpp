@@ -1,6 +1,7 @@
 #include "model/flash_file.h"
 
 #include "base/file.h"
+#include "base/system_file.h"
 #include "base/text.h"
 #include "model/flash_copies.h"
 #include "model/flash_image.h"
@@ -61,7 +62,7 @@ Base::Result<Saved> PutInPlace(const std::string& target, Base::ByteView before,
     const auto kept = BackUp(target, before, backups);
     if (!kept) return kept.error();
     folder = kept->folder;
-    saved.copy = kept->name;
+    saved.copy = folder == Base::FolderOf(target) ? kept->name : folder + "/" + kept->name;
   }
   const auto written = Overwrite(target, before, after, backups, saved);
   // A failed attempt does not count: the file may hold something else by the next one.
@@ -92,6 +93,7 @@ Base::Result<Base::Bytes> ReadFlash(const std::string& path, const std::string& 
 
 std::string TextOf(const Saved& saved, const std::string& name) {
   std::string text;
+  if (!saved.copy.empty()) text += " - com'era prima resta in " + saved.copy;
   if (!saved.othersCopy.empty())
     text += " - quello che un altro programma vi ha salvato intanto resta come " + saved.othersCopy;
   if (saved.removedCopies > 0) {
@@ -120,6 +122,13 @@ Base::Result<Saved> SaveFlashCopy(const std::string& path, Base::ByteView origin
   if (!written) return written.error();
   backups.written[target].assign(after.begin(), after.end());
   return saved;
+}
+
+Base::Result<Saved> SaveNewFlash(const std::string& path, Base::ByteView original, Base::ByteView after,
+                                 Backups& backups) {
+  if (Base::StatusOf(path).code != ENOENT)
+    return Base::Error{"Impossibile scrivere " + Base::FileName(path) + ": esiste già", "", EEXIST};
+  return SaveFlashCopy(path, original, after, backups);
 }
 
 }  // namespace Routines

@@ -43,5 +43,8 @@ Base::Result<Saved> SaveFlash(const std::string& path, Base::ByteView before, Ba
 // held is kept as above.
 Base::Result<Saved> SaveFlashCopy(const std::string& path, Base::ByteView original, Base::ByteView after,
                                   Backups& backups);
+// The same, but a name that is taken is an error and nothing is written.
+Base::Result<Saved> SaveNewFlash(const std::string& path, Base::ByteView original, Base::ByteView after,
+                                 Backups& backups);
 
 }  // namespace Routines

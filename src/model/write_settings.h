@@ -37,6 +37,8 @@ struct Settings {
   std::optional<std::size_t> flashScrittura;
   std::optional<std::size_t> srDef;
 
+  bool operator==(const Settings&) const = default;
+  [[nodiscard]] bool Complete() const { return quantiCanali && flashScrittura && srDef; }
   [[nodiscard]] int Capacity() const { return QuantiCanali[*quantiCanali].channels; }
   [[nodiscard]] FlashType Type() const { return static_cast<FlashType>(*flashScrittura + 1); }
   [[nodiscard]] Sr22000 Place() const { return *srDef == 0 ? Sr22000::Come2 : Sr22000::Come0; }

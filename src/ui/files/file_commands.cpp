@@ -32,6 +32,14 @@ Base::Result<Base::Bytes> ReadWaiting(const std::string& path, const char* title
   return Waiting([&] { return Routines::ReadFlash(path, title); });
 }
 
+// What the summary's number counts, as it says no more than "Canali effettivi".
+QString WrittenText(const State& state) {
+  const int last = LastUsedChannel(state);
+  int channels = 0;
+  for (int slot = 1; slot <= last; ++slot) channels += state.Channel(slot).Empty() ? 0 : 1;
+  return QString(" (%1, fino al posto %2)").arg(Counted(channels, "canale", "canali")).arg(last);
+}
+
 // The channels that an append has left without a transponder of their own, in rising order.
 std::vector<int> WithoutTransponder(const Routines::LoadReport& report) {
   std::vector<int> slots;
@@ -45,6 +53,7 @@ void FileCommands::Connect(Actions& actions) {
   actions.Connect("ApriFlashInput", [this] { ApriFlashInput(); });
   actions.Connect("Salva", [this] { Salva(); });
   actions.Connect("ApriFlashOutput", [this] { ApriFlashOutput(); });
+  actions.Connect("SalvaCopiaNuova", [this] { SalvaCopiaNuova(); });
   actions.Connect("ConvertiSR", [this] { ConvertiSR(); });
 }
 
@@ -60,9 +69,11 @@ std::optional<int> FileCommands::AskAppendStart() {
   return Routines::AppendStart(session_.document.Tables());
 }
 
-void FileCommands::ApriFlashInput(std::string path) {
+void FileCommands::ApriFlashInput(std::string path, std::optional<Routines::Settings> settings) {
   const auto appendStart = AskAppendStart();
   if (!appendStart) return;
+  if (*appendStart > 0) settings.reset();
+  if (!settings && !Meets(session_, Need::Capacity)) return;
   if (path.empty()) path = session_.AskOpen("Selezionare la flash di input", FlashFilters, FolderKind::Input);
   if (path.empty()) return;
   const auto image = ReadWaiting(path, InputTitle);
@@ -71,13 +82,14 @@ void FileCommands::ApriFlashInput(std::string path) {
     return;
   }
   session_.RememberFolder(FolderKind::Input, path);
-  Load(path, *image, *appendStart);
+  Load(path, *image, *appendStart, settings.value_or(session_.settings.Chosen()));
 }
 
-void FileCommands::Load(const std::string& path, const Base::Bytes& image, int appendStart) {
-  const auto rates = session_.LoadSymbolRates();
+void FileCommands::Load(const std::string& path, const Base::Bytes& image, int appendStart,
+                        const Routines::Settings& settings) {
+  const auto rates = session_.LoadSymbolRates(settings);
   if (!rates) return;
-  const int capacity = session_.settings.Chosen().Capacity();
+  const int capacity = settings.Capacity();
   const bool appended = appendStart > 0;
   if (!appended && !session_.mayReplaceList()) return;
   session_.status.ShowProgress(30);
@@ -96,7 +108,10 @@ void FileCommands::Load(const std::string& path, const Base::Bytes& image, int a
         return loaded;
       },
       Edit::History::Kind::List);
-  if (!appended) document.MarkSaved(path);
+  if (!appended) {
+    document.MarkSaved(path);
+    session_.settings.Choose(settings);
+  }
   session_.status.ShowProgress(100);
   session_.view.ShowFromStart(View::Channels);
   bool tellMore = true;
@@ -151,7 +166,23 @@ void FileCommands::Salva() {
     session_.Message(original.error());
     return;
   }
-  Write(path, *original, *preparation);
+  Write(path, *original, *preparation, Routines::SaveFlash);
+}
+
+// Into an image that is not there yet, made of the flash opened last as the disk has it now.
+void FileCommands::SalvaCopiaNuova() {
+  const auto preparation = Prepare();
+  if (!preparation) return;
+  const auto original = ReadWaiting(session_.document.Tables().InputFlash, InputTitle);
+  if (!original) {
+    session_.Message(original.error());
+    return;
+  }
+  const std::string path = PathBytes(session_.dialogs.SaveFile(
+      {"Salvare la copia nuova in", FlashFilters, session_.FolderFor(FolderKind::Output), true}));
+  if (path.empty()) return;
+  session_.RememberFolder(FolderKind::Output, path);
+  Write(path, *original, *preparation, Routines::SaveNewFlash);
 }
 
 void FileCommands::AskAndWrite(const Preparation& preparation) {
@@ -165,24 +196,24 @@ void FileCommands::AskAndWrite(const Preparation& preparation) {
     return;
   }
   session_.RememberFolder(FolderKind::Output, path);
-  Write(path, *original, preparation);
+  Write(path, *original, preparation, Routines::SaveFlash);
 }
 
-void FileCommands::Write(const std::string& path, const Base::Bytes& original,
-                         const Preparation& preparation) {
+void FileCommands::Write(const std::string& path, const Base::Bytes& original, const Preparation& preparation,
+                         Save save) {
   StatusLine& status = session_.status;
   status.ShowProgress(10);
   const State& state = session_.document.Tables();
   const Routines::PatchedFlash patched = Routines::PatchFlash(state, original, preparation.plan);
   status.ShowProgress(30);
-  const auto saved =
-      Waiting([&] { return Routines::SaveFlash(path, original, patched.image, session_.backups); });
+  const auto saved = Waiting([&] { return save(path, original, patched.image, session_.backups); });
   status.ShowProgress(100);
   if (!saved) {
     session_.dialogs.Message(Text(saved.error().message), OutputTitle);
     return;
   }
   TellWritten(path, patched, preparation, *saved);
+  if (onWritten) onWritten();
 }
 
 QString FileCommands::LostChannels(const Routines::Unwritten& unwritten) const {
@@ -209,7 +240,8 @@ void FileCommands::TellWritten(const std::string& path, const Routines::PatchedF
     document.MarkUnsaved();
   }
 
-  QString result = "Scritta " + ShortName(path) + Text(Routines::TextOf(patched, unwritten));
+  QString result = "Scritta " + ShortName(path) + WrittenText(document.Tables()) +
+                   Text(Routines::TextOf(patched, unwritten));
   if (preparation.ratesMoved) result += RatesMovedText;
   result += Text(Routines::TextOf(saved, ShortName(path).toStdString()));
   if (unwritten.Nothing()) {

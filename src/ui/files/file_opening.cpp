@@ -18,7 +18,11 @@ FileOpening::FileOpening(Session& session, FileCommands& files, ExchangeCommands
       recent_(recent),
       actions_(actions) {
   connect(&recent_, &RecentFiles::Chosen, this, &FileOpening::OpenRecent);
-  files_.onOpened = [this](const std::string& path) { recent_.Add(PathText(path)); };
+  files_.onOpened = [this](const std::string& path) {
+    recent_.Add(PathText(path), session_.settings.Chosen());
+  };
+  files_.onWritten = [this] { recent_.KeepUsed(OpenedPath(), session_.settings.Chosen()); };
+  connect(&session_.settings, &SettingsPanel::Clicked, this, &FileOpening::CompleteUse);
 }
 
 void FileOpening::OpenFlash(const std::string& path) {
@@ -40,13 +44,28 @@ void FileOpening::OpenWhenChosen(const std::string& path) {
   });
 }
 
+QString FileOpening::OpenedPath() const { return PathText(session_.document.Tables().InputFlash); }
+
+// What is chosen for the first time belongs to the list that is there; another choice may be for the next one.
+void FileOpening::CompleteUse() {
+  Routines::Settings used = recent_.UsedWith(OpenedPath());
+  if (used.Complete()) return;
+  const Routines::Settings chosen = session_.settings.Chosen();
+  if (!used.quantiCanali) used.quantiCanali = chosen.quantiCanali;
+  if (!used.flashScrittura) used.flashScrittura = chosen.flashScrittura;
+  if (!used.srDef) used.srDef = chosen.srDef;
+  recent_.KeepUsed(OpenedPath(), used);
+}
+
 void FileOpening::OpenRecent(const QString& path) {
-  if (session_.settings.Chosen().quantiCanali && !QFileInfo::exists(path)) {
+  const Routines::Settings used = recent_.UsedWith(path);
+  if ((used.Complete() || session_.settings.Chosen().quantiCanali) && !QFileInfo::exists(path)) {
     session_.dialogs.Message("Flash non trovata: " + path + "\nViene tolta dai file recenti", {});
     recent_.Remove(path);
     return;
   }
-  OpenFlash(PathBytes(path));
+  if (!used.Complete()) return OpenFlash(PathBytes(path));
+  if (actions_.Offers("ApriFlashInput")) files_.ApriFlashInput(PathBytes(path), used);
 }
 
 void FileOpening::Drop(const QMimeData& data) {

@@ -32,6 +32,8 @@ class FileOpening : public QObject {
   void Open(const DroppedFile& file);
   void OpenFlash(const std::string& path);
   void OpenRecent(const QString& path);
+  [[nodiscard]] QString OpenedPath() const;
+  void CompleteUse();
 
   Session& session_;
   FileCommands& files_;

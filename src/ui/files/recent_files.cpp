@@ -6,6 +6,7 @@
 #include <QAction>
 #include <QMainWindow>
 #include <QMenu>
+#include <QSettings>
 
 namespace Ui {
 namespace {
@@ -14,6 +15,27 @@ constexpr int Most = 8;
 constexpr int LongestPath = 420;  // pixels
 constexpr int WriteAfter = 300;   // milliseconds
 constexpr const char* Key = "FileRecenti/Percorsi";
+constexpr const char* UsedKey =
+    "FileRecenti/Opzioni";  // "210 /path", the index in each group or "-" for none
+constexpr qsizetype PathInUse = 4;
+
+using Routines::Settings;
+
+QString UseLine(const Settings& used, const QString& path) {
+  QString line;
+  for (const auto& index : {used.quantiCanali, used.flashScrittura, used.srDef})
+    line += index ? QString::number(*index) : QString("-");
+  return line + " " + path;
+}
+
+Settings UseIn(const QString& line) {
+  const auto index = [&line](int group, std::size_t options) {
+    const auto chosen = static_cast<std::size_t>(line.at(group).digitValue());
+    return chosen < options ? std::optional(chosen) : std::nullopt;
+  };
+  return {index(0, Routines::QuantiCanali.size()), index(1, Routines::FlashScrittura.size()),
+          index(2, Routines::SRDef.size())};
+}
 
 }  // namespace
 
@@ -55,9 +77,10 @@ QStringList RecentFiles::Paths() const {
   return paths.mid(0, Most);
 }
 
-void RecentFiles::Add(const QString& path) {
+void RecentFiles::Add(const QString& path, const Settings& used) {
   Write();
   unwritten_ = path;
+  unwrittenUse_ = used;
   write_.start();
   Q_EMIT Changed();
 }
@@ -65,18 +88,39 @@ void RecentFiles::Add(const QString& path) {
 void RecentFiles::Remove(const QString& path) {
   QStringList paths = Paths();
   paths.removeAll(path);
-  Store(paths);
+  Store(paths, {}, {});
   Q_EMIT Changed();
 }
 
 void RecentFiles::Write() {
-  if (!unwritten_.isEmpty()) Store(Paths());
+  if (!unwritten_.isEmpty()) Store(Paths(), unwritten_, unwrittenUse_);
 }
 
-void RecentFiles::Store(const QStringList& paths) {
+void RecentFiles::Store(const QStringList& paths, const QString& path, const Settings& used) {
   write_.stop();
+  ChangeSettings(settingsFile_, [&](QSettings& settings) {
+    QStringList uses = settings.value(UsedKey).toStringList();
+    uses.removeIf([&](const QString& line) {
+      return line.mid(PathInUse) == path || !paths.contains(line.mid(PathInUse));
+    });
+    if (!path.isEmpty()) uses += UseLine(used, path);
+    settings.setValue(Key, paths);
+    settings.setValue(UsedKey, uses);
+  });
   unwritten_.clear();
-  KeepSetting(settingsFile_, Key, paths);
+}
+
+Settings RecentFiles::UsedWith(const QString& path) const {
+  if (path == unwritten_) return unwrittenUse_;
+  for (const QString& line : Setting(settingsFile_, UsedKey).toStringList())
+    if (line.size() > PathInUse && line.mid(PathInUse) == path) return UseIn(line);
+  return {};
+}
+
+void RecentFiles::KeepUsed(const QString& path, const Settings& used) {
+  if (path.isEmpty() || used == UsedWith(path) || !Paths().contains(path)) return;
+  Write();
+  Store(Paths(), path, used);
 }
 
 void RecentFiles::FillMenu() {

@@ -1,6 +1,8 @@
 // The flash images opened last, kept in trovalis.ini, and the submenu that lists them.
 #pragma once
 
+#include "model/write_settings.h"
+
 #include <QObject>
 #include <QStringList>
 #include <QTimer>
@@ -24,7 +26,10 @@ class RecentFiles : public QObject {
   // The latest first, at most 8.
   [[nodiscard]] QStringList Paths() const;
   // Its writing waits for the disk, and therefore until the list that was opened is on the screen.
-  void Add(const QString& path);
+  void Add(const QString& path, const Routines::Settings& used);
+  // What a file among them has been used with, as far as that is known.
+  [[nodiscard]] Routines::Settings UsedWith(const QString& path) const;
+  void KeepUsed(const QString& path, const Routines::Settings& used);
   void Remove(const QString& path);
 
  Q_SIGNALS:
@@ -34,11 +39,12 @@ class RecentFiles : public QObject {
 
  private:
   void Write();
-  void Store(const QStringList& paths);
+  void Store(const QStringList& paths, const QString& path, const Routines::Settings& used);
   void FillMenu();
 
   QString settingsFile_;
   QString unwritten_;
+  Routines::Settings unwrittenUse_;
   QTimer write_;
   QAction& open_;  // ApriFlashInput
   QMenu* menu_;

@@ -14,6 +14,8 @@ struct FileQuestion {
   QString title;
   QString filters;  // "Caption|*.dat|Caption|*.*|"
   QString folder;   // empty for the toolkit's own choice
+  bool newFile =
+      false;  // a file that is there already is refused later on: no question whether to replace it
 };
 
 enum class Tone { Warning, Information };

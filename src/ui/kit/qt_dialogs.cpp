@@ -143,6 +143,7 @@ QString QtDialogs::AskFile(const FileQuestion& question, bool save) {
   dialog.setNameFilters(NameFilters(question.filters));
   if (save) {
     dialog.setAcceptMode(QFileDialog::AcceptSave);
+    dialog.setOption(QFileDialog::DontConfirmOverwrite, question.newFile);
     dialog.setDefaultSuffix(question.filters.section("*.", 1).section(QRegularExpression("[)|]"), 0, 0));
   }
   ResizeOnScreen(dialog, {860, 560});

@@ -76,7 +76,7 @@ void ListView::LayOut() {
   body->addWidget(map_);
   auto* column = new QVBoxLayout(this);
   column->setContentsMargins(0, 0, 0, 0);
-  column->setSpacing(3);
+  column->setSpacing(2);
   column->addLayout(head);
   column->addLayout(body, 1);
   column->addWidget(where_);

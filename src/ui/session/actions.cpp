@@ -22,11 +22,12 @@ Actions::Actions(Session& session, QMainWindow& window) : session_(session) {
   session.onChange.emplace_back([this] { Refresh(); });
 }
 
-bool Actions::Allows(CommandName command) {
+bool Actions::Allows(CommandName command) { return Offers(command) && Meets(session_, command->gate); }
+
+bool Actions::Offers(CommandName command) {
   const char* why = WhyDisabled(session_, command->gate.enabled);
-  if (*why == '\0') return Meets(session_, command->gate);
-  session_.status.ShowResult(why);
-  return false;
+  if (*why != '\0') session_.status.ShowResult(why);
+  return *why == '\0';
 }
 
 // First of all a command does: what is being typed in a cell is no longer open to doubt.

@@ -29,6 +29,8 @@ class Actions {
 
   // Whether a command can be run now; tells the user why where it can not.
   bool Allows(CommandName command);
+  // The same as far as it is enabled: what it needs beside that is another matter.
+  bool Offers(CommandName command);
 
   [[nodiscard]] QAction& operator[](CommandName command) const { return *commands_[command.Index()].action; }
   [[nodiscard]] QAction& Button(ButtonName button) const { return *buttons_[button.Index()].action; }

@@ -48,6 +48,9 @@ inline constexpr Command Commands[] = {
     {"ApriFlashOutput", "Salva Flash come", Menu::File, "save-as", "Ctrl+Shift+S",
      "Scrive la lista in un'immagine esistente del ricevitore",
      Gate(Enabled::WithList, Need::List, Need::Settings)},
+    {"SalvaCopiaNuova", "Salva una copia nuova…", Menu::File, "", "",
+     "Scrive la lista in un'immagine nuova, fatta dalla flash aperta",
+     Gate(Enabled::WithList, Need::OpenedFlash, Need::Settings)},
     {"Fine", "Fine", Menu::File, "exit", "",
      "Chiude il programma; le modifiche non salvate vengono offerte al prossimo avvio", Gate(), Group},
 

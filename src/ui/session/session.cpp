@@ -33,14 +33,20 @@ void Session::GoToChannel(int slot) {
   TellChannel(slot);
 }
 
+QString Session::FolderFor(FolderKind kind) const {
+  const std::string folder = Support::LoadFolder(programFolder, kind);
+  const std::string& opened = document.Tables().InputFlash;
+  const bool beside = folder.empty() && kind == FolderKind::Output && !opened.empty();
+  return PathText(beside ? Base::FolderOf(opened) : folder);
+}
+
 std::string Session::AskOpen(const QString& title, const QString& filters, FolderKind kind) const {
-  return PathBytes(dialogs.OpenFile({title, filters, PathText(Support::LoadFolder(programFolder, kind))}));
+  return PathBytes(dialogs.OpenFile({title, filters, FolderFor(kind)}));
 }
 
 std::string Session::AskSave(const QString& title, const QString& filters, FolderKind kind,
                              const char* refusal) const {
-  std::string path =
-      PathBytes(dialogs.SaveFile({title, filters, PathText(Support::LoadFolder(programFolder, kind))}));
+  std::string path = PathBytes(dialogs.SaveFile({title, filters, FolderFor(kind)}));
   if (!IsFlashOfList(path)) return path;
   status.ShowResult(QString("%1: %2").arg(refusal, FlashOfListChosen));
   return {};
@@ -73,8 +79,7 @@ bool Session::IsFlashOfList(const std::string& path) const {
   return target == Base::ResolvedPath(state.InputFlash) || target == Base::ResolvedPath(state.OutputFlash);
 }
 
-std::optional<Support::SymbolRates> Session::LoadSymbolRates() {
-  const Routines::Settings chosen = settings.Chosen();
+std::optional<Support::SymbolRates> Session::LoadSymbolRates(const Routines::Settings& chosen) {
   const auto place = chosen.srDef ? chosen.Place() : Routines::Sr22000::Come2;
   auto rates = Support::CaricaTabelleSR(programFolder, place);
   if (!rates) {

@@ -72,6 +72,9 @@ struct Session {
 
   // The file that the user chooses, asked for in the folder remembered for its kind; empty where the user gives up.
   [[nodiscard]] std::string AskOpen(const QString& title, const QString& filters, FolderKind kind) const;
+  // The folder that such a question begins in. Where no folder for outputs has been chosen yet it is the one of the flash
+  // that was opened.
+  [[nodiscard]] QString FolderFor(FolderKind kind) const;
   // Does so for a file to write, which the flash of the list must not be: the status bar says that and, in `refusal`,
   // what has not been done.
   [[nodiscard]] std::string AskSave(const QString& title, const QString& filters, FolderKind kind,
@@ -89,7 +92,8 @@ struct Session {
 
   // The symbol rates of SR.INI as `SRDef` now places them. Where the file is missing it says so, in a box
   // once and in the status bar after that. A malformed file ends the program: nothing comes back then.
-  std::optional<Support::SymbolRates> LoadSymbolRates();
+  std::optional<Support::SymbolRates> LoadSymbolRates() { return LoadSymbolRates(settings.Chosen()); }
+  std::optional<Support::SymbolRates> LoadSymbolRates(const Routines::Settings& chosen);
 
   // The same for a command that cannot go on without the file: each time it is missing there is the box, and nothing
   // comes back.

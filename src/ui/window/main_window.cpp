@@ -19,6 +19,7 @@
 #include "ui/window/channel_menu.h"
 #include "ui/window/error_pane.h"
 #include "ui/window/guide_window.h"
+#include "ui/window/options_fold.h"
 #include "ui/window/start_page.h"
 #include "ui/window/tree_commands.h"
 
@@ -133,12 +134,14 @@ void MainWindow::OpenRooms(QWidget& contents) {
   trees_ = std::make_unique<TreeCommands>(session, *sources_, *actions_, *lists);
 
   auto* column = new QVBoxLayout(&contents);
-  column->setContentsMargins(8, 6, 8, 4);
+  column->setContentsMargins(8, 4, 8, 2);
+  column->setSpacing(2);
   column->addWidget(new ScrollStrip(&session.settings, &contents));
   column->addWidget(frame);
   column->addWidget(lists, 1);
   column->addWidget(new ErrorPane(session.bouquets.errors, &contents));
   column->addWidget(session.status.ResultLine());
+  new OptionsFold(session, this);
 }
 
 void MainWindow::Connect() {

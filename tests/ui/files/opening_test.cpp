@@ -18,11 +18,18 @@ class OpeningFiles : public SmallWindow {
   }
 };
 
-TEST_F(OpeningFiles, TheLastEightAreOfferedAndVanishedOnesGo) {
+TEST_F(OpeningFiles, TheLastEightAreOfferedWithTheirOptionsAndVanishedOnesGo) {
   std::vector<std::string> copies;
   for (int i = 0; i < 9; ++i)
     copies.push_back(folder_.Write("a&b, " + std::to_string(i) + ".dat", Contents(flash_)));
-  for (const std::string& copy : copies) Open(copy);
+  StartEmpty();
+  for (const std::string& copy : copies) {
+    Open(copy, "QuantiCanali_1");
+    if (copy == copies[2]) {
+      ASSERT_TRUE(driver_->Pick("FlashScrittura_2"));
+    }
+  }
+  ASSERT_TRUE(driver_->Pick("FlashScrittura_0"));
   StartEmpty();
   EXPECT_TRUE(Action("FileRecenti_8").isVisible());
   EXPECT_EQ(Action("FileRecenti_8").statusTip(), PathText(copies[1]));
@@ -32,8 +39,25 @@ TEST_F(OpeningFiles, TheLastEightAreOfferedAndVanishedOnesGo) {
   ASSERT_TRUE(driver_->Choose("FileRecenti_8"));
   EXPECT_EQ(List().InputFlash, copies[1]);
   EXPECT_EQ(Action("FileRecenti_1").statusTip(), PathText(copies[1]));
+  const auto chosen = [this](const char* option) {
+    return window_->findChild<QRadioButton*>(option)->isChecked();
+  };
+  StartEmpty();
+  ASSERT_TRUE(driver_->Choose("FileRecenti_2"));
+  EXPECT_EQ(List().ChannelCount, 2000);
+  EXPECT_TRUE(chosen("QuantiCanali_1") && chosen("FlashScrittura_2"))
+      << "not what was chosen for the next one";
+  ASSERT_TRUE(driver_->Pick("QuantiCanali_0"));
+  const QString append = "Si desidera accodare la nuova Flash a quella già caricata?";
+  folder_.Write("a&b, 7.dat", Base::Bytes(3, 'x'));
+  driver_->ExpectQuestion(append, false);
+  Tells("FileRecenti_3", "Dimensione FLASH selezionata errata 3", "Errore FLASH di Input");
+  driver_->ExpectQuestion(append, true);
+  driver_->ExpectQuestion("La flash che si sta accodando è dello stesso dipo di quella già caricata?", true);
+  ASSERT_TRUE(driver_->Choose("FileRecenti_1"));
+  EXPECT_TRUE(chosen("QuantiCanali_0")) << "an append takes what is chosen";
   std::filesystem::remove(copies[8]);
-  Tells("FileRecenti_2", "Flash non trovata: " + PathText(copies[8]) + "\nViene tolta dai file recenti");
+  Tells("FileRecenti_1", "Flash non trovata: " + PathText(copies[8]) + "\nViene tolta dai file recenti");
   EXPECT_FALSE(Action("FileRecenti_8").isVisible());
 }
 

@@ -60,6 +60,46 @@ TEST_F(Saving, WhatIsWrittenOverByAnotherNameIsSavedNoLonger) {
   EXPECT_EQ(driver_->TextOf("ModificheNonSalvate"), "Modifiche non salvate");
 }
 
+TEST_F(Saving, TheFirstSaveBeginsBesideTheFlashAndACopyIsMadeAnew) {
+  const std::string flashes = folder_.Path("flash");
+  std::filesystem::create_directory(flashes);
+  const std::string opened = folder_.Write("flash/mia.dat", Contents(flash_));
+  const std::string other = folder_.Write("flash/altra.dat", Contents(flash_));
+  Open(opened, "QuantiCanali_0");
+  Delete(12, 12);
+  driver_->ExpectFile(OutputDialog, "altra.dat");
+  Summary(*driver_, 2, 11, true);
+  ASSERT_TRUE(driver_->Choose("ApriFlashOutput"));
+  Open(opened, "QuantiCanali_0");
+  Delete(12, 12);
+  const auto copy = [this](const QString& name) { driver_->ExpectFile("Salvare la copia nuova in", name); };
+  copy("mia.dat");
+  Tells("SalvaCopiaNuova", "Impossibile scrivere mia.dat: esiste già", "Errore FLASH di Output");
+  EXPECT_TRUE(Contents(opened) == Contents(flash_));
+  copy("nuova.dat");
+  Summary(*driver_, 2, 11, true);
+  ASSERT_TRUE(driver_->Choose("SalvaCopiaNuova"));
+  EXPECT_EQ(Said(), "Scritta nuova.dat (10 canali, fino al posto 11)");
+  EXPECT_EQ(List().OutputFlash, flashes + "/nuova.dat");
+  EXPECT_EQ(driver_->TextOf("ModificheNonSalvate"), "");
+  EXPECT_TRUE(Contents(flashes + "/nuova.dat") == Contents(other)) << "what an existing image gets";
+  Summary(*driver_, 2, 11, true);
+  ASSERT_TRUE(driver_->Choose("Salva"));
+  EXPECT_FALSE(std::filesystem::exists(flashes + "/nuova.dat.bak"));
+  const std::string chosen = folder_.Path("scelta");
+  std::filesystem::create_directory(chosen);
+  copy(PathText(chosen + "/b.dat"));
+  Summary(*driver_, 2, 11, true);
+  ASSERT_TRUE(driver_->Choose("SalvaCopiaNuova"));
+  folder_.Write("flash/mia.dat", Base::Bytes(3, 'x'));
+  Tells("SalvaCopiaNuova", "Dimensione FLASH selezionata errata 3", "Errore FLASH di Input");
+  std::filesystem::copy(flash_, chosen + "/c.dat");
+  driver_->ExpectFile(OutputDialog, "c.dat");
+  Summary(*driver_, 2, 11, true);
+  ASSERT_TRUE(driver_->Choose("ApriFlashOutput"));
+  EXPECT_EQ(List().OutputFlash, chosen + "/c.dat") << "the folder chosen last";
+}
+
 TEST_F(Saving, AppendingAsksTwice) {
   const QString append = "Si desidera accodare la nuova Flash a quella già caricata?";
   const QString sameKind = "La flash che si sta accodando è dello stesso dipo di quella già caricata?";
@@ -146,10 +186,11 @@ TEST_F(Saving, WhatIsLeftOutIsTold) {
   driver_->ExpectFile(OutputDialog, PathText(shorter));
   Summary(*driver_, 1, 12, false);
   ASSERT_TRUE(driver_->Choose("ApriFlashOutput"));
-  EXPECT_EQ(Said(),
-            "Scritta corta.dat: 2 canali non scritti, 3 transponder diversi, preferiti non scritti - SR "
-            "22000 spostato senza "
-            "Converti SR - tolta 1 copia di sicurezza di troppo: restano corta.dat.bak e le 20 più recenti");
+  EXPECT_EQ(
+      Said(),
+      "Scritta corta.dat (11 canali, fino al posto 12): 2 canali non scritti, 3 transponder diversi, "
+      "preferiti non scritti - SR 22000 spostato senza Converti SR - com'era prima resta in "
+      "corta.dat.bak - tolta 1 copia di sicurezza di troppo: restano corta.dat.bak e le 20 più recenti");
   EXPECT_EQ(driver_->TextOf("ModificheNonSalvate"), "Modifiche non salvate") << "even an untouched list";
   EXPECT_TRUE(window_->findChild<QWidget*>("QualiCanali")->isVisible());
   ASSERT_TRUE(driver_->Pick("FlashScrittura_1"));
