@@ -112,7 +112,7 @@ TransponderReport UpdateTransponders(State& state, const std::vector<Transponder
 
 std::vector<int> ChannelsOn(const State& state, int transponder) {
   std::vector<int> channels;
-  for (int slot = 1; slot <= state.ChannelCount; ++slot) {
+  for (int slot = 1; transponder != 0 && slot <= state.ChannelCount; ++slot) {
     const ChannelRecord& channel = state.Channel(slot);
     if (!channel.Empty() && static_cast<int>(Get(channel, ChannelField::Transponder)) == transponder)
       channels.push_back(slot);

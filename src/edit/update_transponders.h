@@ -25,7 +25,7 @@ TransponderReport UpdateTransponders(Routines::State& state,
                                      const std::vector<Review::TransponderFinding>& chosen, int satellite,
                                      const Routines::BouquetTables& bouquets);
 
-// The slots of the channels on a transponder.
+// The slots of the channels on a transponder; none for 0, which is none.
 std::vector<int> ChannelsOn(const Routines::State& state, int transponder);
 
 }  // namespace Edit

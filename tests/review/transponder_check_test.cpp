@@ -50,6 +50,7 @@ TEST(TransponderCheck, FindsWhatIsMissingChangedGoneOrDoubledAndTakesIt) {
       MakeTransponder(10719, false, 1, 1, 2, 5)};
   for (int slot = 1; slot <= 7; ++slot) state.Transponder(slot).record = records[slot - 1];
   for (int slot = 1; slot <= 3; ++slot) state.Channel(slot) = MakeChannel("c", slot == 1 ? 3 : 6, slot, 1, 1);
+  state.Channel(4) = MakeChannel("lost", 0, 4, 1, 1);
   const std::vector<ListedTransponder> listed = {
       Listed(11769000, V, 22000, "3/4"),                   // 3 MHz away from the first
       Listed(11766500, V, 27502, ""),                      // nothing else is said of it
@@ -73,6 +74,8 @@ TEST(TransponderCheck, FindsWhatIsMissingChangedGoneOrDoubledAndTakesIt) {
   const BouquetTables bouquets{{}, {{"Nuovo", "SAT A", "05", 12700}}};
   state.TransponderCount = 7;
   const Edit::TransponderReport report = Edit::UpdateTransponders(state, found, 0, bouquets);
+  EXPECT_EQ(Edit::ChannelsOn(state, 6), std::vector({2, 3}));
+  EXPECT_TRUE(Edit::ChannelsOn(state, 0).empty()) << "an own channel may be on none";
   EXPECT_EQ(report.added, 2) << "where the doubled and the gone one were";
   EXPECT_EQ(report.changed + report.removed * 10 + report.joined * 100, 111);
   EXPECT_EQ(report.unknownRate, 1);

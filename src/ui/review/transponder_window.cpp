@@ -307,7 +307,7 @@ void TransponderWindow::SelectFound() {
   std::set<int> slots;
   for (const TransponderFinding& finding : ticked.empty() ? shown_ : ticked) {
     const std::vector<int> channels = Edit::ChannelsOn(session_.document.Tables(), finding.slot);
-    if (finding.slot != 0) slots.insert(channels.begin(), channels.end());
+    slots.insert(channels.begin(), channels.end());
   }
   if (slots.empty()) return result_->Show("Nessun canale è su questi transponder.");
   SelectChannels(session_, {slots.begin(), slots.end()});

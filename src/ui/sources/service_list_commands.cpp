@@ -11,11 +11,14 @@
 namespace Ui {
 namespace {
 
-// Why a list without services gives no rows.
+// Why a list without services gives no rows, and which command takes it.
 QString WhyNone(const QString& file, const Formats::ListFormat* format) {
   if (format == nullptr) return file + " non è una lista VDR, DVBv5, zap o Enigma2 (lamedb)";
-  const char* holds = format->Transponders != nullptr ? "transponder" : "l'ordine dei canali";
-  return QString("%1 (%2) contiene solo %3, nessun dato dei canali").arg(file, Text(format->title), holds);
+  const char* holds =
+      format->Transponders != nullptr
+          ? "transponder, nessun dato dei canali: li usa Controlla i transponder con un elenco…"
+          : "l'ordine dei canali, nessun dato dei canali: lo usa Ordina come un elenco…";
+  return QString("%1 (%2) contiene solo %3").arg(file, Text(format->title), holds);
 }
 
 }  // namespace

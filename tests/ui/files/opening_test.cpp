@@ -86,7 +86,8 @@ TEST_F(OpeningFiles, DroppedOnesOpenLikeTheirCommandsOrItIsSaidWhyNot) {
     EXPECT_EQ(window_->findChild<QMenu*>("FileRecenti")->isEnabled(), !List().FromFls) << told;
   }
   driver_->ExpectMessage(
-      "preferiti.txt (Enigma2 userbouquet) contiene solo l'ordine dei canali, nessun dato dei canali");
+      "preferiti.txt (Enigma2 userbouquet) contiene solo l'ordine dei canali, nessun dato dei canali: lo usa "
+      "Ordina come un elenco…");
   Drop({file(bouquet)});
   EXPECT_TRUE(driver_->Idle());
 }
