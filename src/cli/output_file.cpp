@@ -9,6 +9,7 @@
 #include "model/flash_file.h"
 #include "model/flash_writer.h"
 
+#include <cerrno>
 #include <filesystem>
 
 namespace Cli {
@@ -19,10 +20,8 @@ namespace {
 
 constexpr std::size_t LargestOld = 64U << 20U;
 
-bool Exists(const std::string& path) {
-  std::error_code error;
-  return std::filesystem::exists(std::filesystem::symlink_status(path, error));
-}
+// What cannot be looked at counts as there.
+bool Exists(const std::string& path) { return Base::StatusOf(path).code != ENOENT; }
 
 bool MayWrite(Work& work, const std::string& path) {
   return path == "-" || work.options.force || !Exists(path) ||
@@ -48,12 +47,14 @@ void MakeKeeping(const Work& work, const std::string& path) {
   std::filesystem::create_directories(work.keeping, error);
 }
 
-// Puts the image where it is wanted. False where that failed.
+// Puts the image where it is wanted, or finds that it could be put there. False where it is not.
 bool Put(Work& work, const std::string& path, Base::ByteView original, Base::ByteView after,
          Routines::Saved& saved) {
   const Options& options = work.options;
-  if (options.output == "-") {
-    work.console.out.assign(Base::AsText(after));
+  if (options.dryRun || options.output == "-") {
+    if (!Routines::DiffersOnlyInSections(original, after))
+      return work.console.Fail(Exit::NotWritten, path, "la modifica esce dalle sezioni conosciute");
+    if (!options.dryRun) work.console.out.assign(Base::AsText(after));
     return true;
   }
   MakeKeeping(work, options.inPlace ? path : options.output);
@@ -126,7 +127,7 @@ void WriteImage(Work& work, const State& state, const std::string& path, Base::B
   const std::string target = options.inPlace ? path : options.output;
   const bool same = options.inPlace && Base::AsText(patched.image) == Base::AsText(original);
   Routines::Saved saved;
-  if (!options.dryRun && !same && !Put(work, path, original, patched.image, saved)) return;
+  if (!same && !Put(work, path, original, patched.image, saved)) return;
   if (!made.whole || !unwritten.Nothing()) work.console.exit = Exit::Found;
   const std::vector<std::string> lines =
       LinesOf(work, made, {state, patched, unwritten, saved, target, same});

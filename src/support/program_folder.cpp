@@ -1,6 +1,7 @@
 #include "support/program_folder.h"
 
 #include "base/file.h"
+#include "base/system_file.h"
 #include "support/pos_ini.h"
 
 #include <algorithm>
@@ -18,10 +19,7 @@ constexpr std::size_t LargestShipped = 16U << 20U;
 
 std::filesystem::path SystemPath(const std::string& path) { return std::u8string(path.begin(), path.end()); }
 
-bool Exists(const std::string& path) {
-  std::error_code error;
-  return std::filesystem::exists(SystemPath(path), error);
-}
+bool Exists(const std::string& path) { return Base::StatusOf(path).code == 0; }
 
 // Whether the file is in `to` now, if there is one; an older one there is left alone and counts as not copied.
 bool Copy(const std::string& from, const std::string& to) {
