@@ -6,7 +6,7 @@
 #include <CLI/Config.hpp>
 #include <CLI/Formatter.hpp>
 #include <algorithm>
-#include <map>
+#include <array>
 
 namespace Cli {
 namespace {
@@ -43,10 +43,10 @@ CLI::Validator Satellite() {
                   });
 }
 
-// The commands' own options in one place each.
+// The commands and their options; those of the one that is wanted alone, as every other's would take time for nothing.
 class Line {
  public:
-  explicit Line(Options& options)
+  Line(Options& options, const std::string& wanted)
       : options_(options), app_("Liste di canali dei ricevitori satellitari, senza finestra.") {
     SetUp(app_);
     app_.name("trovalis-cli");
@@ -57,9 +57,7 @@ class Line {
         "\"trovalis-cli COMANDO --help\" dice di più. Esce con 0 fatto, 1 differenze o cose da controllare,\n"
         "2 riga di comando errata, 3 file illeggibile, 4 file non scritto. \"-\" al posto di un file è\n"
         "l'ingresso o l'uscita standard.");
-    AddReaders();
-    AddSources();
-    AddWriters();
+    for (const Entry& entry : Entries) Add(entry, entry.name == wanted);
   }
 
   CLI::App& App() { return app_; }
@@ -81,15 +79,24 @@ class Line {
     std::static_pointer_cast<CLI::Formatter>(format)->column_width(26);
   }
 
-  CLI::App& Add(Command command, const char* name, const char* does) {
-    CLI::App& added = *app_.add_subcommand(name, does)->group("Comandi");
+  struct Entry {
+    Command command;
+    std::string_view name;
+    const char* does;
+    void (Line::*add)(CLI::App&);  // its options
+  };
+  static const std::array<Entry, 11> Entries;
+
+  void Add(const Entry& entry, bool wanted) {
+    CLI::App& added = *app_.add_subcommand(std::string(entry.name), entry.does)->group("Comandi");
+    if (!wanted) return;
     SetUp(added);
-    added.callback([this, command] { options_.command = command; });
+    added.callback([this, command = entry.command] { options_.command = command; });
+    (this->*entry.add)(added);
     File(added, "--support", options_.support, "cartella di SR.INI e Bouquets.txt", "CARTELLA");
     added.add_flag("--json", options_.json, "risultato in JSON")->group(LineOptions);
     added.add_flag("--dry-run", options_.dryRun, "non scrive niente, dice che cosa farebbe")
         ->group(LineOptions);
-    return added;
   }
 
   static CLI::Option* File(CLI::App& app, const char* name, std::string& to, const char* what,
@@ -136,23 +143,19 @@ class Line {
         ->group(LineOptions);
   }
 
-  void Image(CLI::App& app, const char* name) {
-    Positional(app, name, options_.first, "immagine della flash");
+  void Image(CLI::App& app) { Positional(app, "IMG", options_.second, "immagine della flash"); }
+
+  // Of commands that only look at an image.
+  void AddReader(CLI::App& app) {
+    Positional(app, "IMG", options_.first, "immagine della flash");
+    Reading(app);
   }
 
-  void AddReaders() {
-    CLI::App& info = Add(Command::Info, "info", "che cosa contiene un'immagine");
-    Image(info, "IMG");
-    Reading(info);
-    CLI::App& list = Add(Command::List, "list", "i canali di un'immagine");
-    Image(list, "IMG");
-    Reading(list);
+  void AddList(CLI::App& list) {
+    AddReader(list);
     Filter(list);
     Satellites(list);
     AddForms(list);
-    CLI::App& check = Add(Command::Check, "check", "che cosa c'è da controllare in un'immagine");
-    Image(check, "IMG");
-    Reading(check);
   }
 
   void AddForms(CLI::App& list) {
@@ -170,17 +173,19 @@ class Line {
     }
   }
 
-  void AddSources() {
-    CLI::App& diff = Add(Command::Diff, "diff", "che cosa è diverso fra due liste");
+  void AddDiff(CLI::App& diff) {
     Positional(diff, "A", options_.first, "immagine o lista");
     Positional(diff, "B", options_.second, "immagine o lista");
     Reading(diff);
     Rows(diff);
-    CLI::App& sdx =
-        Add(Command::Sdx, "sdx", "che cosa ha una lista SatcoDX o d'altri programmi, e che cosa si scarta");
+  }
+
+  void AddSdx(CLI::App& sdx) {
     Positional(sdx, "FILE", options_.first, "lista");
     Rows(sdx);
-    CLI::App& convert = Add(Command::Convert, "convert", "porta una lista in un altro formato");
+  }
+
+  void AddConvert(CLI::App& convert) {
     Positional(convert, "IN", options_.first, "immagine o lista");
     Positional(convert, "OUT", options_.second, "file da scrivere: .txt, .fls, .csv o .conf");
     Reading(convert);
@@ -190,31 +195,33 @@ class Line {
         ->check(OneOf({"text", "fls", "csv", "vdr"}));
   }
 
-  CLI::App& AddWriter(Command command, const char* name, const char* does, bool typed) {
-    CLI::App& added = Add(command, name, does);
-    Capacity(added, "canali che il ricevitore può tenere: 999, 2000 o 3996")
+  // Of commands that write an image; `typed` ones have to say the flash's type and the place of SR 22000.
+  void Writing(CLI::App& app, bool typed) {
+    Capacity(app, "canali che il ricevitore può tenere: 999, 2000 o 3996")
         ->required()
         ->check(OneOf({"999", "2000", "3996"}));
-    auto* type = added.add_option("--type", options_.type, "tipo di flash: 1, 2 o 3")->type_name("N");
+    auto* type = app.add_option("--type", options_.type, "tipo di flash: 1, 2 o 3")->type_name("N");
     type->check(Number(1, 3))->required(typed)->group(LineOptions);
-    auto* rate = added.add_option("--sr", options_.rate22000, "dove è SR 22000: \"come 2\" o \"come 0\"");
+    auto* rate = app.add_option("--sr", options_.rate22000, "dove è SR 22000: \"come 2\" o \"come 0\"");
     rate->type_name("N")->check(OneOf({"0", "2"}))->required(typed)->group(LineOptions);
-    auto* output = File(added, "-o,--output", options_.output, "immagine da scrivere");
-    added.add_flag("--in-place", options_.inPlace, "scrive nell'immagine stessa, tenendone una copia .bak")
+    auto* output = File(app, "-o,--output", options_.output, "immagine da scrivere");
+    app.add_flag("--in-place", options_.inPlace, "scrive nell'immagine stessa, tenendone una copia .bak")
         ->excludes(output)
         ->group(LineOptions);
-    Force(added);
-    return added;
+    Force(app);
   }
 
-  void AddWriters() {
-    CLI::App& write = AddWriter(Command::Write, "write", "mette una lista in una copia di un'immagine", true);
+  void AddWrite(CLI::App& write) {
     Positional(write, "LIST", options_.first, "immagine o lista");
     Positional(write, "TEMPLATE", options_.second, "immagine del ricevitore");
+    Writing(write, true);
     Rows(write);
-    CLI::App& apply = AddWriter(Command::Apply, "apply", "prende da una lista ciò che è diverso", false);
+  }
+
+  void AddApply(CLI::App& apply) {
     Positional(apply, "LIST", options_.first, "immagine o lista");
-    Positional(apply, "IMG", options_.second, "immagine della flash");
+    Image(apply);
+    Writing(apply, false);
     Rows(apply);
     Several(apply, "--only", options_.only,
             "che cosa prendere: new, deleted, moved, renamed, retuned, pids, modified, favourites", "TIPI")
@@ -223,17 +230,19 @@ class Line {
         ->check(OneOf({"new", "deleted", "moved", "renamed", "retuned", "pids", "modified", "favourites"}));
     File(apply, "--place", options_.place, "dove vanno i nuovi: behind, holes o bouquet", "DOVE")
         ->check(OneOf({"behind", "holes", "bouquet"}));
-    AddBulk();
   }
 
-  void AddBulk() {
-    CLI::App& order = AddWriter(Command::Order, "order", "ordina i canali come un elenco", false);
+  void AddOrder(CLI::App& order) {
     Positional(order, "ORDER", options_.first, "elenco, lista o immagine");
-    Positional(order, "IMG", options_.second, "immagine della flash");
+    Image(order);
+    Writing(order, false);
     order.add_flag("--numbers", options_.listed, "i canali prendono i numeri dell'elenco")
         ->group(LineOptions);
-    CLI::App& sort = AddWriter(Command::Sort, "sort", "ordina i canali", false);
-    Positional(sort, "IMG", options_.second, "immagine della flash");
+  }
+
+  void AddSort(CLI::App& sort) {
+    Image(sort);
+    Writing(sort, false);
     Several(sort, "--by", options_.keys,
             "fino a tre fra name, kind, satellite, bouquet, frequency, sid, coding, hd, favourites, active",
             "CHIAVI")
@@ -249,8 +258,11 @@ class Line {
         ->type_name("N")
         ->check(Number(0, 3996))
         ->group(LineOptions);
-    CLI::App& rename = AddWriter(Command::Rename, "rename", "cambia i nomi dei canali", false);
-    Positional(rename, "IMG", options_.second, "immagine della flash");
+  }
+
+  void AddRename(CLI::App& rename) {
+    Image(rename);
+    Writing(rename, false);
     Filter(rename);
     Several(rename, "--rule", options_.rules,
             "regola: sostituisci/HD//, togli-dietro/TEST, iniziali, ...; più volte, in ordine", "REGOLA")
@@ -260,6 +272,27 @@ class Line {
   Options& options_;
   CLI::App app_;
 };
+
+const std::array<Line::Entry, 11> Line::Entries = {
+    {{Command::Info, "info", "che cosa contiene un'immagine", &Line::AddReader},
+     {Command::List, "list", "i canali di un'immagine", &Line::AddList},
+     {Command::Check, "check", "che cosa c'è da controllare in un'immagine", &Line::AddReader},
+     {Command::Diff, "diff", "che cosa è diverso fra due liste", &Line::AddDiff},
+     {Command::Sdx, "sdx", "che cosa ha una lista SatcoDX o d'altri programmi, e che cosa si scarta",
+      &Line::AddSdx},
+     {Command::Convert, "convert", "porta una lista in un altro formato", &Line::AddConvert},
+     {Command::Write, "write", "mette una lista in una copia di un'immagine", &Line::AddWrite},
+     {Command::Apply, "apply", "prende da una lista ciò che è diverso", &Line::AddApply},
+     {Command::Order, "order", "ordina i canali come un elenco", &Line::AddOrder},
+     {Command::Sort, "sort", "ordina i canali", &Line::AddSort},
+     {Command::Rename, "rename", "cambia i nomi dei canali", &Line::AddRename}}};
+
+// The command that arguments begin with; empty where they name none.
+std::string WantedIn(const std::vector<std::string>& arguments) {
+  const auto word = std::find_if(arguments.begin(), arguments.end(),
+                                 [](const std::string& argument) { return !argument.starts_with('-'); });
+  return word == arguments.end() ? std::string() : *word;
+}
 
 // The library's sentences in the words of the program.
 std::string Refusal(const CLI::ParseError& error) {
@@ -281,7 +314,7 @@ std::string Refusal(const CLI::ParseError& error) {
 
 Parsed Parse(const std::vector<std::string>& arguments) {
   Options options;
-  Line line(options);
+  Line line(options, WantedIn(arguments));
   try {
     line.App().parse(std::vector<std::string>(arguments.rbegin(), arguments.rend()));
   } catch (const CLI::CallForVersion& version) {
