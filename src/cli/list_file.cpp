@@ -71,28 +71,27 @@ std::optional<Routines::OtherList> CsvRows(Work& work, const ListFile& file, con
   return std::move(read->list);
 }
 
-}  // namespace
+// Bytes that have to be an image.
+Base::Result<Base::Bytes> ImageOf(Base::Result<Base::Bytes> bytes) {
+  if (bytes && bytes->size() != Routines::FlashSize) return Routines::WrongFlashSize(bytes->size(), {});
+  return bytes;
+}
 
-std::optional<Base::Bytes> ReadBytes(Work& work, const std::string& path) {
-  auto bytes = path == "-" ? work.console.readInput() : Base::ReadFile(path, LargestList);
-  if (bytes) return std::move(*bytes);
-  work.console.Fail(Exit::Unreadable, path, bytes.error().message);
+// What was read; else the reason is told.
+std::optional<Base::Bytes> Given(Work& work, const std::string& path, Base::Result<Base::Bytes> read) {
+  if (read) return std::move(*read);
+  work.console.Fail(Exit::Unreadable, path, read.error().message);
   return std::nullopt;
 }
 
+}  // namespace
+
+std::optional<Base::Bytes> ReadBytes(Work& work, const std::string& path) {
+  return Given(work, path, path == "-" ? work.console.readInput() : Base::ReadFile(path, LargestList));
+}
+
 std::optional<Base::Bytes> ReadImage(Work& work, const std::string& path) {
-  if (path != "-") {
-    auto image = Routines::ReadFlash(path, {});
-    if (image) return std::move(*image);
-    work.console.Fail(Exit::Unreadable, path, image.error().message);
-    return std::nullopt;
-  }
-  auto bytes = ReadBytes(work, path);
-  if (bytes && bytes->size() != Routines::FlashSize) {
-    work.console.Fail(Exit::Unreadable, path, Routines::WrongFlashSize(bytes->size(), {}).message);
-    bytes.reset();
-  }
-  return bytes;
+  return Given(work, path, path == "-" ? ImageOf(work.console.readInput()) : Routines::ReadFlash(path, {}));
 }
 
 std::optional<ListFile> ReadList(Work& work, const std::string& path) {
