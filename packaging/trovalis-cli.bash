@@ -3,7 +3,8 @@ _trovalis_cli() {
   local word=${COMP_WORDS[COMP_CWORD]} words
   if [ "$COMP_CWORD" -eq 1 ]; then
     words=$(trovalis-cli --help | sed -n '/^Comandi:/,/^$/s/^  \([a-z]*\) .*/\1/p')
-    mapfile -t COMPREPLY < <(compgen -W "$words --help --version" -- "$word")
+    # shellcheck disable=SC2207 # no word has a blank
+    COMPREPLY=($(compgen -W "$words --help --version" -- "$word"))
     return
   fi
   case "${COMP_WORDS[COMP_CWORD - 1]}" in
@@ -16,6 +17,7 @@ _trovalis_cli() {
     --by) words="name kind satellite bouquet frequency sid coding hd favourites active" ;;
     *) [ "${word#-}" = "$word" ] || words=$(trovalis-cli "${COMP_WORDS[1]}" --help | grep -o -- '--[a-z-]*' | sort -u) ;;
   esac
-  mapfile -t COMPREPLY < <(compgen -W "${words:-}" -- "$word")
+  # shellcheck disable=SC2207
+  COMPREPLY=($(compgen -W "${words:-}" -- "$word"))
 }
 complete -o bashdefault -o default -F _trovalis_cli trovalis-cli

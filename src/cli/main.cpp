@@ -7,6 +7,7 @@
 #include <csignal>
 #include <cstdlib>
 #include <filesystem>
+#include <sys/auxv.h>
 #include <unistd.h>
 
 namespace {
@@ -44,13 +45,20 @@ std::string Variable(const char* name) {
   return value == nullptr ? std::string() : std::string(value);
 }
 
+// The running program's file. Where /proc is not there, as in many a bare root, by the name that it was started by.
+std::filesystem::path ProgramFile() {
+  std::error_code error;
+  auto file = std::filesystem::read_symlink("/proc/self/exe", error);
+  if (!error) return file;
+  const auto* const started = reinterpret_cast<const char*>(::getauxval(AT_EXECFN));
+  return started == nullptr ? std::filesystem::path() : std::filesystem::canonical(started, error);
+}
+
 // As the window finds them: the user's data folder is a path from the root, or the usual one.
 Support::ProgramPlaces PlacesOf() {
-  std::error_code error;
-  const auto program = std::filesystem::read_symlink("/proc/self/exe", error);
-  const std::string folder = program.parent_path().string();
+  const std::string folder = ProgramFile().parent_path().string();
   const std::string data = Variable("XDG_DATA_HOME");
-  return {folder, !error && ::access(folder.c_str(), W_OK) == 0,
+  return {folder, !folder.empty() && ::access(folder.c_str(), W_OK) == 0,
           data.starts_with('/') ? data : Variable("HOME") + "/.local/share"};
 }
 
