@@ -126,9 +126,15 @@ std::vector<std::vector<int>> FindDuplicates(const State& state, const Duplicate
   JoinEqual(groups, std::move(names));
 
   std::vector<std::vector<int>> members(static_cast<std::size_t>(state.ChannelCount) + 1);
-  for (int slot = 1; slot <= state.ChannelCount; ++slot)
-    members[static_cast<std::size_t>(groups.First(slot))].push_back(slot);
-  std::erase_if(members, [](const std::vector<int>& group) { return group.size() < 2; });
+  for (int slot = 1; slot <= state.ChannelCount; ++slot) {
+    const int first = groups.First(slot);
+    if (first == slot) continue;
+    // Most slots are alone and get no group at all.
+    std::vector<int>& group = members[static_cast<std::size_t>(first)];
+    if (group.empty()) group.push_back(first);
+    group.push_back(slot);
+  }
+  std::erase_if(members, [](const std::vector<int>& group) { return group.empty(); });
   return members;
 }
 

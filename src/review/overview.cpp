@@ -76,7 +76,8 @@ class Counter {
 
   OverviewLine& Add(Section section, std::string text, Slots slots, std::size_t of,
                     bool transponders = false) {
-    std::sort(slots.begin(), slots.end());
+    // Most are in order already.
+    if (!std::is_sorted(slots.begin(), slots.end())) std::sort(slots.begin(), slots.end());
     return lines_.emplace_back(OverviewLine{section, std::move(text), transponders, static_cast<int>(of),
                                             std::nullopt, false, std::move(slots)});
   }
