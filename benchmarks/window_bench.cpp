@@ -1,9 +1,14 @@
 // The work of the window on a full list, beside a plain table that shows as many constant cells in as much room.
 #include "base/file.h"
 #include "beside.h"
+#include "edit/list_operations.h"
+#include "edit/rename.h"
+#include "edit/set_fields.h"
+#include "edit/sort_channels.h"
 #include "formats/flash_rows.h"
 #include "formats/sdx_other.h"
 #include "full_list.h"
+#include "model/cells.h"
 #include "review/compare.h"
 #include "support/pos_ini.h"
 #include "ui/kit/text.h"
@@ -271,6 +276,44 @@ void CompareRows(benchmark::State& run) {
   RunBeside(run, 1, {compare, [&] { RepaintCells(pages.plain->Table()); }});
 }
 
+// What the core does to all channels at one go, planned and followed.
+void ChangeAll(benchmark::State& run, const std::function<bool(Routines::State&)>& change) {
+  const Pages pages;
+  const auto list = List();
+  const auto state = std::make_unique<Routines::State>();
+  const auto work = [&] {
+    if (!change(*state)) std::abort();
+  };
+  RunBeside(run, 1, {work, [&] { RepaintCells(pages.plain->Table()); }, [&] { *state = *list; }});
+}
+
+void Rename(benchmark::State& run) {
+  const std::vector<Edit::RenameRule> rules = {
+      {Edit::RenameKind::Replace, "a", "ae"}, {Edit::RenameKind::Upper}, {Edit::RenameKind::Tidy}};
+  ChangeAll(run, [&rules](Routines::State& state) {
+    const auto names = Edit::NewNames(state, Edit::SlotRun(1, Channels), rules, {});
+    return Edit::RenameChannels(state, *names) > 0;
+  });
+}
+
+void SortAll(benchmark::State& run) {
+  const Edit::SortOrder order{{Edit::SortKey::HdFirst, Edit::SortKey::Coding, Edit::SortKey::Name}};
+  ChangeAll(run, [&order](Routines::State& state) {
+    const Edit::SortPlan plan = Edit::PlanSort(state, Edit::SlotRun(1, Channels), order);
+    Edit::SortChannels(state, plan);
+    return plan.moved > 0;
+  });
+}
+
+void SetAll(benchmark::State& run) {
+  using namespace Routines;
+  const Edit::FieldChanges changes{{{ChannelColumn::Flags, "A4 Via"}, {ChannelColumn::Transponder, "254"}},
+                                   {{ChannelColumn::Sid, 1}, {ChannelColumn::Vpid, 1}}};
+  ChangeAll(run, [&changes](State& state) {
+    return Edit::SetFields(state, *Edit::PlanFields(state, Edit::SlotRun(1, Channels), changes)) > 0;
+  });
+}
+
 }  // namespace
 
 void RegisterWindow() {
@@ -280,6 +323,9 @@ void RegisterWindow() {
             {"un passo del filtro", FilterStep},
             {"eliminare 2000 righe sparse", DeleteScattered},
             {"confrontare 3996 canali con 4000 righe", CompareRows},
+            {"cambiare 3996 nomi", Rename},
+            {"ordinare 3996 canali per tre criteri", SortAll},
+            {"impostare 3996 canali", SetAll},
             {"rifare l'albero dopo una modifica", RebuildTree}});
 }
 

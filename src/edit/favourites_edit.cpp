@@ -1,6 +1,7 @@
 #include "edit/favourites_edit.h"
 
 #include "base/names.h"
+#include "edit/renumber.h"
 
 #include <algorithm>
 
@@ -35,27 +36,42 @@ std::vector<int> TakeOut(std::vector<int>& entries, const std::vector<std::size_
 
 }  // namespace
 
+std::vector<Addition> PlanFavourites(const State& state, std::size_t list, const std::vector<int>& slots) {
+  const Base::Bytes block =
+      state.FavouritesBlock.empty() ? Base::Bytes(NormalFavouritesSize) : state.FavouritesBlock;
+  std::vector<int> entries = FavouriteEntriesOf(block, list);
+  const std::size_t room = FavouriteRoom(block, list);
+  std::vector<Addition> plan;
+  for (const int slot : slots) {
+    Addition what = Addition::Added;
+    if (!IsChannel(state, slot)) {
+      what = Addition::Empty;
+    } else if (std::find(entries.begin(), entries.end(), slot) != entries.end()) {
+      what = Addition::Known;
+    } else if (entries.size() >= room) {
+      what = Addition::Full;
+    } else {
+      entries.push_back(slot);
+    }
+    plan.push_back(what);
+  }
+  return plan;
+}
+
 AddReport AddFavourites(State& state, std::size_t list, std::size_t place, const std::vector<int>& slots) {
-  AddReport report;
-  Base::Bytes block = BlockOf(state);
+  const std::vector<Addition> plan = PlanFavourites(state, list, slots);
+  const auto count = [&plan](Addition what) {
+    return static_cast<int>(std::count(plan.begin(), plan.end(), what));
+  };
+  const AddReport report{count(Addition::Added), count(Addition::Known), count(Addition::Empty),
+                         count(Addition::Full)};
+  if (report.added == 0) return report;
+  Base::Bytes& block = BlockOf(state);
   std::vector<int> entries = FavouriteEntriesOf(block, list);
   place = std::min(place, entries.size());
-  for (const int slot : slots) {
-    if (!IsChannel(state, slot)) {
-      ++report.empty;
-    } else if (std::find(entries.begin(), entries.end(), slot) != entries.end()) {
-      ++report.known;
-    } else if (entries.size() >= FavouriteRoom(block, list)) {
-      ++report.full;
-    } else {
-      entries.insert(entries.begin() + Signed(place++), slot);
-      ++report.added;
-    }
-  }
-  if (report.added > 0) {
-    SetFavouriteEntries(block, list, std::move(entries));
-    state.FavouritesBlock = std::move(block);
-  }
+  for (std::size_t i = 0; i < slots.size(); ++i)
+    if (plan[i] == Addition::Added) entries.insert(entries.begin() + Signed(place++), slots[i]);
+  SetFavouriteEntries(block, list, std::move(entries));
   return report;
 }
 
@@ -112,6 +128,25 @@ void SortFavourites(State& state, std::size_t list, FavouriteOrder order) {
   }
   std::stable_sort(channels, entries.end());
   SetFavouriteEntries(state.FavouritesBlock, list, std::move(entries));
+}
+
+SlotMap MapByFavourites(const State& state, std::size_t list, OrderPlace place) {
+  std::vector<int> wanted;
+  PerChannel<bool> named;
+  for (const int slot : FavouriteEntriesOf(state.FavouritesBlock, list)) {
+    if (!IsChannel(state, slot) || named[slot]) continue;
+    named[slot] = true;
+    wanted.push_back(slot);
+  }
+  std::vector<int> own = wanted;
+  std::sort(own.begin(), own.end());
+  SlotMap map = SameSlots();
+  for (std::size_t i = 0; i < wanted.size(); ++i)
+    map[wanted[i]] = place == OrderPlace::Top ? static_cast<int>(i) + 1 : own[i];
+  int next = static_cast<int>(wanted.size());
+  for (int slot = 1; place == OrderPlace::Top && slot <= state.ChannelCount; ++slot)
+    if (!named[slot]) map[slot] = ++next;
+  return map;
 }
 
 Base::Outcome RenameFavourites(State& state, std::size_t list, std::string_view name) {

@@ -2,7 +2,7 @@
 
 #include "base/names.h"
 #include "base/text.h"
-#include "model/per_slot.h"
+#include "model/favourites.h"
 
 #include <numeric>
 #include <optional>
@@ -64,17 +64,36 @@ struct Keys {
   std::optional<std::string> name;
 };
 
+const TransponderRow* TransponderOf(const State& state, int slot) {
+  const ChannelRecord& channel = state.Channel(slot);
+  return channel.Empty() ? nullptr : TransponderInUse(state, Get(channel, ChannelField::Transponder));
+}
+
 Keys KeysOf(const State& state, int slot, const DuplicateRules& rules) {
   Keys keys;
   const ChannelRecord& channel = state.Channel(slot);
-  const TransponderRow* transponder = TransponderInUse(state, Get(channel, ChannelField::Transponder));
-  if (channel.Empty() || transponder == nullptr) return keys;
+  const TransponderRow* transponder = TransponderOf(state, slot);
+  if (transponder == nullptr) return keys;
   if (rules.service) keys.service = ServiceKey(transponder->record, channel);
   if (rules.streams) keys.streams = StreamsKey(channel);
   if (!rules.name) return keys;
   std::string name = Base::UpperCase(Base::Trimmed(channel.Name()));
   if (!name.empty()) keys.name = std::move(name);
   return keys;
+}
+
+// "RAI 1 HD", "Rai 1" and "Rai 1 +1" are one; a name of nothing else stays as it is.
+std::string BareName(std::string_view name) {
+  const std::string folded = Base::Folded(Base::Trimmed(name));
+  std::string bare;
+  for (std::string_view rest = folded; !rest.empty();) {
+    std::string_view word = rest.substr(0, rest.find(' '));
+    rest.remove_prefix(std::min(word.size() + 1, rest.size()));
+    if (word.ends_with("+1")) word.remove_suffix(2);
+    if (word.empty() || word == "hd" || word == "sd") continue;
+    bare.append(bare.empty() ? "" : " ").append(word);
+  }
+  return bare.empty() ? folded : bare;
 }
 
 // The keys of the channels of a group that stay.
@@ -114,16 +133,21 @@ std::vector<std::vector<int>> FindDuplicates(const State& state, const Duplicate
   Keyed<std::uint64_t> services;
   Keyed<std::uint64_t> streams;
   Keyed<std::string> names;
+  Keyed<std::string> bareNames;
   for (int slot = 1; slot <= state.ChannelCount; ++slot) {
     const Keys keys = KeysOf(state, slot, rules);
     if (keys.service) services.push_back({*keys.service, slot});
     if (keys.streams) streams.push_back({*keys.streams, slot});
     if (keys.name) names.push_back({*keys.name, slot});
+    if (!rules.bareName || TransponderOf(state, slot) == nullptr) continue;
+    if (std::string name = BareName(state.Channel(slot).Name()); !name.empty())
+      bareNames.push_back({std::move(name), slot});
   }
   Groups groups;
   JoinEqual(groups, std::move(services));
   JoinEqual(groups, std::move(streams));
   JoinEqual(groups, std::move(names));
+  JoinEqual(groups, std::move(bareNames));
 
   std::vector<std::vector<int>> members(static_cast<std::size_t>(state.ChannelCount) + 1);
   for (int slot = 1; slot <= state.ChannelCount; ++slot) {
@@ -151,6 +175,35 @@ std::vector<int> Surplus(const State& state, const DuplicateRules& rules,
         kept.Add(keys);
       }
     }
+  }
+  return surplus;
+}
+
+PerChannel<int> KeepRanks(const State& state, KeepBy by) {
+  PerChannel<int> ranks;
+  for (std::size_t list = 0; by == KeepBy::Favourite && list < FavouriteLists; ++list)
+    for (const int slot : FavouriteEntriesOf(state.FavouritesBlock, list))
+      if (slot >= 1 && slot <= LastChannelSlot) ranks[slot] = 1;
+  const std::uint32_t activeBit = ChannelField::Active.Mask();
+  for (int slot = 1; slot <= state.ChannelCount; ++slot) {
+    const std::uint32_t flags = Get(state.Channel(slot), ChannelField::Flags);
+    if (by == KeepBy::Active) ranks[slot] = (flags & activeBit) != 0 ? 1 : 0;
+    if (by == KeepBy::Free) ranks[slot] = (flags & ~activeBit) == 0 ? 1 : 0;
+  }
+  return ranks;
+}
+
+std::vector<int> SurplusByRank(const State& state, const DuplicateRules& rules,
+                               const std::vector<std::vector<int>>& groups, const PerChannel<int>& ranks) {
+  std::vector<int> surplus;
+  for (const auto& group : groups) {
+    int best = 1;
+    for (const int slot : group) best = std::max(best, ranks[slot]);
+    KeptKeys kept;
+    for (const int slot : group)
+      if (ranks[slot] == best) kept.Add(KeysOf(state, slot, rules));
+    for (const int slot : group)
+      if (ranks[slot] != best && kept.HasAnyOf(KeysOf(state, slot, rules))) surplus.push_back(slot);
   }
   return surplus;
 }

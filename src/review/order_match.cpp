@@ -128,4 +128,13 @@ OrderMatch MatchOrder(const State& state, const Order& order, Numbering numberin
   return Matcher(state, order).Run(numbering);
 }
 
+std::vector<int> SlotsInOrder(const OrderMatch& match) {
+  std::vector<int> byNumber(static_cast<std::size_t>(match.list.offered) + 1);
+  for (int slot = 1; slot <= LastChannelSlot; ++slot)
+    byNumber[static_cast<std::size_t>(match.found.there[slot])] = slot;
+  byNumber.erase(byNumber.begin());
+  std::erase(byNumber, 0);
+  return byNumber;
+}
+
 }  // namespace Review

@@ -25,4 +25,7 @@ struct OrderMatch {
 // counts as not found.
 OrderMatch MatchOrder(const State& state, const Routines::Order& order, Numbering numbering);
 
+// The channels that an order names, as it has them.
+std::vector<int> SlotsInOrder(const OrderMatch& match);
+
 }  // namespace Review

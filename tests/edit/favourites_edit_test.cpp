@@ -2,6 +2,7 @@
 #include "edit/favourites_edit.h"
 
 #include "core_test.h"
+#include "edit/list_operations.h"
 
 #include <numeric>
 
@@ -75,6 +76,22 @@ TEST_F(FavouritesEdit, SortingPutsEntriesWithoutChannelLast) {
   EXPECT_EQ(Of(4), (Entries{3, 7, 9, 260, 5000}));
   SortFavourites(state_, 4, FavouriteOrder::ByName);
   EXPECT_EQ(Of(4), (Entries{9, 7, 3, 260, 5000}));
+}
+
+TEST_F(FavouritesEdit, TheChannelsGoByAListInTheirPlacesOrOnTop) {
+  SetFavouriteEntries(state_.FavouritesBlock, 0, {9, 260, 2, 9, 5000, 250});
+  state_.Channel(3) = {};
+  const auto first = [this](OrderPlace place) {
+    State state = state_;
+    const SlotMap map = MapByFavourites(state, 0, place);
+    EXPECT_TRUE(Rearrange(state, map).empty());
+    std::string names;
+    for (const int slot : {1, 2, 3, 4, 5, 6, 9, 250})
+      names += std::to_string(Get(state.Channel(slot), ChannelField::Sid)) + " ";
+    return names;
+  };
+  EXPECT_EQ(first(OrderPlace::OwnPlaces), "1 9 0 4 5 6 2 250 ");
+  EXPECT_EQ(first(OrderPlace::Top), "9 2 250 1 0 4 7 249 ") << "the gap goes along";
 }
 
 TEST_F(FavouritesEdit, NamesTakeTheirEightBytes) {

@@ -2,6 +2,8 @@
 #include "review/duplicates.h"
 
 #include "core_test.h"
+#include "formats/source_names.h"
+#include "model/favourites.h"
 
 namespace Review {
 
@@ -59,6 +61,14 @@ TEST(CanaliDoppi, EachRuleFindsItsOwnAndGroupsThatShareAChannelAreOne) {
   EXPECT_EQ(found(false, true, false), Groups({{7, 8}}));
   EXPECT_EQ(found(false, false, true), Groups({{1, 20}}));
   EXPECT_EQ(found(true, true, true), Groups({{1, 2, 20}, {4, 6}, {7, 8}}));
+
+  int slot = 2;
+  for (const char* name : {"Citt\xE0 +1", "  SD CITTA  hd", "Canale5+1", "CANALE5", "HD", "+1", "hd"})
+    state.Channel(++slot) = MakeChannel(name, 1, 100, 1, 1);
+  const DuplicateRules bare{false, false, false, true};
+  const Groups alike = FindDuplicates(state, bare);
+  EXPECT_EQ(alike, Groups({{1, 3, 4, 20}, {5, 6}, {7, 9}}));
+  EXPECT_TRUE(Surplus(state, bare, alike).empty()) << "they are only looked at";
 }
 
 TEST(CanaliDoppi, WhatIsLikeNoChannelThatStaysStays) {
@@ -75,6 +85,28 @@ TEST(CanaliDoppi, WhatIsLikeNoChannelThatStaysStays) {
   const Groups groups = FindDuplicates(state, rules);
   EXPECT_EQ(groups, Groups({{1, 2, 3}, {4, 5}}));
   EXPECT_EQ(Surplus(state, rules, groups), (std::vector<int>{2, 5}));
+
+  SetFavouriteEntries(state.FavouritesBlock = Base::Bytes(NormalFavouritesSize), 3, {3, 2000});
+  Set(state.Channel(5), ChannelField::Active, 0);
+  Set(state.Channel(2), ChannelField::Flags, 0x24);
+  const auto goes = [&](KeepBy by) { return SurplusByRank(state, rules, groups, KeepRanks(state, by)); };
+  EXPECT_EQ(goes(KeepBy::Favourite), std::vector<int>{2}) << "1 is only like 2, and 4 and 5 are in no list";
+  EXPECT_EQ(goes(KeepBy::Active), std::vector<int>{5});
+  EXPECT_EQ(goes(KeepBy::Free), std::vector<int>{2});
+
+  Formats::SdxTable source;
+  source.rows.resize(3);
+  for (auto& row : source.rows) {
+    row.frequency = "011001";
+    row.horizontal = true;
+  }
+  source.rows[0].sid = source.rows[1].sid = "2";
+  source.rows[1].vpid = "12";
+  source.rows[1].apid = "22";
+  source.rows[2].sid = "1";
+  const PerChannel<int> ranks = Formats::RanksBySource(source, state);
+  EXPECT_EQ(std::vector(ranks.values.begin() + 1, ranks.values.begin() + 6), (std::vector{1, 1, 2, 0, 0}));
+  EXPECT_EQ(SurplusByRank(state, rules, groups, ranks), std::vector<int>{2});
 }
 
 }  // namespace Review

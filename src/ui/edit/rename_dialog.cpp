@@ -73,7 +73,7 @@ RuleLine::RuleLine(QWidget* parent)
       text_(TextField("TestoRegola", this)),
       with_(TextField("NuovoTestoRegola", this)) {
   kind_->setObjectName("TipoRegola");
-  kind_->setAccessibleName("Regola");
+  kind_->setAccessibleDescription("Regola");
   for (const KindCaption& kind : Kinds) kind_->addItem(kind.caption);
   auto* remove = new QToolButton(this);
   remove->setObjectName("TogliRegola");

@@ -2,8 +2,8 @@
 #pragma once
 
 #include "edit/rename.h"
-#include "ui/edit/preview_model.h"
 #include "ui/edit/scope_choice.h"
+#include "ui/session/preview_model.h"
 
 #include <QDialog>
 

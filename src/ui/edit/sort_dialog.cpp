@@ -129,16 +129,7 @@ void SortDialog::ShowPlan() {
   start_->setEnabled(fromChannel_->isChecked());
   const std::vector<int> slots = Slots();
   plan_ = Edit::PlanSort(state, slots, Order());
-  std::vector<PreviewLine> lines;
-  for (const int slot : slots) {
-    if (plan_.map[slot] == 0) continue;
-    const QString name = CodePageText(Base::TrimmedRight(state.Channel(slot).Name()));
-    const bool stays = plan_.map[slot] == slot;
-    lines.push_back({plan_.map[slot], {name, stays ? QString() : QString::number(slot)}, {}});
-  }
-  std::sort(lines.begin(), lines.end(),
-            [](const PreviewLine& one, const PreviewLine& other) { return one.slot < other.slot; });
-  preview_->Show(std::move(lines));
+  preview_->Show(LinesOf(state, plan_.map, slots));
   ShowOutcome();
 }
 

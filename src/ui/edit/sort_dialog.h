@@ -2,7 +2,7 @@
 #pragma once
 
 #include "edit/sort_channels.h"
-#include "ui/edit/preview_model.h"
+#include "ui/session/preview_model.h"
 
 #include <QDialog>
 

@@ -1,7 +1,13 @@
 #include "ui/favourites/favourites_edits.h"
 
+#include "edit/list_operations.h"
 #include "edit/told.h"
+#include "model/favourites.h"
+#include "review/order_match.h"
 #include "ui/kit/text.h"
+#include "ui/session/gate.h"
+#include "ui/session/order_file.h"
+#include "ui/session/preview_dialog.h"
 
 #include <algorithm>
 
@@ -10,6 +16,13 @@ namespace Ui {
 using Routines::State;
 
 namespace {
+
+constexpr const char* NotInList = "non è in lista";
+
+QString FaultOf(Edit::Addition addition) {
+  if (addition == Edit::Addition::Known) return "c'è già";
+  return addition == Edit::Addition::Full ? "senza posto: la lista è piena" : "";
+}
 
 // What became of the channels that could not be added.
 QString Remarks(const Edit::AddReport& report) {
@@ -56,7 +69,10 @@ void FavouritesEdits::AddSelected(std::size_t list) {
 }
 
 void FavouritesEdits::AddSlots(std::size_t list, const Edit::Slots& slots, std::size_t place) {
-  if (!Edit::AreSlots(session_.document.Tables(), slots)) return;
+  if (Edit::AreSlots(session_.document.Tables(), slots)) Add(list, slots, place);
+}
+
+void FavouritesEdits::Add(std::size_t list, const std::vector<int>& slots, std::size_t place) {
   std::string label;
   const auto report = session_.document.Apply(label, [&](State& state) {
     const auto before = Routines::FavouriteEntriesOf(state.FavouritesBlock, list);
@@ -70,6 +86,80 @@ void FavouritesEdits::AddSlots(std::size_t list, const Edit::Slots& slots, std::
     return done;
   });
   Tell((report.added == 0 ? "Nessun preferito aggiunto a " + Title(list) : Text(label)) + Remarks(report));
+}
+
+void FavouritesEdits::AddFound(std::size_t list, QWidget* parent) {
+  const FilterBar& filter = session_.view.Filter();
+  if (!filter.Asks() || filter.ForTransponders() || filter.Matches().empty()) {
+    Tell("Nessun canale trovato: il filtro sopra la griglia dice quali cercare");
+    return;
+  }
+  AddSeen(list, filter.Matches(), {}, parent);
+}
+
+void FavouritesEdits::AddFromFile(std::size_t list, QWidget* parent) {
+  const auto file = AskOrder(session_);
+  if (!file) return;
+  const auto match = Review::MatchOrder(session_.document.Tables(), file->order, Review::Numbering::Together);
+  QStringList missing;
+  for (int number = match.list.offered + 1; number <= match.list.Count(); ++number)
+    missing += CodePageText(Base::TrimmedRight(match.list.At(number).record.Name()));
+  AddSeen(list, Review::SlotsInOrder(match), missing, parent);
+  if (const QString unreadable = UnreadableIn(*file); !unreadable.isEmpty()) Tell(unreadable);
+}
+
+void FavouritesEdits::AddSeen(std::size_t list, const std::vector<int>& slots, const QStringList& missing,
+                              QWidget* parent) {
+  const State& state = session_.document.Tables();
+  const auto plan = Edit::PlanFavourites(state, list, slots);
+  std::vector<PreviewLine> lines;
+  for (std::size_t i = 0; i < slots.size(); ++i) {
+    const QString name = CodePageText(Base::TrimmedRight(state.Channel(slots[i]).Name()));
+    const QString fault = FaultOf(plan[i]);
+    if (plan[i] != Edit::Addition::Empty) lines.push_back({slots[i], {name, fault}, fault});
+  }
+  for (const QString& name : missing) lines.push_back({0, {name, NotInList}, NotInList});
+  const auto added = std::count(plan.begin(), plan.end(), Edit::Addition::Added);
+  const auto full = std::count(plan.begin(), plan.end(), Edit::Addition::Full);
+  const auto now = static_cast<long>(Routines::FavouriteEntriesOf(state.FavouritesBlock, list).size());
+  QString outcome = QString("Da aggiungere a %1: %2; %3 di %4 posti occupati")
+                        .arg(Title(list), Counted(added, "canale", "canali"))
+                        .arg(now + added)
+                        .arg(Routines::FavouriteEntries);
+  if (full > 0) outcome += QString("; senza posto: %1").arg(full);
+  if (!missing.isEmpty()) outcome += QString("; non in lista: %1").arg(missing.size());
+  const PreviewText text{"AggiungiAiPreferiti",
+                         "Aggiungi a " + Title(list),
+                         {"Nome", "Perché no"},
+                         {8, 26},
+                         outcome,
+                         "Aggiungi",
+                         added > 0};
+  if (ConfirmsPreview(text, std::move(lines), parent)) Add(list, slots, Routines::FavouriteEntries);
+}
+
+void FavouritesEdits::OrderChannels(std::size_t list, Edit::OrderPlace place, QWidget* parent) {
+  if (!Meets(session_, Need::Places)) return;
+  const State& state = session_.document.Tables();
+  const Routines::SlotMap map = Edit::MapByFavourites(state, list, place);
+  const Edit::Slots all = Edit::SlotRun(1, state.ChannelCount);
+  const auto moved = std::count_if(
+      all.begin(), all.end(), [&](int slot) { return map[slot] != slot && !state.Channel(slot).Empty(); });
+  const QString changes = moved == 0 ? QString("Nessun canale cambia posto")
+                                     : Counted(moved, "canale cambia posto", "canali cambiano posto");
+  const bool top = place == Edit::OrderPlace::Top;
+  const PreviewText text{"OrdinaConPreferiti",
+                         (top ? "Metti in testa " : "Ordina come ") + Title(list),
+                         {"Nome", "Era al"},
+                         {8, 26},
+                         changes,
+                         top ? "Metti in testa" : "Ordina",
+                         moved > 0};
+  if (!ConfirmsPreview(text, LinesOf(state, map, all), parent)) return;
+  const QString label =
+      top ? "Messa in testa alla lista " + Title(list) : "Ordinati i canali come " + Title(list);
+  session_.document.Apply(label.toStdString(), [&map](State& tables) { Edit::Rearrange(tables, map); });
+  Tell(label + ": " + changes);
 }
 
 void FavouritesEdits::Remove(std::size_t list, const Places& places) {

@@ -17,6 +17,12 @@ class FavouritesEdits {
   void AddSelected(std::size_t list);
   void AddSlots(std::size_t list, const Edit::Slots& slots, std::size_t place);
 
+  // What the filter has found, and what a file lists, at the end of a list; both are shown before.
+  void AddFound(std::size_t list, QWidget* parent);
+  void AddFromFile(std::size_t list, QWidget* parent);
+  // Puts the channels of a list into its order, or shows why they cannot be; shown before as well.
+  void OrderChannels(std::size_t list, Edit::OrderPlace place, QWidget* parent);
+
   using Places = std::vector<std::size_t>;
   void Remove(std::size_t list, const Places& places);
   // In front of `before` of a list, the same or another one. Returns the first place moved to.
@@ -30,6 +36,9 @@ class FavouritesEdits {
   [[nodiscard]] QString Title(std::size_t list) const;
 
  private:
+  // `missing` are names that the list on the disk has and this one has not.
+  void AddSeen(std::size_t list, const std::vector<int>& slots, const QStringList& missing, QWidget* parent);
+  void Add(std::size_t list, const std::vector<int>& slots, std::size_t place);
   [[nodiscard]] std::string ToldEntries(std::size_t list, const Places& places, const char* one,
                                         const char* more, const QString& where) const;
   void Tell(const QString& text);

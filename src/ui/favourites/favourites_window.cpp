@@ -25,7 +25,7 @@ FavouritesWindow::FavouritesWindow(const Document& document, FavouritesEdits& ed
   AddLists(document, *lists);
   auto* column = new QVBoxLayout(this);
   column->addWidget(lists, 1);
-  column->addLayout(Buttons());
+  column->addLayout(Buttons(window));
   column->addWidget(result_);
   connect(&document, &Document::Changed, this, [this, &document] {
     ShowCurrent();
@@ -52,7 +52,7 @@ void FavouritesWindow::AddLists(const Document& document, QWidget& place) {
   }
 }
 
-QLayout* FavouritesWindow::Buttons() {
+QLayout* FavouritesWindow::Buttons(const QMainWindow& window) {
   auto* row = new QHBoxLayout;
   auto* buttons = new FlowLayout;
   target_->setMinimumWidth(Letters(*target_, 14));
@@ -60,6 +60,9 @@ QLayout* FavouritesWindow::Buttons() {
   row->addLayout(buttons);
   AddButton(*buttons, "AggiungiSelezionati", "Aggiungi i canali selezionati",
             [this] { edits_.AddSelected(current_); });
+  AddButton(*buttons, "AggiungiTrovati", "Aggiungi i trovati", [this] { edits_.AddFound(current_, this); });
+  AddButton(*buttons, "AggiungiDaElenco", "Aggiungi da elenco…",
+            [this] { edits_.AddFromFile(current_, this); });
   AddButton(*buttons, "TogliPreferiti", "Togli", [this] { Current().RemoveSelected(); });
   move_ = AddButton(*buttons, "SpostaPreferiti", "Sposta in");
   move_->setMenu(new QMenu(move_));
@@ -70,6 +73,12 @@ QLayout* FavouritesWindow::Buttons() {
   orders->addAction("Per nome", this, [this] { edits_.Sort(current_, Edit::FavouriteOrder::ByName); })
       ->setObjectName("OrdinaPerNome");
   AddButton(*buttons, "OrdinaPreferiti", "Ordina")->setMenu(orders);
+  AddButton(*buttons, "OrdinaComePreferiti", "Ordina come la lista",
+            [this] { edits_.OrderChannels(current_, Edit::OrderPlace::OwnPlaces, this); });
+  AddButton(*buttons, "PreferitiInTesta", "Metti la lista in testa",
+            [this] { edits_.OrderChannels(current_, Edit::OrderPlace::Top, this); });
+  AddButton(*buttons, "StampaListe", "Stampa",
+            [&window] { CommandAction(window, "StampaPreferiti").trigger(); });
   AddButton(*buttons, "ChiudiPreferiti", "Chiudi", [this] { close(); });
   return row;
 }

@@ -20,7 +20,7 @@ class FavouritesWindow : public ToolWindow {
 
  private:
   void AddLists(const Document& document, QWidget& place);
-  QLayout* Buttons();
+  QLayout* Buttons(const QMainWindow& window);
   void FillMoveMenu();
   void ShowCurrent();
   [[nodiscard]] FavouritesList& Current() const { return *lists_[current_]; }

@@ -6,11 +6,14 @@
 #include "ui/kit/themed_icon.h"
 
 #include <QAction>
+#include <QCheckBox>
 #include <QComboBox>
 #include <QGraphicsView>
 #include <QIcon>
+#include <QLayout>
 #include <QLineEdit>
 #include <QPrintPreviewDialog>
+#include <QPrintPreviewWidget>
 #include <QPrinter>
 #include <QToolBar>
 #include <QToolButton>
@@ -48,41 +51,54 @@ QString PagesText(int pages) {
 void PrintCommands::Connect(Actions& actions) {
   actions.Connect("StampaGriglia", [this] { StampaGriglia(); });
   actions.Connect("StampaSDX", [this] { StampaSDX(); });
+  actions.Connect("StampaPreferiti", [this] { StampaPreferiti(); });
 }
 
 void PrintCommands::StampaGriglia() {
   const ListView& view = session_.view;
   const State& state = session_.document.Tables();
-  const int last =
-      view.Current() == View::Channels ? Routines::LastOccupied(state) : LastUsedTransponder(state);
-  Print(view.ListGrid(), last, WithSource(view.PrintHeading(), PathText(Base::FileName(state.InputFlash))));
+  const bool channels = view.Current() == View::Channels;
+  const auto rows =
+      AskRows(view.ListGrid(), channels ? Routines::LastOccupied(state) : LastUsedTransponder(state));
+  if (!rows) return;
+  const QString heading = WithSource(view.PrintHeading(), PathText(Base::FileName(state.InputFlash)));
+  const QAbstractItemModel& table = *view.ListGrid().model();
+  const PrintReport compact = channels ? CompactReportOf(table, *rows, heading) : PrintReport();
+  Preview(ReportOf(table, *rows, heading), channels ? &compact : nullptr);
 }
 
 void PrintCommands::StampaSDX() {
-  const int rows = static_cast<int>(session_.sdx.rows.size());
-  if (rows == 0) {
+  const int last = static_cast<int>(session_.sdx.rows.size());
+  if (last == 0) {
     session_.dialogs.Message("Canali SDX non caricati", {});
     return;
   }
-  Print(pane_.ListGrid(), rows, WithSource("Stampa SDX", pane_.Name()));
+  if (const auto rows = AskRows(pane_.ListGrid(), last))
+    Preview(ReportOf(*pane_.ListGrid().model(), *rows, WithSource("Stampa SDX", pane_.Name())));
+}
+
+void PrintCommands::StampaPreferiti() {
+  const State& state = session_.document.Tables();
+  const PrintReport report =
+      FavouritesReportOf(state, WithSource("Stampa Preferiti", PathText(Base::FileName(state.InputFlash))));
+  if (report.rows.isEmpty()) return session_.dialogs.Message("Nessun preferito da stampare", {});
+  Preview(report);
 }
 
 // One selected row is where the user is, more of them may be what is to be printed.
-void PrintCommands::Print(const Grid& grid, int lastRow, const QString& heading) {
+std::optional<Edit::Slots> PrintCommands::AskRows(const Grid& grid, int lastRow) {
   Edit::Slots rows = Edit::SlotRun(1, lastRow);
   const Edit::Slots selected = grid.Selected();
   if (selected.size() > 1) {
     const Answer answer = session_.dialogs.YesNoCancel(
         QString("Stampare solo le %1 righe selezionate?\nRispondere NO per stampare tutta la lista")
             .arg(selected.size()));
-    if (answer == Answer::Cancel) return;
+    if (answer == Answer::Cancel) return std::nullopt;
     if (answer == Answer::Yes) rows = selected;
   }
-  if (rows.empty()) {
-    session_.dialogs.Message("Nessuna riga da stampare", {});
-    return;
-  }
-  Preview(ReportOf(*grid.model(), rows, heading));
+  if (!rows.empty()) return rows;
+  session_.dialogs.Message("Nessuna riga da stampare", {});
+  return std::nullopt;
 }
 
 // The line for the status bar; empty where the file could not be written, which a box has told then.
@@ -99,30 +115,37 @@ QString PrintCommands::Save(const PrintReport& report, const std::string& path, 
 
 // A preview draws on the printer before anything is chosen there. Once the print dialog has named a file the drawing
 // goes where every PDF does, so that the file is whole and a refusal is told.
-void PrintCommands::Preview(const PrintReport& report) {
+void PrintCommands::Preview(const PrintReport& whole, const PrintReport* compact) {
   QPrinter printer(QPrinter::HighResolution);
   printer.setPageLayout(UsualPage());
-  printer.setDocName(report.heading);
+  printer.setDocName(whole.heading);
   QPrintPreviewDialog dialog(&printer, &window_);
   dialog.setObjectName("AnteprimaStampa");
-  dialog.setWindowTitle(report.heading);
+  dialog.setWindowTitle(whole.heading);
   ResizeOnScreen(dialog, {900, 660});
   QString result;
+  auto* shorter = new QCheckBox("Compatta: solo numero e nome, in più colonne", &dialog);
+  shorter->setObjectName("StampaCompatta");
+  shorter->setVisible(compact != nullptr);
+  dialog.layout()->addWidget(shorter);
+  const auto chosen = [&]() -> const PrintReport& { return shorter->isChecked() ? *compact : whole; };
   QObject::connect(&dialog, &QPrintPreviewDialog::paintRequested, &dialog, [&](QPrinter* to) {
     if (!to->outputFileName().isEmpty()) {
-      result = Save(report, PathBytes(to->outputFileName()), *to);
+      result = Save(chosen(), PathBytes(to->outputFileName()), *to);
       return;
     }
-    const auto pages = PrintPages(*to, report);
+    const auto pages = PrintPages(*to, chosen());
     result = pages ? PagesText(*pages) : QString("La stampa non è riuscita");
   });
+  QObject::connect(shorter, &QCheckBox::toggled, dialog.findChild<QPrintPreviewWidget*>(),
+                   &QPrintPreviewWidget::updatePreview);
   auto* save = dialog.findChild<QToolBar*>()->addAction(IconNamed("export"), "Salva come PDF");
   save->setObjectName("SalvaPdf");
   QObject::connect(save, &QAction::triggered, &dialog, [&] {
     const QString path =
         session_.dialogs.SaveFile({"Salva la stampa come PDF", "Documenti PDF (*.pdf)|*.pdf|", {}});
     if (path.isEmpty()) return;
-    result = Save(report, PathBytes(path), printer);
+    result = Save(chosen(), PathBytes(path), printer);
     if (!result.isEmpty()) dialog.accept();
   });
   MakeReachable(dialog);

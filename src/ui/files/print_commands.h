@@ -20,8 +20,11 @@ class PrintCommands {
  private:
   void StampaGriglia();
   void StampaSDX();
-  void Print(const Grid& grid, int lastRow, const QString& heading);
-  void Preview(const PrintReport& report);
+  void StampaPreferiti();
+  // The rows up to `lastRow`, or those selected; nothing where the user gives up or there are none.
+  std::optional<Edit::Slots> AskRows(const Grid& grid, int lastRow);
+  // With a compact report the user may choose between the two.
+  void Preview(const PrintReport& whole, const PrintReport* compact = nullptr);
   QString Save(const PrintReport& report, const std::string& path, const QPrinter& printer);
 
   Session& session_;

@@ -1,6 +1,9 @@
 #include "ui/files/print_report.h"
 
 #include "base/file.h"
+#include "base/text.h"
+#include "model/favourites.h"
+#include "ui/kit/text.h"
 
 #include <QAbstractItemModel>
 #include <QBuffer>
@@ -15,6 +18,8 @@ namespace Ui {
 namespace {
 
 constexpr const char* BetweenColumns = "  ";
+constexpr const char* BetweenRows = "   ";  // of one line
+constexpr qsizetype MostLetters = 120;      // of a line, to be read with ease on A4
 
 // Names may hold control characters, which would move what follows them.
 QString Printable(QString text) {
@@ -55,6 +60,27 @@ Column ColumnOf(const QAbstractItemModel& table, const Edit::Slots& rows, int nu
   return column;
 }
 
+// Gives rows that are to stand side by side one length, and a line of titles for as many as have room.
+PrintReport SideBySide(const QString& heading, QString title, QStringList rows) {
+  qsizetype width = title.size();
+  for (const QString& row : rows) width = std::max(width, row.size());
+  for (QString& row : rows) row = row.leftJustified(width);
+  const qsizetype gap = QString(BetweenRows).size();
+  const auto columns =
+      static_cast<int>(std::clamp<qsizetype>((MostLetters + gap) / (width + gap), 1, MostColumns));
+  PrintReport report{heading, title.leftJustified(width), std::move(rows), columns};
+  title = report.titles;
+  for (int column = 1; column < columns; ++column) report.titles += BetweenRows + title;
+  return report;
+}
+
+// The lines of a page whose rows stand side by side, down one column of `height` lines and then the next.
+QStringList LinesOf(const QStringList& rows, qsizetype height) {
+  QStringList lines = rows.mid(0, height);
+  for (qsizetype i = height; i < rows.size(); ++i) lines[i % height] += BetweenRows + rows[i];
+  return lines;
+}
+
 // The largest size at which a line fits the area's width, and the fewest lines of a page its height.
 QFont FittingFont(QPagedPaintDevice& device, QSize area, qsizetype widest) {
   QFont font("DejaVu Sans Mono");
@@ -88,7 +114,9 @@ void DrawPage(QPainter& painter, const QFont& font, double pitch, const QStringL
 }  // namespace
 
 PrintReport ReportOf(const QAbstractItemModel& table, const Edit::Slots& rows, const QString& heading) {
-  PrintReport report{heading, {}, QStringList(static_cast<qsizetype>(rows.size()))};
+  PrintReport report;
+  report.heading = heading;
+  report.rows = QStringList(static_cast<qsizetype>(rows.size()));
   for (int number = 0; number < table.columnCount(); ++number) {
     const Column column = ColumnOf(table, rows, number);
     const QString before = number == 0 ? "" : BetweenColumns;
@@ -98,15 +126,45 @@ PrintReport ReportOf(const QAbstractItemModel& table, const Edit::Slots& rows, c
   return report;
 }
 
+PrintReport CompactReportOf(const QAbstractItemModel& table, const Edit::Slots& rows,
+                            const QString& heading) {
+  const Column number = ColumnOf(table, rows, 0);
+  const Column name = ColumnOf(table, rows, 1);
+  QStringList lines;
+  for (qsizetype row = 0; row < number.cells.size(); ++row)
+    lines += number.cells[row].rightJustified(number.width) + " " + name.cells[row].trimmed();
+  return SideBySide(heading, QString("Nr.").leftJustified(number.width) + " " + name.title, std::move(lines));
+}
+
+PrintReport FavouritesReportOf(const Routines::State& state, const QString& heading) {
+  QStringList lines;
+  for (std::size_t list = 0; list < Routines::FavouriteLists; ++list) {
+    const std::vector<int> entries = Routines::FavouriteEntriesOf(state.FavouritesBlock, list);
+    if (entries.empty()) continue;
+    if (!lines.empty()) lines += "";
+    const QString title = Printable(Text(Routines::FavouritesTitle(state.FavouritesBlock, list)));
+    lines += QString("Lista %1: %2 (%3)").arg(list + 1).arg(title).arg(entries.size());
+    for (std::size_t place = 0; place < entries.size(); ++place) {
+      const bool channel = entries[place] <= Routines::LastChannelSlot;
+      const QString name =
+          channel ? Printable(CodePageText(Base::TrimmedRight(state.Channel(entries[place]).Name())))
+                  : QString();
+      lines += QString("%1  %2 %3").arg(place + 1, 3).arg(Text(Base::ZeroPadded(entries[place], 4)), name);
+    }
+  }
+  return SideBySide(heading, "Posto e canale", std::move(lines));
+}
+
 std::vector<QStringList> PagesOf(const PrintReport& report, int linesPerPage) {
-  const qsizetype rowsPerPage = linesPerPage - PageHeadLines;
+  const qsizetype height = linesPerPage - PageHeadLines;
+  const qsizetype rowsPerPage = height * report.columns;
   const qsizetype count = (report.rows.size() + rowsPerPage - 1) / rowsPerPage;
   std::vector<QStringList> pages;
   for (qsizetype page = 0; page < count; ++page) {
-    const QString number = QString("Pagina %1 di %2").arg(page + 1).arg(count);
+    const QString number = report.date + QString("  Pagina %1 di %2").arg(page + 1).arg(count);
     const qsizetype room = std::max<qsizetype>(report.titles.size() - number.size(), 1);
     QStringList lines = {report.heading.leftJustified(room - 1, ' ', true) + " " + number, "", report.titles};
-    pages.push_back(lines + report.rows.mid(page * rowsPerPage, rowsPerPage));
+    pages.push_back(lines + LinesOf(report.rows.mid(page * rowsPerPage, rowsPerPage), height));
   }
   return pages;
 }

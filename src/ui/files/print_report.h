@@ -4,6 +4,7 @@
 #include "base/result.h"
 #include "edit/list_operations.h"
 
+#include <QDate>
 #include <QPageLayout>
 #include <QPageRanges>
 #include <QString>
@@ -21,11 +22,21 @@ struct PrintReport {
   QString heading;
   QString titles;    // of the columns
   QStringList rows;  // none longer than the titles' line
+  int columns =
+      1;  // of rows, side by side on a page; rows and titles are of one length where there are several
+  QString date = QDate::currentDate().toString("dd/MM/yyyy");  // of printing
 };
 
 // Rows of a table, counted from 1, in columns as wide as their texts. Columns that are centred on the screen have
 // their texts flush right, so that digits stand below digits.
 PrintReport ReportOf(const QAbstractItemModel& table, const Edit::Slots& rows, const QString& heading);
+
+// Number and name alone, the table's first two columns, in as many columns of the page as their lengths let be.
+inline constexpr int MostColumns = 5;
+PrintReport CompactReportOf(const QAbstractItemModel& table, const Edit::Slots& rows, const QString& heading);
+
+// The favourites lists that name any channel, one after the other: place, number and name of each.
+PrintReport FavouritesReportOf(const Routines::State& state, const QString& heading);
 
 // The lines of each page: heading and page number, a blank line, the titles, then rows.
 inline constexpr int PageHeadLines = 3;

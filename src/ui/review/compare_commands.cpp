@@ -3,11 +3,12 @@
 #include "base/file.h"
 #include "formats/csv_reader.h"
 #include "formats/foreign_text.h"
-#include "formats/list_format.h"
+#include "formats/order_list.h"
 #include "model/favourites.h"
 #include "ui/kit/text.h"
 #include "ui/review/compare_window.h"
 #include "ui/session/lines_window.h"
+#include "ui/session/order_file.h"
 
 #include <QMainWindow>
 
@@ -107,25 +108,11 @@ QString CompareCommands::Title(std::size_t list) const {
 }
 
 void CompareCommands::OrderByFile() {
-  const std::string path = session_.AskOpen("Selezionare l'elenco",
-                                            "Elenchi e liste(*.txt *.conf *.tv *.radio *.dat)|*.txt *.conf "
-                                            "*.tv *.radio *.dat|Tutti i file (*.*)|*.*|",
-                                            FolderKind::Foreign);
-  if (path.empty()) return;
-  session_.RememberFolder(FolderKind::Foreign, path);
-  const auto bytes = session_.Read(path);
-  if (!bytes) return;
-  const QString file = PathText(Base::FileName(path));
-  Routines::Order order = Formats::OrderInFile(*bytes);
-  if (order.entries.empty()) {
-    session_.dialogs.Message(file + " non è un elenco di canali", {});
-    return;
-  }
-  const int unreadable = order.unreadable;
-  Compare(OtherSide(std::move(order), file));
-  if (unreadable > 0)
-    session_.status.ShowResult(file + ": " +
-                               Counted(unreadable, "riga non è un canale", "righe non sono canali"));
+  auto file = AskOrder(session_);
+  if (!file) return;
+  const QString unreadable = UnreadableIn(*file);
+  Compare(OtherSide(std::move(file->order), file->name));
+  if (!unreadable.isEmpty()) session_.status.ShowResult(unreadable);
 }
 
 void CompareCommands::SalvaOrdine() {

@@ -1,9 +1,11 @@
 #include "ui/review/duplicates_window.h"
 
 #include "base/text.h"
+#include "formats/source_names.h"
 #include "model/cells.h"
 #include "model/favourites.h"
 #include "ui/kit/flow_layout.h"
+#include "ui/kit/menu_letters.h"
 #include "ui/kit/screen_fit.h"
 #include "ui/kit/text.h"
 #include "ui/session/set_commands.h"
@@ -12,6 +14,7 @@
 #include <QHeaderView>
 #include <QLabel>
 #include <QMainWindow>
+#include <QMenu>
 #include <QPushButton>
 #include <QTreeWidget>
 #include <QVBoxLayout>
@@ -87,7 +90,7 @@ DuplicatesWindow::DuplicatesWindow(Session& session, const Review::DuplicateRule
   column->addWidget(counts_);
   column->addLayout(Buttons());
   ResizeOnScreen(*this, {760, 480});
-  setTabOrder(name_, tree_);
+  setTabOrder(bareName_, tree_);
   setTabOrder(tree_, goTo_);
 
   connect(&session.document, &Document::Changed, this, &DuplicatesWindow::Refresh);
@@ -110,21 +113,67 @@ QWidget* DuplicatesWindow::RuleBoxes(const Review::DuplicateRules& rules) {
   service_ = add("StessoServizio", "Stesso servizio (satellite, TID, NID, SID)", rules.service);
   streams_ = add("StessiPID", "Stesso transponder, SID e PID", rules.streams);
   name_ = add("StessoNome", "Stesso nome", rules.name);
+  bareName_ = add("StessoNomeBase", "Stesso nome senza HD, SD, +1", rules.bareName);
   return box;
 }
 
 QLayout* DuplicatesWindow::Buttons() {
   auto* left = new FlowLayout;
   goTo_ = AddButton(*left, "VaiAlDoppio", "Vai al canale", [this] { GoTo(tree_->currentItem()); });
+  keep_ = AddButton(*left, "TieniDoppi", "Tieni");
+  keep_->setMenu(KeepMenu());
   deleteChosen_ =
       AddButton(*left, "EliminaScelti", "Elimina scelti", [this] { DeleteChannels(session_, Chosen()); });
   deactivate_ = AddButton(*left, "DisattivaScelti", "Disattiva scelti",
                           [this] { DeactivateChannels(session_, Chosen()); });
-  deleteOthers_ = AddButton(*left, "EliminaTranneIlPrimo", "Elimina tutti tranne il primo", [this] {
-    DeleteChannels(session_, Review::Surplus(session_.document.Tables(), Rules(), groups_));
-  });
+  deleteOthers_ = AddButton(*left, "EliminaTranneIlPrimo", "Elimina tutti tranne il primo",
+                            [this] { DeleteChannels(session_, Edit::Slots(surplus_)); });
   select_ = AddButton(*left, "SelezionaDoppi", "Seleziona i trovati", [this] { SelectFound(); });
   return WithClose(left, "ChiudiDoppi");
+}
+
+// What stays in each group; all others that are the same are ticked, to be looked at and deleted or not.
+QMenu* DuplicatesWindow::KeepMenu() {
+  using Review::KeepBy;
+  auto* menu = new QMenu(keep_);
+  MenuLetters::Follow(*menu);
+  const auto add = [&](const char* name, const char* caption, const auto& surplus) {
+    QAction* action = menu->addAction(caption, this, [this, surplus] { Propose(surplus()); });
+    action->setObjectName(name);
+    return action;
+  };
+  const auto byRank = [this](const Routines::PerChannel<int>& ranks) {
+    return Review::SurplusByRank(session_.document.Tables(), Rules(), groups_, ranks);
+  };
+  add("TieniPrimo", "Il primo", [this] { return surplus_; });
+  for (const auto& [name, caption, by] : {std::tuple("TieniAttivo", "Quello attivo", KeepBy::Active),
+                                          {"TieniPreferito", "Quello nei preferiti", KeepBy::Favourite},
+                                          {"TieniInChiaro", "Quello senza codifica", KeepBy::Free}}) {
+    add(name, caption, [this, byRank, keepBy = by] {
+      return byRank(Review::KeepRanks(session_.document.Tables(), keepBy));
+    });
+  }
+  keepNewest_ = add("TieniNuovo", "Il più recente (dalla lista a destra)", [this, byRank] {
+    return byRank(Formats::RanksBySource(session_.sdx, session_.document.Tables()));
+  });
+  connect(menu, &QMenu::aboutToShow, this, [this] {
+    keepNewest_->setEnabled(!session_.sdx.rows.empty() && !session_.sdx.lacking.Has(Routines::SdxField::Sid));
+  });
+  return menu;
+}
+
+void DuplicatesWindow::Propose(const std::vector<int>& slots) {
+  {
+    const QSignalBlocker quiet(tree_);
+    for (std::size_t i = 0; i < groups_.size(); ++i) {
+      QTreeWidgetItem& head = *tree_->topLevelItem(static_cast<int>(i));
+      for (std::size_t k = 0; k < groups_[i].size(); ++k) {
+        const bool goes = std::find(slots.begin(), slots.end(), groups_[i][k]) != slots.end();
+        head.child(static_cast<int>(k))->setCheckState(0, goes ? Qt::Checked : Qt::Unchecked);
+      }
+    }
+  }
+  TellCounts();
 }
 
 void DuplicatesWindow::SetUpTree() {
@@ -146,7 +195,7 @@ void DuplicatesWindow::SetUpTree() {
 }
 
 Review::DuplicateRules DuplicatesWindow::Rules() const {
-  return {service_->isChecked(), streams_->isChecked(), name_->isChecked()};
+  return {service_->isChecked(), streams_->isChecked(), name_->isChecked(), bareName_->isChecked()};
 }
 
 // Ticks stay on channels that are unchanged, wherever these have moved.
@@ -154,6 +203,8 @@ void DuplicatesWindow::Refresh() {
   const State& state = session_.document.Tables();
   const Rows earlier = RowsByChannel();
   groups_ = Review::FindDuplicates(state, Rules());
+  surplus_ = Review::Surplus(state, Rules(), groups_);
+  std::sort(surplus_.begin(), surplus_.end());
   std::vector<std::vector<ChannelRecord>> channels;
   for (const auto& group : groups_) {
     auto& records = channels.emplace_back();
@@ -273,7 +324,8 @@ void DuplicatesWindow::TellCounts() {
                                          Counted(channels, "canale", "canali") + ", " +
                                          Counted(chosen, "scelto", "scelti"));
   goTo_->setEnabled(!groups_.empty());
-  deleteOthers_->setEnabled(!groups_.empty());
+  keep_->setEnabled(!groups_.empty());
+  deleteOthers_->setEnabled(!surplus_.empty());
   select_->setEnabled(!groups_.empty());
   deleteChosen_->setEnabled(chosen > 0);
   deactivate_->setEnabled(chosen > 0);

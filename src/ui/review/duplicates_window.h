@@ -7,8 +7,10 @@
 
 #include <map>
 
+class QAction;
 class QCheckBox;
 class QLabel;
+class QMenu;
 class QTreeWidget;
 class QTreeWidgetItem;
 
@@ -26,6 +28,9 @@ class DuplicatesWindow : public ToolWindow {
  private:
   QWidget* RuleBoxes(const Review::DuplicateRules& rules);
   QLayout* Buttons();
+  QMenu* KeepMenu();
+  // Ticks these and no others.
+  void Propose(const std::vector<int>& slots);
   void SetUpTree();
 
   // A channel's row in the tree, and what the user did there.
@@ -54,13 +59,17 @@ class DuplicatesWindow : public ToolWindow {
 
   Session& session_;
   Groups groups_;
+  std::vector<int> surplus_;                                 // all but the first of what is the same
   std::vector<std::vector<Routines::ChannelRecord>> shown_;  // the channels of the groups in the tree
   QCheckBox* service_;
   QCheckBox* streams_;
   QCheckBox* name_;
+  QCheckBox* bareName_;
   QTreeWidget* tree_;
   QLabel* counts_;
   QPushButton* goTo_;
+  QPushButton* keep_;
+  QAction* keepNewest_ = nullptr;
   QPushButton* deleteChosen_;
   QPushButton* deleteOthers_;
   QPushButton* deactivate_;

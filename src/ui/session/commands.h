@@ -51,6 +51,8 @@ inline constexpr Command Commands[] = {
     {"SalvaCopiaNuova", "Salva una copia nuova…", Menu::File, "", "",
      "Scrive la lista in un'immagine nuova, fatta dalla flash aperta",
      Gate(Enabled::WithList, Need::OpenedFlash, Need::Settings)},
+    {"StampaPreferiti", "Stampa Preferiti", Menu::File, "print", "", "Stampa le liste dei preferiti",
+     Gate(Enabled::WithFavourites, Need::List), Group},
     {"Fine", "Fine", Menu::File, "exit", "",
      "Chiude il programma; le modifiche non salvate vengono offerte al prossimo avvio", Gate(), Group},
 

@@ -1,6 +1,8 @@
 // The window of the favourites lists.
 #include "ui/window_fixture.h"
 
+#include <fstream>
+
 namespace Ui {
 
 class FavouritesLists : public SmallWindow {
@@ -45,6 +47,41 @@ TEST_F(FavouritesLists, TakeChannelsByKeyAndDroppingAndKeepTheirNames) {
   EXPECT_EQ(Action("Annulla").text(), "Annulla: Rinominata Sport in Città");
   Click(*second, second->model()->index(2, 0), true);
   EXPECT_EQ(driver_->Grid().Selected().front(), 5);
+}
+
+TEST_F(FavouritesLists, TakeWhatIsFoundOrListedAndGiveTheChannelsTheirOrder) {
+  ASSERT_TRUE(driver_->Choose("VisualizzaPreferiti"));
+  Click("AggiungiTrovati");
+  EXPECT_EQ(Said(), "Nessun canale trovato: il filtro sopra la griglia dice quali cercare");
+  window_->findChild<QLineEdit*>("Filtro")->setText("d");
+  QTest::qWait(1);
+  const auto expect = [this](const QString& title, const QString& outcome, bool take) {
+    driver_->ExpectDialog(title, [outcome, take](QDialog& dialog) {
+      EXPECT_EQ(dialog.findChild<QLabel*>("Esito")->text().toStdString(), outcome.toStdString());
+      EXPECT_TRUE(dialog.findChild<QAbstractButton*>("Command1")->isEnabled());
+      take ? dialog.accept() : dialog.reject();
+    });
+  };
+  expect("Aggiungi a Cinema", "Da aggiungere a Cinema: 6 canali; 9 di 128 posti occupati", true);
+  Click("AggiungiTrovati");
+  EXPECT_EQ(Entries(0), (std::vector{2, 3, 5, 6, 8, 9, 10, 11, 12}));
+  EXPECT_EQ(Said(), "Aggiunti 6 canali a Cinema: Città HD, Radio Otto, Radio Nove…, 1 c'era già");
+
+  const std::string file = folder_.Write("elenco.txt", Base::Bytes());
+  std::ofstream(file) << "Sette\nManca\nDati\nUno\n";
+  driver_->ExpectFile("Selezionare l'elenco", PathText(file));
+  expect("Aggiungi a Cinema", "Da aggiungere a Cinema: 2 canali; 11 di 128 posti occupati; non in lista: 1",
+         true);
+  Click("AggiungiDaElenco");
+  EXPECT_EQ(Entries(0), (std::vector{2, 3, 5, 6, 8, 9, 10, 11, 12, 7, 1}));
+
+  expect("Ordina come Cinema", "11 canali cambiano posto", false);
+  Click("OrdinaComePreferiti");
+  expect("Metti in testa Cinema", "11 canali cambiano posto", true);
+  Click("PreferitiInTesta");
+  EXPECT_EQ(Names(1, 12), "Due,Tre,Cinque,Città HD,Radio Otto,Radio Nove,Dati,due,Dodici,Sette,Uno,");
+  EXPECT_EQ(Entries(0), (std::vector{1, 2, 3, 4, 5, 6, 7, 8, 9, 10, 11}));
+  EXPECT_EQ(Action("Annulla").text(), "Annulla: Messa in testa alla lista Cinema");
 }
 
 }  // namespace Ui

@@ -68,6 +68,37 @@ TEST(Printing, EveryRowIsOnItsPageWhateverThePaper) {
   EXPECT_TRUE(PagesIn(path).size() == 1 && PagesIn(path)[0][0].endsWith("Pagina 2 di 4"));
 }
 
+TEST(Printing, ACompactListTakesFewPagesAndReadsDownItsColumns) {
+  Document document;
+  document.Adjust([](Routines::State& state) {
+    state.ChannelCount = Routines::LastChannelSlot;
+    for (int slot = 1; slot <= state.ChannelCount; ++slot)
+      state.Channel(slot) = Samples::MakeChannel("Sedici lettere %", 1, 7, 8, 9);
+    Routines::SetFavouriteEntries(state.FavouritesBlock = Base::Bytes(Routines::NormalFavouritesSize), 3,
+                                  {7, 5000, 12});
+  });
+  const ListModel model(document, ListModel::Channels, nullptr);
+  const Tests::TestFolder folder;
+  const std::string path = folder.Path("lista.pdf");
+  const PrintReport report = CompactReportOf(model, Edit::SlotRun(1, 3996), "Canali - lista.dat");
+  EXPECT_LE(*SavePdf(report, path), 12);
+  const auto pages = PagesIn(path);
+  EXPECT_TRUE(pages[0][0].contains(QDate::currentDate().toString("dd/MM/yyyy"))) << qPrintable(pages[0][0]);
+  QStringList seen;
+  for (const QStringList& page : pages)
+    for (int column = 0; column < 5; ++column)
+      for (const QString& line : page.mid(2))
+        if (const QString cell = line.simplified().section(" %", column, column); !cell.isEmpty())
+          seen += cell.trimmed().left(4);
+  ASSERT_EQ(seen.size(), 3996);
+  EXPECT_TRUE(std::is_sorted(seen.begin(), seen.end())) << "down one column, then the next";
+  ASSERT_TRUE(SavePdf(FavouritesReportOf(document.Tables(), "Preferiti"), path));
+  QStringList lists;
+  for (const QString& line : PagesIn(path)[0].mid(2)) lists += line.simplified();
+  EXPECT_EQ(lists, (QStringList{"Lista 4: lista 4 (3)", "1 0007 Sedici lettere %", "2 5000",
+                                "3 0012 Sedici lettere %"}));
+}
+
 class PrintingWindow : public SmallWindow {
  protected:
   // Saves the preview as a PDF.
@@ -98,6 +129,21 @@ TEST_F(PrintingWindow, TheListShownOrItsSelectedRows) {
   driver_->Key(Qt::Key_P, Qt::ControlModifier);
   EXPECT_EQ(Rows().size(), 3);
   EXPECT_TRUE(Rows()[0].startsWith("0003") && Rows()[2].startsWith("0009"));
+}
+
+TEST_F(PrintingWindow, CompactIsAChoiceInThePreviewAndFavouritesHaveTheirOwn) {
+  driver_->ExpectDialog("Stampa Canali - lista.dat", [](QDialog& preview) {
+    preview.findChild<QCheckBox*>("StampaCompatta")->click();
+    preview.findChild<QAction*>("SalvaPdf")->trigger();
+  });
+  driver_->ExpectFile("Salva la stampa come PDF", PathText(pdf_));
+  ASSERT_TRUE(driver_->Choose("StampaGriglia"));
+  EXPECT_EQ(Rows()[0].simplified(), "0001 Uno");
+  ASSERT_TRUE(driver_->Choose("VisualizzaPreferiti"));
+  ExpectPdf("Stampa Preferiti - lista.dat");
+  Click("StampaListe");
+  EXPECT_EQ(Rows().size(), 6) << "two lists with their titles";
+  EXPECT_EQ(Rows()[0].simplified(), "Lista 1: Cinema (3)");
 }
 
 TEST_F(PrintingWindow, AFileThatThePrintDialogNamesNeedsNoPrinter) {

@@ -60,6 +60,22 @@ TEST_F(Duplicates, TicksStayWithTheirChannels) {
   EXPECT_FALSE(found_->findChild<QPushButton*>("EliminaTranneIlPrimo")->isEnabled());
 }
 
+TEST_F(Duplicates, TicksAreProposedAndNothingElseHappens) {
+  Row(0, 0).setCheckState(0, Qt::Checked);
+  found_->findChild<QAction*>("TieniPreferito")->trigger();
+  EXPECT_EQ(Counts(), "3 gruppi, 6 canali, 2 scelti") << "the first is in no list, nor is its copy";
+  EXPECT_EQ(Row(1, 1).checkState(0), Qt::Checked);
+  EXPECT_EQ(Row(1, 0).checkState(0), Qt::Unchecked);
+  found_->findChild<QAction*>("TieniPrimo")->trigger();
+  EXPECT_EQ(Counts(), "3 gruppi, 6 canali, 3 scelti");
+  EXPECT_EQ(Routines::UsedChannels(List()), 14);
+  for (const char* rule : {"StessoServizio", "StessiPID", "StessoNomeBase"})
+    found_->findChild<QCheckBox*>(rule)->click();
+  EXPECT_EQ(Row(0, 1).text(0), "0006");
+  EXPECT_FALSE(found_->findChild<QPushButton*>("EliminaTranneIlPrimo")->isEnabled())
+      << "only to be looked at";
+}
+
 TEST_F(Duplicates, AllButTheFirstGoAndFavouritesAreTold) {
   EXPECT_EQ(Row(1, 0).text(6), "Cinema");
   Click("EliminaTranneIlPrimo");

@@ -224,6 +224,10 @@ TEST_P(EveryWindow, EveryDialog) {
   driver_->SelectRows(1, 3);
   CheckBox("StampaGriglia", "Trovalis");
   CheckBox("ImpostaTransponder", "Trovalis");
+  for (const auto& [command, title] :
+       {std::pair{"CambiaNomi", "Cambia nomi"}, std::pair{"ImpostaCampi", "Imposta"},
+        std::pair{"OrdinaCanali", "Ordina Canali"}})
+    CheckBox(command, title);
 
   const std::string ini = folder_.Write("lista.ini", "[DVB]\n1=11766,V,22000,34\n");
   driver_->ExpectFile("Selezionare l'elenco di transponder", PathText(ini));

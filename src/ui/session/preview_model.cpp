@@ -1,4 +1,4 @@
-#include "ui/edit/preview_model.h"
+#include "ui/session/preview_model.h"
 
 #include "base/text.h"
 #include "ui/kit/screen_fit.h"
@@ -15,6 +15,20 @@
 #include <algorithm>
 
 namespace Ui {
+
+std::vector<PreviewLine> LinesOf(const Routines::State& state, const Routines::SlotMap& map,
+                                 const std::vector<int>& slots) {
+  std::vector<PreviewLine> lines;
+  for (const int slot : slots) {
+    if (map[slot] == 0 || state.Channel(slot).Empty()) continue;
+    const QString name = CodePageText(Base::TrimmedRight(state.Channel(slot).Name()));
+    const bool stays = map[slot] == slot;
+    lines.push_back({map[slot], {name, stays ? QString() : QString::number(slot)}, {}});
+  }
+  std::sort(lines.begin(), lines.end(),
+            [](const PreviewLine& one, const PreviewLine& other) { return one.slot < other.slot; });
+  return lines;
+}
 
 PreviewModel::PreviewModel(QStringList titles, bool ticks, QObject* parent)
     : QAbstractTableModel(parent), titles_(std::move(titles)), ticks_(ticks) {}
@@ -61,7 +75,8 @@ QVariant PreviewModel::data(const QModelIndex& index, int role) const {
   const bool number = index.column() == 0;
   switch (role) {
     case Qt::DisplayRole:
-      return number ? Text(Base::ZeroPadded(line.slot, 4)) : line.cells[index.column() - 1];
+      if (!number) return line.cells[index.column() - 1];
+      return line.slot == 0 ? QString() : Text(Base::ZeroPadded(line.slot, 4));
     case Qt::CheckStateRole:
       return number && ticks_ ? QVariant(Ticked(place) ? Qt::Checked : Qt::Unchecked) : QVariant();
     case Qt::BackgroundRole:

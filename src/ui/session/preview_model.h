@@ -1,6 +1,8 @@
 // What a command for many channels would do, a line for each, before it does it.
 #pragma once
 
+#include "model/per_slot.h"
+
 #include <QAbstractTableModel>
 #include <QStringList>
 
@@ -14,10 +16,14 @@ class QTableView;
 namespace Ui {
 
 struct PreviewLine {
-  int slot = 0;
+  int slot = 0;       // 0 for what has none
   QStringList cells;  // those behind the number
   QString fault;      // why the line cannot be done; empty where it can
 };
+
+// The channels of `slots` where a map puts them: number to be, name, number now where that is another one.
+std::vector<PreviewLine> LinesOf(const Routines::State& state, const Routines::SlotMap& map,
+                                 const std::vector<int>& slots);
 
 class PreviewModel : public QAbstractTableModel {
   Q_OBJECT
