@@ -79,7 +79,20 @@ class Maker {
     if (IsCircular(transponder.polarisation)) return Drop::Circular;
     if (transponder.polarisation == Polarisation::Unknown) return Drop::BadPolarisation;
     if (Rounded(transponder.symbolRate) > LargestRate) return Drop::SymbolRate;
-    return TakeSatellite(transponder) ? std::nullopt : std::optional(Drop::Satellite);
+    if (!TakeSatellite(transponder)) return Drop::Satellite;
+    Tune(transponder);
+    return std::nullopt;
+  }
+
+  // What the rows of the transponder share.
+  void Tune(const ListedTransponder& transponder) {
+    tuned_ = {};
+    tuned_.satellite = satellite_;
+    tuned_.frequency.Append("0").Append(Digits(megahertz_));
+    tuned_.highBand = megahertz_ >= 11700;
+    tuned_.horizontal = transponder.polarisation == Polarisation::Horizontal;
+    if (transponder.symbolRate > 0) tuned_.symbolRate = RateText(Rounded(transponder.symbolRate));
+    tuned_.fec = FecDigit(transponder.fec);
   }
 
   bool TakeSatellite(const ListedTransponder& transponder) {
@@ -115,18 +128,18 @@ class Maker {
     const int apid = std::max(service.apid, 0);
     if (options_.LeavesOut(satellite_, service.transponder.tid, service.sid, apid)) return Drop::Filter;
     if (!HasPids(service)) {
-      Fill(table_.others.emplace_back(), service);
+      Fill(table_.others.emplace_back(tuned_), service);
       return Drop::NoPid;
     }
     table_.full = table_.rows.size() >= options_.most;
-    if (!table_.full) Fill(table_.rows.emplace_back(), service);
+    if (!table_.full) Fill(table_.rows.emplace_back(tuned_), service);
     return std::nullopt;
   }
 
   void Fill(SdxRow& row, const ListedService& service) const {
     row.name = service.name;
     row.type = TypeOf(service);
-    FillTransponder(row, service.transponder);
+    FillIds(row, service.transponder);
     row.vpid = row.type == 'R' ? SdxRow::Number(Absent) : PidText(service.vpid);
     row.apid = PidText(service.apid);
     row.pcr = PidText(service.pcr > 0 ? service.pcr : row.type == 'R' ? service.apid : service.vpid);
@@ -134,13 +147,7 @@ class Maker {
     row.codifica = codifica_;
   }
 
-  void FillTransponder(SdxRow& row, const ListedTransponder& transponder) const {
-    row.satellite = satellite_;
-    row.frequency.Append("0").Append(Digits(megahertz_));
-    row.highBand = megahertz_ >= 11700;
-    row.horizontal = transponder.polarisation == Polarisation::Horizontal;
-    if (transponder.symbolRate > 0) row.symbolRate = RateText(Rounded(transponder.symbolRate));
-    row.fec = FecDigit(transponder.fec);
+  static void FillIds(SdxRow& row, const ListedTransponder& transponder) {
     if (transponder.nid != NotSaid) row.nid = Digits(transponder.nid);
     const SdxRow::Number tid = Digits(std::max(transponder.tid, 0));
     row.tid.Append(NoStream.substr(std::string_view(tid).size())).Append(tid);
@@ -157,6 +164,7 @@ class Maker {
   const ListOptions& options_;
   std::bitset<256> codings_;
   SdxTable table_;
+  SdxRow tuned_;  // the transponder at hand
   // Of the service at hand.
   int megahertz_ = 0;
   int satellite_ = 0;

@@ -59,9 +59,9 @@ constexpr bool WithinThreeMHz(double one, double other) { return one - 3 < other
 
 // `megahertz` is the other one's frequency, which a list may give more exactly than its record does.
 constexpr bool SameTransponder(const TransponderRecord& one, const TransponderRecord& other, int megahertz) {
-  return WithinThreeMHz(FrequencyMHz(one), megahertz) &&
+  return Get(one, TransponderField::Satellite) == Get(other, TransponderField::Satellite) &&
          Get(one, TransponderField::Horizontal) == Get(other, TransponderField::Horizontal) &&
-         Get(one, TransponderField::Satellite) == Get(other, TransponderField::Satellite);
+         WithinThreeMHz(FrequencyMHz(one), megahertz);
 }
 
 constexpr bool SameTransponder(const TransponderRecord& one, const TransponderRecord& other) {

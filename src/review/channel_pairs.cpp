@@ -1,9 +1,11 @@
 #include "review/channel_pairs.h"
 
+#include "base/short_text.h"
 #include "base/text.h"
 
-#include <string>
+#include <array>
 #include <unordered_map>
+#include <utility>
 
 namespace Review {
 namespace {
@@ -55,12 +57,20 @@ struct Side {
   Classes classes;
 };
 
-void Append(std::string& key, std::uint32_t value) {
-  for (const unsigned shift : {0U, 8U, 16U}) key += static_cast<char>(value >> shift & 255U);
+using Key = Base::ShortText<ChannelRecord::Size + 3>;
+
+struct Hash {
+  std::size_t operator()(const Key& key) const { return std::hash<std::string_view>{}(key); }
+};
+
+void Append(Key& key, std::uint32_t value) {
+  const std::array<char, 3> bytes = {static_cast<char>(value & 255U), static_cast<char>(value >> 8U & 255U),
+                                     static_cast<char>(value >> 16U & 255U)};
+  key.Append({bytes.data(), bytes.size()});
 }
 
 // Appends what the channel's stream is known by; false where it is known by nothing.
-bool AppendStream(std::string& key, const TransponderRecord& record, By by) {
+bool AppendStream(Key& key, const TransponderRecord& record, By by) {
   const std::uint32_t tid = Get(record, TransponderField::Tid);
   const std::uint32_t nid = by == By::ServiceWithoutNid ? 0 : Get(record, TransponderField::Nid);
   if (tid == 0 && nid == 0) return false;
@@ -69,10 +79,10 @@ bool AppendStream(std::string& key, const TransponderRecord& record, By by) {
 }
 
 // Empty where the channel cannot be known that way.
-std::string KeyOf(const Side& side, const OtherChannel& channel, By by) {
+Key KeyOf(const Side& side, const OtherChannel& channel, By by) {
   const auto transponder =
       static_cast<std::uint32_t>(side.classes[static_cast<std::size_t>(channel.transponder)]);
-  std::string key;
+  Key key;
   if (by == By::Contents) {
     ChannelRecord contents = channel.record;
     Set(contents, ChannelField::Transponder, 0);
@@ -93,21 +103,26 @@ bool Waits(const OtherChannel& channel, By by) {
 }
 
 void PairChannels(const Side& here, const Side& there, Pairs& pairs, By by) {
-  std::unordered_map<std::string, std::vector<int>> waiting;  // from the last one of the list on
+  // By key the lowest number, and for each number the next higher one of the same key; 0 for none.
+  std::unordered_map<Key, int, Hash> waiting;
+  std::vector<int> next(there.list.channels.size());
+  waiting.reserve(next.size());
   for (int number = there.list.Count(); number >= 1; --number) {
     const OtherChannel& channel = there.list.At(number);
     if (pairs.here[static_cast<std::size_t>(number)] != 0 || !Waits(channel, by)) continue;
-    const std::string key = KeyOf(there, channel, by);
-    if (!key.empty()) waiting[key].push_back(number);
+    const Key key = KeyOf(there, channel, by);
+    if (std::string_view(key).empty()) continue;
+    int& lowest = waiting[key];
+    next[static_cast<std::size_t>(number)] = std::exchange(lowest, number);
   }
   for (int slot = 1; slot <= here.list.Count() && !waiting.empty(); ++slot) {
     const OtherChannel& channel = here.list.At(slot);
     if (channel.record.Empty() || pairs.there[slot] != 0) continue;
     const auto found = waiting.find(KeyOf(here, channel, by));
-    if (found == waiting.end() || found->second.empty()) continue;
-    pairs.there[slot] = found->second.back();
-    pairs.here[static_cast<std::size_t>(found->second.back())] = slot;
-    found->second.pop_back();
+    if (found == waiting.end() || found->second == 0) continue;
+    pairs.there[slot] = found->second;
+    pairs.here[static_cast<std::size_t>(found->second)] = slot;
+    found->second = next[static_cast<std::size_t>(found->second)];
   }
 }
 
