@@ -21,6 +21,7 @@
 #include <QMessageBox>
 #include <QPushButton>
 #include <QScreen>
+#include <QSpinBox>
 #include <QTableView>
 #include <QTest>
 #include <QTreeView>
@@ -56,6 +57,7 @@ class Session {
     TurnDark();
     MoveRows();
     EditCells();
+    SetMany();
     ArrangeFavourites();
     CompareWithDisk();
     RemoveDuplicates();
@@ -226,6 +228,19 @@ class Session {
     auto* menu = window_->findChild<QMenu*>("MenuCanali");
     Step("channel menu", menu->isVisible(), QString("%1 items").arg(menu->actions().size()));
     menu->close();
+  }
+
+  // Another coding and other SIDs for some rows are only looked at.
+  void SetMany() {
+    driver_->SelectRows(4, 18);
+    driver_->ExpectDialog("Imposta", [this](QDialog& dialog) {
+      dialog.findChild<QComboBox*>("NuovaCodifica")->setCurrentText("24 Seca");
+      dialog.findChild<QSpinBox*>("SommaSID")->setValue(-3403);
+      Step("set many", dialog.findChild<QTableView*>("ValoriNuovi")->model()->rowCount() == 15,
+           dialog.findChild<QLabel*>("Esito")->text());
+      dialog.reject();
+    });
+    driver_->Choose("ImpostaCampi");
   }
 
   void ArrangeFavourites() {

@@ -63,6 +63,7 @@ std::string BytesOf(std::string_view utf8) {
 
 std::string Shown(std::string_view bytes) {
   constexpr std::string_view Replacement = "\xEF\xBF\xBD";
+  if (bytes.find(Lacking) == std::string_view::npos) return Base::ToUtf8(bytes);
   std::string utf8;
   for (const char byte : bytes) utf8 += byte == Lacking ? std::string(Replacement) : Base::ToUtf8({&byte, 1});
   return utf8;
@@ -187,10 +188,14 @@ std::string FaultOf(const std::string& after) {
   return name->empty() ? "Un canale senza nome sarebbe un posto vuoto" : "";
 }
 
-NewName Renamed(int slot, std::string_view before, const std::vector<Change>& changes) {
+std::string Changed(int slot, std::string_view before, const std::vector<Change>& changes) {
   std::string name(before);
   for (const Change& change : changes) name = change(name, slot).substr(0, MostBytes);
-  name = Base::TrimmedRight(name);
+  name.resize(Base::TrimmedRight(name).size());
+  return name;
+}
+
+NewName Renamed(int slot, std::string_view before, const std::string& name) {
   const std::string after = Shown(name);
   return {slot, Base::ToUtf8(before), after, static_cast<int>(name.size()), FaultOf(after)};
 }
@@ -243,8 +248,9 @@ Base::Result<std::vector<NewName>> NewNames(const Routines::State& state, const 
   for (const int slot : slots) {
     const ChannelRecord& channel = state.Channel(slot);
     if (channel.Empty()) continue;
-    NewName name = Renamed(slot, Base::TrimmedRight(channel.Name()), changes);
-    if (name.after != name.before) names.push_back(std::move(name));
+    const std::string_view before = Base::TrimmedRight(channel.Name());
+    const std::string name = Changed(slot, before, changes);
+    if (name != before) names.push_back(Renamed(slot, before, name));
   }
   return names;
 }

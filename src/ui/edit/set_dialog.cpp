@@ -52,6 +52,11 @@ std::vector<Change> ChangesOf(const ChannelRecord& before, const ChannelRecord& 
   return changes;
 }
 
+// "24 Seca", but of a transponder no more than its number.
+QString ShortOf(int column, const std::string& value) {
+  return column == Columns::Transponder ? Text(value).section(' ', 0, 0) : Text(value);
+}
+
 QString Signed(int number) { return (number > 0 ? "+" : "") + QString::number(number); }
 
 QSpinBox* ShiftBox(const char* name, const char* accessible, QWidget* parent) {
@@ -92,7 +97,7 @@ SetDialog::SetDialog(const Session& session, QWidget* parent)
   ShowPlan();
   coding_->setFocus();
   ShowTips(*this);
-  ResizeOnScreen(*this, {720, 620});
+  ResizeOnScreen(*this, {940, 620});
 }
 
 void SetDialog::Build() {
@@ -102,7 +107,7 @@ void SetDialog::Build() {
   auto* table = new QTableView(this);
   table->setObjectName("ValoriNuovi");
   table->setAccessibleName("Valori nuovi");
-  ShowPreview(*table, *preview_, {11, 18, 24, 24});
+  ShowPreview(*table, *preview_, {11, 20, 30, 30});
   form->addRow(table);
   form->addRow(outcome_);
   const PreviewButtons buttons(*this, *preview_, "Imposta");
@@ -158,7 +163,7 @@ QString SetDialog::What() const {
   QString what;
   for (const Edit::FieldValue& value : Changes().values)
     for (const auto& [column, field] : Fields)
-      if (column == value.column) what += QString(", %1 %2").arg(field, Text(value.text));
+      if (column == value.column) what += QString(", %1 %2").arg(field, ShortOf(column, value.text));
   if (sid_->value() != 0) what += ", SID " + Signed(sid_->value());
   const QString pid = whichPid_->currentIndex() == 0 ? QString("PID") : whichPid_->currentText();
   if (pid_->value() != 0) what += ", " + pid + " " + Signed(pid_->value());

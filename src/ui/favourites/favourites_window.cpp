@@ -55,7 +55,7 @@ void FavouritesWindow::AddLists(const Document& document, QWidget& place) {
 QLayout* FavouritesWindow::Buttons(const QMainWindow& window) {
   auto* row = new QHBoxLayout;
   auto* buttons = new FlowLayout;
-  target_->setMinimumWidth(Letters(*target_, 14));
+  target_->setMinimumWidth(Letters(*target_, 19));
   row->addWidget(target_, 1);
   row->addLayout(buttons);
   AddButton(*buttons, "AggiungiSelezionati", "Aggiungi i canali selezionati",

@@ -84,7 +84,8 @@ QVariant PreviewModel::data(const QModelIndex& index, int role) const {
     case Qt::ForegroundRole:
       return line.fault.isEmpty() ? QVariant() : QBrush(TextOn(Colours::Wrong));
     case Qt::ToolTipRole:
-      return line.fault;
+      // A text may be longer than its column.
+      return line.fault.isEmpty() ? data(index, Qt::DisplayRole) : line.fault;
     case Qt::AccessibleTextRole:
       return line.fault.isEmpty() ? QVariant() : data(index, Qt::DisplayRole).toString() + ", " + line.fault;
     default:
