@@ -6,14 +6,21 @@
 
 namespace Ui {
 
-DroppedFile FileIn(const QMimeData& data) {
-  const QList<QUrl> files = data.urls();
-  if (files.size() != 1) return {{}, {}, "Non aperti: si trascina un file alla volta"};
-  const QFileInfo file(files.front().toLocalFile());
-  const QString name = files.front().fileName();
-  if (!files.front().isLocalFile()) return {{}, {}, "Non aperto: " + name + " non è su questo computer"};
+namespace {
+
+DroppedFile FileAt(const QUrl& url) {
+  const QFileInfo file(url.toLocalFile());
+  if (!url.isLocalFile()) return {{}, {}, "Non aperto: " + url.fileName() + " non è su questo computer"};
   if (file.isDir()) return {{}, {}, "Non aperto: " + file.fileName() + " è una cartella"};
   return {file.filePath(), file.suffix().toLower(), {}};
+}
+
+}  // namespace
+
+std::vector<DroppedFile> FilesIn(const QMimeData& data) {
+  std::vector<DroppedFile> files;
+  for (const QUrl& url : data.urls()) files.push_back(FileAt(url));
+  return files;
 }
 
 }  // namespace Ui

@@ -1,7 +1,9 @@
-// The file that was dropped on the window.
+// The files that were dropped on the window.
 #pragma once
 
 #include <QString>
+
+#include <vector>
 
 class QMimeData;
 
@@ -13,6 +15,6 @@ struct DroppedFile {
   QString refusal;  // why it cannot be opened, whatever it is; empty where it may be
 };
 
-DroppedFile FileIn(const QMimeData& data);
+std::vector<DroppedFile> FilesIn(const QMimeData& data);
 
 }  // namespace Ui

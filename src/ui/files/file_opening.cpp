@@ -6,6 +6,8 @@
 #include <QFileInfo>
 #include <QTimer>
 
+#include <algorithm>
+
 namespace Ui {
 
 FileOpening::FileOpening(Session& session, FileCommands& files, ExchangeCommands& exchange, SdxCommands& sdx,
@@ -25,8 +27,10 @@ FileOpening::FileOpening(Session& session, FileCommands& files, ExchangeCommands
   connect(&session_.settings, &SettingsPanel::Clicked, this, &FileOpening::CompleteUse);
 }
 
-void FileOpening::OpenFlash(const std::string& path) {
-  if (actions_.Allows("ApriFlashInput")) files_.ApriFlashInput(path);
+bool FileOpening::OpenFlash(const std::string& path) {
+  const bool allowed = actions_.Allows("ApriFlashInput");
+  if (allowed) files_.ApriFlashInput(path);
+  return allowed;
 }
 
 void FileOpening::OpenWhenChosen(const std::string& path) {
@@ -64,34 +68,81 @@ void FileOpening::OpenRecent(const QString& path) {
     recent_.Remove(path);
     return;
   }
-  if (!used.Complete()) return OpenFlash(PathBytes(path));
+  if (!used.Complete()) return void(OpenFlash(PathBytes(path)));
   if (actions_.Offers("ApriFlashInput")) files_.ApriFlashInput(PathBytes(path), used);
 }
 
 void FileOpening::Drop(const QMimeData& data) {
   // The drag's source waits for the drop; the questions come after it.
-  QTimer::singleShot(0, this, [this, file = FileIn(data)] { Open(file); });
+  QTimer::singleShot(0, this, [this, files = FilesIn(data)] {
+    if (files.size() == 1) {
+      Open(files.front());
+    } else {
+      OpenAll(files);
+    }
+  });
+}
+
+// Of several files one flash, or another whole list, becomes the list, and one list of rows stands beside it: whatever
+// else there is would take the place of one of them.
+void FileOpening::OpenAll(std::vector<DroppedFile> files) {
+  std::ranges::stable_partition(files, [](const DroppedFile& file) { return file.ending == "dat"; });
+  QStringList refusals;
+  bool list = false;
+  bool pane = false;
+  for (const DroppedFile& file : files) {
+    const Kind kind = KindOf(file);
+    if (kind == Kind::None) {
+      refusals += Refusal(file);
+      continue;
+    }
+    bool& taken = kind == Kind::Sdx || kind == Kind::Services ? pane : list;
+    const QString name = PathText(Base::FileName(PathBytes(file.path)));
+    if (taken && !session_.dialogs.YesNo("Si desidera aprire anche " + name + "?")) continue;
+    if (!Open(file)) break;
+    taken = true;
+  }
+  if (!refusals.isEmpty()) session_.dialogs.Message(refusals.join('\n'), {});
 }
 
 // A text may be a list exported earlier or one of today: the latter is known for certain.
-void FileOpening::Open(const DroppedFile& file) {
+FileOpening::Kind FileOpening::KindOf(const DroppedFile& file) {
+  if (!file.refusal.isEmpty()) return Kind::None;
+  if (file.ending == "dat") return Kind::Flash;
+  if (file.ending == "sdx") return Kind::Sdx;
+  if (file.ending == "fls") return Kind::Raw;
+  if (ServiceListCommands::Knows(PathBytes(file.path))) return Kind::Services;
+  return file.ending == "txt" ? Kind::Exported : Kind::None;
+}
+
+QString FileOpening::Refusal(const DroppedFile& file) {
+  if (!file.refusal.isEmpty()) return file.refusal;
+  return "Non aperto: " + PathText(Base::FileName(PathBytes(file.path))) +
+         " non è un file .dat, .sdx, .txt o .fls, né una lista VDR, DVBv5 o Enigma2";
+}
+
+bool FileOpening::Open(const DroppedFile& file) {
   const std::string path = PathBytes(file.path);
-  if (!file.refusal.isEmpty()) {
-    session_.status.ShowResult(file.refusal);
-  } else if (file.ending == "dat") {
-    OpenFlash(path);
-  } else if (file.ending == "sdx") {
-    if (actions_.Allows("SDX")) sdx_.Open(path);
-  } else if (file.ending == "fls") {
-    if (actions_.Allows("DaEsportato")) exchange_.DaEsportato(path);
-  } else if (ServiceListCommands::Knows(path)) {
-    if (actions_.Allows("ImportaElenco")) lists_.Open(path);
-  } else if (file.ending == "txt") {
-    if (actions_.Allows("DaEsportatoTesto")) exchange_.DaEsportatoTesto(path);
-  } else {
-    session_.status.ShowResult("Non aperto: " + PathText(Base::FileName(path)) +
-                               " non è un file .dat, .sdx, .txt o .fls, né una lista VDR, DVBv5 o Enigma2");
+  const auto allowed = [this](CommandName command, const auto& open) {
+    const bool allows = actions_.Allows(command);
+    if (allows) open();
+    return allows;
+  };
+  switch (KindOf(file)) {
+    case Kind::Flash:
+      return OpenFlash(path);
+    case Kind::Sdx:
+      return allowed("SDX", [&] { sdx_.Open(path); });
+    case Kind::Raw:
+      return allowed("DaEsportato", [&] { exchange_.DaEsportato(path); });
+    case Kind::Services:
+      return allowed("ImportaElenco", [&] { lists_.Open(path); });
+    case Kind::Exported:
+      return allowed("DaEsportatoTesto", [&] { exchange_.DaEsportatoTesto(path); });
+    case Kind::None:
+      session_.status.ShowResult(Refusal(file));
   }
+  return false;
 }
 
 }  // namespace Ui

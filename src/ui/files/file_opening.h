@@ -25,12 +25,18 @@ class FileOpening : public QObject {
 
   // As soon as the number of channels has been chosen.
   void OpenWhenChosen(const std::string& path);
-  // By the command that fits the file, once the drag is over: told by its ending, or by what is in it.
+  // By the command that fits the file, once the drag is over: told by its ending, or by what is in it. Of several files
+  // a flash is opened first, and a list beside it; others are asked about.
   void Drop(const QMimeData& data);
 
  private:
-  void Open(const DroppedFile& file);
-  void OpenFlash(const std::string& path);
+  enum class Kind { None, Flash, Raw, Exported, Sdx, Services };
+  static Kind KindOf(const DroppedFile& file);
+  static QString Refusal(const DroppedFile& file);
+  void OpenAll(std::vector<DroppedFile> files);
+  // False where its command could not be run now.
+  bool Open(const DroppedFile& file);
+  bool OpenFlash(const std::string& path);
   void OpenRecent(const QString& path);
   [[nodiscard]] QString OpenedPath() const;
   void CompleteUse();

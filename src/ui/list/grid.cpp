@@ -63,6 +63,19 @@ class NumberDelegate : public QStyledItemDelegate {
   }
 };
 
+// A title that is wider than its column keeps its beginning: in the middle it would lose both its ends.
+class TitleHeader : public QHeaderView {
+ public:
+  explicit TitleHeader(QWidget* parent) : QHeaderView(Qt::Horizontal, parent) { setSectionsClickable(true); }
+
+ protected:
+  void initStyleOptionForIndex(QStyleOptionHeader* option, int column) const override {
+    QHeaderView::initStyleOptionForIndex(option, column);
+    const int margin = style()->pixelMetric(QStyle::PM_HeaderMargin, option, this);
+    option->text = fontMetrics().elidedText(option->text, Qt::ElideRight, sectionSize(column) - 2 * margin);
+  }
+};
+
 }  // namespace
 
 Grid::Grid(QWidget* parent, int frozen)
@@ -113,6 +126,7 @@ void Grid::SetUp(QTableView& view) {
   view.verticalHeader()->hide();
   view.verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
   view.verticalHeader()->setDefaultSectionSize(fontMetrics().height() + 6);
+  view.setHorizontalHeader(new TitleHeader(&view));
   view.horizontalHeader()->setStyleSheet(HeaderStyle());
   view.horizontalHeader()->setSectionResizeMode(QHeaderView::Fixed);
   view.horizontalHeader()->setHighlightSections(false);

@@ -78,8 +78,7 @@ TEST_F(OpeningFiles, DroppedOnesOpenLikeTheirCommandsOrItIsSaidWhyNot) {
       {{file(folder_.Path("SR.INI"))},
        "Non aperto: SR.INI non è un file .dat, .sdx, .txt o .fls, né una lista VDR, DVBv5 o Enigma2"},
       {{file(folder_.Path("cartella.dat"))}, "Non aperto: cartella.dat è una cartella"},
-      {{QUrl("http://127.0.0.1/lista.dat")}, "Non aperto: lista.dat non è su questo computer"},
-      {{file(raw), file(text)}, "Non aperti: si trascina un file alla volta"}};
+      {{QUrl("http://127.0.0.1/lista.dat")}, "Non aperto: lista.dat non è su questo computer"}};
   for (const auto& [files, told] : drops) {
     Drop(files);
     EXPECT_EQ(Said(), told);
@@ -90,6 +89,25 @@ TEST_F(OpeningFiles, DroppedOnesOpenLikeTheirCommandsOrItIsSaidWhyNot) {
       "Ordina come un elenco…");
   Drop({file(bouquet)});
   EXPECT_TRUE(driver_->Idle());
+}
+
+TEST_F(OpeningFiles, SeveralDroppedOnesMakeAListAndAPaneAndTheOthersAreOffered) {
+  const auto file = [this](const char* name, const Base::Bytes& bytes) {
+    return QUrl::fromLocalFile(PathText(folder_.Write(name, bytes)));
+  };
+  const std::string conf = "Uno;A:11766:hC23:S13.0E:27500:501=2:601:0:0:101:318:1200:0\n";
+  const QUrl rows = file("channels.conf", Base::Bytes(conf.begin(), conf.end()));
+  const QUrl odd = file("odd.xyz", {});
+  const QUrl second = file("seconda.dat", Contents(flash_));
+  const QUrl first = file("prima.dat", Contents(flash_));
+  driver_->ExpectQuestion("Si desidera accodare la nuova Flash a quella già caricata?", false);
+  driver_->ExpectQuestion("Si desidera aprire anche seconda.dat?", false);
+  driver_->ExpectDialog("Da lista VDR, DVBv5 o Enigma2", [](QDialog& options) { options.accept(); });
+  driver_->ExpectMessage(
+      "Non aperto: odd.xyz non è un file .dat, .sdx, .txt o .fls, né una lista VDR, DVBv5 o Enigma2");
+  Drop({rows, odd, first, second});
+  EXPECT_EQ(List().InputFlash, folder_.Path("prima.dat"));
+  EXPECT_TRUE(window_->findChild<QWidget*>("GrigliaSDX")->isVisible());
 }
 
 }  // namespace Ui
