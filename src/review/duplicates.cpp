@@ -4,6 +4,11 @@
 #include "base/text.h"
 #include "model/favourites.h"
 
+#include <algorithm>
+#include <bit>
+#include <functional>
+#include <limits>
+#include <map>
 #include <numeric>
 #include <optional>
 #include <set>
@@ -118,12 +123,24 @@ class KeptKeys {
 template <class Key>
 using Keyed = std::vector<std::pair<Key, int>>;
 
-// Joins the slots whose keys are equal.
+// Joins the slots whose keys are equal: each with the first one that has its key, which a table with room for twice as many
+// finds again.
 template <class Key>
-void JoinEqual(Groups& groups, Keyed<Key> keys) {
-  std::sort(keys.begin(), keys.end());
-  for (std::size_t i = 1; i < keys.size(); ++i) {
-    if (keys[i].first == keys[i - 1].first) groups.Join(keys[i - 1].second, keys[i].second);
+void JoinEqual(Groups& groups, const Keyed<Key>& keys) {
+  constexpr std::size_t Spread = 0x9E3779B97F4A7C15U;
+  std::vector<std::uint32_t> places(std::bit_ceil(2 * keys.size() + 2));  // in `keys`, from 1; 0 for none
+  const auto shift =
+      static_cast<unsigned>(std::numeric_limits<std::size_t>::digits - std::countr_zero(places.size()));
+  std::uint32_t place = 0;
+  for (const auto& [key, slot] : keys) {
+    ++place;
+    std::size_t at = (std::hash<Key>()(key) * Spread) >> shift;
+    while (places[at] != 0 && keys[places[at] - 1].first != key) at = (at + 1) % places.size();
+    if (places[at] == 0) {
+      places[at] = place;
+    } else {
+      groups.Join(keys[places[at] - 1].second, slot);
+    }
   }
 }
 
@@ -134,6 +151,8 @@ std::vector<std::vector<int>> FindDuplicates(const State& state, const Duplicate
   Keyed<std::uint64_t> streams;
   Keyed<std::string> names;
   Keyed<std::string> bareNames;
+  services.reserve(static_cast<std::size_t>(state.ChannelCount));
+  streams.reserve(static_cast<std::size_t>(state.ChannelCount));
   for (int slot = 1; slot <= state.ChannelCount; ++slot) {
     const Keys keys = KeysOf(state, slot, rules);
     if (keys.service) services.push_back({*keys.service, slot});
@@ -144,22 +163,23 @@ std::vector<std::vector<int>> FindDuplicates(const State& state, const Duplicate
       bareNames.push_back({std::move(name), slot});
   }
   Groups groups;
-  JoinEqual(groups, std::move(services));
-  JoinEqual(groups, std::move(streams));
-  JoinEqual(groups, std::move(names));
-  JoinEqual(groups, std::move(bareNames));
+  JoinEqual(groups, services);
+  JoinEqual(groups, streams);
+  JoinEqual(groups, names);
+  JoinEqual(groups, bareNames);
 
-  std::vector<std::vector<int>> members(static_cast<std::size_t>(state.ChannelCount) + 1);
+  // Most slots are alone and in no group.
+  std::map<int, std::vector<int>> members;
   for (int slot = 1; slot <= state.ChannelCount; ++slot) {
     const int first = groups.First(slot);
     if (first == slot) continue;
-    // Most slots are alone and get no group at all.
-    std::vector<int>& group = members[static_cast<std::size_t>(first)];
+    std::vector<int>& group = members[first];
     if (group.empty()) group.push_back(first);
     group.push_back(slot);
   }
-  std::erase_if(members, [](const std::vector<int>& group) { return group.empty(); });
-  return members;
+  std::vector<std::vector<int>> found;
+  for (auto& [first, group] : members) found.push_back(std::move(group));
+  return found;
 }
 
 std::vector<int> Surplus(const State& state, const DuplicateRules& rules,
