@@ -64,7 +64,7 @@ std::vector<Review::Difference> Chosen(const Review::Comparison& found, const Re
   return chosen;
 }
 
-Edit::SortOrder OrderOf(const Options& options) {
+Edit::SortOrder SortOrderOf(const Options& options) {
   using Edit::SortKey;
   constexpr std::pair<std::string_view, SortKey> Words[] = {{"name", SortKey::Name},
                                                             {"kind", SortKey::Kind},
@@ -94,6 +94,20 @@ std::optional<std::vector<Edit::RenameRule>> RulesOf(Work& work) {
     rules.push_back(std::move(*rule));
   }
   return rules;
+}
+
+// The order in a file of any kind; nothing where it has none, which is told.
+std::optional<Routines::Order> OrderIn(Work& work) {
+  const auto file = ReadList(work, work.options.first);
+  if (!file) return std::nullopt;
+  if (file->kind != FileKind::Flash && file->kind != FileKind::Rows) {
+    const auto state = StateOf(work, *file);
+    return state ? std::optional(Routines::OrderOf(*state)) : std::nullopt;
+  }
+  Routines::Order order = Formats::OrderInFile(file->bytes);
+  if (!order.entries.empty()) return order;
+  work.console.Fail(Exit::Unreadable, work.options.first, "non è un elenco di canali");
+  return std::nullopt;
 }
 
 // Those of an order that no channel of the list is, by their names.
@@ -138,18 +152,14 @@ void Apply(Work& work) {
 
 void Order(Work& work) {
   const auto opened = Open(work);
-  const auto bytes = opened ? ReadBytes(work, work.options.first) : std::nullopt;
-  if (!bytes) return;
-  const Routines::Order order = Formats::OrderInFile(*bytes);
-  if (order.entries.empty()) {
-    work.console.Fail(Exit::Unreadable, work.options.first, "non è un elenco di canali");
-    return;
-  }
-  if (order.unreadable > 0)
+  const auto order = opened ? OrderIn(work) : std::nullopt;
+  if (!order) return;
+  if (order->unreadable > 0)
     work.console.Note(work.options.first,
-                      Base::Counted(order.unreadable, "riga non è un canale", "righe non sono canali"));
-  const auto match = Review::MatchOrder(
-      *opened->state, order, work.options.listed ? Review::Numbering::AsListed : Review::Numbering::Together);
+                      Base::Counted(order->unreadable, "riga non è un canale", "righe non sono canali"));
+  const auto match =
+      Review::MatchOrder(*opened->state, *order,
+                         work.options.listed ? Review::Numbering::AsListed : Review::Numbering::Together);
   NoteMissing(work, match);
   const int moved = Edit::TakeOrder(*opened->state, match.list, match.found);
   Finish(work, *opened,
@@ -168,7 +178,7 @@ void Sort(Work& work) {
   State& state = *opened->state;
   const State before = state;
   const auto plan =
-      Edit::PlanSort(state, Edit::SlotRun(work.options.from, state.ChannelCount), OrderOf(work.options));
+      Edit::PlanSort(state, Edit::SlotRun(work.options.from, state.ChannelCount), SortOrderOf(work.options));
   if (plan.without > 0) {
     work.console.Fail(Exit::NotWritten, work.options.second, Edit::TextOf(plan));
     return;

@@ -1,8 +1,10 @@
 #include "formats/list_format.h"
 
 #include "base/code_page.h"
+#include "base/text.h"
 #include "formats/dvbv5.h"
 #include "formats/lamedb.h"
+#include "formats/satcodx.h"
 #include "formats/scan_table.h"
 #include "formats/userbouquet.h"
 #include "formats/vdr_channels.h"
@@ -71,12 +73,30 @@ const ListFormat* FormatOf(std::string_view text) {
   return found == std::end(Formats) ? nullptr : found;
 }
 
+namespace {
+
+// That of a SatcoDX list, which says no positions, and 0 for what it does not know.
+Order OrderOfSatcodx(std::string_view text) {
+  Order order;
+  const auto said = [](std::string_view number) {
+    const int value = Base::LeadingNumber(number);
+    return value == 0 ? Routines::NotSaid : value;
+  };
+  for (const SdxRow& row : ReadSatcodx(text, WithoutFilters(SdxOptions())).rows)
+    order.entries.push_back({0, std::string(Base::TrimmedRight(row.name)), std::nullopt, said(row.nid),
+                             said(row.tid), said(row.sid)});
+  return order;
+}
+
+}  // namespace
+
 Order OrderInFile(Base::ByteView bytes) {
   if (bytes.size() == Routines::FlashSize) {
     auto flash = std::make_unique<Routines::State>();
     Routines::LoadFlash(*flash, bytes, Routines::CapacityOf(bytes), 0, {});
     return Routines::OrderOf(*flash);
   }
+  if (LooksLikeSatcodx(Base::AsText(bytes))) return OrderOfSatcodx(Base::AsText(bytes));
   const ListText text(Base::AsText(bytes));
   const ListFormat* format = FormatOf(text.View());
   if (format != nullptr) return format->OrderOf == nullptr ? Order() : format->OrderOf(text.View());

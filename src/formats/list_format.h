@@ -40,7 +40,7 @@ std::span<const ListFormat> ListFormats();
 // The format of a text; null where it is none of these.
 const ListFormat* FormatOf(std::string_view text);
 
-// The order in a file: of a flash image, of one of these lists, or of names alone, which the bytes of no other file are.
+// The order in a file: of a flash image, of a SatcoDX list, of one of these lists, or of names alone, which the bytes of no other file are.
 // Empty where there is none.
 Order OrderInFile(Base::ByteView bytes);
 
