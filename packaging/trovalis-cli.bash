@@ -1,6 +1,6 @@
 # Completion for trovalis-cli, from what its own help says.
 _trovalis_cli() {
-  local word=${COMP_WORDS[COMP_CWORD]} words
+  local word=${COMP_WORDS[COMP_CWORD]} words before=
   if [ "$COMP_CWORD" -eq 1 ]; then
     words=$(trovalis-cli --help | sed -n '/^Comandi:/,/^$/s/^  \([a-z]*\) .*/\1/p')
     # shellcheck disable=SC2207 # no word has a blank
@@ -17,7 +17,9 @@ _trovalis_cli() {
     --by) words="name kind satellite bouquet frequency sid coding hd favourites active" ;;
     *) [ "${word#-}" = "$word" ] || words=$(trovalis-cli "${COMP_WORDS[1]}" --help | grep -o -- '--[a-z-]*' | sort -u) ;;
   esac
+  # Of words between commas the last one.
+  [[ $word == -* || -z ${words:-} ]] || before=${word%"${word##*,}"}
   # shellcheck disable=SC2207
-  COMPREPLY=($(compgen -W "${words:-}" -- "$word"))
+  COMPREPLY=($(compgen -P "$before" -W "${words:-}" -- "${word#"$before"}"))
 }
 complete -o bashdefault -o default -F _trovalis_cli trovalis-cli

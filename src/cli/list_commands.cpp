@@ -1,6 +1,7 @@
 // Lists of other kinds: sdx, convert.
 #include "base/code_page.h"
 #include "base/file.h"
+#include "base/names.h"
 #include "base/text.h"
 #include "cli/json.h"
 #include "cli/list_file.h"
@@ -30,26 +31,29 @@ std::string SatelliteOf(const SdxRow& row) {
 }
 
 void PrintTable(Work& work, const SdxTable& table) {
-  const std::pair<const char*, std::map<std::string, int>> groups[] = {
-      {"Tipo", Counted(table, KindOf)},
-      {"Satellite", Counted(table, SatelliteOf)},
-      {"Codifica", Counted(table, CodingOf)}};
+  const struct {
+    const char* title;
+    const char* key;
+    std::map<std::string, int> counts;
+  } groups[] = {{"Tipo", "kinds", Counted(table, KindOf)},
+                {"Satellite", "satellites", Counted(table, SatelliteOf)},
+                {"Codifica", "codings", Counted(table, CodingOf)}};
   if (work.options.json) {
     Json json = {
         {"file", work.options.first}, {"satellite", Base::ToUtf8(Base::TrimmedRight(table.satelliteName))},
         {"lines", table.lines},       {"taken", table.rows.size()},
         {"full", table.full},         {"dropped", Json::object()}};
     for (const auto& [reason, count] : table.dropped.Counts()) json["dropped"][std::string(reason)] = count;
-    for (const auto& [title, counts] : groups) json[title] = counts;
+    for (const auto& group : groups) json[group.key] = group.counts;
     return Print(work.console, json);
   }
   std::string& out = work.console.out;
   out += ShownName(work.options.first) + ": lette " + std::to_string(table.lines) + " righe, prese " +
          std::to_string(table.rows.size()) + "\n";
   if (table.full) out += "Superato il numero di canali SDX gestibili 4000\n";
-  for (const auto& [title, counts] : groups) {
-    out.append(title).append("\n");
-    for (const auto& [text, count] : counts) out += "  " + text + ": " + std::to_string(count) + "\n";
+  for (const auto& group : groups) {
+    out.append(group.title).append("\n");
+    for (const auto& [text, count] : group.counts) out += "  " + text + ": " + std::to_string(count) + "\n";
   }
   if (table.dropped.Total() > 0) out += "Scartate\n";
   for (const auto& [reason, count] : table.dropped.Counts())
@@ -62,7 +66,7 @@ std::string TargetOf(const Options& options) {
       {".txt", "text"}, {".fls", "fls"}, {".csv", "csv"}, {".conf", "vdr"}};
   if (!options.target.empty()) return options.target;
   for (const auto& [ending, target] : Endings)
-    if (options.second.ends_with(ending)) return target;
+    if (Base::LowerCase(options.second).ends_with(ending)) return target;
   return {};
 }
 

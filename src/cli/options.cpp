@@ -62,6 +62,11 @@ class Line {
 
   CLI::App& App() { return app_; }
 
+  static bool Knows(std::string_view command) {
+    return std::any_of(Entries.begin(), Entries.end(),
+                       [command](const Entry& entry) { return entry.name == command; });
+  }
+
  private:
   static void SetUp(CLI::App& app) {
     app.set_help_flag("-h,--help", "mostra questo aiuto");
@@ -118,8 +123,20 @@ class Line {
     return app.add_option("--capacity", options_.capacity, what)->type_name("N")->group(LineOptions);
   }
 
+  // An image does not say by which of the two tables its rates are.
+  void Rate(CLI::App& app, bool required) {
+    app.add_option("--sr", options_.rate22000,
+                   required ? "dove è SR 22000: \"come 2\" o \"come 0\"; va sempre detto"
+                            : "dove è SR 22000: \"come 2\" o \"come 0\" (2)")
+        ->type_name("N")
+        ->check(OneOf({"0", "2"}))
+        ->required(required)
+        ->group(LineOptions);
+  }
+
   void Reading(CLI::App& app) {
     Capacity(app, "canali che il ricevitore può tenere (3996)")->check(Number(1, 3996));
+    Rate(app, false);
   }
 
   void Satellites(CLI::App& app) {
@@ -191,19 +208,21 @@ class Line {
     Reading(convert);
     Rows(convert);
     Force(convert);
-    File(convert, "--to", options_.target, "formato, se il nome non lo dice", "FORMATO")
+    File(convert, "--to", options_.target, "formato, se il nome non lo dice: text, fls, csv o vdr", "FORMATO")
         ->check(OneOf({"text", "fls", "csv", "vdr"}));
   }
 
   // Of commands that write an image; `typed` ones have to say the flash's type and the place of SR 22000.
   void Writing(CLI::App& app, bool typed) {
-    Capacity(app, "canali che il ricevitore può tenere: 999, 2000 o 3996")
+    Capacity(app, "canali che il ricevitore può tenere: 999, 2000 o 3996; va sempre detto")
         ->required()
         ->check(OneOf({"999", "2000", "3996"}));
-    auto* type = app.add_option("--type", options_.type, "tipo di flash: 1, 2 o 3")->type_name("N");
+    auto* type = app.add_option("--type", options_.type,
+                                typed ? "tipo di flash: 1, 2 o 3; va sempre detto"
+                                      : "tipo di flash: 1, 2 o 3 (quello che ha quei canali)")
+                     ->type_name("N");
     type->check(Number(1, 3))->required(typed)->group(LineOptions);
-    auto* rate = app.add_option("--sr", options_.rate22000, "dove è SR 22000: \"come 2\" o \"come 0\"");
-    rate->type_name("N")->check(OneOf({"0", "2"}))->required(typed)->group(LineOptions);
+    Rate(app, typed);
     auto* output = File(app, "-o,--output", options_.output, "immagine da scrivere");
     app.add_flag("--in-place", options_.inPlace, "scrive nell'immagine stessa, tenendone una copia .bak")
         ->excludes(output)
@@ -224,11 +243,13 @@ class Line {
     Writing(apply, false);
     Rows(apply);
     Several(apply, "--only", options_.only,
-            "che cosa prendere: new, deleted, moved, renamed, retuned, pids, modified, favourites", "TIPI")
+            "che cosa prendere, va sempre detto: new, deleted, moved, renamed, retuned, pids, modified, "
+            "favourites",
+            "TIPI")
         ->delimiter(',')
         ->required()
         ->check(OneOf({"new", "deleted", "moved", "renamed", "retuned", "pids", "modified", "favourites"}));
-    File(apply, "--place", options_.place, "dove vanno i nuovi: behind, holes o bouquet", "DOVE")
+    File(apply, "--place", options_.place, "dove vanno i nuovi: behind, holes o bouquet (behind)", "DOVE")
         ->check(OneOf({"behind", "holes", "bouquet"}));
   }
 
@@ -244,7 +265,8 @@ class Line {
     Image(sort);
     Writing(sort, false);
     Several(sort, "--by", options_.keys,
-            "fino a tre fra name, kind, satellite, bouquet, frequency, sid, coding, hd, favourites, active",
+            "chiavi, va sempre detto: fino a tre fra name, kind, satellite, bouquet, frequency, sid, coding, "
+            "hd, favourites, active",
             "CHIAVI")
         ->delimiter(',')
         ->required()
@@ -264,8 +286,10 @@ class Line {
     Image(rename);
     Writing(rename, false);
     Filter(rename);
-    Several(rename, "--rule", options_.rules,
-            "regola: sostituisci/HD//, togli-dietro/TEST, iniziali, ...; più volte, in ordine", "REGOLA")
+    Several(
+        rename, "--rule", options_.rules,
+        "regola, va sempre detta: sostituisci/HD//, togli-dietro/TEST/, iniziali, ...; più volte, in ordine",
+        "REGOLA")
         ->required();
   }
 
@@ -314,7 +338,8 @@ std::string Refusal(const CLI::ParseError& error) {
 
 Parsed Parse(const std::vector<std::string>& arguments) {
   Options options;
-  Line line(options, WantedIn(arguments));
+  const std::string wanted = WantedIn(arguments);
+  Line line(options, wanted);
   try {
     line.App().parse(std::vector<std::string>(arguments.rbegin(), arguments.rend()));
   } catch (const CLI::CallForVersion& version) {
@@ -322,7 +347,8 @@ Parsed Parse(const std::vector<std::string>& arguments) {
   } catch (const CLI::Success&) {
     return {std::nullopt, line.App().help(), true};
   } catch (const CLI::ParseError& error) {
-    return {std::nullopt, Refusal(error), false};
+    const bool unknown = !wanted.empty() && !Line::Knows(wanted);
+    return {std::nullopt, unknown ? "comando sconosciuto: " + wanted : Refusal(error), false};
   }
   return {options, {}, false};
 }
