@@ -10,6 +10,9 @@
 
 namespace Cli {
 
+// No list is larger.
+inline constexpr std::size_t LargestInput = 64U << 20U;
+
 enum class Exit { Done = 0, Found = 1, Usage = 2, Unreadable = 3, NotWritten = 4 };
 
 struct Console {
@@ -24,6 +27,12 @@ struct Console {
   void Note(std::string_view text) { err.append("trovalis-cli: ").append(text).append("\n"); }
   // The same about a file, whose name is put in front where the text has it not.
   void Note(const std::string& path, const std::string& text);
+
+  // Notes what found no place, which is not told by the exit of a command that did all.
+  void Miss(std::string_view text) {
+    Note(text);
+    exit = Exit::Found;
+  }
 
   // Notes why the command stops. False, for those who return it.
   bool Fail(Exit how, std::string_view why) {

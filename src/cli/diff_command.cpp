@@ -7,6 +7,8 @@
 #include "model/favourites.h"
 #include "review/compare.h"
 
+#include <algorithm>
+
 namespace Cli {
 
 using Review::Difference;
@@ -77,13 +79,60 @@ void AddLacking(const Routines::OtherList& mine, const State& here, Routines::Ot
   }
 }
 
-void Tell(Work& work, const State& here, const Review::OtherList& there) {
-  const Review::Comparison found = Review::Compare(here, there);
+// Channels of the other list that a list of rows has but leaves out, and those on satellites that it knows nothing of, are
+// not what only the other one has. How many the latter are.
+int HideUnsaid(const Routines::OtherList& mine, const State& theirs, Routines::OtherList& other) {
+  const Review::Comparison found = Review::Compare(theirs, mine);
+  Routines::PerChannel<bool> gone;
+  for (const Difference& difference : found.differences)
+    if (difference.Has(Mark::OnlyHere)) gone[difference.here] = true;
+  for (int slot = 1; slot <= std::min(other.Count(), theirs.ChannelCount); ++slot) {
+    const int number = found.there[slot];
+    const bool unsaid = number == 0 ? !gone[slot] : number > mine.offered;
+    if (unsaid) other.channels[static_cast<std::size_t>(slot)].record = {};
+  }
+  return found.elsewhere;
+}
+
+// Two lists as they are compared.
+struct Sides {
+  std::unique_ptr<State> here;
+  std::optional<Routines::OtherList> there;
+  int elsewhere = 0;  // channels that only the first list says nothing of
+};
+
+// Rows have their satellites from the other list, where that has some; a CSV list says its transponders by the numbers of its
+// own list, which only one that has such numbers is measured by.
+Sides SidesOf(Work& work, const ListFile& one, const ListFile& other) {
+  Sides sides;
+  Routines::OtherList said;
+  Routines::OtherList saidThere;
+  const bool numbered = one.kind != FileKind::Rows && one.kind != FileKind::Csv;
+  const bool alone = !numbered && other.kind != FileKind::Rows;
+  const auto theirs = alone ? StateOf(work, other, nullptr, &saidThere) : nullptr;
+  if (alone && !theirs) return {};
+  sides.here = StateOf(work, one, theirs.get(), &said);
+  if (!sides.here) return {};
+  if (!alone) {
+    sides.there = OtherOf(work, other, *sides.here);
+  } else {
+    sides.there = other.kind == FileKind::Csv ? saidThere : Routines::OtherListOf(*theirs);
+  }
+  if (sides.there && !numbered) AddLacking(said, *sides.here, *sides.there);
+  if (alone) sides.elsewhere = HideUnsaid(said, *theirs, *sides.there);
+  return sides;
+}
+
+void Tell(Work& work, const Sides& sides) {
+  const State& here = *sides.here;
+  const Review::OtherList& there = *sides.there;
+  Review::Comparison found = Review::Compare(here, there);
+  found.elsewhere += sides.elsewhere;
   if (!found.Nothing()) work.console.exit = Exit::Found;
   const std::string rest = Review::OtherDifferences(found, "solo nella seconda");
   Json json = {{"first", work.options.first},
                {"second", work.options.second},
-               {"same", found.Nothing()},
+               {"same", work.console.exit == Exit::Done},
                {"differences", Json::array()},
                {"others", rest}};
   std::string text;
@@ -108,18 +157,8 @@ void Diff(Work& work) {
   const auto one = ReadList(work, work.options.first);
   const auto other = one ? ReadList(work, work.options.second) : std::nullopt;
   if (!other) return;
-  // Rows have their satellites from the other list, where that has some.
-  const bool rows =
-      one->kind == FileKind::Rows && other->kind != FileKind::Rows && other->kind != FileKind::Csv;
-  const auto like = rows ? StateOf(work, *other) : nullptr;
-  if (rows && !like) return;
-  Routines::OtherList said;
-  const auto here = StateOf(work, *one, like.get(), &said);
-  if (!here) return;
-  auto there = like ? std::optional(Routines::OtherListOf(*like)) : OtherOf(work, *other, *here);
-  if (!there) return;
-  if (said.Count() > 0) AddLacking(said, *here, *there);
-  Tell(work, *here, *there);
+  const Sides sides = SidesOf(work, *one, *other);
+  if (sides.there) Tell(work, sides);
 }
 
 }  // namespace Cli

@@ -18,8 +18,6 @@ using Routines::State;
 
 namespace {
 
-constexpr std::size_t LargestList = 64U << 20U;
-
 bool IsCsv(const Base::Bytes& bytes) {
   const auto text = Formats::DecodeForeign(Base::AsText(bytes), {});
   return text && Formats::ReadChannelsCsv(text->text, *std::make_unique<State>());
@@ -27,12 +25,12 @@ bool IsCsv(const Base::Bytes& bytes) {
 
 FileKind KindOf(const Base::Bytes& bytes) {
   constexpr std::string_view Section = "[CANALI]";
-  constexpr std::size_t RecordSize = 30;
+  constexpr std::size_t Record = Routines::ChannelRecord::Size;
   if (bytes.size() == Routines::FlashSize) return FileKind::Flash;
-  const std::string text = Base::FromMarkedUtf8(Base::AsText(bytes).substr(0, 2 * RecordSize));
+  const std::string text = Base::FromMarkedUtf8(Base::AsText(bytes).substr(0, 2 * Record));
   // The one has lines, the other records.
   if (text.starts_with(Section))
-    return text.substr(0, RecordSize).find('\n') == std::string::npos ? FileKind::Fls : FileKind::Text;
+    return text.substr(0, Record).find('\n') == std::string::npos ? FileKind::Fls : FileKind::Text;
   return IsCsv(bytes) ? FileKind::Csv : FileKind::Rows;
 }
 
@@ -59,7 +57,7 @@ std::unique_ptr<State> Imported(Work& work, const ListFile& file) {
   return state;
 }
 
-// The rows of an exported list; those that could not be read are noted.
+// The rows of an exported list. Those that could not be read are noted, and the command does not end as if all were done.
 std::optional<Routines::OtherList> CsvRows(Work& work, const ListFile& file, const State& mine) {
   const auto text = Formats::DecodeForeign(Base::AsText(file.bytes), ShownName(file.path));
   auto read = text ? Formats::ReadChannelsCsv(text->text, mine) : text.error();
@@ -68,6 +66,7 @@ std::optional<Routines::OtherList> CsvRows(Work& work, const ListFile& file, con
     return std::nullopt;
   }
   for (const std::string& fault : read->faults) work.console.Note(file.path, fault);
+  if (!read->faults.empty()) work.console.exit = Exit::Found;
   return std::move(read->list);
 }
 
@@ -87,7 +86,7 @@ std::optional<Base::Bytes> Given(Work& work, const std::string& path, Base::Resu
 }  // namespace
 
 std::optional<Base::Bytes> ReadBytes(Work& work, const std::string& path) {
-  return Given(work, path, path == "-" ? work.console.readInput() : Base::ReadFile(path, LargestList));
+  return Given(work, path, path == "-" ? work.console.readInput() : Base::ReadFile(path, LargestInput));
 }
 
 std::optional<Base::Bytes> ReadImage(Work& work, const std::string& path) {

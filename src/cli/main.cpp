@@ -12,8 +12,6 @@
 
 namespace {
 
-constexpr std::size_t LargestInput = 64U << 20U;
-
 // All of the standard input, up to what any list may be.
 Base::Result<Base::Bytes> ReadInput() {
   Base::Bytes bytes;
@@ -24,7 +22,7 @@ Base::Result<Base::Bytes> ReadInput() {
     if (count < 0 && errno == EINTR) continue;
     if (count < 0) return Base::Error{"Impossibile leggere: " + Base::SystemReason(errno), {}, errno};
     bytes.insert(bytes.end(), part.begin(), part.begin() + count);
-    if (bytes.size() > LargestInput)
+    if (bytes.size() > Cli::LargestInput)
       return Base::Error{"Impossibile leggere: " + Base::SystemReason(EFBIG), {}, EFBIG};
   }
 }

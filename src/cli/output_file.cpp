@@ -18,8 +18,6 @@ using Routines::State;
 
 namespace {
 
-constexpr std::size_t LargestOld = 64U << 20U;
-
 // What cannot be looked at counts as there.
 bool Exists(const std::string& path) { return Base::StatusOf(path).code != ENOENT; }
 
@@ -149,7 +147,7 @@ bool WriteFile(Work& work, const std::string& path, Base::ByteView bytes) {
   }
   const std::string target = Base::ResolvedPath(path);
   if (Exists(path)) {
-    const auto old = Base::ReadFile(target, LargestOld);
+    const auto old = Base::ReadFile(target, LargestInput);
     if (!old) return work.console.Fail(Exit::NotWritten, path, old.error().message);
     const auto kept = Routines::KeepCopy(Base::FolderOf(target), target, *old);
     if (!kept) return work.console.Fail(Exit::NotWritten, path, kept.error().message);

@@ -154,7 +154,7 @@ std::unique_ptr<State> Filled(Work& work, std::unique_ptr<State> list, const Rou
   const auto report = Edit::TakeOver(*list, other, all, all.differences, work.bouquets);
   Edit::TakeOrder(*list, other, Review::Compare(*list, other));
   if (report.noRoom + report.noTransponder > 0)
-    work.console.Note(Edit::TextOf(report, Edit::NewPlace::Behind));
+    work.console.Miss(Edit::TextOf(report, Edit::NewPlace::Behind));
   DropFreeTransponders(*list);
   return list;
 }
@@ -170,8 +170,8 @@ std::unique_ptr<State> Filled(Work& work, std::unique_ptr<State> list, const Sdx
       import.Put(row, slot, slot);
     }
   }
-  if (!import.Message().empty()) work.console.Note(import.Message());
-  if (without > 0) work.console.Note(Base::Counted(without, "riga senza posto", "righe senza posto"));
+  if (!import.Message().empty()) work.console.Miss(import.Message());
+  if (without > 0) work.console.Miss(Base::Counted(without, "riga senza posto", "righe senza posto"));
   DropFreeTransponders(*list);
   return list;
 }

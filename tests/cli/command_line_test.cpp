@@ -69,6 +69,7 @@ class CommandLine : public testing::Test {
 TEST_F(CommandLine, RefusesWhatItDoesNotKnowInItalianAndDoesNothing) {
   const std::pair<Arguments, std::string> wrong[] = {
       {{}, "manca il comando"},
+      {{"infos", "a"}, "comando sconosciuto: infos"},
       {{"info"}, "manca IMG"},
       {{"info", "a", "b"}, "argomento non previsto: b"},
       {{"info", "a", "--capacity", "4000"}, "--capacity: deve essere un numero da 1 a 3996"},
@@ -187,6 +188,19 @@ TEST_F(CommandLine, EveryFormIsReadBackAsTheListThatItWasWrittenFrom) {
   }
   EXPECT_TRUE(Run({"convert", folder_.Path("l.fls"), "-", "--to", "csv"}).out ==
               Run({"list", flash_, "--csv"}).out);
+  EXPECT_NE(Run({"order", folder_.Path("l.csv"), flash_, "--capacity", "3996", "--numbers", "--in-place"})
+                .out.find("già"),
+            std::string::npos);
+
+  // One that was changed is compared with what it was changed from, though neither has transponders of its own; a row that
+  // cannot be read is not the same as one without a difference.
+  std::string csv = Run({"list", flash_, "--csv"}).out;
+  csv.replace(csv.find(";" + Name(7) + ";"), Name(7).size() + 1, ";Altro");
+  folder_.Write("m.csv", csv);
+  EXPECT_EQ(Run({"diff", folder_.Path("l.csv"), folder_.Path("m.csv")}).out,
+            "Rinominato: 0007 " + Name(7) + " → 0007 Altro: " + Name(7) + " → Altro\n");
+  folder_.Write("rotta.csv", "Prog.;Canale;SID\n0001;" + Name(1) + ";mille\n");
+  EXPECT_EQ(Run({"diff", flash_, folder_.Path("rotta.csv")}).code, 1);
 
   // The text format's own losses are told.
   ASSERT_EQ(Run({"convert", flash_, folder_.Path("l.txt")}).code, 0);
@@ -208,6 +222,9 @@ TEST_F(CommandLine, EveryFormIsReadBackAsTheListThatItWasWrittenFrom) {
   EXPECT_EQ(reader.Service().transponder.frequency / 1000,
             FrequencyMHz(state_->Transponder(Get(first, ChannelField::Transponder)).record));
   EXPECT_EQ(reader.Unreadable(), 0);
+  // Nor does it matter which of the two is named first, even if not all of its rows are wanted.
+  EXPECT_EQ(Run({"diff", folder_.Path("channels.conf"), flash_}).code,
+            Run({"diff", flash_, folder_.Path("channels.conf")}).code);
   const auto diff =
       nlohmann::json::parse(Run({"diff", flash_, folder_.Path("channels.conf"), "--json", "--data"}).out);
   std::map<std::string, int> kinds;
