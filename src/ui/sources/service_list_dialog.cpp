@@ -82,6 +82,7 @@ ServiceListDialog::ServiceListDialog(const Source& source, Formats::ListSummary 
   Build();
   rows_.OnChange([this] { ShowOutcome(); });
   connect(keepHd_, &QCheckBox::toggled, this, &ServiceListDialog::ShowOutcome);
+  built_ = true;
   ShowOutcome();
   ShowTips(*this);
   ResizeOnScreen(*this, {560, 640});
@@ -188,7 +189,7 @@ const char* ServiceListDialog::Refusal() const {
 
 // Boxes tell of their first entry while the dialog is still being built.
 void ServiceListDialog::ShowOutcome() {
-  if (layout() == nullptr || layout()->indexOf(outcome_) < 0) return;
+  if (!built_) return;
   const char* refusal = Refusal();
   outcome_->setText(refusal == nullptr ? Outcome() : QString(refusal) + ".");
 }

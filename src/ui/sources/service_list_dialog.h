@@ -52,6 +52,7 @@ class ServiceListDialog : public QDialog {
   std::vector<std::pair<int, QComboBox*>> positions_;
   QCheckBox* keepHd_;
   QLabel* outcome_;
+  bool built_ = false;
 };
 
 }  // namespace Ui

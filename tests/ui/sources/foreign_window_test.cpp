@@ -2,6 +2,9 @@
 #include "ui/kit/text.h"
 #include "ui/window_fixture.h"
 
+#include <QScrollArea>
+#include <QShowEvent>
+
 namespace Ui {
 namespace {
 
@@ -106,6 +109,11 @@ TEST_F(Window, AListOfTodayBringsTheSatellitesOfItsPositions) {
       "Criptato:11766:VC34S0:S13E:27500:1:2:0:100:7:1:1:0\nNuovo:11766:VS1:S19.2E:27500:1:2:0:0:8:1:1:0\n";
   driver_->ExpectFile(dialog, PathText(folder_.Write("canali", text)));
   driver_->ExpectDialog("Da lista VDR, DVBv5 o Enigma2", [&](QDialog& box) {
+    // As on a screen too small for the dialog, which then scrolls.
+    box.findChild<QListWidget*>("List1")->setMinimumHeight(3000);
+    QShowEvent again;
+    QApplication::sendEvent(&box, &again);
+    EXPECT_NE(box.findChild<QScrollArea*>(), nullptr);
     const auto* positions = box.findChild<QTableWidget*>("Posizioni");
     EXPECT_EQ(positions->item(1, 0)->text() + " " + positions->item(1, 1)->text(), "13.0E 1");
     auto* second = box.findChild<QComboBox*>("Satellite_192");
