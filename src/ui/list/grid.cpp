@@ -120,6 +120,7 @@ Grid::Grid(QWidget* parent, int frozen)
   });
   connect(horizontalScrollBar(), &QScrollBar::valueChanged, this, &Grid::ShowFrozen);
   viewport()->stackUnder(frozen_);
+  horizontalHeader()->stackUnder(frozen_);
 }
 
 void Grid::SetUp(QTableView& view) {

@@ -108,8 +108,10 @@ TEST_F(SatcodxWindow, ThePaneMarksWhatTheListHasAndClosesByItself) {
   EXPECT_EQ(cell(1, 1, Qt::ToolTipRole), "") << "with the list";
 
   Pane().horizontalScrollBar()->setValue(20);
-  const auto* frozen = Pane().findChild<QTableView*>("ColonnaFissa");
+  auto* frozen = Pane().findChild<QTableView*>("ColonnaFissa");
   EXPECT_TRUE(frozen->isVisible() && frozen->width() == Pane().columnWidth(0) + Pane().columnWidth(1));
+  const QObjectList& stacked = Pane().children();
+  EXPECT_LT(stacked.indexOf(Pane().horizontalHeader()), stacked.indexOf(frozen)) << "titles of other columns";
   QTest::mouseClick(window_->findChild<QToolButton*>("ChiudiSDX"), Qt::LeftButton);
   EXPECT_FALSE(Pane().isVisible() || Action("VediSDX").isChecked());
 }
