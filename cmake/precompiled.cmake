@@ -1,0 +1,13 @@
+# For a build that repeats another one, as that of the sanitizers does: without this, what a file forgets to include is missed.
+set(library <algorithm> <array> <functional> <map> <memory> <optional> <set> <span> <string> <string_view> <utility> <vector>)
+foreach(target trovalis_ui trovalis_driver)
+  if(TARGET ${target})
+    target_precompile_headers(${target} PRIVATE <QtWidgets> <QtNetwork> <QtPrintSupport> ${library})
+  endif()
+endforeach()
+if(TARGET window_tests)
+  target_precompile_headers(window_tests PRIVATE <QtWidgets> <QtTest/QtTest> <gtest/gtest.h> ${library})
+endif()
+if(TARGET core_tests)
+  target_precompile_headers(core_tests PRIVATE <gtest/gtest.h> ${library})
+endif()
