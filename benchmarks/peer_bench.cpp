@@ -58,7 +58,7 @@ void ReadBesideConverter(benchmark::State& run) {
   constexpr int Services = 20000;
   const QTemporaryDir folder;
   const auto write = [&](const char* name, int services) {
-    const std::string path = folder.filePath(name).toStdString();
+    std::string path = folder.filePath(name).toStdString();
     const std::string list = DvbV5List(services);
     if (!Base::ReplaceFile(path, Base::AsBytes(list))) std::abort();
     return path;

@@ -3,6 +3,7 @@
 #include "cli/program.h"
 
 #include <array>
+#include <bit>
 #include <cerrno>
 #include <csignal>
 #include <cstdlib>
@@ -48,7 +49,7 @@ std::filesystem::path ProgramFile() {
   std::error_code error;
   auto file = std::filesystem::read_symlink("/proc/self/exe", error);
   if (!error) return file;
-  const auto* const started = reinterpret_cast<const char*>(::getauxval(AT_EXECFN));
+  const auto* const started = std::bit_cast<const char*>(::getauxval(AT_EXECFN));
   return started == nullptr ? std::filesystem::path() : std::filesystem::canonical(started, error);
 }
 

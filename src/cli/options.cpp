@@ -320,7 +320,7 @@ std::string WantedIn(const std::vector<std::string>& arguments) {
 
 // The library's sentences in the words of the program.
 std::string Refusal(const CLI::ParseError& error) {
-  const std::string said = error.what();
+  std::string said = error.what();
   const auto before = [&said](std::string_view mark) { return said.substr(0, said.find(mark)); };
   if (dynamic_cast<const CLI::ExtrasError*>(&error) != nullptr)
     return "argomento non previsto: " + said.substr(said.find(": ") + 2);

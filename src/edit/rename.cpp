@@ -115,6 +115,15 @@ std::string Tidied(std::string_view name) {
   return result;
 }
 
+// A pattern may be such that trying all ways to match takes years. Where the library knows how to follow them all at
+// once, at the price of references back, that cannot be.
+#ifdef __GLIBCXX__
+constexpr auto PatternSyntax =
+    std::regex::ECMAScript | std::regex::icase | std::regex_constants::__polynomial;
+#else
+constexpr auto PatternSyntax = std::regex::ECMAScript | std::regex::icase;
+#endif
+
 // What a rule makes of a name; both in bytes.
 using Change = std::function<std::string(std::string_view name, int slot)>;
 
@@ -122,7 +131,7 @@ Base::Result<Change> PatternChange(const std::string& pattern, const std::string
   if (pattern.find(Lacking) != std::string::npos)
     return Error{"Il modello ha un carattere che il ricevitore non ha"};
   try {
-    const std::regex expression(pattern, std::regex::ECMAScript | std::regex::icase);
+    const std::regex expression(pattern, PatternSyntax);
     return Change([expression, with](std::string_view name, int) {
       return std::regex_replace(std::string(name), expression, with);
     });

@@ -168,9 +168,10 @@ std::string TextOf(const SortPlan& plan) {
     return "Non si può: " + Base::Counted(plan.without, "canale non trova posto", "canali non trovano posto");
   std::string text = plan.moved == 0
                          ? "Nessun canale cambia posto"
-                         : Base::Counted(plan.moved, "canale cambia posto", "canali cambiano posto") + ", " +
-                               Base::Counted(plan.groups, "gruppo", "gruppi");
-  if (plan.gaps > 0) text += ", " + Base::Counted(plan.gaps, "posto vuoto", "posti vuoti") + " fra i canali";
+                         : Base::Counted(plan.moved, "canale cambia posto", "canali cambiano posto");
+  if (plan.gaps > 0)
+    text += ", " + Base::Counted(plan.groups, "gruppo", "gruppi") + ", " +
+            Base::Counted(plan.gaps, "posto vuoto", "posti vuoti") + " fra i canali";
   return text;
 }
 

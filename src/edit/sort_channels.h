@@ -38,7 +38,7 @@ struct SortPlan {
 // How the channels in `slots`, which rise, would be put into the same slots.
 SortPlan PlanSort(const Routines::State& state, const std::vector<int>& slots, const SortOrder& order);
 
-// "7 canali cambiano posto, 2 gruppi", or why it cannot be followed; UTF-8.
+// "7 canali cambiano posto, 2 gruppi, 3 posti vuoti fra i canali", or why it cannot be followed; UTF-8.
 std::string TextOf(const SortPlan& plan);
 
 // Follows a plan of this state; favourites go along, entries on empty places among them are taken out.

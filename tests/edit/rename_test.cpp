@@ -56,6 +56,7 @@ TEST(Rename, WhatCannotBeIsSaidAndNothingIsCut) {
   EXPECT_EQ(Renamed("Canale con nome", {{PutBehind, "HD"}, {Replace, "Canale ", ""}}), "con nome HD");
   EXPECT_EQ(Renamed("Rai", {{PutBehind, "Ω"}}), "= Il nome ha un carattere che il ricevitore non ha");
   EXPECT_EQ(Renamed("Rai", {{Replace, "rai", ""}}), "= Un canale senza nome sarebbe un posto vuoto");
+  EXPECT_EQ(Renamed("CANAL+ DECALE HD", {{Pattern, "((.+)+)+((.+)+)+x$", ""}}), "CANAL+ DECALE HD") << "soon";
   EXPECT_EQ(Renamed("Rai", {{Pattern, "(", ""}}), "= Il modello non è un'espressione regolare valida");
   EXPECT_EQ(Renamed("Rai", {{TakeFront}}), "= Manca il testo della regola");
   const std::vector<RenameRule> growing(40, {Replace, "a", "aaaa"});

@@ -145,7 +145,7 @@ RenameDialog::RenameDialog(const Session& session, Edit::SourceName source, QWid
 void RenameDialog::Build() {
   table_->setObjectName("NomiNuovi");
   table_->setAccessibleName("Nomi nuovi");
-  ShowPreview(*table_, *names_, {11, 20, 24, 10});
+  ShowPreview(*table_, *names_, {11, 24, 26, 11});
   auto* another = NamedButton("AggiungiRegola", "Aggiungi una regola", this);
   connect(another, &QPushButton::clicked, this, [this] { AddRule({}); });
   auto* column = new QVBoxLayout(this);

@@ -107,7 +107,7 @@ void SetDialog::Build() {
   auto* table = new QTableView(this);
   table->setObjectName("ValoriNuovi");
   table->setAccessibleName("Valori nuovi");
-  ShowPreview(*table, *preview_, {11, 20, 38, 38});
+  ShowPreview(*table, *preview_, {11, 24, 30, 30});
   form->addRow(table);
   form->addRow(outcome_);
   const PreviewButtons buttons(*this, *preview_, "Imposta");

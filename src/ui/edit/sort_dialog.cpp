@@ -119,7 +119,7 @@ QString SortDialog::How() const {
   QStringList keys;
   for (std::size_t i = 0; i < keys_.size(); ++i)
     if (i == 0 || keys_[i]->currentIndex() > 0) keys += keys_[i]->currentText();
-  return "per " + keys.join(", ") +
+  return "(" + keys.join(", ") + ")" +
          (selection_->isChecked() ? QString(" nelle righe selezionate")
                                   : QString(" dal canale %1").arg(start_->value()));
 }

@@ -94,7 +94,7 @@ void FavouritesEdits::AddFound(std::size_t list, QWidget* parent) {
     Tell("Nessun canale trovato: il filtro sopra la griglia dice quali cercare");
     return;
   }
-  AddSeen(list, filter.Matches(), {}, parent);
+  AddSeen(list, filter.Matches(), {}, {}, parent);
 }
 
 void FavouritesEdits::AddFromFile(std::size_t list, QWidget* parent) {
@@ -104,12 +104,11 @@ void FavouritesEdits::AddFromFile(std::size_t list, QWidget* parent) {
   QStringList missing;
   for (int number = match.list.offered + 1; number <= match.list.Count(); ++number)
     missing += CodePageText(Base::TrimmedRight(match.list.At(number).record.Name()));
-  AddSeen(list, Review::SlotsInOrder(match), missing, parent);
-  if (const QString unreadable = UnreadableIn(*file); !unreadable.isEmpty()) Tell(unreadable);
+  AddSeen(list, Review::SlotsInOrder(match), missing, UnreadableIn(*file), parent);
 }
 
 void FavouritesEdits::AddSeen(std::size_t list, const std::vector<int>& slots, const QStringList& missing,
-                              QWidget* parent) {
+                              const QString& unreadable, QWidget* parent) {
   const State& state = session_.document.Tables();
   const auto plan = Edit::PlanFavourites(state, list, slots);
   std::vector<PreviewLine> lines;
@@ -125,9 +124,10 @@ void FavouritesEdits::AddSeen(std::size_t list, const std::vector<int>& slots, c
   QString outcome = QString("Da aggiungere a %1: %2; %3 di %4 posti occupati")
                         .arg(Title(list), Counted(added, "canale", "canali"))
                         .arg(now + added)
-                        .arg(Routines::FavouriteEntries);
+                        .arg(Routines::FavouriteRoom(state.FavouritesBlock, list));
   if (full > 0) outcome += QString("; senza posto: %1").arg(full);
   if (!missing.isEmpty()) outcome += QString("; non in lista: %1").arg(missing.size());
+  if (!unreadable.isEmpty()) outcome += "; " + unreadable;
   const PreviewText text{"AggiungiAiPreferiti",
                          "Aggiungi a " + Title(list),
                          {"Nome", "Perché no"},

@@ -36,8 +36,9 @@ class FavouritesEdits {
   [[nodiscard]] QString Title(std::size_t list) const;
 
  private:
-  // `missing` are names that the list on the disk has and this one has not.
-  void AddSeen(std::size_t list, const std::vector<int>& slots, const QStringList& missing, QWidget* parent);
+  // `missing` are names that the list on the disk has and this one has not, `unreadable` says what else it has.
+  void AddSeen(std::size_t list, const std::vector<int>& slots, const QStringList& missing,
+               const QString& unreadable, QWidget* parent);
   void Add(std::size_t list, const std::vector<int>& slots, std::size_t place);
   [[nodiscard]] std::string ToldEntries(std::size_t list, const Places& places, const char* one,
                                         const char* more, const QString& where) const;

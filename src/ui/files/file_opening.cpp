@@ -86,7 +86,8 @@ void FileOpening::Drop(const QMimeData& data) {
 // Of several files one flash, or another whole list, becomes the list, and one list of rows stands beside it: whatever
 // else there is would take the place of one of them.
 void FileOpening::OpenAll(std::vector<DroppedFile> files) {
-  std::ranges::stable_partition(files, [](const DroppedFile& file) { return file.ending == "dat"; });
+  std::stable_partition(files.begin(), files.end(),
+                        [](const DroppedFile& file) { return file.ending == "dat"; });
   QStringList refusals;
   bool list = false;
   bool pane = false;

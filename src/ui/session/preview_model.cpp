@@ -20,13 +20,15 @@ std::vector<PreviewLine> LinesOf(const Routines::State& state, const Routines::S
                                  const std::vector<int>& slots) {
   std::vector<PreviewLine> lines;
   for (const int slot : slots) {
-    if (map[slot] == 0 || state.Channel(slot).Empty()) continue;
+    if (state.Channel(slot).Empty()) continue;
     const QString name = CodePageText(Base::TrimmedRight(state.Channel(slot).Name()));
     const bool stays = map[slot] == slot;
-    lines.push_back({map[slot], {name, stays ? QString() : QString::number(slot)}, {}});
+    lines.push_back({map[slot],
+                     {name, stays ? QString() : QString::number(slot)},
+                     map[slot] == 0 ? QString("Non trova posto") : QString()});
   }
-  std::sort(lines.begin(), lines.end(),
-            [](const PreviewLine& one, const PreviewLine& other) { return one.slot < other.slot; });
+  std::stable_sort(lines.begin(), lines.end(),
+                   [](const PreviewLine& one, const PreviewLine& other) { return one.slot < other.slot; });
   return lines;
 }
 

@@ -21,7 +21,8 @@ struct PreviewLine {
   QString fault;      // why the line cannot be done; empty where it can
 };
 
-// The channels of `slots` where a map puts them: number to be, name, number now where that is another one.
+// The channels of `slots` where a map puts them: number to be, name, number now where that is another one. Those that find
+// no place come first, as lines that cannot be done.
 std::vector<PreviewLine> LinesOf(const Routines::State& state, const Routines::SlotMap& map,
                                  const std::vector<int>& slots);
 
