@@ -45,7 +45,7 @@ void TransponderCommands::ControllaTransponder() {
     return;
   }
   if (auto* open = OpenWindow<TransponderWindow>(window_)) open->close();
-  (new TransponderWindow(session_, PathText(name), std::move(*list), window_))->BringUp();
+  (new TransponderWindow(session_, PathText(name), *list, window_))->BringUp();
 }
 
 }  // namespace Ui

@@ -60,8 +60,8 @@ QString Report(const Edit::TransponderReport& report) {
 
 }  // namespace
 
-TransponderWindow::TransponderWindow(Session& session, const QString& fileName, Formats::TransponderList list,
-                                     QMainWindow& window)
+TransponderWindow::TransponderWindow(Session& session, const QString& fileName,
+                                     const Formats::TransponderList& list, QMainWindow& window)
     : ToolWindow("FinestraControlloTransponder", "Controllo dei transponder", &window),
       session_(session),
       fileName_(fileName),
@@ -73,8 +73,8 @@ TransponderWindow::TransponderWindow(Session& session, const QString& fileName, 
       tree_(new QTreeWidget(this)),
       counts_(new QLabel(this)),
       result_(new ElidedLabel(Qt::ElideRight, this)) {
-  for (ListedTransponder& transponder : list.transponders)
-    positions_[transponder.position].push_back(std::move(transponder));
+  for (const ListedTransponder& transponder : list.transponders)
+    positions_[transponder.position].push_back(transponder);
   TakeKeys(window);
   counts_->setObjectName("ConteggioControllo");
   counts_->setTextFormat(Qt::PlainText);

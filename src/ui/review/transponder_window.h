@@ -23,7 +23,7 @@ class TransponderWindow : public ToolWindow {
   Q_OBJECT
 
  public:
-  TransponderWindow(Session& session, const QString& fileName, Formats::TransponderList list,
+  TransponderWindow(Session& session, const QString& fileName, const Formats::TransponderList& list,
                     QMainWindow& window);
 
  private:
