@@ -16,10 +16,12 @@ class Updater {
       : state_(state), satellite_(satellite), bouquets_(bouquets) {}
 
   TransponderReport Run(const std::vector<TransponderFinding>& chosen) {
-    // Missing ones last, when as many slots are free as can be.
-    for (const bool missing : {false, true}) {
+    // Doubled ones first: the one that takes their channels may be listed no more, and is not to be removed then. Missing
+    // ones last, when as many slots are free as can be.
+    for (const auto mark : {TransponderMark::Doubled, TransponderMark::Changed, TransponderMark::Gone,
+                            TransponderMark::Missing}) {
       for (const TransponderFinding& finding : chosen) {
-        if ((finding.mark == TransponderMark::Missing) == missing) Take(finding);
+        if (finding.mark == mark) Take(finding);
       }
     }
     return report_;

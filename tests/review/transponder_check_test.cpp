@@ -95,4 +95,18 @@ TEST(TransponderCheck, FindsWhatIsMissingChangedGoneOrDoubledAndTakesIt) {
       Edit::UpdateTransponders(state, {{TransponderMark::Missing, 0, 0, listed[0]}}, 0, bouquets).noSlot, 1);
 }
 
+TEST(TransponderCheck, ChannelsOfADoubleStayTunedThoughBothAreListedNoMore) {
+  State state;
+  state.ChannelCount = 1;
+  state.TransponderCount = 2;
+  for (const int slot : {1, 2}) state.Transponder(slot).record = MakeTransponder(11766, false, 0, 3, 2, 5);
+  state.Channel(1) = MakeChannel("c", 2, 1, 1, 1);
+  const auto found = CheckTransponders(state, {}, 0, true);
+  EXPECT_EQ(Told(found), "gone 1 0 0; doubled 2 1 0; ");
+  const Edit::TransponderReport report = Edit::UpdateTransponders(state, found, 0, {});
+  EXPECT_EQ(report.joined + report.inUse * 10 + report.removed * 100, 11);
+  EXPECT_EQ(Edit::ChannelsOn(state, 1), std::vector({1}));
+  EXPECT_FALSE(IsFree(state.Transponder(1).record));
+}
+
 }  // namespace Review
