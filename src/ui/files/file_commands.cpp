@@ -110,7 +110,7 @@ void FileCommands::Load(const std::string& path, const Base::Bytes& image, int a
       Edit::History::Kind::List);
   if (!appended) {
     document.MarkSaved(path);
-    session_.settings.Choose(settings);
+    if (settings != session_.settings.Chosen()) session_.settings.Choose(settings);
   }
   session_.status.ShowProgress(100);
   session_.view.ShowFromStart(View::Channels);

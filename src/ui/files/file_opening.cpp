@@ -34,17 +34,13 @@ bool FileOpening::OpenFlash(const std::string& path) {
 }
 
 void FileOpening::OpenWhenChosen(const std::string& path) {
-  const auto open = [this, path] {
-    if (session_.settings.Chosen().quantiCanali) files_.ApriFlashInput(path);
-    return session_.settings.Chosen().quantiCanali.has_value();
-  };
-  if (open()) return;
+  if (session_.settings.Chosen().quantiCanali) return files_.ApriFlashInput(path);
   session_.status.ShowResult("Scegliere in \"Canali da copiare\" quanti canali ha il ricevitore: " +
                              PathText(Base::FileName(path)) + " si apre subito dopo");
-  auto* waiting = new QObject(this);
-  connect(&session_.settings, &SettingsPanel::Clicked, waiting, [open, waiting] {
-    if (!open()) return;
-    waiting->deleteLater();
+  waiting_ = connect(&session_.settings, &SettingsPanel::Clicked, this, [this, path] {
+    if (!session_.settings.Chosen().quantiCanali) return;
+    disconnect(waiting_);  // before it opens, as opening may tell of options too
+    files_.ApriFlashInput(path);
   });
 }
 
@@ -69,6 +65,7 @@ void FileOpening::OpenRecent(const QString& path) {
     return;
   }
   if (!used.Complete()) return void(OpenFlash(PathBytes(path)));
+  disconnect(waiting_);  // this one is wanted now
   if (actions_.Offers("ApriFlashInput")) files_.ApriFlashInput(PathBytes(path), used);
 }
 

@@ -48,6 +48,7 @@ class FileOpening : public QObject {
   ServiceListCommands& lists_;
   RecentFiles& recent_;
   Actions& actions_;
+  QMetaObject::Connection waiting_;  // of a file that is opened once the number of channels has been chosen
 };
 
 }  // namespace Ui

@@ -61,6 +61,19 @@ TEST_F(OpeningFiles, TheLastEightAreOfferedWithTheirOptionsAndVanishedOnesGo) {
   EXPECT_FALSE(Action("FileRecenti_8").isVisible());
 }
 
+TEST_F(OpeningFiles, TheOneGivenAtTheStartWaitsForTheNumberOfChannels) {
+  const std::string other = folder_.Write("altra.dat", Contents(flash_));
+  StartEmpty();
+  window_->OpenWhenChosen(other);
+  EXPECT_FALSE(List().Loaded);
+  ASSERT_TRUE(driver_->Pick("QuantiCanali_0"));
+  EXPECT_EQ(List().InputFlash, other);
+  StartEmpty();
+  window_->OpenWhenChosen(other);
+  ASSERT_TRUE(driver_->Choose("FileRecenti_2"));
+  EXPECT_EQ(List().InputFlash, flash_) << "another one is wanted now";
+}
+
 TEST_F(OpeningFiles, DroppedOnesOpenLikeTheirCommandsOrItIsSaidWhyNot) {
   const std::string text = folder_.Path("lista.TXT");
   Export("FormatoTesto", text);
