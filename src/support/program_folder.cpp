@@ -62,7 +62,7 @@ void FillProgramFolder(const std::string& shipped, const std::string& folder) {
     copied.push_back(name);
   }
   if (std::find(copied.begin(), copied.end(), Demo) == copied.end()) return;
-  for (const auto kind : {FolderKind::Input, FolderKind::Foreign, FolderKind::Output})
+  for (const auto kind : {FolderKind::Input, FolderKind::Foreign})
     SaveFolderOf(folder, kind, folder + "/" + Demo);
 }
 

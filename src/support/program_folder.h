@@ -24,8 +24,8 @@ ProgramFolder FindProgramFolder(const ProgramPlaces& places);
 // Whether a folder has any of the support files.
 bool HasSupportFiles(const std::string& folder);
 
-// Copies what is shipped into a new `folder`: the support files, and the demo lists, which the file dialogs start
-// with. Where any of the support files is there already nothing happens.
+// Copies what is shipped into a new `folder`: the support files, and the demo lists, which the dialogs for files
+// to be read start with. Where any of the support files is there already nothing happens.
 void FillProgramFolder(const std::string& shipped, const std::string& folder);
 
 }  // namespace Support

@@ -36,7 +36,8 @@ void Session::GoToChannel(int slot) {
 QString Session::FolderFor(FolderKind kind) const {
   const std::string folder = Support::LoadFolder(programFolder, kind);
   const std::string& opened = document.Tables().InputFlash;
-  const bool beside = folder.empty() && kind == FolderKind::Output && !opened.empty();
+  const bool chosen = !folder.empty() && folder != programFolder;
+  const bool beside = !chosen && kind == FolderKind::Output && !opened.empty();
   return PathText(beside ? Base::FolderOf(opened) : folder);
 }
 

@@ -72,8 +72,8 @@ struct Session {
 
   // The file that the user chooses, asked for in the folder remembered for its kind; empty where the user gives up.
   [[nodiscard]] std::string AskOpen(const QString& title, const QString& filters, FolderKind kind) const;
-  // The folder that such a question begins in. Where no folder for outputs has been chosen yet it is the one of the flash
-  // that was opened.
+  // The folder that such a question begins in. Where no folder for outputs has been chosen yet (the program's own is
+  // none: earlier versions began with it) it is the one of the flash that was opened.
   [[nodiscard]] QString FolderFor(FolderKind kind) const;
   // Does so for a file to write, which the flash of the list must not be: the status bar says that and, in `refusal`,
   // what has not been done.

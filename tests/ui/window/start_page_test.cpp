@@ -1,4 +1,5 @@
 // The first minutes, from an empty home folder, and files of the program that are missing or wrong.
+#include "support/pos_ini.h"
 #include "support/program_folder.h"
 #include "ui/kit/text.h"
 #include "ui/window_fixture.h"
@@ -36,6 +37,15 @@ TEST_F(FirstMinutes, TheStartPageLeadsThroughTheFirstStepsAndTicksThem) {
   EXPECT_TRUE(StandsOut("FlashScrittura"));
   ASSERT_TRUE(driver_->Choose("Annulla"));
   EXPECT_TRUE(window_->findChild<QWidget*>("InizioRecente_1")->isVisible());
+}
+
+TEST_F(FirstMinutes, TheFolderOfTheDemoListIsNoChoiceForTheFirstSave) {
+  EXPECT_EQ(Support::LoadFolder(home_, Support::FolderKind::Output), "");
+  Support::SaveFolderOf(home_, Support::FolderKind::Output, home_ + "/demo.dat");  // as versions before did
+  Open(flash_);
+  ASSERT_TRUE(driver_->Pick("FlashScrittura_1"));
+  SaveAs("demo.dat", 647);
+  EXPECT_EQ(List().OutputFlash, flash_);
 }
 
 TEST_F(FirstMinutes, ADemoListThatWasDeletedStaysAway) {
