@@ -23,13 +23,14 @@ struct Backups {
 };
 
 struct Saved {
-  std::string copy = {};  // name of the one made of the old image; empty where it is what this program wrote
+  // Name of the copy of the old image, with its folder where that is another one; empty where it is what this program wrote.
+  std::string copy = {};
   // Name of the copy of what another program has saved there meanwhile, empty for none.
   std::string othersCopy = {};
   int removedCopies = 0;  // old ones that have given way to newer ones
 };
 
-// " - tolte 2 copie di sicurezza di troppo: …" of the image called `name`, UTF-8; empty where there is nothing to tell.
+// " - com'era prima resta in lista.dat.bak - tolte 2 copie …" of the image called `name`, UTF-8; empty where there is nothing to tell.
 std::string TextOf(const Saved& saved, const std::string& name);
 
 // Overwrites the image at `path`, which held `before` when it was read, with `after`. Where they differ outside of the

@@ -120,11 +120,13 @@ void FavouritesEdits::AddSeen(std::size_t list, const std::vector<int>& slots, c
   for (const QString& name : missing) lines.push_back({0, {name, NotInList}, NotInList});
   const auto added = std::count(plan.begin(), plan.end(), Edit::Addition::Added);
   const auto full = std::count(plan.begin(), plan.end(), Edit::Addition::Full);
-  const auto now = static_cast<long>(Routines::FavouriteEntriesOf(state.FavouritesBlock, list).size());
-  QString outcome = QString("Da aggiungere a %1: %2; %3 di %4 posti occupati")
-                        .arg(Title(list), Counted(added, "canale", "canali"))
-                        .arg(now + added)
-                        .arg(Routines::FavouriteRoom(state.FavouritesBlock, list));
+  const Base::Bytes& block = state.FavouritesBlock;
+  const auto now = static_cast<long>(Routines::FavouriteEntriesOf(block, list).size());
+  QString outcome =
+      QString("Da aggiungere a %1: %2; %3 di %4 posti occupati")
+          .arg(Title(list), Counted(added, "canale", "canali"))
+          .arg(now + added)
+          .arg(block.empty() ? Routines::FavouriteEntries : Routines::FavouriteRoom(block, list));
   if (full > 0) outcome += QString("; senza posto: %1").arg(full);
   if (!missing.isEmpty()) outcome += QString("; non in lista: %1").arg(missing.size());
   if (!unreadable.isEmpty()) outcome += "; " + unreadable;
