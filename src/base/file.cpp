@@ -151,7 +151,7 @@ Result<Bytes> ReadFile(const std::string& path, std::size_t limit) {
 }
 
 Outcome ReplaceFile(const std::string& path, ByteView bytes, const std::string& like,
-                    const std::function<Outcome()>& lastLook) {
+                    const LastLook& lastLook) {
   const std::string target = ResolvedPath(path);
   const FileStatus old = StatusOf(target);
   if (const int refused = Refusal(target, old); refused != 0) return WriteFailure(path, refused);

@@ -36,8 +36,9 @@ Result<Bytes> ReadFile(const std::string& path, std::size_t limit);
 // a symbolic link and keeps the permissions of an existing file, its access list too; a new one takes those of the file
 // `like`, if it is given. After an error the old file is as it was. What a save that was killed has left in the folder goes away.
 // `lastLook` runs when all that is left to do is the step itself; its error is one of the whole.
+using LastLook = std::function<Outcome()>;
 Outcome ReplaceFile(const std::string& path, ByteView bytes, const std::string& like = {},
-                    const std::function<Outcome()>& lastLook = {});
+                    const LastLook& lastLook = {});
 
 // For a folder that takes no new file: overwrites an existing file of the same size where it lies, flushes it
 // and reads it back. `before` is what it holds now; after an error those bytes are written again.

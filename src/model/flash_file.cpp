@@ -33,9 +33,9 @@ Base::Result<Kept> BackUp(const std::string& target, Base::ByteView bytes, const
 // In one step, or where the image lies when its folder takes no new file. Up to the last moment another program may
 // save there too: what it leaves is kept. `before` is empty where there is no file yet.
 Base::Outcome Overwrite(const std::string& target, Base::ByteView before, Base::ByteView after,
-                        const Backups& backups, Saved& saved) {
+                        const Backups& backups, Saved& saved, const Base::LastLook& lastLook) {
   Base::Bytes last(before.begin(), before.end());
-  const auto lookAgain = [&]() -> Base::Outcome {
+  const auto keepOthers = [&]() -> Base::Outcome {
     auto now = Base::ReadFile(target, LargestCopy);
     if (!now && now.error().systemCode == ENOENT) return Base::Done{};
     if (!now) return now.error();
@@ -46,6 +46,10 @@ Base::Outcome Overwrite(const std::string& target, Base::ByteView before, Base::
     last = std::move(*now);
     return Base::Done{};
   };
+  const auto lookAgain = [&] {
+    auto kept = keepOthers();
+    return kept && lastLook ? lastLook() : kept;
+  };
   auto replaced = Base::ReplaceFile(target, after, {}, lookAgain);
   if (replaced || before.empty() || !Base::FolderRefuses(replaced.error())) return replaced;
   if (auto looked = lookAgain(); !looked) return looked;
@@ -54,7 +58,7 @@ Base::Outcome Overwrite(const std::string& target, Base::ByteView before, Base::
 
 // Keeps `before`, which the file at `target` holds, unless this program has written it, and replaces it.
 Base::Result<Saved> PutInPlace(const std::string& target, Base::ByteView before, Base::ByteView after,
-                               Backups& backups) {
+                               Backups& backups, const Base::LastLook& lastLook) {
   const auto last = backups.written.find(target);
   Saved saved;
   std::string folder;
@@ -64,7 +68,7 @@ Base::Result<Saved> PutInPlace(const std::string& target, Base::ByteView before,
     folder = kept->folder;
     saved.copy = folder == Base::FolderOf(target) ? kept->name : folder + "/" + kept->name;
   }
-  const auto written = Overwrite(target, before, after, backups, saved);
+  const auto written = Overwrite(target, before, after, backups, saved, lastLook);
   // A failed attempt does not count: the file may hold something else by the next one.
   if (!written) return written.error();
   backups.written[target].assign(after.begin(), after.end());
@@ -105,30 +109,30 @@ std::string TextOf(const Saved& saved, const std::string& name) {
 }
 
 Base::Result<Saved> SaveFlash(const std::string& path, Base::ByteView before, Base::ByteView after,
-                              Backups& backups) {
+                              Backups& backups, const Base::LastLook& lastLook) {
   if (!DiffersOnlyInSections(before, after)) return LeavesSections(path);
-  return PutInPlace(Base::ResolvedPath(path), before, after, backups);
+  return PutInPlace(Base::ResolvedPath(path), before, after, backups, lastLook);
 }
 
 Base::Result<Saved> SaveFlashCopy(const std::string& path, Base::ByteView original, Base::ByteView after,
-                                  Backups& backups) {
+                                  Backups& backups, const Base::LastLook& lastLook) {
   if (!DiffersOnlyInSections(original, after)) return LeavesSections(path);
   const std::string target = Base::ResolvedPath(path);
   const auto before = Base::ReadFile(target, LargestCopy);
-  if (before) return PutInPlace(target, *before, after, backups);
+  if (before) return PutInPlace(target, *before, after, backups, lastLook);
   if (before.error().systemCode != ENOENT) return before.error();
   Saved saved;
-  const auto written = Overwrite(target, {}, after, backups, saved);
+  const auto written = Overwrite(target, {}, after, backups, saved, lastLook);
   if (!written) return written.error();
   backups.written[target].assign(after.begin(), after.end());
   return saved;
 }
 
 Base::Result<Saved> SaveNewFlash(const std::string& path, Base::ByteView original, Base::ByteView after,
-                                 Backups& backups) {
+                                 Backups& backups, const Base::LastLook& lastLook) {
   if (Base::StatusOf(path).code != ENOENT)
     return Base::Error{"Impossibile scrivere " + Base::FileName(path) + ": esiste già", "", EEXIST};
-  return SaveFlashCopy(path, original, after, backups);
+  return SaveFlashCopy(path, original, after, backups, lastLook);
 }
 
 }  // namespace Routines

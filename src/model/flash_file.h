@@ -2,6 +2,7 @@
 #pragma once
 
 #include "base/bytes.h"
+#include "base/file.h"
 #include "base/result.h"
 
 #include <map>
@@ -36,16 +37,17 @@ std::string TextOf(const Saved& saved, const std::string& name);
 // Overwrites the image at `path`, which held `before` when it was read, with `after`. Where they differ outside of the
 // sections that a write may change, that is an error and nothing is written. Unless the old bytes are what the last save
 // wrote, they are kept as NAME.bak beside it (NAME.bak2, … where another one exists), and so is what the file holds by the
-// time it is replaced, if that is something else; without those copies nothing is written.
+// time it is replaced, if that is something else; without those copies nothing is written. `lastLook` runs when all that is
+// left to do is to take the file's place; its error is one of the whole.
 Base::Result<Saved> SaveFlash(const std::string& path, Base::ByteView before, Base::ByteView after,
-                              Backups& backups);
+                              Backups& backups, const Base::LastLook& lastLook = {});
 
 // Writes `after`, which was made of another file's `original`, to `path`, be it new or not, with the same check. Whatever it
 // held is kept as above.
 Base::Result<Saved> SaveFlashCopy(const std::string& path, Base::ByteView original, Base::ByteView after,
-                                  Backups& backups);
+                                  Backups& backups, const Base::LastLook& lastLook = {});
 // The same, but a name that is taken is an error and nothing is written.
 Base::Result<Saved> SaveNewFlash(const std::string& path, Base::ByteView original, Base::ByteView after,
-                                 Backups& backups);
+                                 Backups& backups, const Base::LastLook& lastLook = {});
 
 }  // namespace Routines

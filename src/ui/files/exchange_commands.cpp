@@ -34,7 +34,7 @@ std::string ExchangeCommands::AskExport(const QString& filters) {
 }
 
 void ExchangeCommands::Export(const std::string& path, Base::ByteView bytes, const std::string& lost) {
-  const auto written = Base::ReplaceFile(path, bytes);
+  const auto written = ReplaceFilePatiently(path, bytes);
   session_.status.ShowResult(written ? "Esportato " + PathText(Base::FileName(path)) +
                                            (lost.empty() ? QString() : ": " + Text(lost))
                                      : Text(written.error().message));
@@ -69,11 +69,8 @@ void ExchangeCommands::FormatoFLASH() {
   const std::string flash = session_.document.Tables().InputFlash;
   const std::string path = AskExport("Files di testo(*.fls)|*.fls");
   if (path.empty()) return;
-  const auto image = Routines::ReadFlash(flash, "Errore FLASH di Input");
-  if (!image) {
-    session_.Message(image.error());
-    return;
-  }
+  const auto image = ReadFlashPatiently(flash, "Errore FLASH di Input");
+  if (!image) return session_.Message(image.error());
   const auto rates = session_.LoadSymbolRates();
   if (!rates) return;
   Document& document = session_.document;
@@ -84,7 +81,7 @@ void ExchangeCommands::FormatoFLASH() {
   // The list gives way to the image only where it is another one.
   const bool another = *reloaded != document.Tables();
   if (another && !session_.mayReplaceList()) return;
-  const auto written = Base::ReplaceFile(path, Formats::WriteFls(*reloaded));
+  const auto written = ReplaceFilePatiently(path, Formats::WriteFls(*reloaded));
   if (!written) {
     session_.status.ShowResult(Text(written.error().message));
     return;

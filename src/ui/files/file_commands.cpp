@@ -4,12 +4,13 @@
 #include "model/flash_loader.h"
 #include "model/flash_writer.h"
 #include "model/symbol_rates.h"
+#include "ui/kit/patience.h"
 #include "ui/kit/text.h"
-#include "ui/kit/toolkit.h"
 
 #include <algorithm>
 #include <cerrno>
 #include <iterator>
+#include <utility>
 
 namespace Ui {
 
@@ -21,15 +22,13 @@ constexpr const char* InputTitle = "Errore FLASH di Input";
 constexpr const char* OutputTitle = "Errore FLASH di Output";
 constexpr const char* RatesMovedText = " - SR 22000 spostato senza Converti SR";
 
+using Written = Base::Result<std::pair<Routines::Saved, Routines::Backups>>;
+
 // A file's name, short enough to leave room for what is said of it.
 QString ShortName(const std::string& path) {
   constexpr qsizetype Longest = 60;
   const QString name = PathText(Base::FileName(path));
   return name.size() <= Longest ? name : name.left(Longest / 2) + "…" + name.right(Longest / 2);
-}
-
-Base::Result<Base::Bytes> ReadWaiting(const std::string& path, const char* title) {
-  return Waiting([&] { return Routines::ReadFlash(path, title); });
 }
 
 // What the summary's number counts, as it says no more than "Canali effettivi".
@@ -76,11 +75,8 @@ void FileCommands::ApriFlashInput(std::string path, std::optional<Routines::Sett
   if (!settings && !Meets(session_, Need::Capacity)) return;
   if (path.empty()) path = session_.AskOpen("Selezionare la flash di input", FlashFilters, FolderKind::Input);
   if (path.empty()) return;
-  const auto image = ReadWaiting(path, InputTitle);
-  if (!image) {
-    session_.Message(image.error());
-    return;
-  }
+  const auto image = ReadFlashPatiently(path, InputTitle);
+  if (!image) return session_.Message(image.error());
   session_.RememberFolder(FolderKind::Input, path);
   Load(path, *image, *appendStart, settings.value_or(session_.settings.Chosen()));
 }
@@ -161,11 +157,8 @@ void FileCommands::Salva() {
     AskAndWrite(*preparation);
     return;
   }
-  const auto original = ReadWaiting(path, OutputTitle);
-  if (!original) {
-    session_.Message(original.error());
-    return;
-  }
+  const auto original = ReadFlashPatiently(path, OutputTitle);
+  if (!original) return session_.Message(original.error());
   Write(path, *original, *preparation, Routines::SaveFlash);
 }
 
@@ -173,11 +166,8 @@ void FileCommands::Salva() {
 void FileCommands::SalvaCopiaNuova() {
   const auto preparation = Prepare();
   if (!preparation) return;
-  const auto original = ReadWaiting(session_.document.Tables().InputFlash, InputTitle);
-  if (!original) {
-    session_.Message(original.error());
-    return;
-  }
+  const auto original = ReadFlashPatiently(session_.document.Tables().InputFlash, InputTitle);
+  if (!original) return session_.Message(original.error());
   const std::string path = PathBytes(session_.dialogs.SaveFile(
       {"Salvare la copia nuova in", FlashFilters, session_.FolderFor(FolderKind::Output), true}));
   if (path.empty()) return;
@@ -189,11 +179,10 @@ void FileCommands::AskAndWrite(const Preparation& preparation) {
   const std::string path =
       session_.AskOpen("Selezionare la flash di output", FlashFilters, FolderKind::Output);
   if (path.empty()) return;
-  const auto original = ReadWaiting(path, OutputTitle);
+  const auto original = ReadFlashPatiently(path, OutputTitle);
   if (!original) {
     const bool vanished = original.error().systemCode == ENOENT;
-    session_.Message(vanished ? Routines::WrongFlashSize(0, OutputTitle) : original.error());
-    return;
+    return session_.Message(vanished ? Routines::WrongFlashSize(0, OutputTitle) : original.error());
   }
   session_.RememberFolder(FolderKind::Output, path);
   Write(path, *original, preparation, Routines::SaveFlash);
@@ -206,13 +195,15 @@ void FileCommands::Write(const std::string& path, const Base::Bytes& original, c
   const State& state = session_.document.Tables();
   const Routines::PatchedFlash patched = Routines::PatchFlash(state, original, preparation.plan);
   status.ShowProgress(30);
-  const auto saved = Waiting([&] { return save(path, original, patched.image, session_.backups); });
+  auto saved = Patiently(WritingOf(path), [save, path, original, after = patched.image,
+                                           backups = session_.backups](auto& point) mutable {
+    auto written = save(path, original, after, backups, LookAt(point));
+    return written ? Written(std::pair(*written, std::move(backups))) : Written(written.error());
+  });
   status.ShowProgress(100);
-  if (!saved) {
-    session_.dialogs.Message(Text(saved.error().message), OutputTitle);
-    return;
-  }
-  TellWritten(path, patched, preparation, *saved);
+  if (!saved) return session_.Message({saved.error().message, OutputTitle, saved.error().systemCode});
+  session_.backups = std::move(saved->second);
+  TellWritten(path, patched, preparation, saved->first);
   if (onWritten) onWritten();
 }
 

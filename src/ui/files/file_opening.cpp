@@ -72,6 +72,7 @@ void FileOpening::OpenRecent(const QString& path) {
 void FileOpening::Drop(const QMimeData& data) {
   // The drag's source waits for the drop; the questions come after it.
   QTimer::singleShot(0, this, [this, files = FilesIn(data)] {
+    if (actions_.Busy()) return;
     if (files.size() == 1) {
       Open(files.front());
     } else {

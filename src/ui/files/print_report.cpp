@@ -4,6 +4,7 @@
 #include "base/text.h"
 #include "model/favourites.h"
 #include "ui/kit/text.h"
+#include "ui/session/session.h"
 
 #include <QAbstractItemModel>
 #include <QBuffer>
@@ -210,7 +211,7 @@ Base::Result<int> SavePdf(const PrintReport& report, const std::string& path, co
   }
   const QByteArray& bytes = buffer.data();
   const auto written =
-      Base::ReplaceFile(path, Base::AsBytes({bytes.constData(), static_cast<std::size_t>(bytes.size())}));
+      ReplaceFilePatiently(path, Base::AsBytes({bytes.constData(), static_cast<std::size_t>(bytes.size())}));
   if (!written) return written.error();
   return pages;
 }

@@ -121,7 +121,7 @@ void CompareCommands::SalvaOrdine() {
   if (path.empty()) return;
   const Routines::Order order = Routines::OrderOf(session_.document.Tables());
   const std::string text = Formats::WriteOrderText(order);
-  const auto written = Base::ReplaceFile(path, Base::AsBytes(text));
+  const auto written = ReplaceFilePatiently(path, Base::AsBytes(text));
   session_.status.ShowResult(
       written ? QString("Salvato l'ordine di %1 in %2")
                     .arg(Counted(order.entries.size(), "canale", "canali"), PathText(Base::FileName(path)))

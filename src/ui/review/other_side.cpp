@@ -12,21 +12,27 @@ namespace Ui {
 
 using Routines::State;
 
+const char* OtherSide::BoxTitle(const Session& session) const {
+  const bool output = OnDisk() && path_ == session.document.Tables().OutputFlash;
+  return output ? "Errore FLASH di Output" : "Errore FLASH di Input";
+}
+
 Base::Outcome OtherSide::Read(const Session& session) {
-  const State& mine = session.document.Tables();
-  const bool output = OnDisk() && path_ == mine.OutputFlash;
-  const char* const title = output ? "Errore FLASH di Output" : "Errore FLASH di Input";
-  const auto image = Waiting([&] { return Routines::ReadFlash(path_, title); });
+  const auto image = ReadFlashPatiently(path_, BoxTitle(session));
   if (!image) return image.error();
+  Take(session, *image);
+  return Base::Done{};
+}
+
+void OtherSide::Take(const Session& session, Base::ByteView image) {
   written_ = Written();
   auto list = std::make_unique<State>();
-  const int capacity = Capacity(session.settings.Chosen(), *image);
-  const Routines::LoadReport report = Routines::LoadFlash(*list, *image, capacity, 0, {});
+  const int capacity = Capacity(session.settings.Chosen(), image);
+  const Routines::LoadReport report = Routines::LoadFlash(*list, image, capacity, 0, {});
   channelsRead_ = report.channelsRead;
   channelsInImage_ = report.channelsInImage;
   list->SymbolRateTable = symbolRates_;
   list_ = Routines::OtherListOf(*list);
-  return Base::Done{};
 }
 
 // As many channels as the receiver knows that the user has chosen.
@@ -47,7 +53,10 @@ void OtherSide::Follow(const Session& session) {
   if (path == path_ && Written() == written_) return;
   // What cannot be read any more stays as it was read last.
   OtherSide now(kind_, path);
-  if (now.Read(session)) *this = std::move(now);
+  const auto image = Waiting([&] { return Routines::ReadFlash(path, now.BoxTitle(session)); });
+  if (!image) return;
+  now.Take(session, *image);
+  *this = std::move(now);
 }
 
 Review::Comparison OtherSide::Compare(const Session& session) {

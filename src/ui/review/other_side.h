@@ -30,6 +30,7 @@ class OtherSide {
     return state.OutputFlash.empty() ? state.InputFlash : state.OutputFlash;
   }
 
+  // Reads its file, which the user may give up.
   Base::Outcome Read(const Session& session);
   // Reads the file on the disk again where it has been written to, or where the list is now in another one.
   void Follow(const Session& session);
@@ -46,6 +47,8 @@ class OtherSide {
   [[nodiscard]] QString Title() const;
 
  private:
+  [[nodiscard]] const char* BoxTitle(const Session& session) const;
+  void Take(const Session& session, Base::ByteView image);
   [[nodiscard]] int Capacity(const Routines::Settings& settings, Base::ByteView image) const;
   [[nodiscard]] QDateTime Written() const;
 

@@ -3,8 +3,8 @@
 #include "base/file.h"
 #include "formats/list_format.h"
 #include "formats/scan_table.h"
+#include "ui/kit/patience.h"
 #include "ui/kit/text.h"
-#include "ui/kit/toolkit.h"
 #include "ui/review/transponder_window.h"
 
 #include <QMainWindow>
@@ -36,10 +36,14 @@ void TransponderCommands::ControllaTransponder() {
       session_.AskOpen("Selezionare l'elenco di transponder", "Tutti i file (*.*)|*.*|", FolderKind::Foreign);
   if (path.empty()) return;
   session_.RememberFolder(FolderKind::Foreign, path);
-  const auto bytes = session_.Read(path);
+  auto bytes = session_.Read(path);
   if (!bytes) return;
   const std::string name = Base::FileName(path);
-  auto list = Waiting([&] { return TranspondersIn(Base::AsText(*bytes), name); });
+  const auto read = Patiently(ReadingOf(path), [own = std::move(*bytes), name] {
+    return Base::Result(TranspondersIn(Base::AsText(own), name));
+  });
+  if (!read) return session_.Message(read.error());
+  const auto& list = *read;
   if (!list || list->transponders.empty()) {
     session_.dialogs.Message(PathText(name) + " non è un elenco di transponder", {});
     return;

@@ -1,5 +1,6 @@
 #include "ui/session/actions.h"
 
+#include "ui/kit/patience.h"
 #include "ui/session/session.h"
 
 #include <QAction>
@@ -24,7 +25,15 @@ Actions::Actions(Session& session, QMainWindow& window) : session_(session) {
 
 bool Actions::Allows(CommandName command) { return Offers(command) && Meets(session_, command->gate); }
 
+// Until a box of Patiently() has gone nothing else begins.
+bool Actions::Busy() const {
+  if (UnderWay().isEmpty()) return false;
+  session_.status.ShowResult(UnderWay() + ": prima si attende la fine, o si annulla l'operazione");
+  return true;
+}
+
 bool Actions::Offers(CommandName command) {
+  if (Busy()) return false;
   const char* why = WhyDisabled(session_, command->gate.enabled);
   if (*why != '\0') session_.status.ShowResult(why);
   return *why == '\0';
@@ -33,8 +42,9 @@ bool Actions::Offers(CommandName command) {
 // First of all a command does: what is being typed in a cell is no longer open to doubt.
 void Actions::Choose(CommandName command) {
   const auto& [action, run] = commands_[command.Index()];
-  session_.view.FinishEditing();
-  if (Meets(session_, command->gate)) {
+  const bool free = !Busy();
+  if (free) session_.view.FinishEditing();
+  if (free && Meets(session_, command->gate)) {
     run();
   } else if (action->isCheckable()) {
     action->toggle();  // back to what it was before the click
@@ -42,6 +52,7 @@ void Actions::Choose(CommandName command) {
 }
 
 void Actions::Push(ButtonName button) {
+  if (Busy()) return;
   session_.view.FinishEditing();
   if (!Meets(session_, button->need)) return;
   if (!button->command) {

@@ -31,6 +31,8 @@ class Actions {
   bool Allows(CommandName command);
   // The same as far as it is enabled: what it needs beside that is another matter.
   bool Offers(CommandName command);
+  // Whether work is going on that a command would come in the way of; tells the user so.
+  [[nodiscard]] bool Busy() const;
 
   [[nodiscard]] QAction& operator[](CommandName command) const { return *commands_[command.Index()].action; }
   [[nodiscard]] QAction& Button(ButtonName button) const { return *buttons_[button.Index()].action; }

@@ -37,7 +37,7 @@ void SaveLines(Session& session, const QString& text) {
       session.AskSave("Salva l'elenco", "Files di testo(*.txt)|*.txt", FolderKind::Foreign, "Non salvato");
   if (path.empty()) return;
   const std::string bytes = Base::FromUtf8Lossy(QString(text).replace("\n", "\r\n").toStdString());
-  if (const auto written = Base::ReplaceFile(path, Base::AsBytes(bytes)); !written)
+  if (const auto written = ReplaceFilePatiently(path, Base::AsBytes(bytes)); !written)
     session.Message(written.error());
 }
 

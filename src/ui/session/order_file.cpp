@@ -2,6 +2,7 @@
 
 #include "base/file.h"
 #include "formats/list_format.h"
+#include "ui/kit/patience.h"
 #include "ui/kit/text.h"
 
 namespace Ui {
@@ -13,9 +14,15 @@ std::optional<OrderFile> AskOrder(Session& session) {
                                            FolderKind::Foreign);
   if (path.empty()) return std::nullopt;
   session.RememberFolder(FolderKind::Foreign, path);
-  const auto bytes = session.Read(path);
+  auto bytes = session.Read(path);
   if (!bytes) return std::nullopt;
-  OrderFile file{PathText(Base::FileName(path)), Formats::OrderInFile(*bytes)};
+  auto order = Patiently(ReadingOf(path),
+                         [own = std::move(*bytes)] { return Base::Result(Formats::OrderInFile(own)); });
+  if (!order) {
+    session.Message(order.error());
+    return std::nullopt;
+  }
+  OrderFile file{PathText(Base::FileName(path)), std::move(*order)};
   if (!file.order.entries.empty()) return file;
   session.dialogs.Message(file.name + " non è un elenco di canali", {});
   return std::nullopt;

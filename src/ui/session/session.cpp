@@ -3,12 +3,32 @@
 #include "base/file.h"
 #include "base/text.h"
 #include "edit/told.h"
+#include "ui/kit/patience.h"
 #include "ui/kit/text.h"
-#include "ui/kit/toolkit.h"
 
 #include <utility>
 
 namespace Ui {
+
+QString ReadingOf(const std::string& path) { return "Lettura di " + PathText(Base::FileName(path)); }
+
+QString WritingOf(const std::string& path) { return "Scrittura di " + PathText(Base::FileName(path)); }
+
+Base::Result<Base::Bytes> ReadFlashPatiently(const std::string& path, const char* title) {
+  return Patiently(ReadingOf(path), [path, title] { return Routines::ReadFlash(path, title); });
+}
+
+Base::Outcome ReplaceFilePatiently(const std::string& path, Base::ByteView bytes) {
+  return Patiently(WritingOf(path),
+                   [path, own = Base::Bytes(bytes.begin(), bytes.end())](Base::PointOfNoReturn& point) {
+                     return Base::ReplaceFile(path, own, {}, LookAt(point));
+                   });
+}
+
+void Session::Message(const Base::Error& error) {
+  if (IsGivenUp(error)) return status.ShowResult(Text(error.message));
+  dialogs.Message(Text(error.message), Text(error.title));
+}
 
 QString Session::Losses(const std::vector<Edit::LostFavourite>& lost) const {
   const std::string text = Edit::LostFavouritesText(document.Tables().FavouritesBlock, lost);
@@ -54,7 +74,7 @@ std::string Session::AskSave(const QString& title, const QString& filters, Folde
 }
 
 std::optional<Base::Bytes> Session::Read(const std::string& path, std::size_t largest) {
-  auto bytes = Waiting([&] { return Base::ReadFile(path, largest); });
+  auto bytes = Patiently(ReadingOf(path), [path, largest] { return Base::ReadFile(path, largest); });
   if (bytes) return std::move(*bytes);
   Message(bytes.error());
   return std::nullopt;

@@ -27,6 +27,16 @@ using Support::FolderKind;
 // No list of channels that anybody has is larger, in bytes: a SatcoDX list of a million lines is some 130 MB.
 inline constexpr std::size_t LargestList = 256U << 20U;
 
+// What Patiently() does with a file, to be read on its box.
+QString ReadingOf(const std::string& path);
+QString WritingOf(const std::string& path);
+
+// Routines::ReadFlash, which may be given up.
+Base::Result<Base::Bytes> ReadFlashPatiently(const std::string& path, const char* title);
+
+// Base::ReplaceFile for a file that the user has chosen; it can be given up until its last step.
+Base::Outcome ReplaceFilePatiently(const std::string& path, Base::ByteView bytes);
+
 struct Session {
   std::string programFolder;
   Support::BouquetDefinitions bouquets;
@@ -55,7 +65,8 @@ struct Session {
     for (const auto& tell : onChange) tell();
   }
 
-  void Message(const Base::Error& error) { dialogs.Message(Text(error.message), Text(error.title)); }
+  // In a box; what the user has given up is told in the result line.
+  void Message(const Base::Error& error);
 
   // ", tolti 3 preferiti (Cinema 2, Sport 1)" to stand behind a result; empty where nothing was lost.
   [[nodiscard]] QString Losses(const std::vector<Edit::LostFavourite>& lost) const;

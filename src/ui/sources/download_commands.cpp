@@ -8,14 +8,28 @@
 #include <QApplication>
 #include <QDir>
 #include <QFile>
+#include <QLabel>
+#include <QLocale>
 #include <QTimer>
 
+#include <algorithm>
 #include <cerrno>
 
 namespace Ui {
 namespace {
 
 constexpr std::size_t LargestDownload = 64U << 20U;
+
+QString SizeText(qint64 bytes) {
+  return QLocale().formattedDataSize(bytes, 1, QLocale::DataSizeTraditionalFormat);
+}
+
+// "1,2 MB di 4,0 MB, 350,0 kB al secondo" after so many milliseconds; `total` is -1 where the server has not said it.
+QString TransferText(qint64 received, qint64 total, qint64 milliseconds) {
+  const QString all = total > 0 ? " di " + SizeText(total) : QString();
+  return SizeText(received) + all + ", " + SizeText(received * 1000 / std::max<qint64>(milliseconds, 1)) +
+         " al secondo";
+}
 
 }  // namespace
 
@@ -96,16 +110,23 @@ void DownloadCommands::TellFailed(const QString& what) {
 }
 
 void DownloadCommands::ShowProgress() {
-  progress_ = new QProgressDialog("Scaricamento di " + address_, "Annulla", 0, 0, &window_);
+  progress_ = new QProgressDialog({}, "Annulla", 0, 0, &window_);
+  auto* text = new QLabel("Scaricamento di " + address_ + "\nAttesa del server…", progress_);
+  text->setTextFormat(Qt::PlainText);
+  text->setAlignment(Qt::AlignCenter);
+  progress_->setLabel(text);
   progress_->setObjectName("Scaricamento");
   progress_->setWindowTitle("Trovalis");
   progress_->setAttribute(Qt::WA_DeleteOnClose);
   progress_->setMinimumDuration(0);
   progress_->setAutoReset(false);
   progress_->setValue(0);
+  since_.start();
   connect(&download_, &Download::Progress, progress_, [this](qint64 received, qint64 total) {
     progress_->setMaximum(total > 0 ? 1000 : 0);
     progress_->setValue(total > 0 ? static_cast<int>(received * 1000 / total) : 0);
+    progress_->setLabelText("Scaricamento di " + address_ + "\n" +
+                            TransferText(received, total, since_.elapsed()));
   });
   connect(progress_, &QProgressDialog::canceled, this, [this] {
     download_.Cancel();
@@ -131,7 +152,7 @@ void DownloadCommands::Take(bool good, const QByteArray& reply) {
     session_.dialogs.Message("Errore di connessione a : " + address_ + CodePageText(text.substr(0, 80)), {});
     return;
   }
-  const auto written = Base::ReplaceFile(path_, Base::AsBytes(Formats::DownloadedLines(text)));
+  const auto written = ReplaceFilePatiently(path_, Base::AsBytes(Formats::DownloadedLines(text)));
   if (!written) {
     TellFailed("Scaricamento non riuscito");
     session_.Message(written.error());

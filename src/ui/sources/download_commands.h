@@ -6,6 +6,7 @@
 #include "ui/sources/download_frame.h"
 #include "ui/sources/sdx_commands.h"
 
+#include <QElapsedTimer>
 #include <QPointer>
 #include <QProgressDialog>
 
@@ -40,6 +41,7 @@ class DownloadCommands : public QObject {
   QWidget& window_;
   Download download_;
   QPointer<QProgressDialog> progress_;
+  QElapsedTimer since_;  // the transfer has begun
   QString address_;
   std::string path_;
   struct OldList {

@@ -3,8 +3,8 @@
 #include "base/file.h"
 #include "formats/flash_rows.h"
 #include "formats/foreign_list.h"
+#include "ui/kit/patience.h"
 #include "ui/kit/text.h"
-#include "ui/kit/toolkit.h"
 #include "ui/sources/foreign_dialog.h"
 #include "ui/sources/foreign_settings.h"
 
@@ -20,11 +20,8 @@ void ForeignCommands::CaricaAggiuntiva() {
   const std::string path =
       session_.AskOpen("Selezionare la flash aggiuntiva", FlashFilters, FolderKind::Input);
   if (path.empty()) return;
-  const auto image = Waiting([&] { return Routines::ReadFlash(path, "Errore FLASH di Input"); });
-  if (!image) {
-    session_.Message(image.error());
-    return;
-  }
+  const auto image = ReadFlashPatiently(path, "Errore FLASH di Input");
+  if (!image) return session_.Message(image.error());
   const auto rates = session_.LoadSymbolRates();
   if (!rates) return;
   Formats::SdxTable table = Formats::ReadFlashRows(*image, rates->table, session_.bouquets.tables);
@@ -57,7 +54,12 @@ void ForeignCommands::Import(const QString& kind, const QString& caption) {
                        session_.bouquets.tables.satellites, session_.dialogs, &window_);
   if (dialog.exec() != QDialog::Accepted) return;
   RememberLayout(ini, kind, dialog.Layout());
-  sdx_.Show(Formats::ReadForeign(text->text, dialog.Layout(), dialog.Satellite()), PathText(name));
+  auto rows = Patiently(ReadingOf(path),
+                        [own = text->text, layout = dialog.Layout(), satellite = dialog.Satellite()] {
+                          return Base::Result(Formats::ReadForeign(own, layout, satellite));
+                        });
+  if (!rows) return session_.Message(rows.error());
+  sdx_.Show(std::move(*rows), PathText(name));
   sdx_.TellTaken(PathText(name));
 }
 

@@ -4,6 +4,7 @@
 #include "base/text.h"
 #include "edit/told.h"
 #include "formats/sdx_import.h"
+#include "ui/kit/patience.h"
 #include "ui/kit/text.h"
 #include "ui/session/filter_texts.h"
 #include "ui/sources/missing_window.h"
@@ -22,6 +23,17 @@ namespace {
 // "3 righe fuori banda", which have no transponder they could stand on; empty for none.
 QString OutOfBandText(int rows) {
   return rows == 0 ? QString() : Counted(rows, "riga fuori banda", "righe fuori banda");
+}
+
+struct ListRows {
+  Formats::SdxTable table;
+  std::set<std::pair<int, int>> services;  // of all lines, as ServicesOf() has them
+};
+
+ListRows RowsIn(std::string_view text, const Formats::SdxOptions& options) {
+  ListRows rows{Formats::ReadSatcodx(text, options), Formats::ServicesOf(text)};
+  Formats::KeepOthers(rows.table, Formats::ReadSatcodx(text, Formats::WithoutFilters(options)));
+  return rows;
 }
 
 QString RowName(const Formats::SdxRow& row) { return CodePageText(Base::TrimmedRight(row.name)); }
@@ -56,18 +68,25 @@ void SdxCommands::Open(std::string path) {
 }
 
 void SdxCommands::Load(const std::string& path) {
-  const auto bytes = session_.Read(path);
-  if (!bytes) return;
-  const std::string_view text = Base::AsText(*bytes);
-  SdxOptionsDialog dialog(PathText(Base::FileName(path)), text, session_, &window_);
+  auto read = session_.Read(path);
+  if (!read) return;
+  const auto bytes = std::make_shared<const Base::Bytes>(std::move(*read));
+  auto contents = Patiently(ReadingOf(path), [bytes] {
+    const std::string_view text = Base::AsText(*bytes);
+    return Base::Result(
+        SdxOptionsDialog::Contents{Formats::SummaryOf(text), Formats::EncryptionCodesOf(text)});
+  });
+  if (!contents) return session_.Message(contents.error());
+  SdxOptionsDialog dialog(PathText(Base::FileName(path)), std::move(*contents), session_, &window_);
   if (dialog.exec() != QDialog::Accepted) return;
-  const Formats::SdxOptions options = dialog.Chosen();
-  Formats::SdxTable table = Formats::ReadSatcodx(text, options);
-  Formats::KeepOthers(table, Formats::ReadSatcodx(text, Formats::WithoutFilters(options)));
-  const QString name = CodePageText(Base::TrimmedRight(table.satelliteName));
-  Show(std::move(table), name);
+  auto rows = Patiently(ReadingOf(path), [bytes, options = dialog.Chosen()] {
+    return Base::Result(RowsIn(Base::AsText(*bytes), options));
+  });
+  if (!rows) return session_.Message(rows.error());
+  const QString name = CodePageText(Base::TrimmedRight(rows->table.satelliteName));
+  Show(std::move(rows->table), name);
   TellTaken(PathText(Base::FileName(path)));
-  ListMissing(options.satellite, text);
+  ListMissing(dialog.Chosen().satellite, std::move(rows->services));
 }
 
 void SdxCommands::Show(Formats::SdxTable table, const QString& name) {
@@ -101,8 +120,8 @@ void SdxCommands::TellTaken(const QString& file) {
   if (table.full) session_.dialogs.Message("Superato il numero di canali SDX gestibili 4000", {});
 }
 
-void SdxCommands::ListMissing(int satellite, std::string_view text) {
-  const auto find = [this, listed = Formats::ServicesOf(text), satellite] {
+void SdxCommands::ListMissing(int satellite, std::set<std::pair<int, int>> services) {
+  const auto find = [this, listed = std::move(services), satellite] {
     Edit::Slots missing;
     for (const auto& [service, slot] : Formats::KnownServices(session_.document.Tables())) {
       if (service[0] == satellite && !listed.contains({service[1], service[2]})) missing.push_back(slot);

@@ -5,6 +5,9 @@
 #include "ui/session/session.h"
 #include "ui/sources/sdx_pane.h"
 
+#include <set>
+#include <utility>
+
 class QMainWindow;
 
 namespace Ui {
@@ -40,7 +43,8 @@ class SdxCommands {
   void ImportAll();
   // Rows were dropped in front of slot `before`.
   void Drop(const Edit::Slots& rows, int before);
-  void ListMissing(int satellite, std::string_view text);
+  // `services` are those of the list, as Formats::ServicesOf() has them.
+  void ListMissing(int satellite, std::set<std::pair<int, int>> services);
   // Rows of the table that can become channels, with their numbers in it, and how many cannot.
   struct Rows {
     std::vector<Formats::SdxRow> content;

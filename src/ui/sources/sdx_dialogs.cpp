@@ -29,14 +29,14 @@ Widget* Named(const char* name, Arguments&&... arguments) {
 
 }  // namespace
 
-SdxOptionsDialog::SdxOptionsDialog(const QString& fileName, std::string_view text, const Session& session,
+SdxOptionsDialog::SdxOptionsDialog(const QString& fileName, Contents contents, const Session& session,
                                    QWidget* parent)
     : QDialog(parent),
       session_(session),
-      summary_(Formats::SummaryOf(text)),
+      summary_(std::move(contents.summary)),
       satellite_(Named<QComboBox>("Combo1", this)),
       warning_(Named<QLabel>("AvvisoSatellite", this)),
-      rows_(Formats::EncryptionCodesOf(text), FiltersOf(session), *this) {
+      rows_(std::move(contents.codes), FiltersOf(session), *this) {
   setObjectName("OpzioniImportSDX");
   setWindowTitle("Opzioni importazione SDX");
   FillSatellites(*satellite_, session.bouquets.tables.satellites);

@@ -19,8 +19,12 @@ class SdxOptionsDialog : public QDialog {
   Q_OBJECT
 
  public:
-  // `text` is what the file holds.
-  SdxOptionsDialog(const QString& fileName, std::string_view text, const Session& session, QWidget* parent);
+  struct Contents {
+    Formats::SatcodxSummary summary;
+    std::vector<std::string> codes;
+  };
+
+  SdxOptionsDialog(const QString& fileName, Contents contents, const Session& session, QWidget* parent);
 
   [[nodiscard]] Formats::SdxOptions Chosen() const;
 

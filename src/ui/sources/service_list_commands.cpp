@@ -4,8 +4,8 @@
 #include "formats/list_format.h"
 #include "formats/scan_table.h"
 #include "formats/service_rows.h"
+#include "ui/kit/patience.h"
 #include "ui/kit/text.h"
-#include "ui/kit/toolkit.h"
 #include "ui/sources/service_list_dialog.h"
 
 namespace Ui {
@@ -21,6 +21,21 @@ QString WhyNone(const QString& file, const Formats::ListFormat* format) {
   return QString("%1 (%2) contiene solo %3").arg(file, Text(format->title), holds);
 }
 
+struct ReadList {
+  explicit ReadList(Base::Bytes read) : bytes(std::move(read)) {}
+
+  Base::Bytes bytes;
+  Formats::ListText text{Base::AsText(bytes)};
+};
+
+// The format, null for none, and what a list of it has if that is services.
+std::pair<const Formats::ListFormat*, Formats::ListSummary> SummaryIn(const ReadList& list) {
+  const std::string_view text = list.text.View();
+  const Formats::ListFormat* format = Formats::FormatOf(text);
+  if (format == nullptr || format->Services == nullptr) return {format, {}};
+  return {format, Formats::SummaryOf(*format->Services(text))};
+}
+
 }  // namespace
 
 void ServiceListCommands::Connect(Actions& actions) {
@@ -28,7 +43,7 @@ void ServiceListCommands::Connect(Actions& actions) {
 }
 
 bool ServiceListCommands::Knows(const std::string& path) {
-  const auto bytes = Waiting([&] { return Base::ReadFile(path, LargestList); });
+  const auto bytes = Patiently(ReadingOf(path), [path] { return Base::ReadFile(path, LargestList); });
   return bytes && Formats::FormatOf(Formats::ListText(Base::AsText(*bytes)).View()) != nullptr;
 }
 
@@ -41,25 +56,29 @@ void ServiceListCommands::Open(std::string path) {
   }
   if (path.empty()) return;
   session_.RememberFolder(FolderKind::Foreign, path);
-  if (const auto bytes = session_.Read(path)) Import(path, Base::AsText(*bytes));
+  if (auto bytes = session_.Read(path)) Import(path, std::move(*bytes));
 }
 
-void ServiceListCommands::Import(const std::string& path, std::string_view bytes) {
+void ServiceListCommands::Import(const std::string& path, Base::Bytes bytes) {
   const QString file = PathText(Base::FileName(path));
-  const Formats::ListText text(bytes);
-  const Formats::ListFormat* format = Formats::FormatOf(text.View());
+  const auto list = std::make_shared<const ReadList>(std::move(bytes));
+  auto summary = Patiently(ReadingOf(path), [list] { return Base::Result(SummaryIn(*list)); });
+  if (!summary) return session_.Message(summary.error());
+  const auto& [format, found] = *summary;
   if (format == nullptr || format->Services == nullptr) {
     session_.dialogs.Message(WhyNone(file, format), {});
     return;
   }
-  auto summary = Waiting([&] { return Formats::SummaryOf(*format->Services(text.View())); });
-  ServiceListDialog dialog({file, *format, text.View()}, std::move(summary), session_, &window_);
+  ServiceListDialog dialog({file, *format, list->text.View()}, found, session_, &window_);
   if (dialog.exec() != QDialog::Accepted) return;
-  const Formats::ListOptions options = dialog.Chosen();
-  Formats::SdxTable table = Formats::RowsOf(*format->Services(text.View()), options);
-  Formats::KeepOthers(table,
-                      Formats::RowsOf(*format->Services(text.View()), Formats::WithoutFilters(options)));
-  sdx_.Show(std::move(table), file);
+  auto table = Patiently(ReadingOf(path), [list, services = format->Services, options = dialog.Chosen()] {
+    const std::string_view text = list->text.View();
+    Formats::SdxTable rows = Formats::RowsOf(*services(text), options);
+    Formats::KeepOthers(rows, Formats::RowsOf(*services(text), Formats::WithoutFilters(options)));
+    return Base::Result(std::move(rows));
+  });
+  if (!table) return session_.Message(table.error());
+  sdx_.Show(std::move(*table), file);
   sdx_.TellTaken(file);
 }
 

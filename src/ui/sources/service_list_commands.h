@@ -19,7 +19,7 @@ class ServiceListCommands {
   [[nodiscard]] static bool Knows(const std::string& path);
 
  private:
-  void Import(const std::string& path, std::string_view bytes);
+  void Import(const std::string& path, Base::Bytes bytes);
 
   Session& session_;
   SdxCommands& sdx_;
