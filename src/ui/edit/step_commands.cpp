@@ -83,14 +83,15 @@ void StepCommands::Redo(int steps) {
             Told("Ripetuto", "Ripetute", session_.document.Steps().RedoLabels(), steps));
 }
 
-// A list that came back is shown from its start; one that went away no longer is.
+// A list that came back is shown where it was left; one that went away no longer is.
 void StepCommands::TakeSteps(void (Document::*take)(int), int steps, const QString& result) {
   Document& document = session_.document;
   const auto before = std::make_unique<State>(document.Tables());
+  session_.view.KeepPlace();
   (document.*take)(steps);
   const State& state = document.Tables();
   if (state.ListNumber != before->ListNumber) {
-    session_.view.ShowFromStart(state.Loaded ? View::Channels : View::None);
+    state.Loaded ? session_.view.ShowOpened({}) : session_.view.ShowFromStart(View::None);
   } else if (session_.view.Current() != View::None) {
     const bool channels = session_.view.Current() == View::Channels;
     const Edit::Slots changed =

@@ -131,7 +131,7 @@ void ExchangeCommands::Import(const std::string& path, const Preparation& prepar
         return told;
       },
       Edit::History::Kind::List);
-  if (report.listRead) session_.view.ShowFromStart(View::Channels);
+  if (report.listRead) session_.view.ShowOpened(path);
   if (report.listRead && report.whole) {
     session_.favouritesAtHand = true;
     session_.ShowList();

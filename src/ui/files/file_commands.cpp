@@ -109,7 +109,7 @@ void FileCommands::Load(const std::string& path, const Base::Bytes& image, int a
     if (settings != session_.settings.Chosen()) session_.settings.Choose(settings);
   }
   session_.status.ShowProgress(100);
-  session_.view.ShowFromStart(View::Channels);
+  session_.view.ShowOpened(appended ? std::string() : path);
   bool tellMore = true;
   for (const std::string& message : report.messages) {
     if (&message == &report.messages.front()) {

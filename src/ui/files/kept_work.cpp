@@ -141,7 +141,7 @@ void KeptWork::Restore(Edit::Recovery& recovery) {
       },
       Edit::History::Kind::List);
   keptList_ = number;
-  session_.view.ShowFromStart(View::Channels);
+  session_.view.ShowOpened(recovery.state.InputFlash);
 }
 
 // Without a list there is nowhere to paste what was cut: the file of the list that was undone is set aside with it.

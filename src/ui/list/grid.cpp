@@ -11,18 +11,13 @@
 #include <QPainter>
 #include <QScrollBar>
 #include <QShortcut>
-#include <QSignalBlocker>
 #include <QStyledItemDelegate>
 
 #include <algorithm>
 #include <memory>
-#include <numeric>
 
 namespace Ui {
 namespace {
-
-constexpr int CellMargin = 14;
-constexpr int TickRoom = 14;
 
 QString HeaderStyle() {
   return QString(
@@ -148,12 +143,7 @@ void Grid::ShowList(TableModel* list) {
     setModel(list);
     if (frozen_->model() != nullptr) frozen_->setModel(nullptr);  // until it is shown
   }
-  widths_.clear();
-  own_ = {0};
-  for (const HeaderColumn& column : list->Header()) {
-    widths_.push_back(fontMetrics().horizontalAdvance(column.widthText) + CellMargin);
-  }
-  if (list->KnowsChannelList()) widths_.front() += TickRoom;
+  ReadHeader();
   FitColumns();
   selectionModel()->clear();
   selectionModel()->setCurrentIndex(list->index(0, 1), QItemSelectionModel::NoUpdate);
@@ -245,44 +235,6 @@ void Grid::selectionChanged(const QItemSelection& selected, const QItemSelection
 void Grid::currentChanged(const QModelIndex& current, const QModelIndex& previous) {
   QTableView::currentChanged(current, previous);
   Q_EMIT CurrentMoved();
-}
-
-std::vector<int> Grid::SharedWidths() const {
-  std::vector<int> widths = widths_;
-  int spare = viewport()->width() - std::accumulate(widths.begin(), widths.end(), 0);
-  if (spare <= 0) return widths;
-  int sharing = 0;
-  for (std::size_t i = 0; i < widths.size(); ++i) sharing += own_.contains(i) ? 0 : widths[i];
-  // Each takes its part of what those before it have left, so that no pixel is.
-  for (std::size_t i = 0; i < widths.size(); ++i) {
-    if (own_.contains(i)) continue;
-    const int share = spare * widths[i] / std::max(sharing, 1);
-    sharing -= widths[i];
-    widths[i] += share;
-    spare -= share;
-  }
-  return widths;
-}
-
-void Grid::FitColumns() {
-  if (widths_.empty() || !isVisible()) return;
-  const std::vector<int> widths = SharedWidths();
-  {
-    // Told of each width, the view would paint once before and once after it has taken them in.
-    const QSignalBlocker quiet(horizontalHeader());
-    for (std::size_t i = 0; i < widths.size(); ++i) setColumnWidth(static_cast<int>(i), widths[i]);
-  }
-  updateGeometries();
-  viewport()->update();
-  PlaceFrozen();
-}
-
-// A column that the user has made wider or narrower keeps that width when the window changes its own.
-void Grid::KeepWidth(int column, int width) {
-  if (static_cast<std::size_t>(column) >= widths_.size()) return;
-  widths_[static_cast<std::size_t>(column)] = width;
-  own_.insert(static_cast<std::size_t>(column));
-  PlaceFrozen();
 }
 
 // It stands over the grid only while the grid's own first column is out of view: the toolkit moves the picture of a

@@ -2,15 +2,18 @@
 // share the spare width.
 #pragma once
 
-#include "edit/list_operations.h"
+#include "ui/list/grid_place.h"
 #include "ui/list/table_model.h"
 
 #include <QTableView>
 
+#include <map>
 #include <optional>
-#include <set>
 
 namespace Ui {
+
+// The widths that the user has given columns, in pixels, by the column from 0.
+using ColumnWidths = std::map<int, int>;
 
 class Grid : public QTableView {
   Q_OBJECT
@@ -20,8 +23,18 @@ class Grid : public QTableView {
   explicit Grid(QWidget* parent, int frozen = 1);
 
   // Shows a list from its first row on: row 1 is current, nothing is selected. Its columns share the
-  // spare width of the window by the widths that the header gives them, all but the first one.
+  // spare width of the window by the widths that the header gives them, all but the first one and those that have
+  // been given a width.
   void ShowList(TableModel* list);
+
+  // Where the list is left, and the way back there: as far as it has as many rows still, and with the rows selected
+  // where they hold what they held.
+  [[nodiscard]] GridPlace Place() const;
+  void ComeBackTo(const GridPlace& place);
+
+  // Of any list, shown or not.
+  [[nodiscard]] ColumnWidths WidthsOf(const TableModel& list) const;
+  void SetWidths(const TableModel& list, const ColumnWidths& widths);
 
   // The selected rows in rising order, from slot 1 on.
   [[nodiscard]] Edit::Slots Selected() const;
@@ -47,6 +60,8 @@ class Grid : public QTableView {
   void scrollTo(const QModelIndex& index, ScrollHint hint = EnsureVisible) override;
 
  Q_SIGNALS:
+  // The user has changed a column's width.
+  void WidthsChanged();
   void SelectionMoved();
   void CurrentMoved();
   // The user wants the menu of the selected rows, at a place of the screen.
@@ -82,6 +97,8 @@ class Grid : public QTableView {
   void HideRowsOf(QTableView& view);
   void LeaveHiddenRows();
   void ShowDropLine(QPoint place);
+  void ReadHeader();
+  [[nodiscard]] bool HasOwnWidth(std::size_t column) const;
   [[nodiscard]] std::vector<int> SharedWidths() const;
   void FitColumns();
   void KeepWidth(int column, int width);
@@ -90,11 +107,11 @@ class Grid : public QTableView {
   [[nodiscard]] int FrozenWidth() const;
 
   int frozenColumns_;
-  QTableView* frozen_;               // the first columns, on the same model
-  QWidget* dropLine_;                // where dragged rows would land, across all columns
-  std::vector<int> widths_;          // of the columns without the spare width
-  std::set<std::size_t> own_ = {0};  // columns that take no part of it
-  std::optional<Edit::Slots> only_;  // the rows shown where others are hidden
+  QTableView* frozen_;                             // the first columns, on the same model
+  QWidget* dropLine_;                              // where dragged rows would land, across all columns
+  std::vector<int> widths_;                        // of the columns without the spare width
+  std::map<const TableModel*, ColumnWidths> own_;  // columns that take no part of it
+  std::optional<Edit::Slots> only_;                // the rows shown where others are hidden
 };
 
 }  // namespace Ui

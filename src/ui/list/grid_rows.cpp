@@ -22,6 +22,32 @@ Edit::Slots Grid::Selected() const {
   return rows;
 }
 
+GridPlace Grid::Place() const {
+  if (model() == nullptr) return {};
+  GridPlace place = {rowAt(0) + 1, horizontalScrollBar()->value(), currentIndex().row() + 1,
+                     currentIndex().column(), Selected()};
+  place.fingerprint = List()->Fingerprint(place.selected);
+  return place;
+}
+
+// Of what is hidden nothing is selected or current.
+void Grid::ComeBackTo(const GridPlace& place) {
+  const int rows = model()->rowCount();
+  if (rows == 0) return;
+  updateGeometries();  // the scroll bars have to reach there
+  const bool fits = place.selected.empty() || place.selected.back() <= rows;
+  if (fits && List()->Fingerprint(place.selected) == place.fingerprint) {
+    Edit::Slots shown = place.selected;
+    std::erase_if(shown, [this](int row) { return isRowHidden(row - 1); });
+    selectionModel()->select(SelectionOf(shown), QItemSelectionModel::ClearAndSelect);
+  }
+  const int row = ShownNear(std::clamp(place.row, 1, rows));
+  const int column = std::clamp(place.column, 0, model()->columnCount() - 1);
+  selectionModel()->setCurrentIndex(model()->index(row - 1, column), QItemSelectionModel::NoUpdate);
+  ScrollToTop(std::clamp(place.top, 1, rows));
+  horizontalScrollBar()->setValue(place.sideways);
+}
+
 QItemSelection Grid::SelectionOf(const Edit::Slots& rows) const {
   QItemSelection selection;
   const int lastColumn = model()->columnCount() - 1;

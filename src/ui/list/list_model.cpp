@@ -91,16 +91,22 @@ bool ListModel::dropMimeData(const QMimeData* data, Qt::DropAction action, int r
   return true;
 }
 
+// A view keeps its place, whatever comes or goes at the end.
 void ListModel::Refresh() {
   painted_.clear();
   const int rows = kind_.rows(document_.Tables());
-  if (rows != rows_) {
-    beginResetModel();
+  const int before = rows_;
+  if (rows > before) {
+    beginInsertRows({}, before, rows - 1);
     rows_ = rows;
-    endResetModel();
-  } else if (rows > 0) {
-    Q_EMIT dataChanged(index(0, 0), index(rows - 1, columnCount() - 1));
+    endInsertRows();
+  } else if (rows < before) {
+    beginRemoveRows({}, rows, before - 1);
+    rows_ = rows;
+    endRemoveRows();
   }
+  if (const int kept = std::min(before, rows); kept > 0)
+    Q_EMIT dataChanged(index(0, 0), index(kept - 1, columnCount() - 1));
 }
 
 }  // namespace Ui

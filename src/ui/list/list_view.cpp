@@ -47,6 +47,7 @@ ListView::ListView(const Document& document, QAction& showChannels, QAction& sho
   channels_.tip = [this](int slot) { return "<span>" + whereabouts_.Of(slot).toHtmlEscaped() + "</span>"; };
   LayOut();
 
+  connect(&document, &Document::AboutToReplace, this, &ListView::KeepPlace);
   connect(&document, &Document::Changed, this, &ListView::FindAgain);
   connect(&document, &Document::Changed, this, &ListView::ShowHint);
   connect(&document, &Document::Changed, this, &ListView::TellWhere);
@@ -88,7 +89,24 @@ void ListView::Show(View view) {
     RestoreTicks();
     return;
   }
+  KeepPlace();
   ShowFromStart(view);
+  ComeBack();
+}
+
+void ListView::ShowOpened(const std::string& path) {
+  if (!path.empty()) places_.SetFile(document_.Tables().ListNumber, path);
+  ShowFromStart(View::Channels);
+  ComeBack();
+}
+
+void ListView::KeepPlace() {
+  if (current_ != View::None) places_.Keep(document_.Tables().ListNumber, current_, grid_->Place());
+}
+
+void ListView::ComeBack() {
+  const auto place = places_.Of(document_.Tables().ListNumber, current_);
+  if (place) grid_->ComeBackTo(*place);
 }
 
 void ListView::ShowFromStart(View view) {

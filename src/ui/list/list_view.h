@@ -6,6 +6,7 @@
 #include "ui/list/filter_bar.h"
 #include "ui/list/finder.h"
 #include "ui/list/grid.h"
+#include "ui/list/left_places.h"
 #include "ui/list/list_map.h"
 #include "ui/list/list_model.h"
 #include "ui/list/whereabouts.h"
@@ -17,8 +18,6 @@ class QLabel;
 class QStackedWidget;
 
 namespace Ui {
-
-enum class View { None, Channels, Transponders };
 
 class ListView : public QWidget {
   Q_OBJECT
@@ -33,9 +32,20 @@ class ListView : public QWidget {
   // "Stampa Canali" or "Stampa Transponder", as the list last shown asks for.
   [[nodiscard]] QString PrintHeading() const { return printHeading_; }
 
-  // Shows a list, marker and ticks included. One that is shown already keeps its place, unless it is to start anew.
+  // Shows a list, marker and ticks included: where it was left, or from its start where it has not been seen yet. One
+  // that is shown already keeps its place, unless it is to start anew.
   void Show(View view);
   void ShowFromStart(View view);
+  // Shows the channels of the list that has come from a file: where they were left when it was last open, be it in an
+  // earlier session, else from their start. An empty path stands for a list that was there before and has come back.
+  void ShowOpened(const std::string& path);
+  // Keeps in mind where the list is left that another one is about to take the place of.
+  void KeepPlace();
+  [[nodiscard]] LeftPlaces& Places() { return places_; }
+
+  [[nodiscard]] const TableModel& ListOf(View view) const {
+    return view == View::Transponders ? transponders_ : channels_;
+  }
   // The menu commands: a list that is shown is closed, else it is shown.
   void Toggle(View view);
   // Sets the ticks to what is shown, for a command that was refused.
@@ -68,6 +78,7 @@ class ListView : public QWidget {
 
  private:
   void LayOut();
+  void ComeBack();
   void ShowHint();
   void MarkMatches();
   void FindAgain();
@@ -90,6 +101,7 @@ class ListView : public QWidget {
   Whereabouts whereabouts_;
   ElidedLabel* where_;  // of the current channel, under the grid
   View current_ = View::None;
+  LeftPlaces places_;
   int listNumber_ = 0;
   QString printHeading_;
 };

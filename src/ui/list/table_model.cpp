@@ -1,5 +1,7 @@
 #include "ui/list/table_model.h"
 
+#include "base/checksum.h"
+
 #include <QBrush>
 #include <QMimeData>
 
@@ -49,6 +51,14 @@ QVariant TableModel::data(const QModelIndex& index, int role) const {
     default:
       return {};
   }
+}
+
+std::uint32_t TableModel::Fingerprint(const Rows& rows) const {
+  std::string cells;
+  for (const int row : rows) {
+    for (int column = 0; column < columnCount(); ++column) cells += CellText(row, column).toStdString() + '|';
+  }
+  return Base::Crc32(Base::AsBytes(cells));
 }
 
 bool TableModel::Found(int row) const {

@@ -6,6 +6,8 @@
 
 #include <QAbstractTableModel>
 
+#include <cstdint>
+
 namespace Ui {
 
 // Dragged rows, their numbers from 1 on divided by blanks: of the channel list and of the SDX table.
@@ -33,6 +35,9 @@ class TableModel : public QAbstractTableModel {
   // Whether it is a row of another list that the channel list has too, and whether there may be any.
   [[nodiscard]] virtual bool InChannelList(int /*row*/) const { return false; }
   [[nodiscard]] virtual bool KnowsChannelList() const { return false; }
+
+  // A number that tells what the cells of some rows say from anything else that they may say later.
+  [[nodiscard]] std::uint32_t Fingerprint(const Rows& rows) const;
 
   // The rows that the filter finds, which have a mark at their edge; the rows whose mark changes are painted anew.
   void SetFound(const Rows& rows);

@@ -1,7 +1,9 @@
 #include "ui/list/tree_pane.h"
 
 #include "ui/kit/pane_head.h"
+#include "ui/kit/text.h"
 
+#include <QSet>
 #include <QStyledItemDelegate>
 #include <QToolButton>
 #include <QVBoxLayout>
@@ -66,8 +68,36 @@ void TreePane::Refresh() {
   if (stale_) return;
   const bool empty = model_.rowCount() == 0;
   model_.Refresh();
-  if (empty) tree_->expandToDepth(0);
+  if (empty) OpenFirst();
   if (!tree_->currentIndex().isValid()) Q_EMIT CurrentWanted();
+}
+
+void TreePane::ForBranches(const QModelIndex& parent, const QString& path, const Visit& visit) const {
+  for (int row = 0; row < model_.rowCount(parent); ++row) {
+    const QModelIndex index = model_.index(row, 0, parent);
+    const ListTree::Group* group = model_.GroupOf(index);
+    if (group == nullptr) return;  // nor are the channels beside it any
+    const QString branch = path + '/' + QString::number(group->number) + CodePageText(group->code);
+    visit(index, branch);
+    if (tree_->isExpanded(index)) ForBranches(index, branch, visit);
+  }
+}
+
+QStringList TreePane::OpenBranches() const {
+  if (model_.rowCount() == 0) return atFirst_;
+  QStringList open;
+  ForBranches({}, {}, [&](const QModelIndex& index, const QString& branch) {
+    if (tree_->isExpanded(index)) open += branch;
+  });
+  return open;
+}
+
+void TreePane::OpenFirst() {
+  if (atFirst_.isEmpty()) return tree_->expandToDepth(0);
+  const QSet<QString> open(atFirst_.begin(), atFirst_.end());
+  ForBranches({}, {}, [&](const QModelIndex& index, const QString& branch) {
+    tree_->setExpanded(index, open.contains(branch));
+  });
 }
 
 void TreePane::showEvent(QShowEvent* event) {

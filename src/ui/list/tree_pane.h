@@ -5,6 +5,8 @@
 
 #include <QTreeView>
 
+#include <functional>
+
 namespace Ui {
 
 // Tells where the keys have taken the current node, which a view alone does not tell from what the program does.
@@ -34,6 +36,13 @@ class TreePane : public QWidget {
   void ShowChannel(int slot);
   void ShowTransponder(int slot);
 
+  // The control name of the tree.
+  [[nodiscard]] QString Name() const { return tree_->objectName(); }
+  // The branches that are open, by what they stand for, so that they can be opened in a later session: when the first
+  // list comes. Without any the satellites are.
+  [[nodiscard]] QStringList OpenBranches() const;
+  void OpenAtFirst(const QStringList& branches) { atFirst_ = branches; }
+
   [[nodiscard]] QSize sizeHint() const override;
 
  Q_SIGNALS:
@@ -49,11 +58,17 @@ class TreePane : public QWidget {
 
  private:
   void Refresh();
+  void OpenFirst();
   void Show(const QModelIndex& index);
   void Choose(const QModelIndex& index);
 
+  // Goes through the branches below an open one, with a text for each.
+  using Visit = std::function<void(const QModelIndex& index, const QString& branch)>;
+  void ForBranches(const QModelIndex& parent, const QString& path, const Visit& visit) const;
+
   TreeModel model_;
   BranchView* tree_;
+  QStringList atFirst_;
   bool stale_ = true;
 };
 

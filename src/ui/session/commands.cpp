@@ -49,11 +49,14 @@ void BuildMenus(QMainWindow& window) {
   QMenu* import = exchange->addMenu("Importa");
   QMenu* exports = exchange->addMenu("Esporta");
   QMenu* about = bar.addMenu("&About");
-  const std::array menus = {file, edit, utilities, compare, sdx, import, exports, about};
+  auto* view = new QMenu("Vista", edit);
+  const std::array menus = {file, edit, utilities, compare, sdx, import, exports, about, view};
   for (QMenu* menu : menus) MenuLetters::Follow(*menu);
   for (const Command& command : Commands) {
     AddCommand(window, *menus[static_cast<std::size_t>(command.menu)], command);
   }
+  edit->addSeparator();
+  edit->addMenu(view);
 }
 
 void BuildToolbar(QMainWindow& window) {

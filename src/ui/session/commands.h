@@ -14,7 +14,7 @@ class QMainWindow;
 
 namespace Ui {
 
-enum class Menu { File, Edit, Utilities, Compare, Sdx, Import, Export, About };
+enum class Menu { File, Edit, Utilities, Compare, Sdx, Import, Export, About, View };
 
 // How a command stands in its menu.
 enum Place : unsigned {
@@ -101,6 +101,8 @@ inline constexpr Command Commands[] = {
      "Seleziona tutte le righe che il filtro ha trovato", Need::AnyView, Group},
     {"SoloITrovati", "Solo i trovati", Menu::Edit, "", "Ctrl+Shift+H",
      "Nasconde le righe che il filtro non ha trovato, o le mostra di nuovo", Need::AnyView, Tick},
+    {"LarghezzeIniziali", "Larghezze come all'inizio", Menu::View, "", "",
+     "Ridà a tutte le colonne delle griglie le larghezze dell'inizio"},
 
     {"CaricaImportato", "Carica Canali da file esportato", Menu::Utilities, "import", "",
      "Carica una lista esportata in formato Testo", Need::Settings},

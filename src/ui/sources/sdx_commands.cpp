@@ -90,6 +90,7 @@ void SdxCommands::Load(const std::string& path) {
 }
 
 void SdxCommands::Show(Formats::SdxTable table, const QString& name) {
+  pane_.KeepPlace();
   session_.sdx = std::move(table);
   session_.sdxName = name;
   ShowPane(true);

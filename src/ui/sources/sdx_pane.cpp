@@ -52,6 +52,16 @@ void SdxPane::Refresh(const QString& name) {
   count_->setText(Counted(model_.rowCount(), "riga", "righe"));
   filter_->SetOnly(false);
   filter_->Refresh();
+  if (name == leftName_) grid_->ComeBackTo(left_);
+}
+
+void SdxPane::KeepPlace() {
+  if (model_.rowCount() > 0 && grid_->model() != nullptr) SetLeft(name_, grid_->Place());
+}
+
+void SdxPane::SetLeft(const QString& name, const GridPlace& place) {
+  leftName_ = name;
+  left_ = place;
 }
 
 // Most of the time the pane is never looked at.

@@ -21,8 +21,15 @@ class SdxPane : public QWidget {
   [[nodiscard]] Grid& ListGrid() const { return *grid_; }
   [[nodiscard]] FilterBar& Filter() const { return *filter_; }
   [[nodiscard]] Finder& Hits() const { return *hits_; }
-  // The table holds other rows now; `name` is the file's satellite, or the file.
+  // The table holds other rows now; `name` is the file's satellite, or the file. Where it was shown last they are seen
+  // where they were left.
   void Refresh(const QString& name);
+  // Keeps in mind where the rows are left that others are about to take the place of.
+  void KeepPlace();
+  // Where rows were left, and of what name.
+  [[nodiscard]] const GridPlace& LeftAt() const { return left_; }
+  [[nodiscard]] const QString& LeftName() const { return leftName_; }
+  void SetLeft(const QString& name, const GridPlace& place);
   [[nodiscard]] const QString& Name() const { return name_; }
   [[nodiscard]] SdxModel& Model() { return model_; }
   // The slot of the channel list that has the current row's service; 0 for none.
@@ -44,6 +51,8 @@ class SdxPane : public QWidget {
  private:
   SdxModel model_;
   QString name_;
+  QString leftName_;
+  GridPlace left_;
   PaneHead* head_;
   QLabel* count_;
   FilterBar* filter_;

@@ -22,6 +22,7 @@
 #include "ui/window/options_fold.h"
 #include "ui/window/start_page.h"
 #include "ui/window/tree_commands.h"
+#include "ui/window/view_commands.h"
 
 #include <QAction>
 #include <QApplication>
@@ -132,6 +133,7 @@ void MainWindow::OpenRooms(QWidget& contents) {
   review_ = std::make_unique<ReviewRoom>(session, *actions_, *this);
   files_ = std::make_unique<FilesRoom>(session, *actions_, *sources_, *this);
   trees_ = std::make_unique<TreeCommands>(session, *sources_, *actions_, *lists);
+  views_ = std::make_unique<ViewCommands>(session, *pane, trees_->Panes(), *actions_);
 
   auto* column = new QVBoxLayout(&contents);
   column->setContentsMargins(8, 4, 8, 2);
@@ -208,6 +210,7 @@ void MainWindow::closeEvent(QCloseEvent* event) {
     return;
   }
   KeepSetting(session_->SettingsFile(), GeometryKey, saveGeometry());
+  views_->Write();
   for (QDialog* window : screen_->ToolWindows()) window->close();
   event->accept();
 }

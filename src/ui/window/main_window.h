@@ -12,6 +12,7 @@ class Dialogs;
 class Document;
 class FavouritesCommands;
 class TreeCommands;
+class ViewCommands;
 struct EditRoom;
 struct FilesRoom;
 struct ReviewRoom;
@@ -64,6 +65,7 @@ class MainWindow : public QMainWindow {
   std::unique_ptr<ReviewRoom> review_;
   std::unique_ptr<FilesRoom> files_;
   std::unique_ptr<TreeCommands> trees_;
+  std::unique_ptr<ViewCommands> views_;
   std::unique_ptr<Screen> screen_;
 };
 

@@ -17,6 +17,8 @@ class TreeCommands : public QObject {
  public:
   TreeCommands(Session& session, SourcesRoom& sources, Actions& actions, QSplitter& place);
 
+  [[nodiscard]] std::vector<TreePane*> Panes() const { return {channels_, transponders_}; }
+
  private:
   void Connect(Actions& actions);
   void VisualizzaCanali();

@@ -1,0 +1,89 @@
+// The columns of a grid: how wide they are.
+#include "ui/list/grid.h"
+
+#include <QHeaderView>
+#include <QSignalBlocker>
+
+#include <algorithm>
+#include <numeric>
+
+namespace Ui {
+namespace {
+
+constexpr int CellMargin = 14;
+constexpr int TickRoom = 14;
+constexpr int Narrowest = 8;
+constexpr int Widest = 4000;
+
+}  // namespace
+
+ColumnWidths Grid::WidthsOf(const TableModel& list) const {
+  const auto own = own_.find(&list);
+  return own == own_.end() ? ColumnWidths() : own->second;
+}
+
+void Grid::SetWidths(const TableModel& list, const ColumnWidths& widths) {
+  ColumnWidths& own = own_[&list];
+  own.clear();
+  for (const auto& [column, width] : widths) {
+    if (column >= 0 && column < list.columnCount()) own[column] = std::clamp(width, Narrowest, Widest);
+  }
+  if (&list != model()) return;
+  ReadHeader();
+  FitColumns();
+}
+
+// The widths that the header gives, under those that the user has given.
+void Grid::ReadHeader() {
+  widths_.clear();
+  for (const HeaderColumn& column : List()->Header())
+    widths_.push_back(fontMetrics().horizontalAdvance(column.widthText) + CellMargin);
+  if (List()->KnowsChannelList()) widths_.front() += TickRoom;
+  for (const auto& [column, width] : own_[List()]) widths_[static_cast<std::size_t>(column)] = width;
+}
+
+bool Grid::HasOwnWidth(std::size_t column) const {
+  const auto own = own_.find(List());
+  return column == 0 || (own != own_.end() && own->second.contains(static_cast<int>(column)));
+}
+
+std::vector<int> Grid::SharedWidths() const {
+  std::vector<int> widths = widths_;
+  int spare = viewport()->width() - std::accumulate(widths.begin(), widths.end(), 0);
+  if (spare <= 0) return widths;
+  int sharing = 0;
+  for (std::size_t i = 0; i < widths.size(); ++i) sharing += HasOwnWidth(i) ? 0 : widths[i];
+  // Each takes its part of what those before it have left, so that no pixel is.
+  for (std::size_t i = 0; i < widths.size(); ++i) {
+    if (HasOwnWidth(i)) continue;
+    const int share = spare * widths[i] / std::max(sharing, 1);
+    sharing -= widths[i];
+    widths[i] += share;
+    spare -= share;
+  }
+  return widths;
+}
+
+void Grid::FitColumns() {
+  if (widths_.empty() || !isVisible()) return;
+  const std::vector<int> widths = SharedWidths();
+  {
+    // Told of each width, the view would paint once before and once after it has taken them in.
+    const QSignalBlocker quiet(horizontalHeader());
+    for (std::size_t i = 0; i < widths.size(); ++i) setColumnWidth(static_cast<int>(i), widths[i]);
+  }
+  updateGeometries();
+  viewport()->update();
+  PlaceFrozen();
+}
+
+// A column that the user has made wider or narrower keeps that width when the window changes its own.
+void Grid::KeepWidth(int column, int width) {
+  if (static_cast<std::size_t>(column) >= widths_.size()) return;
+  widths_[static_cast<std::size_t>(column)] = width;
+  own_[List()][column] = width;
+  PlaceFrozen();
+  Q_EMIT WidthsChanged();
+}
+
+}  // namespace Ui

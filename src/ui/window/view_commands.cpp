@@ -1,0 +1,103 @@
+#include "ui/window/view_commands.h"
+
+#include "ui/kit/settings_file.h"
+
+#include <QSettings>
+
+namespace Ui {
+namespace {
+
+constexpr int WriteAfter = 500;  // milliseconds
+constexpr const char* FileKey = "Viste/File";
+constexpr const char* SdxNameKey = "Viste/SDX_Nome";
+
+QString Key(const QString& list, const char* what) { return QString("Viste/%1_%2").arg(list, what); }
+
+// "1:200 4:60"
+QString WidthsText(const ColumnWidths& widths) {
+  QStringList all;
+  for (const auto& [column, width] : widths) all += QString("%1:%2").arg(column).arg(width);
+  return all.join(' ');
+}
+
+ColumnWidths WidthsFrom(const QString& text) {
+  ColumnWidths widths;
+  for (const QString& one : text.split(' ', Qt::SkipEmptyParts))
+    widths[one.section(':', 0, 0).toInt()] = one.section(':', 1).toInt();
+  return widths;
+}
+
+struct ViewKey {
+  View view;
+  const char* name;
+};
+constexpr ViewKey Views[] = {{View::Channels, "Canali"}, {View::Transponders, "Transponder"}};
+
+void Store(QSettings& settings, const QString& key, const QString& text) {
+  text.isEmpty() ? settings.remove(key) : settings.setValue(key, text);
+}
+
+}  // namespace
+
+ViewCommands::ViewCommands(Session& session, SdxPane& pane, std::vector<TreePane*> trees, Actions& actions)
+    : session_(session),
+      pane_(pane),
+      lists_{{{Views[0].name, session.view.ListGrid(), session.view.ListOf(View::Channels)},
+              {Views[1].name, session.view.ListGrid(), session.view.ListOf(View::Transponders)},
+              {"SDX", pane.ListGrid(), pane.Model()}}},
+      trees_(std::move(trees)) {
+  actions.Connect("LarghezzeIniziali", [this] { ResetWidths(); });
+  write_.setSingleShot(true);
+  write_.setInterval(WriteAfter);
+  connect(&write_, &QTimer::timeout, this, &ViewCommands::Write);
+  for (Grid* grid : {&session.view.ListGrid(), &pane.ListGrid()})
+    connect(grid, &Grid::WidthsChanged, &write_, qOverload<>(&QTimer::start));
+  Read();
+}
+
+void ViewCommands::Read() {
+  ReadSettings(session_.SettingsFile(), [this](const QSettings& settings) {
+    const auto text = [&settings](const QString& key) { return settings.value(key).toString(); };
+    for (const Shown& shown : lists_)
+      shown.grid.SetWidths(shown.list, WidthsFrom(text(Key(shown.name, "Larghezze"))));
+    LeftPlaces& places = session_.view.Places();
+    const int earlier = 0;  // no list of this session has that number
+    places.SetFile(earlier, PathBytes(text(FileKey)));
+    for (const auto& [view, name] : Views) {
+      if (const QString place = text(Key(name, "Posto")); !place.isEmpty())
+        places.Keep(earlier, view, PlaceFrom(place));
+    }
+    pane_.SetLeft(text(SdxNameKey), PlaceFrom(text(Key("SDX", "Posto"))));
+    for (TreePane* tree : trees_)
+      tree->OpenAtFirst(text(Key(tree->Name(), "Rami")).split('|', Qt::SkipEmptyParts));
+  });
+}
+
+void ViewCommands::Write() {
+  write_.stop();
+  session_.view.KeepPlace();
+  pane_.KeepPlace();
+  ChangeSettings(session_.SettingsFile(), [this](QSettings& settings) {
+    for (const Shown& shown : lists_)
+      Store(settings, Key(shown.name, "Larghezze"), WidthsText(shown.grid.WidthsOf(shown.list)));
+    const LeftPlaces& places = session_.view.Places();
+    const int list = session_.document.Tables().ListNumber;
+    Store(settings, FileKey, PathText(places.FileOf(list)));
+    for (const auto& [view, name] : Views) {
+      const auto place = places.Of(list, view);
+      Store(settings, Key(name, "Posto"), place ? PlaceText(*place) : QString());
+    }
+    Store(settings, SdxNameKey, pane_.LeftName());
+    Store(settings, Key("SDX", "Posto"), PlaceText(pane_.LeftAt()));
+    for (const TreePane* tree : trees_)
+      Store(settings, Key(tree->Name(), "Rami"), tree->OpenBranches().join('|'));
+  });
+}
+
+void ViewCommands::ResetWidths() {
+  for (const Shown& shown : lists_) shown.grid.SetWidths(shown.list, {});
+  Write();
+  session_.status.ShowResult("Le colonne hanno di nuovo le larghezze dell'inizio");
+}
+
+}  // namespace Ui

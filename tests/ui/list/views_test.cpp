@@ -1,0 +1,86 @@
+// What the user has made of a view stays: where it was left, and how it looks.
+#include "ui/window_fixture.h"
+
+namespace Ui {
+
+class Views : public SmallWindow {
+ protected:
+  // "top/current/selected" of the list that is shown.
+  [[nodiscard]] std::string Place() const {
+    const Grid& grid = driver_->Grid();
+    QStringList selected;
+    for (const int row : grid.Selected()) selected += QString::number(row);
+    return QString("%1/%2/%3")
+        .arg(grid.rowAt(0) + 1)
+        .arg(grid.currentIndex().row() + 1)
+        .arg(selected.join(','))
+        .toStdString();
+  }
+  void LeaveAt(int top, const Edit::Slots& rows) {
+    driver_->Grid().Select(rows);
+    driver_->Grid().ScrollToTop(top);
+  }
+  void Restart() {
+    window_->close();
+    StartEmpty();
+  }
+  [[nodiscard]] QTreeView& Tree() const { return *window_->findChild<QTreeView*>("TreeView1"); }
+};
+
+TEST_F(Views, AreLeftAndFoundAgainWithTheSameChannelsSelected) {
+  const std::string other = folder_.Write("altra.dat", SmallFlash());
+  LeaveAt(300, {2, 5});
+  ASSERT_TRUE(driver_->Choose("VisualizzaTransponder"));
+  EXPECT_EQ(Place(), "1/1/");
+  driver_->Grid().SelectRow(3);
+  ASSERT_TRUE(driver_->Choose("VisualizzaCanali"));
+  EXPECT_EQ(Place(), "300/2/2,5");
+  ASSERT_TRUE(driver_->Choose("VisualizzaCanali"));
+  ASSERT_TRUE(driver_->Choose("VisualizzaTransponder"));
+  EXPECT_EQ(Place(), "1/3/3");
+  Open(other, "QuantiCanali_0");
+  EXPECT_EQ(Place(), "1/1/") << "another file";
+  ASSERT_TRUE(driver_->Choose("Annulla"));
+  EXPECT_EQ(Place(), "300/2/2,5");
+  Open(flash_, "QuantiCanali_0");
+  EXPECT_EQ(Place(), "300/2/2,5") << "the same file, read again";
+
+  Delete(1, 1);
+  LeaveAt(100, {2});
+  ASSERT_TRUE(driver_->Choose("VisualizzaTransponder"));
+  ASSERT_TRUE(driver_->Choose("Annulla"));
+  ASSERT_TRUE(driver_->Choose("VisualizzaCanali"));
+  EXPECT_EQ(Place(), "100/2/") << "another channel stands there";
+
+  LeaveAt(50, {6, 7});
+  Tree().collapse(Tree().model()->index(1, 0));
+  Restart();
+  Open(flash_, "QuantiCanali_0");
+  EXPECT_EQ(Place(), "50/6/6,7");
+  EXPECT_TRUE(Tree().isExpanded(Tree().model()->index(0, 0)));
+  EXPECT_FALSE(Tree().isExpanded(Tree().model()->index(1, 0)));
+}
+
+TEST_F(Views, KeepTheWidthsOfTheirColumnsUntilTheyAreTakenBack) {
+  const auto widths = [this](int column) { return driver_->Grid().columnWidth(column); };
+  const auto widen = [this](int column, int width) {
+    driver_->Grid().horizontalHeader()->resizeSection(column, width);
+  };
+  const int before = widths(2);
+  widen(2, 201);
+  ASSERT_TRUE(driver_->Choose("VisualizzaTransponder"));
+  EXPECT_NE(widths(2), 201);
+  widen(3, 155);
+  Restart();
+  Open(flash_, "QuantiCanali_0");
+  EXPECT_EQ(widths(2), 201);
+  ASSERT_TRUE(driver_->Choose("VisualizzaTransponder"));
+  EXPECT_EQ(widths(3), 155);
+  ASSERT_TRUE(driver_->Choose("LarghezzeIniziali"));
+  EXPECT_NE(widths(3), 155);
+  StartEmpty();
+  Open(flash_, "QuantiCanali_0");
+  EXPECT_EQ(widths(2), before);
+}
+
+}  // namespace Ui
