@@ -1,33 +1,30 @@
 #include "ui/kit/themed_icon.h"
 
+#include "ui/kit/icon_sizes.h"
+
 #include <QApplication>
-#include <QFile>
 #include <QIconEngine>
+#include <QImage>
 #include <QPainter>
 #include <QPixmapCache>
+#include <QResource>
 #include <QStyle>
 #include <QStyleOption>
-#include <QSvgRenderer>
 
+#include <algorithm>
+#include <iterator>
 #include <utility>
 
 namespace Ui {
 namespace {
 
-// The colours of the drawings, and what they become on a dark ground.
-constexpr std::pair<const char*, const char*> DarkColours[] = {{"#667c9a", "#a9bcd6"},
-                                                               {"#2b7de0", "#6db0ff"},
-                                                               {"#25964a", "#5cc982"},
-                                                               {"#d06a0a", "#f0a04b"},
-                                                               {"#dc4343", "#ff8585"}};
-
-// Drawn when it is first painted in the desktop's colours of that moment: most icons lie in menus that nobody opens, and
+// Read when it is first painted, for the desktop's colours of that moment: most icons lie in menus that nobody opens, and
 // the colours may change while the program runs.
 class ThemedIcon : public QIconEngine {
  public:
-  explicit ThemedIcon(QString file) : file_(std::move(file)) {}
+  explicit ThemedIcon(QString name) : name_(std::move(name)) {}
 
-  [[nodiscard]] QIconEngine* clone() const override { return new ThemedIcon(file_); }
+  [[nodiscard]] QIconEngine* clone() const override { return new ThemedIcon(name_); }
 
   void paint(QPainter* painter, const QRect& rect, QIcon::Mode mode, QIcon::State state) override {
     const double ratio = painter->device()->devicePixelRatioF();
@@ -38,7 +35,7 @@ class ThemedIcon : public QIconEngine {
 
   QPixmap pixmap(const QSize& size, QIcon::Mode mode, QIcon::State) override {
     const QString key = QString("%1 %2x%3 %4 %5")
-                            .arg(file_)
+                            .arg(name_)
                             .arg(size.width())
                             .arg(size.height())
                             .arg(mode)
@@ -53,30 +50,36 @@ class ThemedIcon : public QIconEngine {
 
  private:
   [[nodiscard]] QPixmap Draw(const QSize& size, QIcon::Mode mode) const {
-    QPixmap drawn(size);
-    drawn.fill(Qt::transparent);
-    QPainter painter(&drawn);
-    QSvgRenderer(Drawing()).render(&painter);
-    painter.end();
+    const QPixmap drawn = Picture(size);
     if (mode != QIcon::Disabled) return drawn;
     QStyleOption option;
     option.palette = QApplication::palette();
     return QApplication::style()->generatedIconPixmap(mode, drawn, &option);
   }
 
-  [[nodiscard]] QByteArray Drawing() const {
-    QFile file(file_);
-    QByteArray drawing = file.open(QFile::ReadOnly) ? file.readAll() : QByteArray();
-    if (QApplication::palette().color(QPalette::Window).lightness() >= 128) return drawing;
-    for (const auto& [light, dark] : DarkColours) drawing.replace(light, dark);
-    return drawing;
+  // The next larger picture, scaled down; the largest, where more is wanted.
+  [[nodiscard]] QPixmap Picture(const QSize& size) const {
+    const bool dark = QApplication::palette().color(QPalette::Window).lightness() < 128;
+    const int side = std::max(size.width(), size.height());
+    const auto* drawn =
+        std::find_if(std::begin(IconSizes), std::end(IconSizes), [side](int each) { return each >= side; });
+    const int found = drawn == std::end(IconSizes) ? *std::prev(drawn) : *drawn;
+    const QResource pixels(QString(":/icons/%1/%2/%3").arg(dark ? "dark" : "light").arg(found).arg(name_));
+    const QByteArray bytes = pixels.uncompressedData();
+    if (bytes.size() != qsizetype{4} * found * found) return {};
+    const QImage picture(reinterpret_cast<const uchar*>(bytes.constData()), found, found,
+                         QImage::Format_ARGB32_Premultiplied);
+    const QSize shown = QSize(found, found).scaled(size, Qt::KeepAspectRatio);
+    return QPixmap::fromImage(found == side
+                                  ? picture.copy()
+                                  : picture.scaled(shown, Qt::IgnoreAspectRatio, Qt::SmoothTransformation));
   }
 
-  QString file_;
+  QString name_;
 };
 
 }  // namespace
 
-QIcon IconNamed(const QString& name) { return QIcon(new ThemedIcon(":/icons/" + name + ".svg")); }
+QIcon IconNamed(const QString& name) { return QIcon(new ThemedIcon(name)); }
 
 }  // namespace Ui

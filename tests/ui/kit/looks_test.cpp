@@ -58,6 +58,8 @@ TEST_F(Looks, ADarkGroundShowsUntickedBoxesAndIcons) {
   for (const char* key : {"Open", "Canali", "Delete", "Find", "Fine_Programma"}) {
     const auto* button = window_->findChild<QToolButton*>(QString("Toolbar1_") + key);
     EXPECT_GE(strongest(button->icon().pixmap(24, 24).toImage(), ground), 4.5) << key;
+    for (const int drawnInNone : {17, 300})
+      EXPECT_EQ(button->icon().pixmap(drawnInNone).size(), QSize(drawnInNone, drawnInNone)) << key;
   }
 }
 
