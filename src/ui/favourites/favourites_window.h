@@ -1,8 +1,14 @@
-// The window of the eight favourites lists, side by side beside the main window.
+// The eight favourites lists, in a window beside the main one or docked in it.
 #pragma once
 
-#include "ui/favourites/favourites_list.h"
+#include "ui/favourites/favourites_pages.h"
 #include "ui/session/tool_window.h"
+
+#include <functional>
+
+class QMenu;
+class QTabBar;
+class QVBoxLayout;
 
 namespace Ui {
 
@@ -12,25 +18,43 @@ class FavouritesWindow : public ToolWindow {
   Q_OBJECT
 
  public:
-  FavouritesWindow(const Document& document, FavouritesEdits& edits, QMainWindow& window);
+  // `docked` in a shape for a narrow place, where as many lists are seen as have room and the commands are a menu.
+  FavouritesWindow(const Document& document, FavouritesEdits& edits, QMainWindow& window, bool docked);
 
+  [[nodiscard]] bool Docked() const { return docked_; }
   void ShowResult(const QString& text);
-  // Makes a list the one that the buttons work on.
+  // The list that the commands are for; it takes the focus.
+  [[nodiscard]] std::size_t Current() const { return pages_->Current(); }
   void Enter(std::size_t list);
 
+ Q_SIGNALS:
+  // The user wants the other form.
+  void DockWanted(bool docked);
+
  private:
-  void AddLists(const Document& document, QWidget& place);
+  // A command, or a menu of some.
+  struct Entry {
+    const char* name;
+    QString caption;
+    std::function<void()> run;
+    QMenu* menu = nullptr;
+  };
+  [[nodiscard]] std::vector<Entry> Entries(const QMainWindow& window);
+  QMenu* MoveMenu();
+  QMenu* OrderMenu();
+  void LayOutDocked(QVBoxLayout& column, const QMainWindow& window);
+  void LayOutLoose(QVBoxLayout& column, const QMainWindow& window);
   QLayout* Buttons(const QMainWindow& window);
-  void FillMoveMenu();
+  QTabBar* Chooser();
+  QMenu* CommandMenu(const QMainWindow& window);
   void ShowCurrent();
-  [[nodiscard]] FavouritesList& Current() const { return *lists_[current_]; }
 
   FavouritesEdits& edits_;
-  std::vector<FavouritesList*> lists_;
-  std::size_t current_ = 0;  // that buttons work on
+  bool docked_;
+  FavouritesPages* pages_;
+  QTabBar* chooser_;  // docked
   ElidedLabel* target_;
   ElidedLabel* result_;
-  QPushButton* move_ = nullptr;
 };
 
 }  // namespace Ui

@@ -70,7 +70,7 @@ void KeepLines(QWidget& list, int lines) {
 bool ScreenFit::eventFilter(QObject* watched, QEvent* event) {
   if (event->type() != QEvent::Show || event->spontaneous()) return false;
   auto* dialog = qobject_cast<QDialog*>(watched);
-  if (dialog == nullptr) return false;
+  if (dialog == nullptr || !dialog->isWindow()) return false;
   if (qobject_cast<QMessageBox*>(dialog) != nullptr) {
     // It breaks its lines while it is being shown.
     QMetaObject::invokeMethod(

@@ -7,6 +7,7 @@
 #include "ui/kit/screen_fit.h"
 #include "ui/kit/scroll_strip.h"
 #include "ui/kit/settings_file.h"
+#include "ui/kit/side_part.h"
 #include "ui/kit/text.h"
 #include "ui/kit/themed_icon.h"
 #include "ui/review/review_room.h"
@@ -31,6 +32,7 @@
 #include <QDropEvent>
 #include <QMimeData>
 #include <QPointer>
+#include <QSettings>
 #include <QSplitter>
 #include <QStatusBar>
 #include <QVBoxLayout>
@@ -40,6 +42,7 @@ namespace {
 
 constexpr const char* Title = "Trovalis ";
 constexpr const char* GeometryKey = "Finestra/Geometria";
+constexpr const char* SidesKey = "Finestra/ParteDestra";
 constexpr const char* VersionText = " - Versione 1.0ß";
 
 // The window shows "[*]" in its title only where it is written twice.
@@ -58,7 +61,7 @@ struct MainWindow::Screen {
   Screen& operator=(const Screen&) = delete;
   ~Screen() {
     // A field takes what is being typed in it when its window is hidden, which has to be whole then.
-    for (QDialog* tool : ToolWindows()) tool->hide();
+    for (QDialog* tool : window.findChildren<QDialog*>()) tool->hide();
     qDeleteAll(ToolWindows());
     delete window.takeCentralWidget();
   }
@@ -123,16 +126,17 @@ void MainWindow::OpenRooms(QWidget& contents) {
   auto* lists = new QSplitter(&contents);
   lists->setChildrenCollapsible(false);
   lists->addWidget(&session.view);
-  lists->addWidget(pane);
-  // The trees keep their width, these two share the rest.
-  for (const int list : {0, 1}) lists->setStretchFactor(list, 1);
+  lists->setStretchFactor(0, 1);
+  side_ = new SidePart(*lists);
+  side_->Restore(Setting(session.SettingsFile(), SidesKey).toString());
+  side_->Add(*pane, SidePart::Kind::Wide);
 
   edit_ = std::make_unique<EditRoom>(session, *actions_);
   sources_ = std::make_unique<SourcesRoom>(session, *actions_, *pane, *frame, *this);
-  favourites_ = std::make_unique<FavouritesCommands>(session, *actions_, *this);
+  favourites_ = std::make_unique<FavouritesCommands>(session, *actions_, *this, *side_);
   review_ = std::make_unique<ReviewRoom>(session, *actions_, *this);
   files_ = std::make_unique<FilesRoom>(session, *actions_, *sources_, *this);
-  trees_ = std::make_unique<TreeCommands>(session, *sources_, *actions_, *lists);
+  trees_ = std::make_unique<TreeCommands>(session, *sources_, *actions_, *side_);
   views_ = std::make_unique<ViewCommands>(session, *pane, trees_->Panes(), *actions_);
 
   auto* column = new QVBoxLayout(&contents);
@@ -209,7 +213,10 @@ void MainWindow::closeEvent(QCloseEvent* event) {
     goOn.setFocus();
     return;
   }
-  KeepSetting(session_->SettingsFile(), GeometryKey, saveGeometry());
+  ChangeSettings(session_->SettingsFile(), [this](QSettings& settings) {
+    settings.setValue(GeometryKey, saveGeometry());
+    settings.setValue(SidesKey, side_->Sizes());
+  });
   views_->Write();
   for (QDialog* window : screen_->ToolWindows()) window->close();
   event->accept();

@@ -11,6 +11,7 @@ class Actions;
 class Dialogs;
 class Document;
 class FavouritesCommands;
+class SidePart;
 class TreeCommands;
 class ViewCommands;
 struct EditRoom;
@@ -66,6 +67,7 @@ class MainWindow : public QMainWindow {
   std::unique_ptr<FilesRoom> files_;
   std::unique_ptr<TreeCommands> trees_;
   std::unique_ptr<ViewCommands> views_;
+  SidePart* side_ = nullptr;
   std::unique_ptr<Screen> screen_;
 };
 

@@ -1,10 +1,10 @@
 #include "ui/window/tree_commands.h"
 
 #include "ui/kit/settings_file.h"
+#include "ui/kit/side_part.h"
 
 #include <QAction>
 #include <QScopedValueRollback>
-#include <QSplitter>
 
 namespace Ui {
 
@@ -16,7 +16,7 @@ constexpr const char* ClosedKey = "Finestra/TreeView1Chiuso";
 
 }  // namespace
 
-TreeCommands::TreeCommands(Session& session, SourcesRoom& sources, Actions& actions, QSplitter& place)
+TreeCommands::TreeCommands(Session& session, SourcesRoom& sources, Actions& actions, SidePart& place)
     : session_(session),
       sources_(sources),
       tick_(actions["VisualizzaBouquet"]),
@@ -28,7 +28,7 @@ TreeCommands::TreeCommands(Session& session, SourcesRoom& sources, Actions& acti
   Connect(actions);
   for (TreePane* pane : {channels_, transponders_}) {
     pane->hide();
-    place.addWidget(pane);
+    place.Add(*pane);
     connect(pane, &TreePane::ChannelChosen, this, &TreeCommands::GoToChannel);
     connect(pane, &TreePane::TransponderChosen, this, &TreeCommands::GoToTransponder);
     connect(pane, &TreePane::CurrentWanted, this, &TreeCommands::ShowSelection);

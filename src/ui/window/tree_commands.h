@@ -7,15 +7,16 @@
 #include "ui/sources/sources_room.h"
 
 class QAction;
-class QSplitter;
 
 namespace Ui {
+
+class SidePart;
 
 class TreeCommands : public QObject {
   Q_OBJECT
 
  public:
-  TreeCommands(Session& session, SourcesRoom& sources, Actions& actions, QSplitter& place);
+  TreeCommands(Session& session, SourcesRoom& sources, Actions& actions, SidePart& place);
 
   [[nodiscard]] std::vector<TreePane*> Panes() const { return {channels_, transponders_}; }
 

@@ -84,4 +84,65 @@ TEST_F(FavouritesLists, TakeWhatIsFoundOrListedAndGiveTheChannelsTheirOrder) {
   EXPECT_EQ(Action("Annulla").text(), "Annulla: Messa in testa alla lista Cinema");
 }
 
+TEST_F(FavouritesLists, StandBelowTheTreeWhereThereIsRoomAndStayAsTheUserWantsThem) {
+  const auto lists = [this] { return window_->findChild<QDialog*>("ListePreferiti"); };
+  const auto shown = [this](const char* name) { return window_->findChild<QWidget*>(name)->isVisible(); };
+  const auto start = [this](QSize size) {
+    StartEmpty();
+    window_->resize(size);
+    Open(flash_, "QuantiCanali_0");
+    ASSERT_TRUE(driver_->Pick("FlashScrittura_1"));
+    QTest::qWait(20);
+  };
+  const QSize large(1366, 768);
+  start({800, 600});
+  ASSERT_TRUE(driver_->Choose("VisualizzaPreferiti"));
+  EXPECT_TRUE(lists()->isWindow());
+  start(large);
+  EXPECT_EQ(lists(), nullptr);
+  ASSERT_TRUE(driver_->Choose("VisualizzaPreferiti"));
+  EXPECT_FALSE(lists()->isWindow());
+  QTest::qWait(20);
+  EXPECT_GE(driver_->Grid().viewport()->height(), 22 * driver_->Grid().rowHeight(0));
+  EXPECT_TRUE(shown("TreeView1") && shown("Preferiti_1") && !shown("Preferiti_2"));
+  EXPECT_EQ(window_->focusWidget()->objectName(), "Preferiti_1");
+  lists()->findChild<QTabBar*>("SceltaPreferiti")->setCurrentIndex(1);
+  EXPECT_EQ(window_->focusWidget()->objectName(), "Preferiti_2");
+  driver_->SelectRows(6, 7);
+  lists()->findChild<QAction*>("AggiungiSelezionati")->trigger();
+  EXPECT_EQ(Entries(1), (std::vector{10, 6, 7}));
+  ASSERT_TRUE(driver_->Choose("VediSDX"));
+  QTest::qWait(20);
+  EXPECT_TRUE(shown("GrigliaSDX") && shown("Preferiti_2") && shown("Preferiti_1"))
+      << "there is room for more";
+  ASSERT_TRUE(driver_->Choose("VediSDX"));
+  EXPECT_TRUE(shown("TreeView2") && Action("VisualizzaBouquet").isChecked());
+  for (int i = 0; i < 2; ++i) ASSERT_TRUE(driver_->Choose("Annulla"));
+  EXPECT_FALSE(shown("SceltaPreferiti")) << "no list is loaded any more";
+  QTest::qWait(1);
+  ASSERT_TRUE(driver_->Choose("Ripeti"));
+
+  QTest::keyClick(lists()->findChild<QListView*>("Preferiti_1"), Qt::Key_Escape);
+  EXPECT_TRUE(driver_->Grid().hasFocus() && !shown("SceltaPreferiti"));
+  start(large);
+  EXPECT_EQ(lists(), nullptr) << "closed by the user";
+  ASSERT_TRUE(driver_->Choose("VisualizzaPreferiti"));
+  start(large);
+  EXPECT_TRUE(shown("SceltaPreferiti")) << "left open";
+  lists()->findChild<QToolButton*>("StaccaPreferiti")->click();
+  EXPECT_TRUE(lists()->isWindow());
+  start(large);
+  ASSERT_TRUE(driver_->Choose("VisualizzaPreferiti"));
+  EXPECT_TRUE(lists()->isWindow()) << "loosened by the user";
+  lists()->findChild<QListView*>("Preferiti_3")->setFocus();
+  window_->resize(500, 400);
+  QTest::qWait(20);
+  Click("AgganciaPreferiti");
+  EXPECT_EQ(Said(), "Liste non agganciate: accanto alla griglia non c'è posto, la finestra è troppo piccola");
+  window_->resize(large);
+  QTest::qWait(20);
+  Click("AgganciaPreferiti");
+  EXPECT_TRUE(!lists()->isWindow() && shown("Preferiti_3"));
+}
+
 }  // namespace Ui
