@@ -442,6 +442,7 @@ class Session {
 }  // namespace
 
 int main(int argc, char** argv) {
+  Ui::PrepareToolkit();
   QApplication application(argc, argv);
   const QStringList arguments = QApplication::arguments();
   if (arguments.size() != 4) {

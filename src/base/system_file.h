@@ -21,7 +21,7 @@ struct FileStatus {
 // Of what a path leads to, symbolic links followed.
 FileStatus StatusOf(const std::string& path);
 
-// 0 where an existing file can be written to.
+// 0 where an existing file can be written to, or a folder takes new files.
 int WriteRefusal(const std::string& path);
 
 // Removes a file unless a running program holds it.

@@ -1,5 +1,6 @@
 #include "base/file.h"
 #include "base/system_file.h"
+#include "base/wide_windows.h"
 
 #include <algorithm>
 #include <array>
@@ -14,10 +15,6 @@ namespace {
 
 constexpr DWORD SharedWithAll = FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE;
 constexpr DWORD KeptAttributes = FILE_ATTRIBUTE_HIDDEN | FILE_ATTRIBUTE_SYSTEM | FILE_ATTRIBUTE_ARCHIVE;
-
-std::wstring Wide(const std::string& path) {
-  return std::filesystem::path(std::u8string(path.begin(), path.end())).wstring();
-}
 
 HANDLE Handle(std::intptr_t handle) { return reinterpret_cast<HANDLE>(handle); }
 
@@ -103,8 +100,7 @@ std::string ResolvedPath(const std::string& path) {
                                                    FILE_NAME_NORMALIZED);
   if (length == 0 || length >= name.size()) return path;
   name.resize(length);
-  const std::u8string resolved = std::filesystem::path(WithoutPrefix(name)).u8string();
-  return {resolved.begin(), resolved.end()};
+  return Narrow(WithoutPrefix(name));
 }
 
 FileStatus StatusOf(const std::string& path) {
@@ -117,11 +113,12 @@ FileStatus StatusOf(const std::string& path) {
   return {0, FileKind::File, (std::uint64_t{about.nFileSizeHigh} << 32U) | about.nFileSizeLow};
 }
 
-// Read-only counts where a file server would open the file all the same, too.
+// Read-only counts where a file server would open the file all the same, too; on a folder it says nothing.
 int WriteRefusal(const std::string& path) {
   const DWORD attributes = ::GetFileAttributesW(Wide(path).c_str());
   if (attributes == INVALID_FILE_ATTRIBUTES) return LastCode();
-  if ((attributes & FILE_ATTRIBUTE_READONLY) != 0) return EACCES;
+  const DWORD about = attributes & (FILE_ATTRIBUTE_READONLY | FILE_ATTRIBUTE_DIRECTORY);
+  if (about == FILE_ATTRIBUTE_READONLY) return EACCES;
   return Inquiry(path, GENERIC_WRITE).Valid() ? 0 : LastCode();
 }
 

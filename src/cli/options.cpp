@@ -69,6 +69,7 @@ class Line {
 
  private:
   static void SetUp(CLI::App& app) {
+    app.allow_windows_style_options(false);  // "/" begins a path, there too
     app.set_help_flag("-h,--help", "mostra questo aiuto");
     app.get_help_ptr()->group(LineOptions);
     const auto format = app.get_formatter();

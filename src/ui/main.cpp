@@ -39,6 +39,7 @@ std::optional<QString> FileIn(QStringList arguments) {
 int main(int argc, char** argv) {
   if (const char* answer = argc == 2 ? AnswerTo(argv[1]) : ""; *answer != '\0')
     return std::fputs(answer, stdout) < 0 ? 1 : 0;
+  Ui::PrepareToolkit();
   QApplication application(argc, argv);
   const auto file = FileIn(QApplication::arguments());
   if (!file) {

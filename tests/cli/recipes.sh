@@ -1,9 +1,10 @@
 #!/bin/bash
 # Runs every recipe of the page on the command line as it stands, each in a folder of its own with the demo image, and
-# compares what it prints with what the page says. Then what only a running program shows: pipes, full disks, odd names.
-# Usage: recipes.sh PAGE PROGRAM DEMO_IMAGE COMPLETION
+# compares what it prints with what the page says. Then what only a running program shows: pipes, full disks and, where there
+# is a completion, as on Linux, odd names.
+# Usage: recipes.sh PAGE PROGRAM DEMO_IMAGE [COMPLETION]
 set -u
-page=$(realpath "$1") program=$(realpath "$2") demo=$(realpath "$3") completion=$(realpath "$4")
+page=$(realpath "$1") program=$(realpath "$2") demo=$(realpath "$3") completion=${4:+$(realpath "$4")}
 work=$(mktemp -d)
 trap 'rm -rf "$work"' EXIT
 mkdir "$work/bin" "$work/home"
@@ -41,6 +42,8 @@ errors=$({ trovalis-cli list lista.dat --json; echo $? >exit; } 2>&1 >/dev/full)
 case "$errors" in *"spazio su disco esaurito"*) ;; *) fail "$errors" ;; esac
 errors=$({ { trovalis-cli list lista.dat --json; echo $? >exit; } | true; } 2>&1)
 [ "$errors$(cat exit)" = 0 ] || fail "A broken pipe is told: $errors $(cat exit)"
+trovalis-cli info "$PWD/lista.dat" >/dev/null || fail "A path from the root is no file"
+[ -n "$completion" ] || exit $failed
 name=$(printf -- '-l\351sta \n.dat')
 cp lista.dat "./$name"
 trovalis-cli info -- "$name" | head -1 >printed

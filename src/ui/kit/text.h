@@ -20,8 +20,10 @@ inline QString Counted(std::integral auto count, std::string_view one, std::stri
   return Text(Base::Counted(count, one, more));
 }
 
-// Paths are the file system's own bytes.
+// Paths are the file system's own bytes; on Windows UTF-8 with its own separators.
 QString PathText(const std::string& path);
 std::string PathBytes(const QString& path);
+// Of a folder without a separator at its end, as POS.ini has it.
+QString FolderText(const std::string& folder);
 
 }  // namespace Ui

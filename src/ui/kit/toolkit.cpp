@@ -6,6 +6,7 @@
 #include <QApplication>
 #include <QLibraryInfo>
 #include <QLocale>
+#include <QSettings>
 #include <QStyle>
 #include <QTranslator>
 
@@ -18,6 +19,18 @@ static void KeepResources() {
 }
 
 namespace Ui {
+
+void PrepareToolkit() {
+#ifdef Q_OS_WIN
+  const QSettings colours(R"(HKEY_CURRENT_USER\Software\Microsoft\Windows\CurrentVersion\Themes\Personalize)",
+                          QSettings::NativeFormat);
+  const bool dark = colours.value("AppsUseLightTheme", 1).toInt() == 0;
+  if (!dark || qEnvironmentVariableIsSet("QT_QPA_PLATFORM")) return;
+  // The toolkit's copy of the system's style paints light whatever the system does.
+  qputenv("QT_QPA_PLATFORM", "windows:darkmode=2");
+  qputenv("QT_STYLE_OVERRIDE", "fusion");
+#endif
+}
 
 void SetUpToolkit(QApplication& application) {
   KeepResources();

@@ -5,6 +5,9 @@ class QApplication;
 
 namespace Ui {
 
+// What has to be settled before there is an application: on Windows dark colours, where the user has chosen them.
+void PrepareToolkit();
+
 // Italian standard buttons; writes past a file-size limit fail with an error instead of ending the program.
 void SetUpToolkit(QApplication& application);
 

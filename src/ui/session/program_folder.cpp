@@ -1,10 +1,10 @@
 #include "ui/session/program_folder.h"
 
+#include "base/system_file.h"
 #include "support/program_folder.h"
 #include "ui/kit/text.h"
 
 #include <QCoreApplication>
-#include <QFileInfo>
 #include <QStandardPaths>
 
 namespace Ui {
@@ -13,7 +13,7 @@ std::string ProgramFolder() {
   const QString own = QCoreApplication::applicationDirPath();
   const QString data = QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation);
   const auto found =
-      Support::FindProgramFolder({PathBytes(own), QFileInfo(own).isWritable(), PathBytes(data)});
+      Support::FindProgramFolder({PathBytes(own), Base::WriteRefusal(PathBytes(own)) == 0, PathBytes(data)});
   if (!found.shipped.empty()) Support::FillProgramFolder(found.shipped, found.folder);
   return found.folder;
 }

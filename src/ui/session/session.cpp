@@ -58,7 +58,7 @@ QString Session::FolderFor(FolderKind kind) const {
   const std::string& opened = document.Tables().InputFlash;
   const bool chosen = !folder.empty() && folder != programFolder;
   const bool beside = !chosen && kind == FolderKind::Output && !opened.empty();
-  return PathText(beside ? Base::FolderOf(opened) : folder);
+  return FolderText(beside ? Base::FolderOf(opened) : folder);
 }
 
 std::string Session::AskOpen(const QString& title, const QString& filters, FolderKind kind) const {
