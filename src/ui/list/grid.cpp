@@ -1,5 +1,6 @@
 #include "ui/list/grid.h"
 
+#include "ui/kit/screen_fit.h"
 #include "ui/kit/text.h"
 
 #include <QContextMenuEvent>
@@ -77,7 +78,8 @@ Grid::Grid(QWidget* parent, int frozen)
     : QTableView(parent),
       frozenColumns_(frozen),
       frozen_(new QTableView(this)),
-      dropLine_(new QWidget(this)) {
+      dropLine_(new QWidget(this)),
+      letters_(Letters(*this, 100)) {
   SetUp(*this);
   SetUp(*frozen_);
   setHorizontalScrollMode(ScrollPerPixel);
@@ -287,7 +289,7 @@ void Grid::changeEvent(QEvent* event) {
   for (QTableView* view : {static_cast<QTableView*>(this), frozen_}) {
     if (view != nullptr) view->verticalHeader()->setDefaultSectionSize(fontMetrics().height() + 6);
   }
-  FitColumns();
+  FollowLetters();
 }
 
 // A cell must not come to lie behind the frozen column; the first one is there to see all others from their start.

@@ -98,6 +98,7 @@ class Grid : public QTableView {
   void LeaveHiddenRows();
   void ShowDropLine(QPoint place);
   void ReadHeader();
+  void FollowLetters();
   [[nodiscard]] bool HasOwnWidth(std::size_t column) const;
   [[nodiscard]] std::vector<int> SharedWidths() const;
   void FitColumns();
@@ -110,6 +111,7 @@ class Grid : public QTableView {
   QTableView* frozen_;                             // the first columns, on the same model
   QWidget* dropLine_;                              // where dragged rows would land, across all columns
   std::vector<int> widths_;                        // of the columns without the spare width
+  int letters_;                                    // how wide some of them were when the widths were given
   std::map<const TableModel*, ColumnWidths> own_;  // columns that take no part of it
   std::optional<Edit::Slots> only_;                // the rows shown where others are hidden
 };

@@ -1,4 +1,5 @@
 // The columns of a grid: how wide they are.
+#include "ui/kit/screen_fit.h"
 #include "ui/list/grid.h"
 
 #include <QHeaderView>
@@ -6,6 +7,7 @@
 
 #include <algorithm>
 #include <numeric>
+#include <utility>
 
 namespace Ui {
 namespace {
@@ -40,6 +42,16 @@ void Grid::ReadHeader() {
     widths_.push_back(fontMetrics().horizontalAdvance(column.widthText) + CellMargin);
   if (List()->KnowsChannelList()) widths_.front() += TickRoom;
   for (const auto& [column, width] : own_[List()]) widths_[static_cast<std::size_t>(column)] = width;
+}
+
+// Columns are as wide as their letters want them, those that the user has set as well.
+void Grid::FollowLetters() {
+  const int before = std::exchange(letters_, Letters(*this, 100));
+  for (auto& [list, widths] : own_) {
+    for (auto& [column, width] : widths) width = std::clamp(width * letters_ / before, Narrowest, Widest);
+  }
+  if (model() != nullptr) ReadHeader();
+  FitColumns();
 }
 
 bool Grid::HasOwnWidth(std::size_t column) const {

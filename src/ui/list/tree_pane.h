@@ -36,8 +36,7 @@ class TreePane : public QWidget {
   void ShowChannel(int slot);
   void ShowTransponder(int slot);
 
-  // The control name of the tree.
-  [[nodiscard]] QString Name() const { return tree_->objectName(); }
+  [[nodiscard]] QTreeView& Tree() const { return *tree_; }
   // The branches that are open, by what they stand for, so that they can be opened in a later session: when the first
   // list comes. Without any the satellites are.
   [[nodiscard]] QStringList OpenBranches() const;

@@ -1,5 +1,7 @@
 #include "ui/sources/download_frame.h"
 
+#include "ui/kit/blank_entries.h"
+
 #include <QComboBox>
 #include <QHBoxLayout>
 #include <QLineEdit>
@@ -37,6 +39,7 @@ DownloadFrame::DownloadFrame(QWidget* parent) : QGroupBox("File SDX da scaricare
 void DownloadFrame::Ask(const QStringList& addresses) {
   addresses_->clear();
   addresses_->addItems(addresses);
+  NameBlankEntries(*addresses_);
   addresses_->setCurrentIndex(-1);
   addresses_->clearEditText();
   show();

@@ -3,6 +3,7 @@
 #include "base/text.h"
 #include "formats/list_summary.h"
 #include "formats/sdx_import.h"
+#include "ui/kit/blank_entries.h"
 #include "ui/kit/screen_fit.h"
 #include "ui/kit/text.h"
 #include "ui/session/control_tips.h"
@@ -41,6 +42,7 @@ SdxOptionsDialog::SdxOptionsDialog(const QString& fileName, Contents contents, c
   setWindowTitle("Opzioni importazione SDX");
   FillSatellites(*satellite_, session.bouquets.tables.satellites);
   for (const std::string& code : rows_.Codes()) rows_.List().addItem(CodePageText(code));
+  NameBlankEntries(rows_.List());
   rows_.AddAllCodes();
   // Codes are short: beside each other all of them are in sight.
   rows_.List().setFlow(QListView::LeftToRight);

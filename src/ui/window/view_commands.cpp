@@ -2,13 +2,21 @@
 
 #include "ui/kit/settings_file.h"
 
+#include <QAction>
+#include <QApplication>
+#include <QFontInfo>
 #include <QSettings>
+
+#include <algorithm>
 
 namespace Ui {
 namespace {
 
 constexpr int WriteAfter = 500;  // milliseconds
+constexpr int SmallerSteps = -3;
+constexpr int LargerSteps = 15;
 constexpr const char* FileKey = "Viste/File";
+constexpr const char* LettersKey = "Viste/Lettere";
 constexpr const char* SdxNameKey = "Viste/SDX_Nome";
 
 QString Key(const QString& list, const char* what) { return QString("Viste/%1_%2").arg(list, what); }
@@ -47,6 +55,11 @@ ViewCommands::ViewCommands(Session& session, SdxPane& pane, std::vector<TreePane
               {"SDX", pane.ListGrid(), pane.Model()}}},
       trees_(std::move(trees)) {
   actions.Connect("LarghezzeIniziali", [this] { ResetWidths(); });
+  actions.Connect("LetterePiuGrandi", [this] { ChangeLetters(letters_ + 1); });
+  actions.Connect("LetterePiuPiccole", [this] { ChangeLetters(letters_ - 1); });
+  actions.Connect("LettereIniziali", [this] { ChangeLetters(0); });
+  // Plus and minus where they need no shift key, and where they share a key with others.
+  actions["LetterePiuGrandi"].setShortcuts({QKeySequence("Ctrl++"), QKeySequence("Ctrl+=")});
   write_.setSingleShot(true);
   write_.setInterval(WriteAfter);
   connect(&write_, &QTimer::timeout, this, &ViewCommands::Write);
@@ -58,6 +71,7 @@ ViewCommands::ViewCommands(Session& session, SdxPane& pane, std::vector<TreePane
 void ViewCommands::Read() {
   ReadSettings(session_.SettingsFile(), [this](const QSettings& settings) {
     const auto text = [&settings](const QString& key) { return settings.value(key).toString(); };
+    SetLetters(settings.value(LettersKey).toInt());
     for (const Shown& shown : lists_)
       shown.grid.SetWidths(shown.list, WidthsFrom(text(Key(shown.name, "Larghezze"))));
     LeftPlaces& places = session_.view.Places();
@@ -69,7 +83,7 @@ void ViewCommands::Read() {
     }
     pane_.SetLeft(text(SdxNameKey), PlaceFrom(text(Key("SDX", "Posto"))));
     for (TreePane* tree : trees_)
-      tree->OpenAtFirst(text(Key(tree->Name(), "Rami")).split('|', Qt::SkipEmptyParts));
+      tree->OpenAtFirst(text(Key(tree->Tree().objectName(), "Rami")).split('|', Qt::SkipEmptyParts));
   });
 }
 
@@ -80,6 +94,7 @@ void ViewCommands::Write() {
   ChangeSettings(session_.SettingsFile(), [this](QSettings& settings) {
     for (const Shown& shown : lists_)
       Store(settings, Key(shown.name, "Larghezze"), WidthsText(shown.grid.WidthsOf(shown.list)));
+    Store(settings, LettersKey, letters_ == 0 ? QString() : QString::number(letters_));
     const LeftPlaces& places = session_.view.Places();
     const int list = session_.document.Tables().ListNumber;
     Store(settings, FileKey, PathText(places.FileOf(list)));
@@ -90,8 +105,27 @@ void ViewCommands::Write() {
     Store(settings, SdxNameKey, pane_.LeftName());
     Store(settings, Key("SDX", "Posto"), PlaceText(pane_.LeftAt()));
     for (const TreePane* tree : trees_)
-      Store(settings, Key(tree->Name(), "Rami"), tree->OpenBranches().join('|'));
+      Store(settings, Key(tree->Tree().objectName(), "Rami"), tree->OpenBranches().join('|'));
   });
+}
+
+// By points, from the size that the desktop gives.
+void ViewCommands::SetLetters(int steps) {
+  letters_ = std::clamp(steps, SmallerSteps, LargerSteps);
+  QFont font;
+  if (letters_ != 0) font.setPointSizeF(QFontInfo(QApplication::font()).pointSizeF() + letters_);
+  for (const Shown& shown : lists_) shown.grid.setFont(font);
+  for (const TreePane* tree : trees_) tree->Tree().setFont(font);
+}
+
+void ViewCommands::ChangeLetters(int steps) {
+  const int before = letters_;
+  SetLetters(steps);
+  Write();
+  const QString size = QString::number(qRound(lists_.front().grid.fontInfo().pointSizeF())) + " punti";
+  const bool end = letters_ == before && steps != 0;
+  session_.status.ShowResult((end ? "Le lettere restano di " : "Lettere di griglie e alberi di ") + size +
+                             (letters_ == 0 ? ", come all'inizio" : ""));
 }
 
 void ViewCommands::ResetWidths() {

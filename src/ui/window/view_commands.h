@@ -33,11 +33,14 @@ class ViewCommands : public QObject {
 
   void Read();
   void ResetWidths();
+  void SetLetters(int steps);
+  void ChangeLetters(int steps);
 
   Session& session_;
   SdxPane& pane_;
   std::array<Shown, 3> lists_;
   std::vector<TreePane*> trees_;
+  int letters_ = 0;  // points more than the desktop's
   QTimer write_;
 };
 

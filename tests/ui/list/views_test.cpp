@@ -83,4 +83,26 @@ TEST_F(Views, KeepTheWidthsOfTheirColumnsUntilTheyAreTakenBack) {
   EXPECT_EQ(widths(2), before);
 }
 
+TEST_F(Views, LettersGrowWithTheRowsAndColumnsAndComeBackAtTheNextStart) {
+  const auto* grid = &driver_->Grid();
+  const auto sizes = [&] {
+    return std::array{grid->rowHeight(0), grid->columnWidth(0), Tree().fontMetrics().height(),
+                      grid->horizontalHeader()->fontMetrics().height()};
+  };
+  grid->horizontalHeader()->resizeSection(2, 120);
+  const auto usual = sizes();
+  for (int i = 0; i < 3; ++i) driver_->Key(Qt::Key_Plus, Qt::ControlModifier);
+  const auto large = sizes();
+  for (std::size_t i = 0; i < usual.size(); ++i) EXPECT_GT(large[i], usual[i]) << i;
+  EXPECT_GT(grid->columnWidth(2), 120);
+  Restart();
+  Open(flash_, "QuantiCanali_0");
+  grid = &driver_->Grid();
+  EXPECT_EQ(sizes(), large);
+  driver_->Key(Qt::Key_Minus, Qt::ControlModifier);
+  EXPECT_LT(sizes(), large);
+  driver_->Key(Qt::Key_0, Qt::ControlModifier);
+  EXPECT_EQ(sizes(), usual);
+}
+
 }  // namespace Ui
