@@ -3,11 +3,11 @@
 #include "model/channel.h"
 #include "ui/kit/name_edit.h"
 
-#include <QAbstractItemView>
 #include <QComboBox>
 #include <QCompleter>
 #include <QKeyEvent>
 #include <QPersistentModelIndex>
+#include <QTableView>
 #include <QTimer>
 #include <QToolTip>
 
@@ -34,7 +34,7 @@ int EntryOf(const QComboBox& list, const QString& cell) {
 
 }  // namespace
 
-CellDelegate::CellDelegate(CellEdits& edits, QAbstractItemView* view)
+CellDelegate::CellDelegate(CellEdits& edits, QTableView* view)
     : QStyledItemDelegate(view), edits_(edits), view_(*view) {}
 
 QComboBox* CellDelegate::MakeList(QWidget* parent, const QModelIndex& index, bool open) const {
@@ -156,7 +156,7 @@ void CellDelegate::FinishAndStep(QWidget& editor, int step) {
       column = step > 0 ? 0 : columns - 1;
     }
     if (row < 0 || row >= index.model()->rowCount()) return;
-  } while (edits_.KindOf(column) == CellKind::Fixed);
+  } while (edits_.KindOf(column) == CellKind::Fixed || view_.isColumnHidden(column));
   const QModelIndex next = index.model()->index(row, column);
   view_.setCurrentIndex(next);
   view_.edit(next);

@@ -28,7 +28,7 @@ class CellDelegate : public QStyledItemDelegate {
   Q_OBJECT
 
  public:
-  CellDelegate(CellEdits& edits, QAbstractItemView* view);
+  CellDelegate(CellEdits& edits, QTableView* view);
 
   QWidget* createEditor(QWidget* parent, const QStyleOptionViewItem& option,
                         const QModelIndex& index) const override;
@@ -52,7 +52,7 @@ class CellDelegate : public QStyledItemDelegate {
   bool PopupKey(QWidget& popup, int key);
 
   CellEdits& edits_;
-  QAbstractItemView& view_;
+  QTableView& view_;
 };
 
 }  // namespace Ui

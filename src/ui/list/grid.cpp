@@ -86,6 +86,8 @@ Grid::Grid(QWidget* parent, int frozen)
   horizontalHeader()->setSectionResizeMode(QHeaderView::Interactive);
   connect(horizontalHeader(), &QHeaderView::sectionResized, this,
           [this](int column, int, int width) { KeepWidth(column, width); });
+  horizontalHeader()->setContextMenuPolicy(Qt::CustomContextMenu);
+  connect(horizontalHeader(), &QWidget::customContextMenuRequested, this, &Grid::AskForColumnMenu);
   // Many keyboards have no menu key.
   auto* menu = new QShortcut(QKeySequence(Qt::SHIFT | Qt::Key_F10), this);
   menu->setContext(Qt::WidgetShortcut);
@@ -146,6 +148,7 @@ void Grid::ShowList(TableModel* list) {
     if (frozen_->model() != nullptr) frozen_->setModel(nullptr);  // until it is shown
   }
   ReadHeader();
+  HideColumns();
   FitColumns();
   selectionModel()->clear();
   selectionModel()->setCurrentIndex(list->index(0, 1), QItemSelectionModel::NoUpdate);
@@ -287,7 +290,9 @@ void Grid::changeEvent(QEvent* event) {
   QTableView::changeEvent(event);
   if (event->type() != QEvent::FontChange && event->type() != QEvent::StyleChange) return;
   for (QTableView* view : {static_cast<QTableView*>(this), frozen_}) {
-    if (view != nullptr) view->verticalHeader()->setDefaultSectionSize(fontMetrics().height() + 6);
+    if (view == nullptr) continue;
+    view->horizontalHeader()->setFont(font());  // what has a style sheet of its own takes no other's letters
+    view->verticalHeader()->setDefaultSectionSize(fontMetrics().height() + 6);
   }
   FollowLetters();
 }

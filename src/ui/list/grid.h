@@ -9,11 +9,13 @@
 
 #include <map>
 #include <optional>
+#include <set>
 
 namespace Ui {
 
-// The widths that the user has given columns, in pixels, by the column from 0.
+// The widths that the user has given columns, in pixels, by the column from 0; and columns that are hidden.
 using ColumnWidths = std::map<int, int>;
+using ColumnSet = std::set<int>;
 
 class Grid : public QTableView {
   Q_OBJECT
@@ -35,6 +37,10 @@ class Grid : public QTableView {
   // Of any list, shown or not.
   [[nodiscard]] ColumnWidths WidthsOf(const TableModel& list) const;
   void SetWidths(const TableModel& list, const ColumnWidths& widths);
+  [[nodiscard]] ColumnSet HiddenOf(const TableModel& list) const;
+  // Hides these columns and shows all others. Number and name of a row cannot be hidden.
+  void SetHidden(const TableModel& list, ColumnSet columns);
+  [[nodiscard]] static bool MayHide(int column) { return column >= AlwaysShown; }
 
   // The selected rows in rising order, from slot 1 on.
   [[nodiscard]] Edit::Slots Selected() const;
@@ -60,8 +66,10 @@ class Grid : public QTableView {
   void scrollTo(const QModelIndex& index, ScrollHint hint = EnsureVisible) override;
 
  Q_SIGNALS:
-  // The user has changed a column's width.
-  void WidthsChanged();
+  // The user has changed a column's width, or which columns are hidden.
+  void ColumnsChanged();
+  // The user wants the menu of a column, at a place of the screen.
+  void ColumnMenuWanted(int column, QPoint place);
   void SelectionMoved();
   void CurrentMoved();
   // The user wants the menu of the selected rows, at a place of the screen.
@@ -90,6 +98,8 @@ class Grid : public QTableView {
   QModelIndex moveCursor(CursorAction action, Qt::KeyboardModifiers modifiers) override;
 
  private:
+  static constexpr int AlwaysShown = 2;  // columns
+
   void SetUp(QTableView& view);
   [[nodiscard]] const TableModel* List() const { return static_cast<const TableModel*>(model()); }
   [[nodiscard]] QItemSelection SelectionOf(const Edit::Slots& rows) const;
@@ -99,6 +109,8 @@ class Grid : public QTableView {
   void ShowDropLine(QPoint place);
   void ReadHeader();
   void FollowLetters();
+  void HideColumns();
+  void AskForColumnMenu(QPoint place);
   [[nodiscard]] bool HasOwnWidth(std::size_t column) const;
   [[nodiscard]] std::vector<int> SharedWidths() const;
   void FitColumns();
@@ -113,7 +125,8 @@ class Grid : public QTableView {
   std::vector<int> widths_;                        // of the columns without the spare width
   int letters_;                                    // how wide some of them were when the widths were given
   std::map<const TableModel*, ColumnWidths> own_;  // columns that take no part of it
-  std::optional<Edit::Slots> only_;                // the rows shown where others are hidden
+  std::map<const TableModel*, ColumnSet> hidden_;
+  std::optional<Edit::Slots> only_;  // the rows shown where others are hidden
 };
 
 }  // namespace Ui

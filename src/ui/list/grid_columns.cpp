@@ -1,4 +1,4 @@
-// The columns of a grid: how wide they are.
+// The columns of a grid: how wide they are, and which are seen.
 #include "ui/kit/screen_fit.h"
 #include "ui/list/grid.h"
 
@@ -44,6 +44,42 @@ void Grid::ReadHeader() {
   for (const auto& [column, width] : own_[List()]) widths_[static_cast<std::size_t>(column)] = width;
 }
 
+ColumnSet Grid::HiddenOf(const TableModel& list) const {
+  const auto hidden = hidden_.find(&list);
+  return hidden == hidden_.end() ? ColumnSet() : hidden->second;
+}
+
+void Grid::SetHidden(const TableModel& list, ColumnSet columns) {
+  std::erase_if(columns, [&list](int column) { return !MayHide(column) || column >= list.columnCount(); });
+  hidden_[&list] = std::move(columns);
+  if (&list == model()) {
+    HideColumns();
+    FitColumns();
+  }
+  Q_EMIT ColumnsChanged();
+}
+
+// The current cell is one that is seen.
+void Grid::HideColumns() {
+  const ColumnSet hidden = HiddenOf(*List());
+  {
+    const QSignalBlocker quiet(horizontalHeader());  // its width is none that anybody has given it
+    for (int column = 0; column < model()->columnCount(); ++column)
+      setColumnHidden(column, hidden.contains(column));
+  }
+  const QModelIndex current = currentIndex();
+  if (current.isValid() && hidden.contains(current.column()))
+    selectionModel()->setCurrentIndex(current.siblingAtColumn(1), QItemSelectionModel::NoUpdate);
+}
+
+// In front of the columns that are scrolled away stand those that are fixed.
+void Grid::AskForColumnMenu(QPoint place) {
+  const QHeaderView& header =
+      frozen_->isVisible() && place.x() < FrozenWidth() ? *frozen_->horizontalHeader() : *horizontalHeader();
+  const int column = header.logicalIndexAt(place);
+  if (column >= 0) Q_EMIT ColumnMenuWanted(column, horizontalHeader()->mapToGlobal(place));
+}
+
 // Columns are as wide as their letters want them, those that the user has set as well.
 void Grid::FollowLetters() {
   const int before = std::exchange(letters_, Letters(*this, 100));
@@ -61,6 +97,7 @@ bool Grid::HasOwnWidth(std::size_t column) const {
 
 std::vector<int> Grid::SharedWidths() const {
   std::vector<int> widths = widths_;
+  for (const int column : HiddenOf(*List())) widths[static_cast<std::size_t>(column)] = 0;
   int spare = viewport()->width() - std::accumulate(widths.begin(), widths.end(), 0);
   if (spare <= 0) return widths;
   int sharing = 0;
@@ -82,7 +119,9 @@ void Grid::FitColumns() {
   {
     // Told of each width, the view would paint once before and once after it has taken them in.
     const QSignalBlocker quiet(horizontalHeader());
-    for (std::size_t i = 0; i < widths.size(); ++i) setColumnWidth(static_cast<int>(i), widths[i]);
+    for (std::size_t i = 0; i < widths.size(); ++i) {
+      if (widths[i] > 0) setColumnWidth(static_cast<int>(i), widths[i]);
+    }
   }
   updateGeometries();
   viewport()->update();
@@ -91,11 +130,11 @@ void Grid::FitColumns() {
 
 // A column that the user has made wider or narrower keeps that width when the window changes its own.
 void Grid::KeepWidth(int column, int width) {
-  if (static_cast<std::size_t>(column) >= widths_.size()) return;
+  if (static_cast<std::size_t>(column) >= widths_.size() || width == 0) return;
   widths_[static_cast<std::size_t>(column)] = width;
   own_[List()][column] = width;
   PlaceFrozen();
-  Q_EMIT WidthsChanged();
+  Q_EMIT ColumnsChanged();
 }
 
 }  // namespace Ui

@@ -107,8 +107,11 @@ inline constexpr Command Commands[] = {
      "Rimpicciolisce le lettere delle griglie e degli alberi"},
     {"LettereIniziali", "Lettere come all'inizio", Menu::View, "", "Ctrl+0",
      "Ridà alle lettere delle griglie e degli alberi la grandezza del desktop"},
+    {"MenuDellaColonna", "Colonna corrente…", Menu::View, "", "Ctrl+Shift+K",
+     "Apre il menu della colonna con la cella corrente: nasconderla, mostrare le altre", Need::AnyView,
+     Group},
     {"LarghezzeIniziali", "Larghezze come all'inizio", Menu::View, "", "",
-     "Ridà a tutte le colonne delle griglie le larghezze dell'inizio", Gate(), Group},
+     "Ridà a tutte le colonne delle griglie le larghezze dell'inizio"},
 
     {"CaricaImportato", "Carica Canali da file esportato", Menu::Utilities, "import", "",
      "Carica una lista esportata in formato Testo", Need::Settings},

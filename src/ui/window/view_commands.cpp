@@ -1,6 +1,7 @@
 #include "ui/window/view_commands.h"
 
 #include "ui/kit/settings_file.h"
+#include "ui/list/column_menu.h"
 
 #include <QAction>
 #include <QApplication>
@@ -20,6 +21,19 @@ constexpr const char* LettersKey = "Viste/Lettere";
 constexpr const char* SdxNameKey = "Viste/SDX_Nome";
 
 QString Key(const QString& list, const char* what) { return QString("Viste/%1_%2").arg(list, what); }
+
+// "3 7"
+QString ColumnsText(const ColumnSet& columns) {
+  QStringList all;
+  for (const int column : columns) all += QString::number(column);
+  return all.join(' ');
+}
+
+ColumnSet ColumnsFrom(const QString& text) {
+  ColumnSet columns;
+  for (const QString& one : text.split(' ', Qt::SkipEmptyParts)) columns.insert(one.toInt());
+  return columns;
+}
 
 // "1:200 4:60"
 QString WidthsText(const ColumnWidths& widths) {
@@ -64,16 +78,30 @@ ViewCommands::ViewCommands(Session& session, SdxPane& pane, std::vector<TreePane
   write_.setInterval(WriteAfter);
   connect(&write_, &QTimer::timeout, this, &ViewCommands::Write);
   for (Grid* grid : {&session.view.ListGrid(), &pane.ListGrid()})
-    connect(grid, &Grid::WidthsChanged, &write_, qOverload<>(&QTimer::start));
+    connect(grid, &Grid::ColumnsChanged, &write_, qOverload<>(&QTimer::start));
+  ConnectMenus(actions);
   Read();
+}
+
+// Of the grid that the user is in.
+void ViewCommands::ConnectMenus(Actions& actions) {
+  auto* list = new ColumnMenu(session_.view.ListGrid(), "");
+  auto* sdx = new ColumnMenu(pane_.ListGrid(), "SDX");
+  actions.Connect("MenuDellaColonna",
+                  [this, list, sdx] { (pane_.ListGrid().hasFocus() ? sdx : list)->ShowCurrent(); });
+  for (const ColumnMenu* menu : {list, sdx})
+    connect(menu, &ColumnMenu::Told, this,
+            [this](const QString& result) { session_.status.ShowResult(result); });
 }
 
 void ViewCommands::Read() {
   ReadSettings(session_.SettingsFile(), [this](const QSettings& settings) {
     const auto text = [&settings](const QString& key) { return settings.value(key).toString(); };
     SetLetters(settings.value(LettersKey).toInt());
-    for (const Shown& shown : lists_)
+    for (const Shown& shown : lists_) {
       shown.grid.SetWidths(shown.list, WidthsFrom(text(Key(shown.name, "Larghezze"))));
+      shown.grid.SetHidden(shown.list, ColumnsFrom(text(Key(shown.name, "Nascoste"))));
+    }
     LeftPlaces& places = session_.view.Places();
     const int earlier = 0;  // no list of this session has that number
     places.SetFile(earlier, PathBytes(text(FileKey)));
@@ -92,8 +120,10 @@ void ViewCommands::Write() {
   session_.view.KeepPlace();
   pane_.KeepPlace();
   ChangeSettings(session_.SettingsFile(), [this](QSettings& settings) {
-    for (const Shown& shown : lists_)
+    for (const Shown& shown : lists_) {
       Store(settings, Key(shown.name, "Larghezze"), WidthsText(shown.grid.WidthsOf(shown.list)));
+      Store(settings, Key(shown.name, "Nascoste"), ColumnsText(shown.grid.HiddenOf(shown.list)));
+    }
     Store(settings, LettersKey, letters_ == 0 ? QString() : QString::number(letters_));
     const LeftPlaces& places = session_.view.Places();
     const int list = session_.document.Tables().ListNumber;

@@ -31,6 +31,7 @@ class ViewCommands : public QObject {
     const TableModel& list;
   };
 
+  void ConnectMenus(Actions& actions);
   void Read();
   void ResetWidths();
   void SetLetters(int steps);

@@ -1,4 +1,5 @@
 // What the user has made of a view stays: where it was left, and how it looks.
+#include "ui/list/cell_delegate.h"
 #include "ui/window_fixture.h"
 
 namespace Ui {
@@ -23,6 +24,12 @@ class Views : public SmallWindow {
   void Restart() {
     window_->close();
     StartEmpty();
+  }
+  // The one of a cell that is open.
+  [[nodiscard]] QWidget* Editor() const {
+    for (auto* editor : driver_->Grid().findChildren<QWidget*>(CellEditorName))
+      if (editor->isVisible()) return editor;
+    return nullptr;
   }
   [[nodiscard]] QTreeView& Tree() const { return *window_->findChild<QTreeView*>("TreeView1"); }
 };
@@ -81,6 +88,42 @@ TEST_F(Views, KeepTheWidthsOfTheirColumnsUntilTheyAreTakenBack) {
   StartEmpty();
   Open(flash_, "QuantiCanali_0");
   EXPECT_EQ(widths(2), before);
+}
+
+TEST_F(Views, ColumnsAreHiddenByTheirMenuAndPassedOver) {
+  const auto choose = [this](int column, const char* entry) {
+    auto* header = driver_->Grid().horizontalHeader();
+    const QPoint place(header->sectionViewportPosition(column) + 5, 5);
+    Q_EMIT header->customContextMenuRequested(place);
+    auto* menu = window_->findChild<QMenu*>("MenuColonna");
+    EXPECT_TRUE(menu->isVisible());
+    auto* action = menu->findChild<QAction*>(entry);
+    const bool enabled = action->isEnabled();
+    action->trigger();
+    menu->close();
+    return enabled;
+  };
+  EXPECT_FALSE(choose(0, "NascondiColonna"));
+  EXPECT_FALSE(choose(1, "NascondiColonna"));
+  driver_->Grid().setCurrentIndex(driver_->Grid().model()->index(0, 2));
+  EXPECT_TRUE(choose(2, "NascondiColonna"));
+  EXPECT_TRUE(driver_->Grid().isColumnHidden(2));
+  window_->resize(1600, 700);
+  QTest::qWait(20);
+  EXPECT_EQ(driver_->Grid().horizontalHeader()->length(), driver_->Grid().viewport()->width());
+  EXPECT_EQ(driver_->Grid().currentIndex().column(), 1);
+  QTest::keyClick(&driver_->Grid(), Qt::Key_F2);
+  ASSERT_NE(Editor(), nullptr);
+  QTest::keyClick(Editor(), Qt::Key_Tab);
+  EXPECT_EQ(driver_->Grid().currentIndex().column(), 3) << "the next cell that is seen";
+  ASSERT_TRUE(driver_->Choose("VisualizzaTransponder"));
+  EXPECT_FALSE(driver_->Grid().isColumnHidden(2)) << "of this list";
+  Restart();
+  Open(flash_, "QuantiCanali_0");
+  EXPECT_TRUE(driver_->Grid().isColumnHidden(2));
+  EXPECT_TRUE(choose(3, "Colonna_2"));
+  EXPECT_FALSE(driver_->Grid().isColumnHidden(2));
+  EXPECT_GT(driver_->Grid().columnWidth(2), 20);
 }
 
 TEST_F(Views, LettersGrowWithTheRowsAndColumnsAndComeBackAtTheNextStart) {
