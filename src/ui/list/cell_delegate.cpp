@@ -5,6 +5,7 @@
 
 #include <QComboBox>
 #include <QCompleter>
+#include <QHeaderView>
 #include <QKeyEvent>
 #include <QPersistentModelIndex>
 #include <QTableView>
@@ -30,6 +31,14 @@ int EntryOf(const QComboBox& list, const QString& cell) {
     if (list.itemText(i) == cell || list.itemText(i).startsWith(cell + ' ')) return i;
   }
   return -1;
+}
+
+// The row that is seen below another one (1) or above it (-1); -1 at the end.
+int RowBeside(const QTableView& view, int row, int step) {
+  const QHeaderView& rows = *view.verticalHeader();
+  int place = rows.visualIndex(row) + step;
+  while (place >= 0 && place < rows.count() && rows.isSectionHidden(rows.logicalIndex(place))) place += step;
+  return rows.logicalIndex(place);
 }
 
 }  // namespace
@@ -152,10 +161,10 @@ void CellDelegate::FinishAndStep(QWidget& editor, int step) {
   do {
     column += step;
     if (column < 0 || column >= columns) {
-      row += step;
+      row = RowBeside(view_, row, step);
       column = step > 0 ? 0 : columns - 1;
     }
-    if (row < 0 || row >= index.model()->rowCount()) return;
+    if (row < 0) return;
   } while (edits_.KindOf(column) == CellKind::Fixed || view_.isColumnHidden(column));
   const QModelIndex next = index.model()->index(row, column);
   view_.setCurrentIndex(next);

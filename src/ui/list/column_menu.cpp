@@ -42,6 +42,8 @@ void ColumnMenu::ShowCurrent() {
 
 void ColumnMenu::Show(int column, QPoint place) {
   menu_->clear();
+  AddOrders(column);
+  menu_->addSeparator();
   Add(*menu_, "NascondiColonna", "Nascondi " + Title(column), [this, column] {
     Hide(column, true);
   })->setEnabled(Grid::MayHide(column));
@@ -55,6 +57,22 @@ void ColumnMenu::Show(int column, QPoint place) {
   menu_->addSeparator();
   Add(*menu_, "LarghezzeLista", "Larghezze come all'inizio", [this] { ResetWidths(); });
   menu_->popup(place);
+}
+
+void ColumnMenu::AddOrders(int column) {
+  const QString caption = "Ordina la vista per " + Title(column);
+  Add(*menu_, "OrdinaVista", caption, [this, column] { Sort(column, false); });
+  Add(*menu_, "OrdinaVistaIndietro", caption + ", dal fondo", [this, column] { Sort(column, true); });
+  Add(*menu_, "OrdineLista", "Ordine della lista", [this] {
+    grid_.ShowListOrder();
+    Q_EMIT Told(ListOrderTold);
+  })->setEnabled(grid_.IsSorted());
+}
+
+void ColumnMenu::Sort(int column, bool descending) {
+  grid_.SortView(column, descending);
+  Q_EMIT Told("Vista ordinata per " + Title(column) + (descending ? ", dal fondo" : "") +
+              "; la lista non è cambiata: Ordine della lista (Ctrl+Shift+L) la mostra com'è");
 }
 
 void ColumnMenu::AddTicks(QMenu& menu) {

@@ -1,4 +1,5 @@
-// The menu of a grid's column, at its title: which columns are seen, and how wide they are.
+// The menu of a grid's column, at its title: by which one the view is sorted, which are seen, and how
+// wide they are.
 #pragma once
 
 #include "ui/list/grid.h"
@@ -9,6 +10,8 @@ class QAction;
 class QMenu;
 
 namespace Ui {
+
+inline constexpr const char* ListOrderTold = "Le righe sono nell'ordine della lista";
 
 class ColumnMenu : public QObject {
   Q_OBJECT
@@ -29,7 +32,9 @@ class ColumnMenu : public QObject {
   [[nodiscard]] const TableModel& List() const;
   [[nodiscard]] QString Title(int column) const;
   QAction* Add(QMenu& menu, const QString& name, const QString& caption, const std::function<void()>& run);
+  void AddOrders(int column);
   void AddTicks(QMenu& menu);
+  void Sort(int column, bool descending);
   void Hide(int column, bool hide);
   void ShowAll();
   void ResetWidths();

@@ -28,9 +28,18 @@ bool Finder::OnSelected() const {
   return here.isValid() && grid_.selectionModel()->isRowSelected(here.row());
 }
 
+// As places in the view, which are the rows themselves unless it is sorted.
+FilterBar::Found Finder::Places() const {
+  FilterBar::Found places = bar_.Matches();
+  if (!grid_.IsSorted()) return places;
+  for (int& place : places) place = grid_.PlaceOf(place);
+  std::sort(places.begin(), places.end());
+  return places;
+}
+
 void Finder::ShowPlace() {
-  const auto& matches = bar_.Matches();
-  const int row = grid_.currentIndex().row() + 1;
+  const FilterBar::Found matches = Places();
+  const int row = grid_.PlaceOf(grid_.currentIndex().row() + 1);
   const auto at = std::lower_bound(matches.begin(), matches.end(), row);
   const bool onHit = here_ && at != matches.end() && *at == row && OnSelected();
   bar_.ShowPlace(onHit ? static_cast<std::size_t>(at - matches.begin()) + 1 : 0);
@@ -40,17 +49,17 @@ void Finder::ShowPlace() {
 void Finder::GoToFirst() {
   if (!here_ || !bar_.Asks()) return;
   if (bar_.Matches().empty()) return grid_.clearSelection();
-  grid_.SelectInMiddle(bar_.Matches().front());
+  grid_.SelectInMiddle(grid_.RowAt(Places().front()));
 }
 
 void Finder::Step(bool forward) {
-  const auto& matches = bar_.Matches();
-  if (matches.empty() || !bring()) return;
-  const int here = grid_.currentIndex().row() + 1;
+  if (bar_.Matches().empty() || !bring()) return;
+  const FilterBar::Found matches = Places();
+  const int here = grid_.PlaceOf(grid_.currentIndex().row() + 1);
   auto at = std::lower_bound(matches.begin(), matches.end(), forward && OnSelected() ? here + 1 : here);
   if (forward && at == matches.end()) at = matches.begin();
   if (!forward) at = (at == matches.begin() ? matches.end() : at) - 1;
-  grid_.SelectInMiddle(*at);
+  grid_.SelectInMiddle(grid_.RowAt(*at));
 }
 
 void Finder::SelectAll() {

@@ -30,6 +30,7 @@ class Finder : public QObject {
 
  private:
   void GoToFirst();
+  [[nodiscard]] FilterBar::Found Places() const;
   void ShowPlace();
   // Whether the current row is a selected one.
   [[nodiscard]] bool OnSelected() const;

@@ -62,14 +62,20 @@ class NumberDelegate : public QStyledItemDelegate {
 // A title that is wider than its column keeps its beginning: in the middle it would lose both its ends.
 class TitleHeader : public QHeaderView {
  public:
-  explicit TitleHeader(QWidget* parent) : QHeaderView(Qt::Horizontal, parent) { setSectionsClickable(true); }
+  TitleHeader(QWidget* parent, const Grid& grid) : QHeaderView(Qt::Horizontal, parent), grid_(grid) {
+    setSectionsClickable(true);
+  }
 
  protected:
   void initStyleOptionForIndex(QStyleOptionHeader* option, int column) const override {
     QHeaderView::initStyleOptionForIndex(option, column);
     const int margin = style()->pixelMetric(QStyle::PM_HeaderMargin, option, this);
-    option->text = fontMetrics().elidedText(option->text, Qt::ElideRight, sectionSize(column) - 2 * margin);
+    option->text = fontMetrics().elidedText(grid_.SortMark(column) + option->text, Qt::ElideRight,
+                                            sectionSize(column) - 2 * margin);
   }
+
+ private:
+  const Grid& grid_;
 };
 
 }  // namespace
@@ -126,7 +132,7 @@ void Grid::SetUp(QTableView& view) {
   view.verticalHeader()->hide();
   view.verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
   view.verticalHeader()->setDefaultSectionSize(fontMetrics().height() + 6);
-  view.setHorizontalHeader(new TitleHeader(&view));
+  view.setHorizontalHeader(new TitleHeader(&view, *this));
   view.horizontalHeader()->setStyleSheet(HeaderStyle());
   view.horizontalHeader()->setSectionResizeMode(QHeaderView::Fixed);
   view.horizontalHeader()->setHighlightSections(false);
@@ -141,6 +147,7 @@ void Grid::SetUp(QTableView& view) {
 }
 
 void Grid::ShowList(TableModel* list) {
+  ShowListOrder();
   if (list != model()) {
     ShowOnly(std::nullopt);
     const std::unique_ptr<QItemSelectionModel> oldSelection(selectionModel());
@@ -256,6 +263,7 @@ void Grid::ShowFrozen(int sideways) {
       frozen_->setColumnHidden(column, true);
     PlaceFrozen();
   }
+  ArrangeRowsOf(*frozen_);
   HideRowsOf(*frozen_);
   // Hidden, it had no rows to scroll by.
   frozen_->doItemsLayout();

@@ -3,6 +3,7 @@
 #pragma once
 
 #include "ui/list/grid_place.h"
+#include "ui/list/row_order.h"
 #include "ui/list/table_model.h"
 
 #include <QTableView>
@@ -63,6 +64,19 @@ class Grid : public QTableView {
   void ShowOnly(std::optional<Edit::Slots> rows);
   [[nodiscard]] int HiddenRows() const;
 
+  // Shows the rows in the order of what a column says; the list itself, and the numbers of its rows, stay as they are.
+  // Another list is shown in its own order.
+  void SortView(int column, bool descending);
+  void ShowListOrder();
+  [[nodiscard]] bool IsSorted() const { return order_.has_value(); }
+  // What stands before the title of the column that the view is sorted by.
+  [[nodiscard]] QString SortMark(int column) const;
+  // The list has changed.
+  void SortAgain();
+  // Where a row stands in the view, and the row that stands somewhere, both from 1; 0 where there is none.
+  [[nodiscard]] int PlaceOf(int row) const;
+  [[nodiscard]] int RowAt(int place) const;
+
   void scrollTo(const QModelIndex& index, ScrollHint hint = EnsureVisible) override;
 
  Q_SIGNALS:
@@ -74,6 +88,8 @@ class Grid : public QTableView {
   void CurrentMoved();
   // The user wants the menu of the selected rows, at a place of the screen.
   void MenuWanted(QPoint place);
+  // The view is sorted by another column, or not any longer.
+  void ViewSorted();
   // A row that is hidden is about to be selected.
   void HiddenWanted();
 
@@ -105,6 +121,9 @@ class Grid : public QTableView {
   [[nodiscard]] QItemSelection SelectionOf(const Edit::Slots& rows) const;
   [[nodiscard]] int ShownNear(int row) const;
   void HideRowsOf(QTableView& view);
+  void Arrange();
+  void ArrangeRowsOf(QTableView& view);
+  void SelectFirstPlace();
   void LeaveHiddenRows();
   void ShowDropLine(QPoint place);
   void ReadHeader();
@@ -126,6 +145,8 @@ class Grid : public QTableView {
   int letters_;                                    // how wide some of them were when the widths were given
   std::map<const TableModel*, ColumnWidths> own_;  // columns that take no part of it
   std::map<const TableModel*, ColumnSet> hidden_;
+  std::optional<RowOrder> order_;
+  int placeBefore_ = 0;              // where the current row stood before the last change of a sorted view
   std::optional<Edit::Slots> only_;  // the rows shown where others are hidden
 };
 

@@ -117,38 +117,43 @@ void Grid::keyPressEvent(QKeyEvent* event) {
   selectionModel()->select(currentIndex(), QItemSelectionModel::Toggle | QItemSelectionModel::Rows);
 }
 
-// Where rows are hidden a rectangle over them takes none of them along.
+// A rectangle takes what is seen in it: no row that is hidden, and where the view is sorted those that stand there.
 void Grid::setSelection(const QRect& area, QItemSelectionModel::SelectionFlags command) {
-  if (!only_) return QTableView::setSelection(area, command);
-  const int first = rowAt(std::min(area.top(), area.bottom()));
-  const int last = rowAt(std::max(area.top(), area.bottom()));
+  if (!only_ && !verticalHeader()->sectionsMoved()) return QTableView::setSelection(area, command);
+  const int first = PlaceOf(rowAt(std::min(area.top(), area.bottom())) + 1);
+  const int last = PlaceOf(rowAt(std::max(area.top(), area.bottom())) + 1);
+  if (first < 1 || last < 1) return;
   Edit::Slots rows;
-  for (int row = first; first >= 0 && row <= last; ++row) {
-    if (!isRowHidden(row)) rows.push_back(row + 1);
+  for (int place = first; place <= last; ++place) {
+    if (!isRowHidden(RowAt(place) - 1)) rows.push_back(RowAt(place));
   }
+  std::sort(rows.begin(), rows.end());
   selectionModel()->select(SelectionOf(rows), command);
 }
 
+// Where the view is sorted, the row that stands now where the current one stood.
 void Grid::SelectNear(int row) {
-  const int near = ShownNear(row);
+  const int wanted = order_ && placeBefore_ > 0 ? RowAt(std::min(placeBefore_, model()->rowCount())) : row;
+  const int near = ShownNear(wanted);
   Select(near == 0 ? Edit::Slots() : Edit::Slots{near});
 }
 
 // The row itself, else the next one below, else the last one above; 0 where none is shown.
 int Grid::ShownNear(int row) const {
   const int rows = model()->rowCount();
-  for (int below = row; below <= rows; ++below) {
-    if (!isRowHidden(below - 1)) return below;
+  const int place = row > rows ? rows : PlaceOf(row);
+  for (int below = place; below > 0 && below <= rows; ++below) {
+    if (!isRowHidden(RowAt(below) - 1)) return RowAt(below);
   }
-  for (int above = std::min(row, rows); above > 0; --above) {
-    if (!isRowHidden(above - 1)) return above;
+  for (int above = place; above > 0; --above) {
+    if (!isRowHidden(RowAt(above) - 1)) return RowAt(above);
   }
   return 0;
 }
 
 void Grid::ScrollToTop(int slot) {
   int above = 0;
-  for (int row = 0; row + 1 < slot; ++row) above += isRowHidden(row) ? 0 : 1;
+  for (int place = 1; place < PlaceOf(slot); ++place) above += isRowHidden(RowAt(place) - 1) ? 0 : 1;
   verticalScrollBar()->setValue(above);
 }
 

@@ -48,6 +48,7 @@ ListView::ListView(const Document& document, QAction& showChannels, QAction& sho
   LayOut();
 
   connect(&document, &Document::AboutToReplace, this, &ListView::KeepPlace);
+  connect(&document, &Document::Changed, grid_, &Grid::SortAgain);
   connect(&document, &Document::Changed, this, &ListView::FindAgain);
   connect(&document, &Document::Changed, this, &ListView::ShowHint);
   connect(&document, &Document::Changed, this, &ListView::TellWhere);
@@ -195,9 +196,12 @@ void ListView::TellWhere() {
   where_->Show(slot == 0 ? QString() : whereabouts_.Of(slot));
 }
 
-// Another list is seen whole, whatever was hidden of the one before.
+// Another list is seen whole and in its order, whatever was done to see the one before.
 void ListView::FindAgain() {
-  if (std::exchange(listNumber_, document_.Tables().ListNumber) != listNumber_) filter_->SetOnly(false);
+  if (std::exchange(listNumber_, document_.Tables().ListNumber) != listNumber_) {
+    filter_->SetOnly(false);
+    grid_->ShowListOrder();
+  }
   filter_->Refresh();
 }
 

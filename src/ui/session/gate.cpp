@@ -10,6 +10,9 @@ constexpr std::string_view PlacesHidden =
     "Con Solo i trovati non si vedono i posti fra una riga e l'altra: prima si devono mostrare tutte le "
     "righe "
     "(Ctrl+Shift+H)";
+constexpr std::string_view PlacesSorted =
+    "Con la vista ordinata non si vedono i posti della lista: prima si deve tornare all'ordine della lista "
+    "(Ctrl+Shift+L)";
 constexpr std::string_view ChannelsOnly = "Funzione valida solo in visualizzazione canali";
 
 Base::Outcome Or(bool met, std::string_view refusal) {
@@ -44,7 +47,10 @@ Base::Outcome Check(const Session& session, Need need) {
     case Need::ChannelRows:
       return Or(channels, "Deve essere visibile la lista canali");
     case Need::Places:
-      return Or(session.view.ListGrid().HiddenRows() == 0, PlacesHidden);
+      if (session.view.ListGrid().HiddenRows() > 0) return Or(false, PlacesHidden);
+      return Or(!session.view.ListGrid().IsSorted(), PlacesSorted);
+    case Need::ListOrder:
+      return Or(!session.view.ListGrid().IsSorted(), PlacesSorted);
     case Need::ChannelsForSdx:
       return Or(channels, "Per Caricare un file SDX si deve visualizzare la griglia Canali");
     case Need::ChannelsForDownload:

@@ -31,7 +31,8 @@ enum class Need {
   AnyView,
   ChannelView,
   ChannelRows,
-  Places,  // between the rows, none of them hidden
+  Places,     // between the rows, none of them hidden, and in the order of the list
+  ListOrder,  // in that alone
   ChannelsForSdx,
   ChannelsForDownload,
   ChannelsForSdxImport

@@ -89,9 +89,22 @@ void ViewCommands::ConnectMenus(Actions& actions) {
   auto* sdx = new ColumnMenu(pane_.ListGrid(), "SDX");
   actions.Connect("MenuDellaColonna",
                   [this, list, sdx] { (pane_.ListGrid().hasFocus() ? sdx : list)->ShowCurrent(); });
+  actions.Connect("OrdineDellaLista", [this] {
+    session_.view.ListGrid().ShowListOrder();
+    pane_.ListGrid().ShowListOrder();
+    session_.status.ShowResult(ListOrderTold);
+  });
+  TellSorted(session_.view.ListGrid(), "Vista ordinata: Ordine della lista (Ctrl+Shift+L) la toglie");
+  TellSorted(pane_.ListGrid(), "Righe a destra ordinate: Ordine della lista (Ctrl+Shift+L) le riporta");
   for (const ColumnMenu* menu : {list, sdx})
     connect(menu, &ColumnMenu::Told, this,
             [this](const QString& result) { session_.status.ShowResult(result); });
+}
+
+void ViewCommands::TellSorted(Grid& grid, const QString& text) {
+  connect(&grid, &Grid::ViewSorted, this, [this, &grid, text] {
+    session_.status.ShowHidden("ordine " + grid.objectName(), grid.IsSorted() ? text : QString());
+  });
 }
 
 void ViewCommands::Read() {

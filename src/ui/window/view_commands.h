@@ -32,6 +32,7 @@ class ViewCommands : public QObject {
   };
 
   void ConnectMenus(Actions& actions);
+  void TellSorted(Grid& grid, const QString& text);
   void Read();
   void ResetWidths();
   void SetLetters(int steps);

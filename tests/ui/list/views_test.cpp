@@ -25,6 +25,18 @@ class Views : public SmallWindow {
     window_->close();
     StartEmpty();
   }
+  // By the menu of a column's title; whether it can be chosen.
+  bool ChooseForColumn(int column, const char* entry) {
+    auto* header = driver_->Grid().horizontalHeader();
+    Q_EMIT header->customContextMenuRequested(QPoint(header->sectionViewportPosition(column) + 5, 5));
+    auto* menu = window_->findChild<QMenu*>("MenuColonna");
+    EXPECT_TRUE(menu->isVisible());
+    auto* action = window_->findChild<QAction*>(entry);
+    const bool enabled = action->isEnabled();
+    action->trigger();
+    menu->close();
+    return enabled;
+  }
   // The one of a cell that is open.
   [[nodiscard]] QWidget* Editor() const {
     for (auto* editor : driver_->Grid().findChildren<QWidget*>(CellEditorName))
@@ -91,22 +103,10 @@ TEST_F(Views, KeepTheWidthsOfTheirColumnsUntilTheyAreTakenBack) {
 }
 
 TEST_F(Views, ColumnsAreHiddenByTheirMenuAndPassedOver) {
-  const auto choose = [this](int column, const char* entry) {
-    auto* header = driver_->Grid().horizontalHeader();
-    const QPoint place(header->sectionViewportPosition(column) + 5, 5);
-    Q_EMIT header->customContextMenuRequested(place);
-    auto* menu = window_->findChild<QMenu*>("MenuColonna");
-    EXPECT_TRUE(menu->isVisible());
-    auto* action = menu->findChild<QAction*>(entry);
-    const bool enabled = action->isEnabled();
-    action->trigger();
-    menu->close();
-    return enabled;
-  };
-  EXPECT_FALSE(choose(0, "NascondiColonna"));
-  EXPECT_FALSE(choose(1, "NascondiColonna"));
+  EXPECT_FALSE(ChooseForColumn(0, "NascondiColonna"));
+  EXPECT_FALSE(ChooseForColumn(1, "NascondiColonna"));
   driver_->Grid().setCurrentIndex(driver_->Grid().model()->index(0, 2));
-  EXPECT_TRUE(choose(2, "NascondiColonna"));
+  EXPECT_TRUE(ChooseForColumn(2, "NascondiColonna"));
   EXPECT_TRUE(driver_->Grid().isColumnHidden(2));
   window_->resize(1600, 700);
   QTest::qWait(20);
@@ -121,9 +121,73 @@ TEST_F(Views, ColumnsAreHiddenByTheirMenuAndPassedOver) {
   Restart();
   Open(flash_, "QuantiCanali_0");
   EXPECT_TRUE(driver_->Grid().isColumnHidden(2));
-  EXPECT_TRUE(choose(3, "Colonna_2"));
+  EXPECT_TRUE(ChooseForColumn(3, "Colonna_2"));
   EXPECT_FALSE(driver_->Grid().isColumnHidden(2));
   EXPECT_GT(driver_->Grid().columnWidth(2), 20);
+}
+
+TEST_F(Views, RowsOfASortedViewStayWhatTheyAreInTheList) {
+  Grid& grid = driver_->Grid();
+  const auto shown = [&grid](int places) {
+    Edit::Slots rows;
+    for (int place = 1; place <= places; ++place) rows.push_back(grid.RowAt(place));
+    return rows;
+  };
+  const auto said = [this](const char* wanted) { return Said().find(wanted) != std::string::npos; };
+  using Slots = Edit::Slots;
+  const Routines::State before = List();
+  ChooseForColumn(1, "OrdinaVista");
+  EXPECT_TRUE(said("Vista ordinata per Canale; la lista non è cambiata"));
+  EXPECT_EQ(shown(13), Slots({5, 6, 10, 12, 2, 11, 9, 8, 7, 3, 1, 4, 13})) << "empty ones last";
+  EXPECT_TRUE(List() == before);
+  EXPECT_EQ(Place(), "5/5/");
+  Tells(
+      "Toolbar1_Paste",
+      "Con la vista ordinata non si vedono i posti della lista: prima si deve tornare all'ordine della lista "
+      "(Ctrl+Shift+L)");
+  // Keys and mouse go by what is seen.
+  QTest::keyClick(&grid, Qt::Key_Down);
+  QTest::keyClick(&grid, Qt::Key_Down, Qt::ShiftModifier);
+  EXPECT_EQ(grid.Selected(), Slots({6, 10}));
+  QTest::mouseClick(grid.viewport(), Qt::LeftButton, Qt::ShiftModifier,
+                    grid.visualRect(grid.model()->index(1, 1)).center());
+  EXPECT_EQ(grid.Selected(), Slots({2, 6, 10, 12}));
+  Delete(10, 10);
+  EXPECT_EQ(Names(9, 11), "Radio Nove,due,Dodici");
+  EXPECT_EQ(shown(4), Slots({5, 6, 11, 2}));
+  EXPECT_EQ(grid.Selected(), Slots({11})) << "what stands there now";
+  ASSERT_TRUE(driver_->Choose("Annulla"));
+  EXPECT_EQ(grid.Selected(), Slots({10}));
+  EXPECT_EQ(shown(4), Slots({5, 6, 10, 12}));
+  // A row that is edited stays under the hand; the next one is the one below.
+  const auto type = [&](int column, const char* text) {
+    grid.setCurrentIndex(grid.model()->index(4, column));
+    QTest::keyClick(&grid, Qt::Key_F2);
+    QTest::keyClicks(Editor(), text);
+    QTest::keyClick(Editor(), Qt::Key_Return);
+  };
+  type(1, "Zeta");
+  EXPECT_EQ(Names(5, 5), "Zeta");
+  EXPECT_EQ(shown(2), Slots({5, 6}));
+  type(3, "99");
+  auto* filter = window_->findChild<QLineEdit*>("Filtro");
+  QTest::keyClicks(filter, "radio");
+  EXPECT_EQ(grid.Selected(), Slots({9})) << "the first that is seen, not the first of the list";
+  QTest::keyClick(filter, Qt::Key_Return);
+  EXPECT_EQ(driver_->TextOf("FiltroTrovati"), "2 di 2");
+  EXPECT_EQ(grid.Selected(), Slots({8}));
+  ASSERT_TRUE(driver_->Choose("SoloITrovati"));
+  ChooseForColumn(3, "OrdinaVistaIndietro");
+  EXPECT_EQ(grid.Selected(), Slots({8}));
+  ASSERT_TRUE(driver_->Choose("SoloITrovati"));
+  EXPECT_EQ(shown(3), Slots({12, 11, 10}));
+  EXPECT_EQ(grid.RowAt(11), 5) << "99 is less than 101";
+  ASSERT_TRUE(driver_->Choose("OrdineDellaLista"));
+  EXPECT_EQ(shown(3), Slots({1, 2, 3}));
+  EXPECT_EQ(driver_->TextOf("RigheNascoste"), "");
+  ChooseForColumn(1, "OrdinaVista");
+  Open(flash_, "QuantiCanali_0");
+  EXPECT_EQ(shown(3), Slots({1, 2, 3})) << "read again";
 }
 
 TEST_F(Views, LettersGrowWithTheRowsAndColumnsAndComeBackAtTheNextStart) {

@@ -1,0 +1,81 @@
+// The order in which a grid shows its rows. They keep their numbers whatever it is: only the places of the vertical header
+// change, so that a row is its slot for everybody else.
+#include "ui/list/grid.h"
+
+#include <QHeaderView>
+#include <QScrollBar>
+#include <QSignalBlocker>
+
+#include <algorithm>
+#include <numeric>
+
+namespace Ui {
+
+void Grid::SortView(int column, bool descending) {
+  if (model() == nullptr) return;
+  order_.emplace(*List(), column, descending);
+  Arrange();
+  if (selectionModel()->hasSelection()) {
+    scrollTo(currentIndex(), PositionAtCenter);
+  } else {
+    SelectFirstPlace();
+  }
+  Q_EMIT ViewSorted();
+}
+
+void Grid::SelectFirstPlace() {
+  const int row = ShownNear(RowAt(1));
+  if (row != 0) selectionModel()->setCurrentIndex(model()->index(row - 1, 1), QItemSelectionModel::NoUpdate);
+  verticalScrollBar()->setValue(0);
+}
+
+void Grid::ShowListOrder() {
+  if (!order_) return;
+  order_.reset();
+  Arrange();
+  scrollTo(currentIndex(), PositionAtCenter);
+  Q_EMIT ViewSorted();
+}
+
+void Grid::SortAgain() {
+  if (!order_) return;
+  placeBefore_ = PlaceOf(currentIndex().row() + 1);
+  if (order_->ReadAgain()) Arrange();
+}
+
+QString Grid::SortMark(int column) const {
+  if (!order_ || order_->Column() != column) return {};
+  return order_->Descending() ? "▼ " : "▲ ";
+}
+
+void Grid::Arrange() {
+  ArrangeRowsOf(*this);
+  if (frozen_->isVisible()) ArrangeRowsOf(*frozen_);
+}
+
+// Two at a time: a row that is moved would take all those behind it along.
+void Grid::ArrangeRowsOf(QTableView& view) {
+  QHeaderView& header = *view.verticalHeader();
+  view.horizontalHeader()->viewport()->update();
+  if (!order_ && !header.sectionsMoved()) return;
+  std::vector<int> rows = order_ ? order_->Rows() : std::vector<int>();
+  if (static_cast<int>(rows.size()) != header.count()) {
+    rows.resize(static_cast<std::size_t>(header.count()));
+    std::iota(rows.begin(), rows.end(), 0);
+  }
+  {
+    // Told of each row, the view would lay itself out as often.
+    const QSignalBlocker quiet(&header);
+    for (int place = 0; place < header.count(); ++place) {
+      const int from = header.visualIndex(rows[static_cast<std::size_t>(place)]);
+      if (from != place) header.swapSections(from, place);
+    }
+  }
+  view.doItemsLayout();
+}
+
+int Grid::PlaceOf(int row) const { return verticalHeader()->visualIndex(row - 1) + 1; }
+
+int Grid::RowAt(int place) const { return verticalHeader()->logicalIndex(place - 1) + 1; }
+
+}  // namespace Ui
