@@ -4,24 +4,29 @@
 #include "ui/kit/name_edit.h"
 #include "ui/kit/screen_fit.h"
 #include "ui/kit/text.h"
+#include "ui/list/row_look.h"
 
 #include <QDropEvent>
 #include <QKeyEvent>
 #include <QLabel>
 #include <QListView>
-#include <QStyledItemDelegate>
 #include <QVBoxLayout>
 
 namespace Ui {
 namespace {
 
 // As wide as the list is, so that a long name is cut with dots.
-class NarrowRows : public QStyledItemDelegate {
+class NarrowRows : public RowDelegate {
  public:
-  using QStyledItemDelegate::QStyledItemDelegate;
+  using RowDelegate::RowDelegate;
+
+  void paint(QPainter* painter, const QStyleOptionViewItem& option, const QModelIndex& index) const override {
+    RowDelegate::paint(painter, option, index);
+    PaintStrip(*painter, option, index);
+  }
 
   [[nodiscard]] QSize sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const override {
-    return {0, QStyledItemDelegate::sizeHint(option, index).height()};
+    return {0, RowDelegate::sizeHint(option, index).height()};
   }
 };
 

@@ -44,7 +44,7 @@ int RowBeside(const QTableView& view, int row, int step) {
 }  // namespace
 
 CellDelegate::CellDelegate(CellEdits& edits, QTableView* view)
-    : QStyledItemDelegate(view), edits_(edits), view_(*view) {}
+    : RowDelegate(view), edits_(edits), view_(*view) {}
 
 QComboBox* CellDelegate::MakeList(QWidget* parent, const QModelIndex& index, bool open) const {
   auto* self = const_cast<CellDelegate*>(this);  // the toolkit makes editors through a const interface
@@ -185,7 +185,7 @@ bool CellDelegate::eventFilter(QObject* watched, QEvent* event) {
   auto* editor = qobject_cast<QWidget*>(watched);
   const bool popup = editor != nullptr && editor->property(EditorProperty).isValid();
   if (editor == nullptr || event->type() != QEvent::KeyPress)
-    return popup ? false : QStyledItemDelegate::eventFilter(watched, event);
+    return popup ? false : RowDelegate::eventFilter(watched, event);
   const int key = static_cast<QKeyEvent*>(event)->key();
   if (popup) return PopupKey(*editor, key);
   switch (key) {
@@ -200,7 +200,7 @@ bool CellDelegate::eventFilter(QObject* watched, QEvent* event) {
       FinishAndStep(*editor, -1);
       return true;
     default:
-      return QStyledItemDelegate::eventFilter(watched, event);
+      return RowDelegate::eventFilter(watched, event);
   }
 }
 
@@ -209,7 +209,7 @@ bool CellDelegate::editorEvent(QEvent* event, QAbstractItemModel* model, const Q
                                const QModelIndex& index) {
   const bool toggle =
       event->type() == QEvent::MouseButtonDblClick && edits_.KindOf(index.column()) == CellKind::Toggle;
-  if (!toggle) return QStyledItemDelegate::editorEvent(event, model, option, index);
+  if (!toggle) return RowDelegate::editorEvent(event, model, option, index);
   const QString cell = index.data(Qt::DisplayRole).toString();
   const QStringList values = edits_.Choices(index.column());
   if (!cell.isEmpty()) edits_.Take(index, cell == values.front() ? values.back() : values.front());

@@ -1,7 +1,7 @@
 // Editing in the grid: the right editor for each cell, and what happens to what was typed.
 #pragma once
 
-#include <QStyledItemDelegate>
+#include "ui/list/row_look.h"
 
 class QAbstractItemView;
 class QComboBox;
@@ -24,7 +24,7 @@ class CellEdits {
   virtual QString Take(const QModelIndex& cell, const QString& typed) = 0;
 };
 
-class CellDelegate : public QStyledItemDelegate {
+class CellDelegate : public RowDelegate {
   Q_OBJECT
 
  public:

@@ -2,6 +2,7 @@
 
 #include "ui/kit/screen_fit.h"
 #include "ui/kit/text.h"
+#include "ui/list/row_look.h"
 
 #include <QContextMenuEvent>
 #include <QDrag>
@@ -12,7 +13,6 @@
 #include <QPainter>
 #include <QScrollBar>
 #include <QShortcut>
-#include <QStyledItemDelegate>
 
 #include <algorithm>
 #include <memory>
@@ -20,24 +20,28 @@
 namespace Ui {
 namespace {
 
-QString HeaderStyle() {
+QString HeaderStyle(const QPalette& palette) {
+  const RowLook& look = RowLook::OfProgram();
   return QString(
-             "QHeaderView::section { background-color: %1; color: black; padding: 3px 4px;"
-             " border: 0; border-right: 1px solid #7fb97f; border-bottom: 1px solid #7fb97f; }")
-      .arg(ToColor(Colours::Header).name());
+             "QHeaderView::section { background-color: %1; color: %2; padding: 3px 4px;"
+             " border: 0; border-right: 1px solid %3; border-bottom: 1px solid %3; }")
+      .arg(look.Ground(ToColor(Colours::Header), palette).name(),
+           (look.Soft() ? palette.color(QPalette::Text) : TextOn(Colours::Header)).name(),
+           look.Mark(QColor(0x7f, 0xb9, 0x7f), palette).name());
 }
 
 // The numbers, with a mark at the edge of the rows that the filter finds, and a tick on those that the channel list has.
-class NumberDelegate : public QStyledItemDelegate {
+class NumberDelegate : public RowDelegate {
  public:
-  using QStyledItemDelegate::QStyledItemDelegate;
+  using RowDelegate::RowDelegate;
 
   QWidget* createEditor(QWidget*, const QStyleOptionViewItem&, const QModelIndex&) const override {
     return nullptr;
   }
   void paint(QPainter* painter, const QStyleOptionViewItem& option, const QModelIndex& index) const override {
     constexpr int MarkWidth = 5;
-    QStyledItemDelegate::paint(painter, option, index);
+    RowDelegate::paint(painter, option, index);
+    PaintStrip(*painter, option, index.siblingAtColumn(ColumnOfRow));
     const auto& list = *static_cast<const TableModel*>(index.model());
     if (list.InChannelList(index.row() + 1)) PaintTick(*painter, option);
     if (!list.Found(index.row() + 1)) return;
@@ -46,14 +50,19 @@ class NumberDelegate : public QStyledItemDelegate {
   }
 
  private:
-  static void PaintTick(QPainter& painter, const QStyleOptionViewItem& option) {
+  static constexpr int ColumnOfRow = 2;  // which has no colour of its own
+
+  void PaintTick(QPainter& painter, const QStyleOptionViewItem& option) const {
     constexpr int Size = 6;
+    const bool soft = Look().Soft();
     const bool selected = option.state.testFlag(QStyle::State_Selected);
-    const QPoint foot(option.rect.right() - 6, option.rect.center().y() + Size / 2);
+    const QPoint foot(option.rect.right() - 6 - (soft ? StripWidth : 0), option.rect.center().y() + Size / 2);
+    const QColor onTint = option.palette.color(QPalette::Text);
+    const QColor onColour =
+        selected ? option.palette.color(QPalette::HighlightedText) : ToColor(Colours::InList);
     painter.save();
     painter.setRenderHint(QPainter::Antialiasing);
-    painter.setPen(
-        QPen(selected ? option.palette.color(QPalette::HighlightedText) : ToColor(Colours::InList), 2));
+    painter.setPen(QPen(soft ? onTint : onColour, 2));
     painter.drawPolyline(QPolygon({foot - QPoint(3, 3), foot, foot + QPoint(4, -Size)}));
     painter.restore();
   }
@@ -88,6 +97,7 @@ Grid::Grid(QWidget* parent, int frozen)
       letters_(Letters(*this, 100)) {
   SetUp(*this);
   SetUp(*frozen_);
+  connect(&RowLook::OfProgram(), &RowLook::Changed, this, &Grid::ColourHeaders);
   setHorizontalScrollMode(ScrollPerPixel);
   horizontalHeader()->setSectionResizeMode(QHeaderView::Interactive);
   connect(horizontalHeader(), &QHeaderView::sectionResized, this,
@@ -133,9 +143,10 @@ void Grid::SetUp(QTableView& view) {
   view.verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
   view.verticalHeader()->setDefaultSectionSize(fontMetrics().height() + 6);
   view.setHorizontalHeader(new TitleHeader(&view, *this));
-  view.horizontalHeader()->setStyleSheet(HeaderStyle());
+  view.horizontalHeader()->setStyleSheet(HeaderStyle(palette()));
   view.horizontalHeader()->setSectionResizeMode(QHeaderView::Fixed);
   view.horizontalHeader()->setHighlightSections(false);
+  view.setItemDelegate(new RowDelegate(&view));
   view.setItemDelegateForColumn(0, new NumberDelegate(&view));
   view.setSelectionBehavior(SelectRows);
   view.setSelectionMode(ExtendedSelection);
@@ -294,8 +305,16 @@ void Grid::showEvent(QShowEvent* event) {
   FitColumns();
 }
 
+void Grid::ColourHeaders() {
+  for (const QTableView* view :
+       {static_cast<const QTableView*>(this), static_cast<const QTableView*>(frozen_)})
+    view->horizontalHeader()->setStyleSheet(HeaderStyle(palette()));
+}
+
 void Grid::changeEvent(QEvent* event) {
   QTableView::changeEvent(event);
+  if (event->type() == QEvent::PaletteChange && RowLook::OfProgram().Soft() && frozen_ != nullptr)
+    ColourHeaders();
   if (event->type() != QEvent::FontChange && event->type() != QEvent::StyleChange) return;
   for (QTableView* view : {static_cast<QTableView*>(this), frozen_}) {
     if (view == nullptr) continue;

@@ -117,6 +117,7 @@ class Grid : public QTableView {
   static constexpr int AlwaysShown = 2;  // columns
 
   void SetUp(QTableView& view);
+  void ColourHeaders();
   [[nodiscard]] const TableModel* List() const { return static_cast<const TableModel*>(model()); }
   [[nodiscard]] QItemSelection SelectionOf(const Edit::Slots& rows) const;
   [[nodiscard]] int ShownNear(int row) const;

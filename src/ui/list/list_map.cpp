@@ -1,6 +1,7 @@
 #include "ui/list/list_map.h"
 
 #include "ui/list/row_colours.h"
+#include "ui/list/row_look.h"
 
 #include <QMouseEvent>
 #include <QPainter>
@@ -31,10 +32,18 @@ ListMap::ListMap(const Document& document, QWidget* parent) : QWidget(parent), d
   setToolTip("Mappa della lista: un clic porta alla riga");
   setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Ignored);
   setCursor(Qt::PointingHandCursor);
-  connect(&document, &Document::Changed, this, [this] {
-    bands_ = {};
-    update();
-  });
+  connect(&document, &Document::Changed, this, &ListMap::DrawAnew);
+  connect(&RowLook::OfProgram(), &RowLook::Changed, this, &ListMap::DrawAnew);
+}
+
+void ListMap::DrawAnew() {
+  bands_ = {};
+  update();
+}
+
+void ListMap::changeEvent(QEvent* event) {
+  if (event->type() == QEvent::PaletteChange) DrawAnew();
+  QWidget::changeEvent(event);
 }
 
 void ListMap::ShowSelection(std::vector<int> slots) {
@@ -55,9 +64,11 @@ int ListMap::SlotAt(int y) const {
 void ListMap::Draw() {
   bands_ = QImage(1, height(), QImage::Format_RGB32);
   const Routines::State& state = document_.Tables();
+  const RowLook& look = RowLook::OfProgram();
   for (int y = 0; y < height(); ++y) {
     const int first = SlotAt(y);
-    bands_.setPixelColor(0, y, ToColor(ColourOf(MostlyIn(state, first, std::max(SlotAt(y + 1), first + 1)))));
+    const QColor colour = ToColor(ColourOf(MostlyIn(state, first, std::max(SlotAt(y + 1), first + 1))));
+    bands_.setPixelColor(0, y, look.Mark(colour, palette()));
   }
 }
 

@@ -29,12 +29,14 @@ class ListMap : public QWidget {
   void Chosen(int slot);
 
  protected:
+  void changeEvent(QEvent* event) override;
   void paintEvent(QPaintEvent* event) override;
   void mousePressEvent(QMouseEvent* event) override;
   void mouseMoveEvent(QMouseEvent* event) override;
 
  private:
   void Draw();
+  void DrawAnew();
   [[nodiscard]] int SlotAt(int y) const;
   void PaintSlots(QPainter& painter, const std::vector<int>& slots, int left, const QColor& colour) const;
   void Choose(const QMouseEvent& event);

@@ -4,6 +4,8 @@
 #include "ui/kit/text.h"
 #include "ui/list/row_colours.h"
 
+#include <QApplication>
+
 #include <utility>
 
 namespace Ui {
@@ -85,7 +87,8 @@ QVariant TreeModel::data(const QModelIndex& index, int role) const {
     case Qt::EditRole:
       return CodePageText(channel != nullptr ? channel->Name() : GroupOf(index)->text);
     case Qt::DecorationRole:
-      return channel != nullptr ? QVariant(ToColor(ColourOf(channel->kind))) : QVariant();
+      if (channel == nullptr) return {};
+      return look_.Mark(ToColor(ColourOf(channel->kind)), QApplication::palette());
     default:
       return {};
   }

@@ -3,6 +3,7 @@
 
 #include "model/list_tree.h"
 #include "ui/list/document.h"
+#include "ui/list/row_look.h"
 
 #include <QAbstractItemModel>
 
@@ -46,6 +47,7 @@ class TreeModel : public QAbstractItemModel {
   void Rearrange(Routines::ListTree& now);
   void TellChanges(const Routines::ListTree& before);
 
+  const RowLook& look_ = RowLook::OfProgram();
   const Document& document_;
   const std::vector<Routines::Satellite>& satellites_;
   Routines::ListTree::Shape shape_;

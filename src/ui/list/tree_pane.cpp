@@ -2,6 +2,7 @@
 
 #include "ui/kit/pane_head.h"
 #include "ui/kit/text.h"
+#include "ui/list/row_look.h"
 
 #include <QSet>
 #include <QStyledItemDelegate>
@@ -48,6 +49,7 @@ TreePane::TreePane(const Document& document, const std::vector<Routines::Satelli
   connect(tree_, &QTreeView::clicked, this, &TreePane::Choose);
   connect(tree_, &BranchView::Walked, this, &TreePane::Choose);
   connect(&document, &Document::Changed, this, &TreePane::Refresh);
+  connect(&RowLook::OfProgram(), &RowLook::Changed, tree_->viewport(), qOverload<>(&QWidget::update));
 
   auto* head = new PaneHead(name, caption, this);
   connect(&head->Close(), &QToolButton::clicked, this, &TreePane::Closed);

@@ -5,6 +5,7 @@
 #include "ui/kit/flow_layout.h"
 #include "ui/kit/screen_fit.h"
 #include "ui/kit/text.h"
+#include "ui/list/row_look.h"
 #include "ui/session/lines_window.h"
 #include "ui/session/set_commands.h"
 
@@ -135,6 +136,7 @@ void CompareWindow::SetUpTable() {
   table_->setObjectName("Differenze");
   table_->setAccessibleName("Differenze");
   table_->setModel(model_);
+  table_->setItemDelegate(new RowDelegate(table_));
   table_->setSelectionBehavior(QAbstractItemView::SelectRows);
   table_->setWordWrap(false);
   KeepLines(*table_, 5);

@@ -4,6 +4,7 @@
 #include "ui/kit/screen_fit.h"
 #include "ui/kit/text.h"
 #include "ui/list/row_colours.h"
+#include "ui/list/row_look.h"
 #include "ui/session/set_commands.h"
 
 #include <QHeaderView>
@@ -213,11 +214,12 @@ void OverviewWindow::Rebuild() {
 }
 
 void OverviewWindow::FillTexts() {
+  const RowLook& look = RowLook::OfProgram();
   for (std::size_t i = 0; i < lines_.size(); ++i) {
     const OverviewLine& line = lines_[i];
     QTreeWidgetItem& item = *items_[i];
     item.setData(Bar, LengthRole, ShareOf(line) / FullShare(lines_, line.section));
-    item.setData(Bar, ColourRole, ToColor(BarColour(line)));
+    item.setData(Bar, ColourRole, look.Mark(ToColor(BarColour(line)), palette()));
     item.setText(Count, QString::number(line.slots.size()));
     item.setText(Share, QString::number(100 * ShareOf(line), 'f', 1).replace('.', ','));
   }

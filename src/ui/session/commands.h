@@ -114,6 +114,9 @@ inline constexpr Command Commands[] = {
      Need::AnyView},
     {"LarghezzeIniziali", "Larghezze come all'inizio", Menu::View, "", "",
      "Ridà a tutte le colonne delle griglie le larghezze dell'inizio"},
+    {"ColoriTenui", "Colori tenui", Menu::View, "", "",
+     "Mostra le righe in tinte tenui, con una striscia del colore che hanno accanto al numero", Gate(),
+     Group | Tick},
 
     {"CaricaImportato", "Carica Canali da file esportato", Menu::Utilities, "import", "",
      "Carica una lista esportata in formato Testo", Need::Settings},

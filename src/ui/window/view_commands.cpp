@@ -2,6 +2,7 @@
 
 #include "ui/kit/settings_file.h"
 #include "ui/list/column_menu.h"
+#include "ui/list/row_look.h"
 
 #include <QAction>
 #include <QApplication>
@@ -18,6 +19,7 @@ constexpr int SmallerSteps = -3;
 constexpr int LargerSteps = 15;
 constexpr const char* FileKey = "Viste/File";
 constexpr const char* LettersKey = "Viste/Lettere";
+constexpr const char* SoftKey = "Viste/ColoriTenui";
 constexpr const char* SdxNameKey = "Viste/SDX_Nome";
 
 QString Key(const QString& list, const char* what) { return QString("Viste/%1_%2").arg(list, what); }
@@ -74,6 +76,9 @@ ViewCommands::ViewCommands(Session& session, SdxPane& pane, std::vector<TreePane
   actions.Connect("LettereIniziali", [this] { ChangeLetters(0); });
   // Plus and minus where they need no shift key, and where they share a key with others.
   actions["LetterePiuGrandi"].setShortcuts({QKeySequence("Ctrl++"), QKeySequence("Ctrl+=")});
+  actions.Connect("ColoriTenui", [this, &actions] { ShowSoft(actions["ColoriTenui"].isChecked()); });
+  RowLook::OfProgram().SetSoft(Setting(session.SettingsFile(), SoftKey).toBool());
+  actions["ColoriTenui"].setChecked(RowLook::OfProgram().Soft());
   write_.setSingleShot(true);
   write_.setInterval(WriteAfter);
   connect(&write_, &QTimer::timeout, this, &ViewCommands::Write);
@@ -169,6 +174,11 @@ void ViewCommands::ChangeLetters(int steps) {
   const bool end = letters_ == before && steps != 0;
   session_.status.ShowResult((end ? "Le lettere restano di " : "Lettere di griglie e alberi di ") + size +
                              (letters_ == 0 ? ", come all'inizio" : ""));
+}
+
+void ViewCommands::ShowSoft(bool soft) {
+  RowLook::OfProgram().SetSoft(soft);
+  KeepSetting(session_.SettingsFile(), SoftKey, soft);
 }
 
 void ViewCommands::ResetWidths() {

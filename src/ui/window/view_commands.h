@@ -37,6 +37,7 @@ class ViewCommands : public QObject {
   void ResetWidths();
   void SetLetters(int steps);
   void ChangeLetters(int steps);
+  void ShowSoft(bool soft);
 
   Session& session_;
   SdxPane& pane_;

@@ -2,6 +2,8 @@
 #include "ui/kit/readable_style.h"
 #include "ui/window_fixture.h"
 
+#include <set>
+
 namespace Ui {
 
 // The colours of the whole program, until the end of a test.
@@ -38,6 +40,42 @@ TEST_F(Looks, EveryRowCanBeRead) {
   EXPECT_GE(Contrast(dark.color(QPalette::Disabled, QPalette::Text),
                      dark.color(QPalette::Disabled, QPalette::Base)),
             2);
+}
+
+// Television, radio, data and what is not active, each in the cell of its name; nothing else is in the pictures.
+TEST_F(Looks, SoftColoursTellKindsAndSelectionApartAndLeaveEveryTextReadable) {
+  for (const QColor& window : {QColor(240, 240, 240), QColor(45, 45, 45)}) {
+    QApplication::setPalette(QPalette(window));
+    OpenSmall();
+    if (!Action("ColoriTenui").isChecked()) Action("ColoriTenui").trigger();
+    std::set<QRgb> grounds;
+    std::set<QRgb> strips;
+    for (const bool selected : {false, true}) {
+      for (const int row : {1, 8, 10, 12}) {
+        driver_->Grid().SelectRow(selected ? row : 2);
+        const QImage picture = driver_->Grid().viewport()->grab().toImage();
+        const auto cell = [&](int column) {
+          return driver_->Grid().visualRect(driver_->Grid().model()->index(row - 1, column));
+        };
+        for (const int column : {0, 1, 3}) {
+          const QColor ground = picture.pixelColor(cell(column).center().x(), cell(column).top() + 3);
+          double most = 1;
+          for (int x = cell(column).left() + 6; x < cell(column).right() - 6; ++x)
+            for (int y = cell(column).top() + 4; y < cell(column).bottom() - 4; ++y)
+              most = std::max(most, Contrast(picture.pixelColor(x, y), ground));
+          EXPECT_GE(most, 4.5) << row << " " << column;
+          EXPECT_LE(Contrast(ground, window), 2) << "it glares";
+          if (column == 1) grounds.insert(ground.rgb());
+        }
+        strips.insert(picture.pixel(cell(0).right() - 2, cell(0).center().y()));
+      }
+    }
+    EXPECT_EQ(grounds.size(), 8U) << "four kinds, selected and not";
+    EXPECT_EQ(strips.size(), 4U) << "of a kind, be it selected or not";
+  }
+  StartEmpty();
+  EXPECT_TRUE(Action("ColoriTenui").isChecked()) << "remembered";
+  Action("ColoriTenui").trigger();
 }
 
 TEST_F(Looks, ADarkGroundShowsUntickedBoxesAndIcons) {
