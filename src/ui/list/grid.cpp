@@ -318,7 +318,9 @@ void Grid::changeEvent(QEvent* event) {
   if (event->type() != QEvent::FontChange && event->type() != QEvent::StyleChange) return;
   for (QTableView* view : {static_cast<QTableView*>(this), frozen_}) {
     if (view == nullptr) continue;
-    view->horizontalHeader()->setFont(font());  // what has a style sheet of its own takes no other's letters
+    // What has a style sheet of its own takes no other's letters, nor does what it is drawn on.
+    view->horizontalHeader()->setFont(font());
+    view->horizontalHeader()->viewport()->setFont(font());
     view->verticalHeader()->setDefaultSectionSize(fontMetrics().height() + 6);
   }
   FollowLetters();

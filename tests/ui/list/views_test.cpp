@@ -64,7 +64,8 @@ TEST_F(Views, AreLeftAndFoundAgainWithTheSameChannelsSelected) {
   Open(flash_, "QuantiCanali_0");
   EXPECT_EQ(Place(), "300/2/2,5") << "the same file, read again";
 
-  Delete(1, 1);
+  driver_->Grid().SelectRow(1);
+  ASSERT_TRUE(driver_->Press("Toolbar1_Delete"));
   LeaveAt(100, {2});
   ASSERT_TRUE(driver_->Choose("VisualizzaTransponder"));
   ASSERT_TRUE(driver_->Choose("Annulla"));
@@ -194,7 +195,7 @@ TEST_F(Views, LettersGrowWithTheRowsAndColumnsAndComeBackAtTheNextStart) {
   const auto* grid = &driver_->Grid();
   const auto sizes = [&] {
     return std::array{grid->rowHeight(0), grid->columnWidth(0), Tree().fontMetrics().height(),
-                      grid->horizontalHeader()->fontMetrics().height()};
+                      grid->horizontalHeader()->viewport()->fontMetrics().height()};
   };
   grid->horizontalHeader()->resizeSection(2, 120);
   const auto usual = sizes();
