@@ -1,6 +1,7 @@
 #include "ui/kit/toolkit.h"
 
 #include <QApplication>
+#include <QStyle>
 
 #include <gtest/gtest.h>
 
@@ -10,5 +11,10 @@ int main(int argc, char** argv) {
   testing::InitGoogleTest(&argc, argv);
   QApplication application(argc, argv);
   Ui::SetUpToolkit(application);
+  if (qEnvironmentVariableIsSet("TROVALIS_DARK")) {
+    QPalette dark(QColor(45, 45, 45));
+    QApplication::style()->polish(dark);
+    QApplication::setPalette(dark);
+  }
   return RUN_ALL_TESTS();
 }

@@ -123,6 +123,7 @@ void PrintCommands::Preview(const PrintReport& whole, const PrintReport* compact
   dialog.setObjectName("AnteprimaStampa");
   dialog.setWindowTitle(whole.heading);
   ResizeOnScreen(dialog, {900, 660});
+  NameMoreButton(dialog);
   QString result;
   auto* shorter = new QCheckBox("Compatta: solo numero e nome, in più colonne", &dialog);
   shorter->setObjectName("StampaCompatta");

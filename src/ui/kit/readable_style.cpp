@@ -12,7 +12,7 @@
 namespace Ui {
 namespace {
 
-constexpr double ReadableContrast = 4.5;
+constexpr double ReadableContrast = 5.5;  // 4.5 are left where a letter's strokes are thinner than a pixel
 constexpr double VisibleContrast = 2;  // of what cannot be used now
 
 double Luminance(const QColor& colour) {
@@ -78,6 +78,11 @@ void ReadableStyle::polish(QPalette& palette) {
     for (int i = 0; i < 40 && Contrast(text, ground) < ReadableContrast; ++i)
       ground = lightText ? ground.darker(Step) : ground.lighter(Step);
     palette.setColor(group, QPalette::Highlight, ground);
+    const QColor base = palette.color(group, QPalette::Base);
+    QColor hint = Between(palette.color(group, QPalette::Text), base);
+    for (int i = 0; i < 8 && Contrast(hint, base) < ReadableContrast; ++i)
+      hint = Between(hint, palette.color(group, QPalette::Text));
+    palette.setColor(group, QPalette::PlaceholderText, hint);
   }
   constexpr std::pair<QPalette::ColorRole, QPalette::ColorRole> TextsAndGrounds[] = {
       {QPalette::WindowText, QPalette::Window},

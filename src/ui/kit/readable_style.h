@@ -10,7 +10,8 @@ class ReadableStyle : public QProxyStyle {
   using QProxyStyle::polish;
   using QProxyStyle::QProxyStyle;
 
-  // Keeps the text of selected rows apart from what is behind it, and what is disabled in sight.
+  // Keeps the text of selected rows and the hint in an empty field apart from what is behind them, and what is disabled in
+  // sight.
   void polish(QPalette& palette) override;
   // Draws boxes, buttons and fields with an edge that shows on a dark ground, so that an unticked box does, and round
   // the current cell a frame instead of a veil over its text.

@@ -7,6 +7,7 @@
 #include <QMessageBox>
 #include <QScreen>
 #include <QStyle>
+#include <QToolButton>
 #include <QVBoxLayout>
 
 namespace Ui {
@@ -65,6 +66,13 @@ void KeepLines(QWidget& list, int lines) {
   constexpr int AroundText = 6;
   list.setMinimumHeight(lines * (list.fontMetrics().height() + AroundText) +
                         list.style()->pixelMetric(QStyle::PM_ScrollBarExtent));
+}
+
+void NameMoreButton(const QWidget& shown) {
+  for (auto* more : shown.findChildren<QToolButton*>("qt_toolbar_ext_button")) {
+    more->setAccessibleName("Altri pulsanti");
+    more->setToolTip("Altri pulsanti");
+  }
 }
 
 bool ScreenFit::eventFilter(QObject* watched, QEvent* event) {

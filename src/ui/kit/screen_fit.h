@@ -19,6 +19,9 @@ void ResizeOnScreen(QWidget& window, QSize usual);
 // Keeps room for that many lines, a heading among them, in a list that its window would press together.
 void KeepLines(QWidget& list, int lines);
 
+// Says what the toolkit's own button is for that leads to the tools for which a toolbar in `shown` has no room.
+void NameMoreButton(const QWidget& shown);
+
 // Large letters on a small screen may want more room than there is: the contents of such a dialog are scrolled, so that
 // its last button is within reach. Watches a whole application.
 class ScreenFit : public QObject {

@@ -1,6 +1,7 @@
 #include "ui/session/commands.h"
 
 #include "ui/kit/menu_letters.h"
+#include "ui/kit/screen_fit.h"
 #include "ui/kit/themed_icon.h"
 
 #include <QAction>
@@ -78,11 +79,7 @@ void BuildToolbar(QMainWindow& window) {
     widget->setObjectName(ControlName(button));
     widget->setAccessibleName(button.tip);
   }
-  // The toolkit's own, where the window is too narrow for all.
-  if (auto* more = toolbar->findChild<QToolButton*>("qt_toolbar_ext_button")) {
-    more->setAccessibleName("Altri pulsanti");
-    more->setToolTip("Altri pulsanti");
-  }
+  NameMoreButton(*toolbar);
 }
 
 QAction& CommandAction(const QMainWindow& window, CommandName command) {
