@@ -43,12 +43,12 @@ std::array<std::string, 256> MakeFolds() {
 
 Base::Result<std::string> NameBytes(std::string_view typed, std::size_t most) {
   const auto bytes = Base::FromUtf8(Base::TrimmedRight(typed));
-  if (!bytes) return Base::Error{"Il nome ha un carattere che il ricevitore non ha"};
+  if (!bytes) return Base::Error{"Nel nome c'è un carattere che il ricevitore non conosce"};
   const bool control = std::any_of(bytes->begin(), bytes->end(), [](char c) {
     const auto byte = static_cast<unsigned char>(c);
     return byte < ' ' || byte == 0x7F;
   });
-  if (control) return Base::Error{"Il nome ha un carattere di controllo"};
+  if (control) return Base::Error{"Nel nome c'è un carattere di controllo"};
   if (bytes->size() > most) {
     return Base::Error{"Il nome ha " + std::to_string(bytes->size()) + " caratteri, al massimo " +
                        std::to_string(most)};

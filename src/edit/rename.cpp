@@ -129,7 +129,7 @@ using Change = std::function<std::string(std::string_view name, int slot)>;
 
 Base::Result<Change> PatternChange(const std::string& pattern, const std::string& with) {
   if (pattern.find(Lacking) != std::string::npos)
-    return Error{"Il modello ha un carattere che il ricevitore non ha"};
+    return Error{"Nel modello c'è un carattere che il ricevitore non conosce"};
   try {
     const std::regex expression(pattern, PatternSyntax);
     return Change([expression, with](std::string_view name, int) {

@@ -14,7 +14,7 @@ namespace {
 
 constexpr const char* Help =
     "Uso: trovalis [FILE]\n"
-    "Apre la finestra, e in essa l'immagine FILE.\n\n"
+    "Apre la finestra, con l'immagine FILE.\n\n"
     "  -h, --help   mostra questo aiuto\n"
     "  --version    mostra la versione\n\n"
     "Senza finestra, per gli script, c'è trovalis-cli.\n";

@@ -54,7 +54,7 @@ TEST(Rename, LettersAndBlanks) {
 TEST(Rename, WhatCannotBeIsSaidAndNothingIsCut) {
   EXPECT_EQ(Renamed("Canale con nome", {{PutBehind, "HD"}}), "= Il nome ha 18 caratteri, al massimo 16");
   EXPECT_EQ(Renamed("Canale con nome", {{PutBehind, "HD"}, {Replace, "Canale ", ""}}), "con nome HD");
-  EXPECT_EQ(Renamed("Rai", {{PutBehind, "Ω"}}), "= Il nome ha un carattere che il ricevitore non ha");
+  EXPECT_EQ(Renamed("Rai", {{PutBehind, "Ω"}}), "= Nel nome c'è un carattere che il ricevitore non conosce");
   EXPECT_EQ(Renamed("Rai", {{Replace, "rai", ""}}), "= Un canale senza nome sarebbe un posto vuoto");
   EXPECT_EQ(Renamed("CANAL+ DECALE HD", {{Pattern, "((.+)+)+((.+)+)+x$", ""}}), "CANAL+ DECALE HD") << "soon";
   EXPECT_EQ(Renamed("Rai", {{Pattern, "(", ""}}), "= Il modello non è un'espressione regolare valida");

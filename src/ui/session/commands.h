@@ -57,7 +57,7 @@ inline constexpr Command Commands[] = {
      "Chiude il programma; le modifiche non salvate vengono offerte al prossimo avvio", Gate(), Group},
 
     {"Annulla", "Annulla", Menu::Edit, "undo", "Ctrl+Z",
-     "Torna a com'era la lista prima dell'ultima modifica", Enabled::WithUndo},
+     "Riporta la lista a com'era prima dell'ultima modifica", Enabled::WithUndo},
     {"Ripeti", "Ripeti", Menu::Edit, "redo", "Ctrl+Y", "Rifà la modifica annullata", Enabled::WithRedo},
     {"AnnullaFino", "Annulla fino a…", Menu::Edit, "", "Ctrl+Alt+Z",
      "Elenca le modifiche fatte, l'ultima in cima: quella scelta è annullata con tutte le seguenti",

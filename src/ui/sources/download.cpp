@@ -32,7 +32,7 @@ Download::Download(QObject* parent) : Download(Limits{}, parent) {}
 
 Download::Download(const Limits& limits, QObject* parent) : QObject(parent), limits_(limits) {
   wholeTime_.setSingleShot(true);
-  connect(&wholeTime_, &QTimer::timeout, this, [this] { Stop("il server ci mette troppo"); });
+  connect(&wholeTime_, &QTimer::timeout, this, [this] { Stop("il server è troppo lento"); });
 }
 
 void Download::Start(const QString& address) {

@@ -196,7 +196,7 @@ void SdxCommands::Drop(const Edit::Slots& numbers, int before) {
   const bool known = !numbers.empty() && numbers.front() >= 1 &&
                      numbers.back() <= static_cast<int>(session_.sdx.rows.size());
   if (!known || before > state.ChannelCount) {
-    session_.status.ShowResult("Non inserito: dopo l'ultimo posto della lista non ce n'è");
+    session_.status.ShowResult("Non inserito: la lista non ha altri posti dopo l'ultimo");
     return;
   }
   if (!Meets(session_, Need::Places)) return;
