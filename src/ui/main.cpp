@@ -1,3 +1,4 @@
+#include "model/flash_file.h"
 #include "ui/kit/text.h"
 #include "ui/kit/toolkit.h"
 #include "ui/session/program_folder.h"
@@ -7,8 +8,13 @@
 #include <QFileInfo>
 
 #include <cstdio>
+#include <cstdlib>
 #include <cstring>
 #include <optional>
+
+#ifdef Q_OS_UNIX
+#include <unistd.h>
+#endif
 
 namespace {
 
@@ -34,23 +40,52 @@ std::optional<QString> FileIn(QStringList arguments) {
   return arguments.value(1);
 }
 
+// The toolkit ends the program with a heap of words where it finds no display.
+void TellFatal(QtMsgType type, const QMessageLogContext& context, const QString& text) {
+  if (type != QtFatalMsg) {
+    std::fputs(qPrintable(qFormatLogMessage(type, context, text) + "\n"), stderr);
+    return;
+  }
+  std::fputs(
+      "trovalis: manca uno schermo su cui aprire la finestra (DISPLAY o WAYLAND_DISPLAY); senza finestra c'è "
+      "trovalis-cli\n",
+      stderr);
+  std::_Exit(1);
+}
+
+// Whoever has typed the file's name reads at once why it is no image; a window without a terminal says so in a box.
+bool RefusedOnTerminal(const std::string& path) {
+#ifdef Q_OS_UNIX
+  const auto image = Routines::ReadFlash(path, {});
+  if (image || ::isatty(STDERR_FILENO) != 1) return false;
+  std::fputs(("trovalis: " + image.error().message + "\n").c_str(), stderr);
+  return true;
+#else
+  return false;
+#endif
+}
+
 }  // namespace
 
 int main(int argc, char** argv) {
   if (const char* answer = argc == 2 ? AnswerTo(argv[1]) : ""; *answer != '\0')
     return std::fputs(answer, stdout) < 0 ? 1 : 0;
   Ui::PrepareToolkit();
+  qInstallMessageHandler(TellFatal);
   QApplication application(argc, argv);
+  qInstallMessageHandler(nullptr);
   const auto file = FileIn(QApplication::arguments());
   if (!file) {
     std::fputs(Help, stderr);
     return 2;
   }
+  const std::string path = file->isEmpty() ? "" : Ui::PathBytes(QFileInfo(*file).absoluteFilePath());
+  if (!path.empty() && RefusedOnTerminal(path)) return 1;
   Ui::SetUpToolkit(application);
   Ui::MainWindow window(Ui::ProgramFolder());
   window.show();
   if (!window.Start()) return 1;
   window.OfferKeptWork();
-  if (!file->isEmpty()) window.OpenWhenChosen(Ui::PathBytes(QFileInfo(*file).absoluteFilePath()));
+  if (!path.empty()) window.OpenWhenChosen(path);
   return QApplication::exec();
 }

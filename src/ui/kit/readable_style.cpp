@@ -13,7 +13,7 @@ namespace Ui {
 namespace {
 
 constexpr double ReadableContrast = 5.5;  // 4.5 are left where a letter's strokes are thinner than a pixel
-constexpr double VisibleContrast = 2;  // of what cannot be used now
+constexpr double VisibleContrast = 2;     // of what cannot be used now
 
 double Luminance(const QColor& colour) {
   const auto linear = [](double part) {

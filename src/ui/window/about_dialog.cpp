@@ -1,18 +1,21 @@
 #include "ui/window/about_dialog.h"
 
+#include "ui/kit/breaking_label.h"
 #include "ui/kit/screen_fit.h"
 #include "ui/kit/themed_icon.h"
 
+#include <QDesktopServices>
 #include <QDialogButtonBox>
 #include <QGridLayout>
 #include <QLabel>
 #include <QMessageBox>
 #include <QPushButton>
 #include <QScreen>
+#include <QUrl>
 
 namespace Ui {
 
-AboutDialog::AboutDialog(QWidget* parent) : QDialog(parent) {
+AboutDialog::AboutDialog(const QString& programFolder, QWidget* parent) : QDialog(parent) {
   setObjectName("FinestraAbout");
   setWindowTitle("About");
   auto* icon = new QLabel(this);
@@ -35,6 +38,11 @@ AboutDialog::AboutDialog(QWidget* parent) : QDialog(parent) {
   text->setTextFormat(Qt::PlainText);
   text->setWordWrap(true);
   text->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
+  const int room = screen()->availableGeometry().width() - icon->sizeHint().width() - 3 * 18;
+  const int width = std::min(std::max(420, Letters(*text, 50)), room);
+  text->setFixedWidth(width);
+  auto* folder = new BreakingLabel("Cartella del programma: " + programFolder, width, this);
+  folder->setObjectName("CartellaProgramma");
 
   auto* buttons = new QDialogButtonBox(this);
   auto* guide = buttons->addButton("Apri la guida", QDialogButtonBox::AcceptRole);
@@ -42,6 +50,11 @@ AboutDialog::AboutDialog(QWidget* parent) : QDialog(parent) {
   guide->setToolTip("Apre la guida del programma (F1)");
   guide->setAutoDefault(false);
   connect(buttons, &QDialogButtonBox::accepted, this, &QDialog::accept);
+  auto* open = buttons->addButton("Apri la cartella", QDialogButtonBox::ActionRole);
+  open->setObjectName("ApriCartella");
+  open->setToolTip("Mostra la cartella con i file del programma");
+  connect(open, &QPushButton::clicked, this,
+          [programFolder] { QDesktopServices::openUrl(QUrl::fromLocalFile(programFolder)); });
   auto* toolkit = buttons->addButton("Informazioni su Qt", QDialogButtonBox::ActionRole);
   toolkit->setObjectName("InformazioniQt");
   connect(toolkit, &QPushButton::clicked, this, [this] { QMessageBox::aboutQt(this); });
@@ -55,14 +68,13 @@ AboutDialog::AboutDialog(QWidget* parent) : QDialog(parent) {
   grid->setContentsMargins(18, 18, 18, 12);
   grid->setHorizontalSpacing(18);
   grid->setVerticalSpacing(10);
-  grid->addWidget(icon, 0, 0, 3, 1, Qt::AlignTop);
+  grid->addWidget(icon, 0, 0, 4, 1, Qt::AlignTop);
   grid->addWidget(name, 0, 1);
   grid->addWidget(version, 1, 1);
   grid->addWidget(text, 2, 1);
   grid->setRowStretch(2, 1);
-  grid->addWidget(buttons, 3, 0, 1, 2);
-  const int room = screen()->availableGeometry().width() - icon->sizeHint().width() - 3 * 18;
-  text->setFixedWidth(std::min(std::max(420, Letters(*text, 50)), room));
+  grid->addWidget(folder, 3, 1);
+  grid->addWidget(buttons, 4, 0, 1, 2);
   setFixedSize(sizeHint());
 }
 

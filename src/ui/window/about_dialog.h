@@ -9,7 +9,7 @@ class AboutDialog : public QDialog {
   Q_OBJECT
 
  public:
-  explicit AboutDialog(QWidget* parent);
+  AboutDialog(const QString& programFolder, QWidget* parent);
 };
 
 }  // namespace Ui

@@ -12,27 +12,55 @@
 #include <QTextBrowser>
 #include <QVBoxLayout>
 
+#include <algorithm>
+#include <map>
+#include <utility>
+
 namespace Ui {
 namespace {
 
 constexpr const char* GuidePage = "qrc:/guida/guida.md";
 
-// Pictures of the whole window are wider than the page: they are shown smaller.
+// Pictures of the whole window are wider than the page: they are shown smaller, as wide as there is room.
 class Page : public QTextBrowser {
  public:
   using QTextBrowser::QTextBrowser;
 
  protected:
   QVariant loadResource(int type, const QUrl& name) override {
-    constexpr int Widest = 640;
     QVariant content = QTextBrowser::loadResource(type, name);
     if (type != QTextDocument::ImageResource) return content;
-    QImage picture = QImage::fromData(content.toByteArray());
-    const int width = qRound(Widest * devicePixelRatioF());
-    if (picture.width() > width) picture = picture.scaledToWidth(width, Qt::SmoothTransformation);
-    picture.setDevicePixelRatio(devicePixelRatioF());
-    return picture;
+    const QImage picture = QImage::fromData(content.toByteArray());
+    pictures_.insert_or_assign(name, picture);
+    return Fitted(picture);
   }
+
+  void resizeEvent(QResizeEvent* event) override {
+    QTextBrowser::resizeEvent(event);
+    const int room = Room();
+    if (room == std::exchange(room_, room) || pictures_.empty()) return;
+    for (const auto& [name, picture] : pictures_)
+      document()->addResource(QTextDocument::ImageResource, name, Fitted(picture));
+    document()->markContentsDirty(0, document()->characterCount());
+  }
+
+ private:
+  [[nodiscard]] int Room() const {
+    constexpr int Widest = 640;
+    const int margins = 2 * qRound(document()->documentMargin());
+    return std::clamp(viewport()->width() - margins, 1, Widest);
+  }
+
+  [[nodiscard]] QImage Fitted(const QImage& picture) const {
+    const int width = qRound(Room() * devicePixelRatioF());
+    QImage fitted =
+        picture.width() > width ? picture.scaledToWidth(width, Qt::SmoothTransformation) : picture;
+    fitted.setDevicePixelRatio(devicePixelRatioF());
+    return fitted;
+  }
+
+  std::map<QUrl, QImage> pictures_;  // in their own size
+  int room_ = 0;
 };
 
 }  // namespace

@@ -154,8 +154,8 @@ void MainWindow::Connect() {
   Session& session = *session_;
   actions_->Connect("Fine", [this] { close(); });
   actions_->Connect("Guida", [this] { ShowGuide(); });
-  actions_->Connect("About", [this] {
-    if (AboutDialog(this).exec() == QDialog::Accepted) ShowGuide();
+  actions_->Connect("About", [this, &session] {
+    if (AboutDialog(PathText(session.programFolder), this).exec() == QDialog::Accepted) ShowGuide();
   });
   actions_->ConnectButton("Rectangle", [this] { dialogs_->Message("Add 'Rectangle' button code.", {}); });
   actions_->ConnectButton("New", [this] { dialogs_->Message("Add 'New' button code.", {}); });

@@ -72,6 +72,11 @@ TEST_F(OpeningFiles, TheOneGivenAtTheStartWaitsForTheNumberOfChannels) {
   window_->OpenWhenChosen(other);
   ASSERT_TRUE(driver_->Choose("FileRecenti_2"));
   EXPECT_EQ(List().InputFlash, flash_) << "another one is wanted now";
+  StartEmpty();
+  driver_->ExpectMessage("Impossibile leggere manca.dat: il file o la cartella non esiste",
+                         "Errore FLASH di Input");
+  window_->OpenWhenChosen(folder_.Path("manca.dat"));
+  EXPECT_TRUE(driver_->Idle()) << "told at once";
 }
 
 TEST_F(OpeningFiles, DroppedOnesOpenLikeTheirCommandsOrItIsSaidWhyNot) {

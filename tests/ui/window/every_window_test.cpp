@@ -259,7 +259,8 @@ TEST_P(EveryWindow, EveryDialog) {
   CheckAndClose(window_->findChild<QDialog*>("ElencoNonInSDX"));
   Check(*window_);
   CheckBox("ImportaTuttoSDX", "Importazione canali SDX");
-  const std::string vdr = folder_.Write("channels.conf", "Uno;Rete:11766:VC34S13.0E:27500:120:130:0:0:99:1:2:0\n");
+  const std::string vdr =
+      folder_.Write("channels.conf", "Uno;Rete:11766:VC34S13.0E:27500:120:130:0:0:99:1:2:0\n");
   driver_->ExpectFile("Selezionare la lista da importare", PathText(vdr));
   CheckBox("ImportaElenco", "Da lista VDR, DVBv5 o Enigma2");
 }
