@@ -25,14 +25,22 @@ need_packages() {
     as_root=(sudo -n)
   fi
   echo "Installing: ${missing[*]}"
-  "${as_root[@]}" apt-get -q update
-  "${as_root[@]}" env DEBIAN_FRONTEND=noninteractive apt-get -q install -y --no-install-recommends "${missing[@]}"
+  if ! { "${as_root[@]}" apt-get -q update &&
+    "${as_root[@]}" env DEBIAN_FRONTEND=noninteractive apt-get -q install -y --no-install-recommends "${missing[@]}"; }; then
+    echo "These packages could not be installed: ${missing[*]}" >&2
+    echo "Is the network there, and does /etc/apt/sources.list name Debian 12? Then please start again." >&2
+    exit 1
+  fi
 }
 
 # build_preset NAME [CMAKE_OPTION...] - configures and builds one of the presets.
 build_preset() {
   local preset=$1
   shift
+  if ! mkdir -p build 2>/dev/null || [ ! -w build ]; then
+    echo "Nothing can be written to $PWD/build: please copy the sources to a folder of your own, and start there." >&2
+    exit 1
+  fi
   echo "Building ($preset)"
   cmake --preset "$preset" "$@"
   cmake --build --preset "$preset"
