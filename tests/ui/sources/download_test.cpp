@@ -89,7 +89,7 @@ class Downloading : public SmallWindow {
  protected:
   void SetUp() override {
     SmallWindow::SetUp();
-    folder_.Write("SDX.INI", "http://127.0.0.1:9/uno.sdx?uno\r\nhttp://127.0.0.1:9/due.sdx\r\n");
+    folder_.Write("SDX.INI", "http://127.0.0.1:9/uno.sdx?uno\r\nhttp://127.0.0.1:9/due.sdx\r\n\r\n");
     ASSERT_TRUE(driver_->Choose("ScaricaInternet"));
   }
   void Scarica() { window_->findChild<QAbstractButton*>("Scarica")->click(); }
@@ -107,7 +107,9 @@ class Downloading : public SmallWindow {
 };
 
 TEST_F(Downloading, HappensOnlyWhenTheUserAsks) {
-  EXPECT_EQ(QString::number(Addresses().count()) + Addresses().currentText(), "2");
+  EXPECT_EQ(QString::number(Addresses().count()) + Addresses().currentText(), "3");
+  EXPECT_EQ(Addresses().itemData(2, Qt::AccessibleTextRole).toString(), "(vuota)");
+  Addresses().setCurrentIndex(2);
   driver_->ExpectMessage("Si deve specificare il file da scaricare");
   Scarica();
   const Server good(Good + "SATCODX1 uno\r\nSATCODX1 due\r\nsenza fine");
