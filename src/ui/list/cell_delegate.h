@@ -5,6 +5,7 @@
 
 class QAbstractItemView;
 class QComboBox;
+class QTableView;
 
 namespace Ui {
 
