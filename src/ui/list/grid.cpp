@@ -54,9 +54,11 @@ class NumberDelegate : public RowDelegate {
 
   void PaintTick(QPainter& painter, const QStyleOptionViewItem& option) const {
     constexpr int Size = 6;
+    constexpr int BesideStrip = 3;
     const bool soft = Look().Soft();
     const bool selected = option.state.testFlag(QStyle::State_Selected);
-    const QPoint foot(option.rect.right() - 6 - (soft ? StripWidth : 0), option.rect.center().y() + Size / 2);
+    const QPoint foot(option.rect.right() - 6 - (soft ? BesideStrip : 0),
+                      option.rect.center().y() + Size / 2);
     const QColor onTint = option.palette.color(QPalette::Text);
     const QColor onColour =
         selected ? option.palette.color(QPalette::HighlightedText) : ToColor(Colours::InList);

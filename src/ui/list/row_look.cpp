@@ -50,10 +50,10 @@ void RowDelegate::initStyleOption(QStyleOptionViewItem* option, const QModelInde
   const QColor text = look_.Soft() ? option->palette.color(QPalette::Text) : QColor();
   QStyledItemDelegate::initStyleOption(option, index);
   if (!look_.Soft() || option->backgroundBrush.style() == Qt::NoBrush) return;
+  option->palette.setColor(QPalette::Text, text);  // the model's letters go with its own colours
   const QColor ground = look_.Ground(option->backgroundBrush.color(), option->palette);
   const bool selected = option->state.testFlag(QStyle::State_Selected);
   option->backgroundBrush = selected ? Mixed(ground, text, WhereSelected) : ground;
-  option->palette.setColor(QPalette::Text, text);
   option->state.setFlag(QStyle::State_Selected, false);
 }
 
