@@ -3,7 +3,6 @@
 
 #include "ui/list/row_look.h"
 
-class QAbstractItemView;
 class QComboBox;
 class QTableView;
 
