@@ -40,6 +40,7 @@ void Grid::ShowListOrder() {
 void Grid::SortAgain() {
   if (!order_) return;
   placeBefore_ = PlaceOf(currentIndex().row() + 1);
+  for (const int row : Selected()) placeBefore_ = std::min(placeBefore_, PlaceOf(row));
   if (order_->ReadAgain()) Arrange();
 }
 
@@ -53,13 +54,16 @@ void Grid::Arrange() {
   if (frozen_->isVisible()) ArrangeRowsOf(*frozen_);
 }
 
-// Two at a time: a row that is moved would take all those behind it along.
+// What the order says; of the columns in front, what the grid shows, which lets a row that has just been edited stay
+// where it was. Two at a time: a row that is moved would take all those behind it along.
 void Grid::ArrangeRowsOf(QTableView& view) {
   QHeaderView& header = *view.verticalHeader();
   view.horizontalHeader()->viewport()->update();
   if (!order_ && !header.sectionsMoved()) return;
-  std::vector<int> rows = order_ ? order_->Rows() : std::vector<int>();
-  if (static_cast<int>(rows.size()) != header.count()) {
+  std::vector<int> rows = order_ && &view == this ? order_->Rows() : std::vector<int>();
+  if (&view == frozen_) {
+    for (int place = 1; place <= header.count(); ++place) rows.push_back(RowAt(place) - 1);
+  } else if (static_cast<int>(rows.size()) != header.count()) {
     rows.resize(static_cast<std::size_t>(header.count()));
     std::iota(rows.begin(), rows.end(), 0);
   }

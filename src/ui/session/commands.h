@@ -86,7 +86,7 @@ inline constexpr Command Commands[] = {
      Need::ChannelRows},
     {"ChiudiVuoti", "Chiudi i posti vuoti…", Menu::Edit, "", "",
      "Fa risalire i canali nei posti vuoti: fra le righe selezionate, o da un canale in poi",
-     Need::ChannelRows},
+     Gate(Need::ChannelRows, Need::Places)},
     {"CambiaNomi", "Cambia nomi…", Menu::Edit, "", "Ctrl+Shift+R",
      "Cambia i nomi di molti canali con delle regole, mostrando prima che cosa cambia", Need::ChannelView,
      Group},

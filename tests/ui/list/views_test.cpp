@@ -142,10 +142,10 @@ TEST_F(Views, RowsOfASortedViewStayWhatTheyAreInTheList) {
   EXPECT_EQ(shown(13), Slots({5, 6, 10, 12, 2, 11, 9, 8, 7, 3, 1, 4, 13})) << "empty ones last";
   EXPECT_TRUE(List() == before);
   EXPECT_EQ(Place(), "5/5/");
-  Tells(
-      "Toolbar1_Paste",
-      "Con la vista ordinata non si vedono i posti della lista: prima si deve tornare all'ordine della lista "
-      "(Ctrl+Shift+L)");
+  for (const char* command : {"Toolbar1_Paste", "ChiudiVuoti"})
+    Tells(command,
+          "Con la vista ordinata non si vedono i posti della lista: prima si deve tornare all'ordine della "
+          "lista (Ctrl+Shift+L)");
   // Keys and mouse go by what is seen.
   QTest::keyClick(&grid, Qt::Key_Down);
   QTest::keyClick(&grid, Qt::Key_Down, Qt::ShiftModifier);
@@ -158,6 +158,12 @@ TEST_F(Views, RowsOfASortedViewStayWhatTheyAreInTheList) {
   EXPECT_EQ(shown(4), Slots({5, 6, 11, 2}));
   EXPECT_EQ(grid.Selected(), Slots({11})) << "what stands there now";
   ASSERT_TRUE(driver_->Choose("Annulla"));
+  grid.Select({6, 10, 12});
+  grid.selectionModel()->setCurrentIndex(grid.model()->index(11, 1), QItemSelectionModel::NoUpdate);
+  ASSERT_TRUE(driver_->Choose("Elimina"));
+  EXPECT_EQ(grid.Selected(), Slots({grid.RowAt(2)})) << "where the first of them stood";
+  ASSERT_TRUE(driver_->Choose("Annulla"));
+  grid.SelectRow(10);
   EXPECT_EQ(grid.Selected(), Slots({10}));
   EXPECT_EQ(shown(4), Slots({5, 6, 10, 12}));
   // A row that is edited stays under the hand; the next one is the one below.
@@ -170,6 +176,13 @@ TEST_F(Views, RowsOfASortedViewStayWhatTheyAreInTheList) {
   type(1, "Zeta");
   EXPECT_EQ(Names(5, 5), "Zeta");
   EXPECT_EQ(shown(2), Slots({5, 6}));
+  grid.horizontalHeader()->resizeSection(2, 3000);
+  grid.horizontalScrollBar()->setValue(500);
+  const auto* numbers = grid.findChild<QTableView*>("ColonnaFissa");
+  ASSERT_TRUE(numbers->isVisible());
+  for (int place = 1; place <= 13; ++place)
+    EXPECT_EQ(numbers->verticalHeader()->logicalIndex(place - 1) + 1, grid.RowAt(place)) << place;
+  grid.horizontalScrollBar()->setValue(0);
   type(3, "99");
   auto* filter = window_->findChild<QLineEdit*>("Filtro");
   QTest::keyClicks(filter, "radio");
