@@ -121,6 +121,7 @@ class Grid : public QTableView {
   [[nodiscard]] const TableModel* List() const { return static_cast<const TableModel*>(model()); }
   [[nodiscard]] QItemSelection SelectionOf(const Edit::Slots& rows) const;
   [[nodiscard]] int ShownNear(int row) const;
+  [[nodiscard]] int TopInListOrder() const;
   void HideRowsOf(QTableView& view);
   void Arrange();
   void ArrangeRowsOf(QTableView& view);

@@ -80,11 +80,13 @@ void Grid::AskForColumnMenu(QPoint place) {
   if (column >= 0) Q_EMIT ColumnMenuWanted(column, horizontalHeader()->mapToGlobal(place));
 }
 
-// Columns are as wide as their letters want them, those that the user has set as well.
+// Columns are as wide as their letters want them, those that the user has set as well. Rounded, so that they have their
+// widths again where the letters have their size.
 void Grid::FollowLetters() {
   const int before = std::exchange(letters_, Letters(*this, 100));
   for (auto& [list, widths] : own_) {
-    for (auto& [column, width] : widths) width = std::clamp(width * letters_ / before, Narrowest, Widest);
+    for (auto& [column, width] : widths)
+      width = std::clamp((width * letters_ + before / 2) / before, Narrowest, Widest);
   }
   if (model() != nullptr) ReadHeader();
   FitColumns();

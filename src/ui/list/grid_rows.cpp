@@ -24,10 +24,21 @@ Edit::Slots Grid::Selected() const {
 
 GridPlace Grid::Place() const {
   if (model() == nullptr) return {};
-  GridPlace place = {rowAt(0) + 1, horizontalScrollBar()->value(), currentIndex().row() + 1,
+  GridPlace place = {TopInListOrder(), horizontalScrollBar()->value(), currentIndex().row() + 1,
                      currentIndex().column(), Selected()};
   place.fingerprint = List()->Fingerprint(place.selected);
   return place;
+}
+
+// Which row is to be the first one in the list's own order, in which it is seen again: the current one then stands as
+// far down as it does now.
+int Grid::TopInListOrder() const {
+  const int top = rowAt(0) + 1;
+  const QModelIndex current = currentIndex();
+  if (!order_ || !current.isValid()) return top;
+  const QRect cell = visualRect(current);
+  const int above = viewport()->rect().intersects(cell) ? cell.top() / std::max(cell.height(), 1) : 0;
+  return std::max(current.row() + 1 - above, 1);
 }
 
 // Of what is hidden nothing is selected or current.

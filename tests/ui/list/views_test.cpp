@@ -200,6 +200,11 @@ TEST_F(Views, RowsOfASortedViewStayWhatTheyAreInTheList) {
   EXPECT_EQ(shown(3), Slots({1, 2, 3}));
   EXPECT_EQ(driver_->TextOf("RigheNascoste"), "");
   ChooseForColumn(1, "OrdinaVista");
+  grid.SelectRow(2);
+  ASSERT_TRUE(driver_->Choose("VisualizzaTransponder"));
+  ASSERT_TRUE(driver_->Choose("VisualizzaCanali"));
+  EXPECT_EQ(Place(), "1/2/2") << "in sight, whatever stood above it";
+  ChooseForColumn(1, "OrdinaVista");
   Open(flash_, "QuantiCanali_0");
   EXPECT_EQ(shown(3), Slots({1, 2, 3})) << "read again";
 }
@@ -210,12 +215,12 @@ TEST_F(Views, LettersGrowWithTheRowsAndColumnsAndComeBackAtTheNextStart) {
     return std::array{grid->rowHeight(0), grid->columnWidth(0), Tree().fontMetrics().height(),
                       grid->horizontalHeader()->viewport()->fontMetrics().height()};
   };
-  grid->horizontalHeader()->resizeSection(2, 120);
+  grid->horizontalHeader()->resizeSection(2, 131);
   const auto usual = sizes();
   for (int i = 0; i < 3; ++i) driver_->Key(Qt::Key_Plus, Qt::ControlModifier);
   const auto large = sizes();
   for (std::size_t i = 0; i < usual.size(); ++i) EXPECT_GT(large[i], usual[i]) << i;
-  EXPECT_GT(grid->columnWidth(2), 120);
+  EXPECT_GT(grid->columnWidth(2), 131);
   Restart();
   Open(flash_, "QuantiCanali_0");
   grid = &driver_->Grid();
@@ -224,6 +229,7 @@ TEST_F(Views, LettersGrowWithTheRowsAndColumnsAndComeBackAtTheNextStart) {
   EXPECT_LT(sizes(), large);
   driver_->Key(Qt::Key_0, Qt::ControlModifier);
   EXPECT_EQ(sizes(), usual);
+  EXPECT_EQ(grid->columnWidth(2), 131);
 }
 
 }  // namespace Ui
