@@ -40,9 +40,6 @@ void SidePart::Dock(QWidget& widget) {
   addWidget(&widget);
   setStretchFactor(indexOf(&widget), 1);
   Watch(widget);
-  connect(&widget, &QObject::destroyed, this, [this](const QObject* gone) {
-    if (docked_ == gone) docked_ = nullptr;
-  });
   widget.show();
 }
 

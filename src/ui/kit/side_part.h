@@ -1,6 +1,7 @@
 // What stands at the right of a list: panes that take turns in one place, and below it what is docked there.
 #pragma once
 
+#include <QPointer>
 #include <QSplitter>
 
 #include <array>
@@ -44,7 +45,7 @@ class SidePart : public QSplitter {
   QWidget* upper_;
   QVBoxLayout* panes_;
   QList<QWidget*> wide_;
-  QWidget* docked_ = nullptr;
+  QPointer<QWidget> docked_;
   Kind kind_ = Kind::Narrow;
   bool both_ = false;                   // a pane and what is docked are shown
   std::array<int, 2> widths_ = {0, 0};  // by kind, as last seen; 0 for not yet
