@@ -50,7 +50,7 @@ class ThemedIcon : public QIconEngine {
 
  private:
   [[nodiscard]] QPixmap Draw(const QSize& size, QIcon::Mode mode) const {
-    const QPixmap drawn = Picture(size);
+    QPixmap drawn = Picture(size);
     if (mode != QIcon::Disabled) return drawn;
     QStyleOption option;
     option.palette = QApplication::palette();

@@ -81,7 +81,7 @@ TEST_F(Patience, SaveIsGivenUpUntilItsLastStep) {
     const auto saved = Patiently("Scrittura", [=, ready = disk.ready](Base::PointOfNoReturn& point) {
       auto replaced = Base::ReplaceFile(path, Base::AsBytes("dopo"), {}, [&]() -> Base::Outcome {
         if (!tooLate) ready.wait();
-        const auto looked = LookAt(point)();
+        auto looked = LookAt(point)();
         if (tooLate) ready.wait();
         return looked;
       });
