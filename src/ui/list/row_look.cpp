@@ -10,7 +10,7 @@ namespace Ui {
 namespace {
 
 QColor Mixed(const QColor& one, const QColor& other, double share) {
-  const auto part = [share](int from, int to) { return static_cast<int>(from + (to - from) * share + 0.5); };
+  const auto part = [share](int from, int to) { return qRound(from + (to - from) * share); };
   return {part(one.red(), other.red()), part(one.green(), other.green()), part(one.blue(), other.blue())};
 }
 

@@ -4,8 +4,8 @@
 
 #include "ui/list/table_model.h"
 
-#include <compare>
 #include <string>
+#include <tuple>
 #include <vector>
 
 namespace Ui {
@@ -30,7 +30,10 @@ class RowOrder {
     unsigned long long number = 0;
     std::string word;
 
-    friend auto operator<=>(const Key&, const Key&) = default;
+    friend bool operator==(const Key&, const Key&) = default;
+    friend bool operator<(const Key& one, const Key& other) {
+      return std::tie(one.kind, one.number, one.word) < std::tie(other.kind, other.number, other.word);
+    }
   };
 
   [[nodiscard]] std::vector<Key> Read() const;
