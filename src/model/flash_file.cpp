@@ -86,9 +86,15 @@ Base::Error WrongFlashSize(std::uint64_t size, const std::string& title) {
   return {"Dimensione FLASH selezionata errata " + std::to_string(size), title};
 }
 
-Base::Result<Base::Bytes> ReadFlash(const std::string& path, const std::string& title) {
+Base::Outcome LooksLikeFlash(const std::string& path, const std::string& title) {
   const auto size = Base::FileSize(path);
-  if (size && *size != FlashSize) return WrongFlashSize(*size, title);
+  if (!size) return Base::Error{size.error().message, title, size.error().systemCode};
+  if (*size != FlashSize) return WrongFlashSize(*size, title);
+  return Base::Done{};
+}
+
+Base::Result<Base::Bytes> ReadFlash(const std::string& path, const std::string& title) {
+  if (const auto looks = LooksLikeFlash(path, title); !looks) return looks.error();
   auto bytes = Base::ReadFile(path, FlashSize);
   if (!bytes) return Base::Error{bytes.error().message, title, bytes.error().systemCode};
   if (bytes->size() != FlashSize) return WrongFlashSize(bytes->size(), title);

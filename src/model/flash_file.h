@@ -16,6 +16,9 @@ Base::Result<Base::Bytes> ReadFlash(const std::string& path, const std::string& 
 // "Dimensione FLASH selezionata errata 524287"
 Base::Error WrongFlashSize(std::uint64_t size, const std::string& title);
 
+// Whether a flash is there, as far as that can be told without reading it; the same errors.
+Base::Outcome LooksLikeFlash(const std::string& path, const std::string& title);
+
 // What this program has written while it runs: anything else in the place of an image is somebody's work and is kept
 // before it is overwritten.
 struct Backups {

@@ -56,9 +56,9 @@ void TellFatal(QtMsgType type, const QMessageLogContext& context, const QString&
 // Whoever has typed the file's name reads at once why it is no image; a window without a terminal says so in a box.
 bool RefusedOnTerminal(const std::string& path) {
 #ifdef Q_OS_UNIX
-  const auto image = Routines::ReadFlash(path, {});
-  if (image || ::isatty(STDERR_FILENO) != 1) return false;
-  std::fputs(("trovalis: " + image.error().message + "\n").c_str(), stderr);
+  const auto looks = Routines::LooksLikeFlash(path, {});
+  if (looks || ::isatty(STDERR_FILENO) != 1) return false;
+  std::fputs(("trovalis: " + looks.error().message + "\n").c_str(), stderr);
   return true;
 #else
   return false;

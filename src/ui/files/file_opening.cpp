@@ -35,8 +35,8 @@ bool FileOpening::OpenFlash(const std::string& path) {
 
 void FileOpening::OpenWhenChosen(const std::string& path) {
   // What is no image is told now, not after the first choice.
-  if (const auto image = ReadFlashPatiently(path, "Errore FLASH di Input"); !image)
-    return session_.Message(image.error());
+  if (const auto looks = Routines::LooksLikeFlash(path, "Errore FLASH di Input"); !looks)
+    return session_.Message(looks.error());
   if (session_.settings.Chosen().quantiCanali) return files_.ApriFlashInput(path);
   session_.status.ShowResult("Scegliere in \"Canali da copiare\" quanti canali ha il ricevitore: " +
                              PathText(Base::FileName(path)) + " si apre subito dopo");
