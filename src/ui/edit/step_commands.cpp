@@ -58,7 +58,7 @@ QMenu* StepCommands::AddList(QAction& button, const char* name,
     if (auto* tool = qobject_cast<QToolButton*>(shown)) tool->setPopupMode(QToolButton::MenuButtonPopup);
   }
   QObject::connect(menu, &QMenu::aboutToShow, menu, [this, menu, labels, take] {
-    session_.view.FinishEditing();
+    session_.FinishTyping();
     menu->clear();
     int steps = 0;
     for (const std::string& label : (session_.document.Steps().*labels)()) {

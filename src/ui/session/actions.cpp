@@ -39,11 +39,11 @@ bool Actions::Offers(CommandName command) {
   return *why == '\0';
 }
 
-// First of all a command does: what is being typed in a cell is no longer open to doubt.
+// First of all a command does: what is being typed is no longer open to doubt.
 void Actions::Choose(CommandName command) {
   const auto& [action, run] = commands_[command.Index()];
   const bool free = !Busy();
-  if (free) session_.view.FinishEditing();
+  if (free) session_.FinishTyping();
   if (free && Meets(session_, command->gate)) {
     run();
   } else if (action->isCheckable()) {
@@ -53,7 +53,7 @@ void Actions::Choose(CommandName command) {
 
 void Actions::Push(ButtonName button) {
   if (Busy()) return;
-  session_.view.FinishEditing();
+  session_.FinishTyping();
   if (!Meets(session_, button->need)) return;
   if (!button->command) {
     buttons_[button.Index()].run();

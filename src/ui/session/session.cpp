@@ -3,8 +3,11 @@
 #include "base/file.h"
 #include "base/text.h"
 #include "edit/told.h"
+#include "ui/kit/name_edit.h"
 #include "ui/kit/patience.h"
 #include "ui/kit/text.h"
+
+#include <QApplication>
 
 #include <utility>
 
@@ -33,6 +36,11 @@ void Session::Message(const Base::Error& error) {
 QString Session::Losses(const std::vector<Edit::LostFavourite>& lost) const {
   const std::string text = Edit::LostFavouritesText(document.Tables().FavouritesBlock, lost);
   return text.empty() ? QString() : ", " + Text(text);
+}
+
+void Session::FinishTyping() {
+  view.FinishEditing();
+  if (auto* name = qobject_cast<NameEdit*>(QApplication::focusWidget())) Q_EMIT name->editingFinished();
 }
 
 Edit::Slots Session::SelectedChannels() {

@@ -74,6 +74,9 @@ struct Session {
   // Window geometry, recent files and the like.
   [[nodiscard]] QString SettingsFile() const { return PathText(programFolder + "/trovalis.ini"); }
 
+  // What is being typed in a cell, or as a name, counts from now on.
+  void FinishTyping();
+
   // The selected slots; says so where there are none.
   Edit::Slots SelectedChannels();
 

@@ -129,6 +129,14 @@ TEST_F(FavouritesLists, StandBelowTheTreeWhereThereIsRoomAndStayAsTheUserWantsTh
   ASSERT_TRUE(driver_->Choose("VisualizzaPreferiti"));
   start(large);
   EXPECT_TRUE(shown("SceltaPreferiti")) << "left open";
+  auto* name = lists()->findChild<QLineEdit*>("NomePreferiti_1");
+  window_->activateWindow();
+  ASSERT_TRUE(QTest::qWaitForWindowActive(window_.get()));
+  name->setFocus();
+  QTest::keyClicks(name, "X");
+  Action("VisualizzaCanali").trigger();
+  EXPECT_EQ(Routines::FavouriteNameOf(List().FavouritesBlock, 0), "XCinema")
+      << "a command finds what was typed";
   lists()->findChild<QToolButton*>("StaccaPreferiti")->click();
   EXPECT_TRUE(lists()->isWindow());
   start(large);
