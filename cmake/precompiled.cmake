@@ -2,7 +2,7 @@
 set(library <algorithm> <array> <functional> <map> <memory> <optional> <set> <span> <string> <string_view> <utility> <vector>)
 foreach(target trovalis_ui trovalis_driver)
   if(TARGET ${target})
-    target_precompile_headers(${target} PRIVATE <QtWidgets> <QtNetwork> <QtPrintSupport> ${library})
+    target_precompile_headers(${target} PRIVATE <QtWidgets> ${library})
   endif()
 endforeach()
 if(TARGET window_tests)

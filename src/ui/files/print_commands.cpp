@@ -1,22 +1,14 @@
 #include "ui/files/print_commands.h"
 
 #include "base/file.h"
+#include "ui/files/print_preview.h"
+#include "ui/kit/late_part.h"
 #include "ui/kit/screen_fit.h"
 #include "ui/kit/text.h"
 #include "ui/kit/themed_icon.h"
 
-#include <QAction>
-#include <QCheckBox>
-#include <QComboBox>
-#include <QGraphicsView>
-#include <QIcon>
-#include <QLayout>
-#include <QLineEdit>
-#include <QPrintPreviewDialog>
-#include <QPrintPreviewWidget>
-#include <QPrinter>
-#include <QToolBar>
-#include <QToolButton>
+#include <QDialog>
+#include <QPagedPaintDevice>
 
 namespace Ui {
 
@@ -32,14 +24,6 @@ int LastUsedTransponder(const State& state) {
 
 QString WithSource(const QString& heading, const QString& source) {
   return source.isEmpty() ? heading : heading + " - " + source;
-}
-
-// The toolkit's preview leaves its buttons to the mouse and two controls without a name.
-void MakeReachable(QPrintPreviewDialog& dialog) {
-  for (auto* button : dialog.findChildren<QToolButton*>()) button->setFocusPolicy(Qt::TabFocus);
-  for (auto* page : dialog.findChildren<QGraphicsView*>()) page->setAccessibleName(dialog.windowTitle());
-  for (auto* scale : dialog.findChildren<QComboBox*>()) scale->setAccessibleDescription("Ingrandimento");
-  for (auto* number : dialog.findChildren<QLineEdit*>()) number->setAccessibleName("Pagina");
 }
 
 QString PagesText(int pages) {
@@ -102,55 +86,52 @@ std::optional<Edit::Slots> PrintCommands::AskRows(const Grid& grid, int lastRow)
 }
 
 // The line for the status bar; empty where the file could not be written, which a box has told then.
-QString PrintCommands::Save(const PrintReport& report, const std::string& path, const QPrinter& printer) {
+QString PrintCommands::Save(const PrintReport& report, const std::string& path,
+                            const QPagedPaintDevice& like) {
   if (session_.IsFlashOfList(path)) {
     session_.dialogs.Message(QString("Non stampato: ") + FlashOfListChosen, {});
     return {};
   }
-  const auto pages = SavePdf(report, path, printer.pageLayout(), printer.pageRanges());
+  const auto pages = SavePdf(report, path, like.pageLayout(), like.pageRanges());
   if (pages) return PagesText(*pages) + " in " + PathText(Base::FileName(path));
   session_.Message(pages.error());
   return {};
 }
 
-// A preview draws on the printer before anything is chosen there. Once the print dialog has named a file the drawing
-// goes where every PDF does, so that the file is whole and a refusal is told.
 void PrintCommands::Preview(const PrintReport& whole, const PrintReport* compact) {
-  QPrinter printer(QPrinter::HighResolution);
-  printer.setPageLayout(UsualPage());
-  printer.setDocName(whole.heading);
-  QPrintPreviewDialog dialog(&printer, &window_);
-  dialog.setObjectName("AnteprimaStampa");
-  dialog.setWindowTitle(whole.heading);
-  ResizeOnScreen(dialog, {900, 660});
-  NameMoreButton(dialog);
+  const auto show = FunctionOf("trovalis-print", "ShowPrintPreview");
+  if (!show) return session_.Message(show.error());
   QString result;
-  auto* shorter = new QCheckBox("Compatta: solo numero e nome, in più colonne", &dialog);
-  shorter->setObjectName("StampaCompatta");
-  shorter->setVisible(compact != nullptr);
-  dialog.layout()->addWidget(shorter);
-  const auto chosen = [&]() -> const PrintReport& { return shorter->isChecked() ? *compact : whole; };
-  QObject::connect(&dialog, &QPrintPreviewDialog::paintRequested, &dialog, [&](QPrinter* to) {
-    if (!to->outputFileName().isEmpty()) {
-      result = Save(chosen(), PathBytes(to->outputFileName()), *to);
-      return;
-    }
-    const auto pages = PrintPages(*to, chosen());
-    result = pages ? PagesText(*pages) : QString("La stampa non è riuscita");
-  });
-  QObject::connect(shorter, &QCheckBox::toggled, dialog.findChild<QPrintPreviewWidget*>(),
-                   &QPrintPreviewWidget::updatePreview);
-  auto* save = dialog.findChild<QToolBar*>()->addAction(IconNamed("export"), "Salva come PDF");
-  save->setObjectName("SalvaPdf");
-  QObject::connect(save, &QAction::triggered, &dialog, [&] {
-    const QString path =
-        session_.dialogs.SaveFile({"Salva la stampa come PDF", "Documenti PDF (*.pdf)|*.pdf|", {}});
-    if (path.isEmpty()) return;
-    result = Save(chosen(), PathBytes(path), printer);
-    if (!result.isEmpty()) dialog.accept();
-  });
-  MakeReachable(dialog);
-  if (dialog.exec() == QDialog::Accepted && !result.isEmpty()) session_.status.ShowResult(result);
+  const auto chosen = [&](bool shorter) -> const PrintReport& { return shorter ? *compact : whole; };
+  const PrintPreview preview{
+      .window = window_,
+      .title = whole.heading,
+      .page = UsualPage(),
+      .compact = compact != nullptr,
+      .saveIcon = IconNamed("export"),
+      .prepare =
+          [](QDialog& dialog) {
+            ResizeOnScreen(dialog, {900, 660});
+            NameMoreButton(dialog);
+          },
+      .print =
+          [&](QPagedPaintDevice& printer, bool shorter) {
+            const auto pages = PrintPages(printer, chosen(shorter));
+            result = pages ? PagesText(*pages) : QString("La stampa non è riuscita");
+          },
+      .save =
+          [&](const QString& path, const QPagedPaintDevice& like, bool shorter) {
+            result = Save(chosen(shorter), PathBytes(path), like);
+            return !result.isEmpty();
+          },
+      .askPath =
+          [this] {
+            return session_.dialogs.SaveFile(
+                {"Salva la stampa come PDF", "Documenti PDF (*.pdf)|*.pdf|", {}});
+          },
+  };
+  const bool accepted = reinterpret_cast<decltype(&ShowPrintPreview)>(*show)(preview);
+  if (accepted && !result.isEmpty()) session_.status.ShowResult(result);
 }
 
 }  // namespace Ui

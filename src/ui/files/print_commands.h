@@ -6,7 +6,7 @@
 #include "ui/session/session.h"
 #include "ui/sources/sdx_pane.h"
 
-class QPrinter;
+class QPagedPaintDevice;
 
 namespace Ui {
 
@@ -25,7 +25,7 @@ class PrintCommands {
   std::optional<Edit::Slots> AskRows(const Grid& grid, int lastRow);
   // With a compact report the user may choose between the two.
   void Preview(const PrintReport& whole, const PrintReport* compact = nullptr);
-  QString Save(const PrintReport& report, const std::string& path, const QPrinter& printer);
+  QString Save(const PrintReport& report, const std::string& path, const QPagedPaintDevice& like);
 
   Session& session_;
   const SdxPane& pane_;

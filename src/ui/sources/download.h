@@ -1,18 +1,17 @@
 // One transfer of a file from a web server, kept as bytes.
 #pragma once
 
-#include <QByteArray>
-#include <QNetworkAccessManager>
-#include <QObject>
-#include <QTimer>
+#include "base/result.h"
 
-class QNetworkReply;
+#include <QByteArray>
+#include <QString>
+
+#include <functional>
+#include <memory>
 
 namespace Ui {
 
-class Download : public QObject {
-  Q_OBJECT
-
+class Download {
  public:
   struct Limits {
     qint64 bytes = 64LL << 20;
@@ -20,33 +19,26 @@ class Download : public QObject {
     int whole = 10 * 60 * 1000;  // milliseconds for all of it
   };
 
-  explicit Download(QObject* parent);
-  Download(const Limits& limits, QObject* parent);
+  Download() = default;
+  Download(const Download&) = delete;
+  Download& operator=(const Download&) = delete;
+  virtual ~Download() = default;
 
-  [[nodiscard]] bool Running() const { return reply_ != nullptr; }
-  // Begins a GET of an http or https address, following redirects that are no less safe. Not while one is running.
-  void Start(const QString& address);
-  void Cancel();
-  [[nodiscard]] const QString& Reason() const { return reason_; }
-
- Q_SIGNALS:
   // Bytes so far, and in all where the server says so, else -1.
-  void Progress(qint64 received, qint64 total);
+  std::function<void(qint64 received, qint64 total)> onProgress;
   // The end of every transfer but a cancelled one. `good` means that the whole reply came without an error; else
   // Reason() says what went wrong.
-  void Finished(bool good, const QByteArray& reply);
+  std::function<void(bool good, const QByteArray& reply)> onFinished;
 
- private:
-  void Take();
-  void Stop(const QString& reason);
-  void End();
-
-  Limits limits_;
-  QNetworkAccessManager network_;
-  QTimer wholeTime_;
-  QNetworkReply* reply_ = nullptr;
-  QByteArray bytes_;
-  QString reason_;  // empty while nothing has gone wrong
+  [[nodiscard]] virtual bool Running() const = 0;
+  // Begins a GET of an http or https address, following redirects that are no less safe. Not while one is running.
+  virtual void Start(const QString& address) = 0;
+  virtual void Cancel() = 0;
+  [[nodiscard]] virtual QString Reason() const = 0;
 };
+
+// The one that has the toolkit's network behind it, which is a part that comes late.
+Base::Result<std::unique_ptr<Download>> NewDownload(const Download::Limits& limits = {});
+extern "C" Q_DECL_EXPORT Download* NewNetworkDownload(const Download::Limits& limits);
 
 }  // namespace Ui

@@ -34,9 +34,8 @@ QString TransferText(qint64 received, qint64 total, qint64 milliseconds) {
 }  // namespace
 
 DownloadCommands::DownloadCommands(Session& session, SdxCommands& sdx, DownloadFrame& frame, QWidget& window)
-    : session_(session), sdx_(sdx), frame_(frame), window_(window), download_(this) {
+    : session_(session), sdx_(sdx), frame_(frame), window_(window) {
   connect(&frame_, &DownloadFrame::Chosen, this, &DownloadCommands::Fetch);
-  connect(&download_, &Download::Finished, this, &DownloadCommands::Take);
 }
 
 void DownloadCommands::Connect(Actions& actions) {
@@ -44,7 +43,7 @@ void DownloadCommands::Connect(Actions& actions) {
 }
 
 void DownloadCommands::ScaricaInternet() {
-  if (download_.Running()) {
+  if (download_ && download_->Running()) {
     session_.status.ShowResult("Uno scaricamento è già in corso");
     return;
   }
@@ -63,6 +62,7 @@ void DownloadCommands::Fetch(const QString& address) {
     session_.dialogs.Message("Si deve specificare il file da scaricare", {});
     return;
   }
+  if (!MakeReady()) return;
   frame_.hide();
   path_ = session_.AskSave("Selezionare il file SDX di OUTPUT", "SatcoDX files(*.sdx)|*.sdx|",
                            FolderKind::Foreign, "Non scaricato");
@@ -76,8 +76,21 @@ void DownloadCommands::Fetch(const QString& address) {
     return;
   }
   address_ = address.trimmed();
-  ShowProgress();
-  download_.Start(address_);
+  OpenProgress();
+  download_->Start(address_);
+}
+
+bool DownloadCommands::MakeReady() {
+  if (download_) return true;
+  auto download = NewDownload();
+  if (!download) {
+    session_.Message(download.error());
+    return false;
+  }
+  download_ = std::move(*download);
+  download_->onProgress = [this](qint64 received, qint64 total) { ShowProgress(received, total); };
+  download_->onFinished = [this](bool good, const QByteArray& reply) { Take(good, reply); };
+  return true;
 }
 
 // Beside it, until a list has come in its place.
@@ -109,7 +122,7 @@ void DownloadCommands::TellFailed(const QString& what) {
   session_.status.ShowResult(what + rest);
 }
 
-void DownloadCommands::ShowProgress() {
+void DownloadCommands::OpenProgress() {
   progress_ = new QProgressDialog({}, "Annulla", 0, 0, &window_);
   auto* text = new QLabel("Scaricamento di " + address_ + "\nAttesa del server…", progress_);
   text->setTextFormat(Qt::PlainText);
@@ -122,17 +135,19 @@ void DownloadCommands::ShowProgress() {
   progress_->setAutoReset(false);
   progress_->setValue(0);
   since_.start();
-  connect(&download_, &Download::Progress, progress_, [this](qint64 received, qint64 total) {
-    progress_->setMaximum(total > 0 ? 1000 : 0);
-    progress_->setValue(total > 0 ? static_cast<int>(received * 1000 / total) : 0);
-    progress_->setLabelText("Scaricamento di " + address_ + "\n" +
-                            TransferText(received, total, since_.elapsed()));
-  });
   connect(progress_, &QProgressDialog::canceled, this, [this] {
-    download_.Cancel();
+    download_->Cancel();
     progress_->deleteLater();
     TellFailed("Scaricamento annullato");
   });
+}
+
+void DownloadCommands::ShowProgress(qint64 received, qint64 total) {
+  if (progress_ == nullptr) return;
+  progress_->setMaximum(total > 0 ? 1000 : 0);
+  progress_->setValue(total > 0 ? static_cast<int>(received * 1000 / total) : 0);
+  progress_->setLabelText("Scaricamento di " + address_ + "\n" +
+                          TransferText(received, total, since_.elapsed()));
 }
 
 void DownloadCommands::Take(bool good, const QByteArray& reply) {
@@ -148,7 +163,7 @@ void DownloadCommands::Take(bool good, const QByteArray& reply) {
   const std::string_view text(reply.constData(), static_cast<std::size_t>(reply.size()));
   if (!good || !Formats::LooksLikeSatcodx(text)) {
     TellFailed("Scaricamento non riuscito: " +
-               (good ? "la risposta non è una lista SatcoDX" : download_.Reason()));
+               (good ? "la risposta non è una lista SatcoDX" : download_->Reason()));
     session_.dialogs.Message("Errore di connessione a : " + address_ + CodePageText(text.substr(0, 80)), {});
     return;
   }

@@ -28,9 +28,12 @@ class DownloadCommands : public QObject {
  private:
   void ScaricaInternet();
   void Fetch(const QString& address);
+  // False where there is no network to be had, which a box has told then.
+  bool MakeReady();
   Base::Outcome KeepOldList();
   void RemoveOldList();
-  void ShowProgress();
+  void OpenProgress();
+  void ShowProgress(qint64 received, qint64 total);
   // In the result line, with where the list is that was there before.
   void TellFailed(const QString& what);
   void Take(bool good, const QByteArray& reply);
@@ -39,7 +42,7 @@ class DownloadCommands : public QObject {
   SdxCommands& sdx_;
   DownloadFrame& frame_;
   QWidget& window_;
-  Download download_;
+  std::unique_ptr<Download> download_;  // none before the first
   QPointer<QProgressDialog> progress_;
   QElapsedTimer since_;  // the transfer has begun
   QString address_;

@@ -49,14 +49,16 @@ class Server {
 
 // The reply where it came whole; nothing where the transfer ended otherwise.
 std::optional<QByteArray> Fetch(const QString& address, const Download::Limits& limits = {}) {
-  Download download(limits, nullptr);
+  const auto download = NewDownload(limits);
+  EXPECT_TRUE(download) << download.error().message;
   std::optional<QByteArray> whole;
   bool ended = false;
-  QObject::connect(&download, &Download::Finished, [&](bool good, const QByteArray& reply) {
+  (*download)->onProgress = [](qint64, qint64) {};
+  (*download)->onFinished = [&](bool good, const QByteArray& reply) {
     ended = true;
     if (good) whole = reply;
-  });
-  download.Start(address);
+  };
+  (*download)->Start(address);
   EXPECT_TRUE(QTest::qWaitFor([&ended] { return ended; }, 5000)) << address.toStdString();
   return whole;
 }
