@@ -2,7 +2,9 @@
 
 #include <QAbstractButton>
 #include <QAction>
+#include <QHash>
 
+#include <iterator>
 #include <utility>
 
 namespace Ui {
@@ -103,11 +105,9 @@ constexpr std::pair<const char*, const char*> Tips[] = {
 };
 
 const char* TipOf(const QString& control) {
-  for (const auto& [name, tip] : Tips) {
-    const QLatin1String known(name);
-    if (control == known || (known.endsWith('_') && control.startsWith(known))) return tip;
-  }
-  return nullptr;
+  static const QHash<QString, const char*> tips(std::begin(Tips), std::end(Tips));
+  if (const char* tip = tips.value(control)) return tip;
+  return tips.value(control.left(control.lastIndexOf('_') + 1));
 }
 
 template <class Control>

@@ -5,6 +5,7 @@
 
 #include <QAction>
 #include <QHBoxLayout>
+#include <QHash>
 #include <QLabel>
 #include <QPushButton>
 #include <QStyle>
@@ -24,6 +25,26 @@ void Enlarge(QLabel& label, double factor) {
   font.setBold(true);
   label.setFont(font);
 }
+
+// A wrapped text, which layouts ask again and again how high it is.
+class StepText : public QLabel {
+ public:
+  explicit StepText(const QString& text) : QLabel(text) { setWordWrap(true); }
+
+  [[nodiscard]] int heightForWidth(int width) const override {
+    if (!heights_.contains(width)) heights_[width] = QLabel::heightForWidth(width);
+    return heights_[width];
+  }
+
+ protected:
+  void changeEvent(QEvent* event) override {
+    heights_.clear();
+    QLabel::changeEvent(event);
+  }
+
+ private:
+  mutable QHash<int, int> heights_;
+};
 
 }  // namespace
 
@@ -80,8 +101,7 @@ void StartPage::AddStep(QVBoxLayout& column, const char* name, const QString& te
   disc->setObjectName(name);
   disc->setAlignment(Qt::AlignCenter);
   disc->setFixedSize(DiscSize(*this), DiscSize(*this));
-  auto* what = new QLabel(text);
-  what->setWordWrap(true);
+  auto* what = new StepText(text);
   auto* row = new QHBoxLayout;
   row->setSpacing(12);
   row->addWidget(disc);
