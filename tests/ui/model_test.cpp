@@ -246,6 +246,7 @@ class Play {
 
   void ClickTree() {
     auto* tree = window_->findChild<QTreeView*>(random_.Chance(50) ? "TreeView1" : "TreeView2");
+    if (tree == nullptr) return;  // it has not been shown yet
     QModelIndex index;
     while (tree->model()->rowCount(index) > 0 && (!index.isValid() || random_.Chance(85)))
       index = tree->model()->index(random_.Below(tree->model()->rowCount(index)), 0, index);

@@ -83,7 +83,7 @@ class Faults {
       const auto* tree = window_.findChild<QTreeView*>(name);
       TreeModel anew(window_.List(), satellites_, shape, nullptr);
       anew.Refresh();
-      if (tree->isVisible() && !SameNodes(*tree->model(), {}, anew, {})) return name;
+      if (tree != nullptr && tree->isVisible() && !SameNodes(*tree->model(), {}, anew, {})) return name;
     }
     return {};
   }

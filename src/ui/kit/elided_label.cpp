@@ -27,7 +27,8 @@ QSize ElidedLabel::sizeHint() const {
 }
 
 QSize ElidedLabel::minimumSizeHint() const {
-  return sizeHint().boundedTo({fontMetrics().averageCharWidth() * 12, sizeHint().height()});
+  const QSize whole = sizeHint();
+  return whole.boundedTo({fontMetrics().averageCharWidth() * 12, whole.height()});
 }
 
 void ElidedLabel::paintEvent(QPaintEvent*) {

@@ -15,6 +15,8 @@ using Routines::ListTree;
 
 namespace {
 
+constexpr int Indentation = 16;  // pixels of a branch
+
 // Rows that are easy to hit.
 class RoomyRows : public QStyledItemDelegate {
  public:
@@ -35,23 +37,28 @@ void BranchView::keyPressEvent(QKeyEvent* event) {
 
 TreePane::TreePane(const Document& document, const std::vector<Routines::Satellite>& satellites,
                    ListTree::Shape shape, const QString& name, const QString& caption, QWidget* parent)
-    : QWidget(parent), model_(document, satellites, shape, this), tree_(new BranchView(this)) {
-  tree_->setObjectName(name);
-  tree_->setAccessibleName(caption);
+    : QWidget(parent), model_(document, satellites, shape, this), name_(name), caption_(caption) {
+  connect(&document, &Document::Changed, this, &TreePane::Refresh);
+}
+
+void TreePane::Build() {
+  tree_ = new BranchView(this);
+  tree_->setObjectName(name_);
+  tree_->setAccessibleName(caption_);
+  tree_->setFont(letters_);
   tree_->setHeaderHidden(true);
   tree_->setUniformRowHeights(true);
   tree_->setTextElideMode(Qt::ElideRight);
-  tree_->setIndentation(16);
+  tree_->setIndentation(Indentation);
   tree_->setIconSize(QSize(10, 10));
   tree_->setEditTriggers(QAbstractItemView::NoEditTriggers);
   tree_->setItemDelegate(new RoomyRows(tree_));
   tree_->setModel(&model_);
   connect(tree_, &QTreeView::clicked, this, &TreePane::Choose);
   connect(tree_, &BranchView::Walked, this, &TreePane::Choose);
-  connect(&document, &Document::Changed, this, &TreePane::Refresh);
   connect(&RowLook::OfProgram(), &RowLook::Changed, tree_->viewport(), qOverload<>(&QWidget::update));
 
-  auto* head = new PaneHead(name, caption, this);
+  auto* head = new PaneHead(name_, caption_, this);
   connect(&head->Close(), &QToolButton::clicked, this, &TreePane::Closed);
   auto* column = new QVBoxLayout(this);
   column->setContentsMargins(0, 0, 0, 0);
@@ -60,8 +67,18 @@ TreePane::TreePane(const Document& document, const std::vector<Routines::Satelli
   column->addWidget(tree_, 1);
 }
 
+void TreePane::setVisible(bool visible) {
+  if (visible && tree_ == nullptr) Build();
+  QWidget::setVisible(visible);
+}
+
+void TreePane::SetLetters(const QFont& font) {
+  letters_ = font;
+  if (tree_ != nullptr) tree_->setFont(font);
+}
+
 QSize TreePane::sizeHint() const {
-  const int row = fontMetrics().horizontalAdvance("SAT A  Un satellite (0000)") + 4 * tree_->indentation();
+  const int row = fontMetrics().horizontalAdvance("SAT A  Un satellite (0000)") + 4 * Indentation;
   return {std::max(240, row), 400};
 }
 

@@ -36,13 +36,16 @@ class TreePane : public QWidget {
   void ShowChannel(int slot);
   void ShowTransponder(int slot);
 
-  [[nodiscard]] QTreeView& Tree() const { return *tree_; }
+  // The control name of the tree, which is made when it is first shown: most sessions never see more than one of the two.
+  [[nodiscard]] const QString& Name() const { return name_; }
+  void SetLetters(const QFont& font);
   // The branches that are open, by what they stand for, so that they can be opened in a later session: when the first
   // list comes. Without any the satellites are.
   [[nodiscard]] QStringList OpenBranches() const;
   void OpenAtFirst(const QStringList& branches) { atFirst_ = branches; }
 
   [[nodiscard]] QSize sizeHint() const override;
+  void setVisible(bool visible) override;
 
  Q_SIGNALS:
   // The user has come to a node.
@@ -56,6 +59,7 @@ class TreePane : public QWidget {
   void showEvent(QShowEvent* event) override;
 
  private:
+  void Build();
   void Refresh();
   void OpenFirst();
   void Show(const QModelIndex& index);
@@ -66,7 +70,9 @@ class TreePane : public QWidget {
   void ForBranches(const QModelIndex& parent, const QString& path, const Visit& visit) const;
 
   TreeModel model_;
-  BranchView* tree_;
+  QString name_, caption_;
+  QFont letters_;
+  BranchView* tree_ = nullptr;
   QStringList atFirst_;
   bool stale_ = true;
 };

@@ -129,7 +129,7 @@ void ViewCommands::Read() {
     }
     pane_.SetLeft(text(SdxNameKey), PlaceFrom(text(Key("SDX", "Posto"))));
     for (TreePane* tree : trees_)
-      tree->OpenAtFirst(text(Key(tree->Tree().objectName(), "Rami")).split('|', Qt::SkipEmptyParts));
+      tree->OpenAtFirst(text(Key(tree->Name(), "Rami")).split('|', Qt::SkipEmptyParts));
   });
 }
 
@@ -153,7 +153,7 @@ void ViewCommands::Write() {
     Store(settings, SdxNameKey, pane_.LeftName());
     Store(settings, Key("SDX", "Posto"), PlaceText(pane_.LeftAt()));
     for (const TreePane* tree : trees_)
-      Store(settings, Key(tree->Tree().objectName(), "Rami"), tree->OpenBranches().join('|'));
+      Store(settings, Key(tree->Name(), "Rami"), tree->OpenBranches().join('|'));
   });
 }
 
@@ -163,7 +163,7 @@ void ViewCommands::SetLetters(int steps) {
   QFont font;
   if (letters_ != 0) font.setPointSizeF(QFontInfo(QApplication::font()).pointSizeF() + letters_);
   for (const Shown& shown : lists_) shown.grid.setFont(font);
-  for (const TreePane* tree : trees_) tree->Tree().setFont(font);
+  for (TreePane* tree : trees_) tree->SetLetters(font);
 }
 
 void ViewCommands::ChangeLetters(int steps) {

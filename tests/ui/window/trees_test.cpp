@@ -9,14 +9,14 @@ class Trees : public SmallWindow {
   void SetUp() override {
     OpenSmall();
     bouquets_ = window_->findChild<QTreeView*>("TreeView1");
-    transponders_ = window_->findChild<QTreeView*>("TreeView2");
   }
 
   // Which of the three stands in the place beside the list.
   [[nodiscard]] std::string Beside() const {
     std::string shown;
     for (const char* name : {"GrigliaSDX", "TreeView1", "TreeView2"})
-      if (window_->findChild<QWidget*>(name)->isVisible()) shown += name;
+      if (const auto* pane = window_->findChild<QWidget*>(name); pane != nullptr && pane->isVisible())
+        shown += name;
     EXPECT_EQ(Action("VisualizzaBouquet").isChecked(), shown == "TreeView2");
     EXPECT_EQ(Action("VediSDX").isChecked(), shown == "GrigliaSDX");
     EXPECT_EQ(Action("RicercaSDX").isEnabled(), shown == "GrigliaSDX");
@@ -32,7 +32,6 @@ class Trees : public SmallWindow {
   }
 
   QTreeView* bouquets_ = nullptr;
-  QTreeView* transponders_ = nullptr;
 };
 
 TEST_F(Trees, ShareTheirPlaceWithTheSdxPane) {
@@ -103,18 +102,19 @@ TEST_F(Trees, ATransponderLeadsToItselfOrToItsChannels) {
   ASSERT_TRUE(driver_->Choose("VisualizzaTransponder"));
   ASSERT_TRUE(driver_->Choose("VisualizzaBouquet"));
   driver_->SelectRows(2, 2);
-  EXPECT_TRUE(Current(*transponders_).starts_with("002  ")) << Current(*transponders_);
-  const QModelIndex transponder = transponders_->currentIndex();
+  auto& transponders = *window_->findChild<QTreeView*>("TreeView2");
+  EXPECT_TRUE(Current(transponders).starts_with("002  ")) << Current(transponders);
+  const QModelIndex transponder = transponders.currentIndex();
   driver_->SelectRows(3, 3);
-  Click(*transponders_, transponder);
+  Click(transponders, transponder);
   EXPECT_EQ(driver_->Grid().Selected().front(), 2);
   ASSERT_TRUE(driver_->Choose("VisualizzaCanali"));
-  Click(*transponders_, transponder);
+  Click(transponders, transponder);
   EXPECT_EQ(driver_->Grid().Selected().front(), 5);
-  EXPECT_TRUE(Current(*transponders_).starts_with("002  ")) << "the channel selected is not shown back";
+  EXPECT_TRUE(Current(transponders).starts_with("002  ")) << "the channel selected is not shown back";
   ASSERT_TRUE(driver_->Choose("VisualizzaCanali"));
-  transponders_->expand(transponder);
-  Click(*transponders_, transponders_->model()->index(0, 0, transponder));
+  transponders.expand(transponder);
+  Click(transponders, transponders.model()->index(0, 0, transponder));
   EXPECT_EQ(driver_->TextOf("Text1"), "Canali") << "a channel brings its list";
 }
 
