@@ -16,19 +16,21 @@ struct Sides {
   std::function<void()> prepare = [] {};  // before each of the two, not measured
 };
 
-// `aim` is the most that the work may take, as a multiple of the limit. Times are told in µs.
-void RunBeside(benchmark::State& run, double aim, const Sides& sides);
+// Times are told in µs.
+void RunBeside(benchmark::State& run, const Sides& sides);
 
-// The medians of figures that were measured otherwise.
-void Tell(benchmark::State& run, double aim, std::vector<double> works, std::vector<double> limits);
+// The medians of figures that were measured otherwise, in µs or kB.
+void Tell(benchmark::State& run, std::vector<double> works, std::vector<double> limits);
 
 // Seconds that `work` takes.
 double SecondsOf(const std::function<void()>& work);
 
 struct Row {
   const char* name;
+  double aim;  // the most that the work may take, as a multiple of the limit; 0 where the ratio only informs
   void (*run)(benchmark::State&);
   int turns = 0;  // 0 for as many as the time allows
+  bool memory = false;
 };
 void Register(std::initializer_list<Row> rows);
 

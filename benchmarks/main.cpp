@@ -1,12 +1,16 @@
-// trovalis_bench [options of Google Benchmark]: measures every row of the table.
+// trovalis_bench [options of Google Benchmark]: measures every row of the table, and leaves it in tabella.md too, as the documents
+// have it.
 #include "beside.h"
 #include "ui/kit/toolkit.h"
 
 #include <QApplication>
+#include <QFile>
+#include <QLocale>
 #include <QLoggingCategory>
 
 #include <algorithm>
 #include <chrono>
+#include <map>
 
 namespace Bench {
 namespace {
@@ -18,7 +22,27 @@ double Median(std::vector<double> values) {
   return *middle;
 }
 
+const Row* current = nullptr;
+std::vector<QString> order;
+std::map<QString, QString> lines;  // of the table, by name; a row is run until its time is known
+
+// µs or kB, in the unit that is easy to read.
+QString Figure(double value, bool memory) {
+  if (memory) return QLocale().toString(value / 1024, 'f', 1) + " MB";
+  if (value < 1000) return QLocale().toString(value, 'f', value < 100 ? 1 : 0) + " µs";
+  return QLocale().toString(value / 1000, 'f', value < 1e5 ? 2 : 0) + " ms";
+}
+
 }  // namespace
+
+bool WriteTable() {
+  QFile file("tabella.md");
+  if (!file.open(QFile::WriteOnly)) return false;
+  file.write("| Lavoro | tempo | limite | rapporto | obiettivo |\n|---|---:|---:|---:|---:|\n");
+  for (const QString& name : order)
+    if (lines.contains(name)) file.write((lines[name] + '\n').toUtf8());
+  return file.flush();
+}
 
 double SecondsOf(const std::function<void()>& work) {
   const auto start = std::chrono::steady_clock::now();
@@ -27,13 +51,19 @@ double SecondsOf(const std::function<void()>& work) {
   return std::chrono::duration<double>(std::chrono::steady_clock::now() - start).count();
 }
 
-void Tell(benchmark::State& run, double aim, std::vector<double> works, std::vector<double> limits) {
+void Tell(benchmark::State& run, std::vector<double> works, std::vector<double> limits) {
+  const Row& row = *current;
   const double work = Median(std::move(works)), limit = Median(std::move(limits));
-  run.counters = {{"lavoro", work}, {"limite", limit}, {"rapporto", work / limit}, {"obiettivo", aim}};
-  if (work > aim * limit) run.SetLabel("MISS");
+  run.counters = {{"lavoro", work}, {"limite", limit}, {"rapporto", work / limit}, {"obiettivo", row.aim}};
+  const bool missed = row.aim > 0 && work > row.aim * limit;
+  if (missed) run.SetLabel("MISS");
+  const QString aim = row.aim > 0 ? QLocale().toString(row.aim) : QString("–");
+  lines[row.name] = QString("| %1 | %2 | %3 | %4 | %5%6 |")
+                        .arg(row.name, Figure(work, row.memory), Figure(limit, row.memory),
+                             QLocale().toString(work / limit, 'f', 2), aim, missed ? " **MISS**" : "");
 }
 
-void RunBeside(benchmark::State& run, double aim, const Sides& sides) {
+void RunBeside(benchmark::State& run, const Sides& sides) {
   std::vector<double> works, limits;
   for ([[maybe_unused]] auto _ : run) {
     sides.prepare();
@@ -42,12 +72,17 @@ void RunBeside(benchmark::State& run, double aim, const Sides& sides) {
     works.push_back(1e6 * SecondsOf(sides.work));
     run.SetIterationTime(works.back() / 1e6);
   }
-  Tell(run, aim, works, limits);
+  Tell(run, works, limits);
 }
 
 void Register(std::initializer_list<Row> rows) {
   for (const Row& row : rows) {
-    auto* added = benchmark::RegisterBenchmark(row.name, row.run)->UseManualTime();
+    order.push_back(row.name);
+    auto* added = benchmark::RegisterBenchmark(row.name, [row](benchmark::State& run) {
+      current = &row;
+      row.run(run);
+    });
+    added->UseManualTime();
     if (row.turns > 0) added->Iterations(row.turns);
   }
 }
@@ -67,4 +102,5 @@ int main(int argc, char** argv) {
   Bench::RegisterStarts();
   Bench::RegisterPeers();
   benchmark::RunSpecifiedBenchmarks();
+  return Bench::WriteTable() ? 0 : 1;
 }

@@ -73,14 +73,14 @@ void ReadBesideConverter(benchmark::State& run) {
                     }));
     run.SetIterationTime(works.back() / 1e6);
   }
-  Tell(run, 1, works, limits);
+  Tell(run, works, limits);
 }
 
 }  // namespace
 
 void RegisterPeers() {
   if (!Converter().isEmpty())
-    Register({{"DVBv5 di 20.000 servizi, e dvb-format-convert", ReadBesideConverter, 11}});
+    Register({{"DVBv5 di 20.000 servizi, e `dvb-format-convert`", 1, ReadBesideConverter, 11}});
 }
 
 }  // namespace Bench
