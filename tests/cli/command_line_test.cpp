@@ -112,7 +112,7 @@ TEST_F(CommandLine, RefusesWhatItDoesNotKnowInItalianAndDoesNothing) {
                 help.out.find("Options") == std::string::npos)
         << help.out;
   }
-  EXPECT_EQ(Run({"--version"}).out, "trovalis-cli 1.0.0\n");
+  EXPECT_EQ(Run({"--version"}).out, "trovalis-cli 1.1.0\n");
 }
 
 TEST_F(CommandLine, WhatCannotBeReadEndsWithThreeTheFilesNameAndTheReason) {
