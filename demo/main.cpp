@@ -127,7 +127,8 @@ class Session {
     const bool chosen = driver_->Choose("ApriFlashInput");
     Step("open demo flash",
          chosen && driver_->TextOf("Text1") == "Canali" && driver_->Cell(1, 0) == "0001" &&
-             !driver_->Cell(1, 1).isEmpty() && window_->windowTitle().contains(flash_),
+             !driver_->Cell(1, 1).isEmpty() &&
+             window_->windowTitle().contains(QDir::toNativeSeparators(flash_)),
          driver_->TextOf("UltimoRisultato") + "; first channel " + driver_->Cell(1, 1));
   }
 

@@ -5,6 +5,7 @@ SHOW_PACKAGES="xvfb xauth qt6-wayland"
 TEST_PACKAGES="libgtest-dev libbenchmark-dev poppler-utils"
 PACKAGE_CHECK_PACKAGES="lintian desktop-file-utils appstream xdotool"
 WINDOWS_PACKAGES="g++-mingw-w64-x86-64-posix googletest wine64"
+WINDOWS_WINDOW_PACKAGES="dpkg-dev ninja-build debian-archive-keyring nsis zip"
 CHECK_PACKAGES="clang libclang-rt-dev clang-format clang-tidy git python3"
 
 # need_packages NAME... - installs those that are missing, as root or through sudo; else says what to type.

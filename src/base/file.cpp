@@ -16,7 +16,8 @@ constexpr std::string_view TemporaryPrefix = ".trovalis-";
 constexpr std::size_t TemporaryDigits = 6;
 constexpr int MostTemporaries = 1000;
 
-constexpr const char* Separators = std::filesystem::path::preferred_separator == '/' ? "/" : "/\\";
+constexpr auto Separator = static_cast<char>(std::filesystem::path::preferred_separator);
+constexpr const char* Separators = Separator == '/' ? "/" : "/\\";
 
 Error Failure(const char* what, const std::string& path, int code) {
   return {std::string(what) + " " + FileName(path) + ": " + SystemReason(code), "", code};
@@ -70,7 +71,7 @@ int CreateTemporary(SystemFile& file, const std::string& folder, SystemFile::Rig
   static std::atomic<unsigned> number{ProgramNumber() << 6U};
   int code = EEXIST;
   for (int i = 0; code == EEXIST && i < MostTemporaries; ++i) {
-    code = file.Create(folder + "/" + TemporaryName(number++), rights);
+    code = file.Create(PathIn(folder, TemporaryName(number++)), rights);
   }
   return code;
 }
@@ -127,6 +128,12 @@ std::string FileName(std::string_view path) {
 std::string FolderOf(std::string_view path) {
   const std::size_t separator = path.find_last_of(Separators);
   return separator == std::string_view::npos ? "." : std::string(path.substr(0, separator + 1));
+}
+
+std::string PathIn(std::string_view folder, std::string_view name) {
+  std::string path(folder);
+  if (path.empty() || path.find_last_of(Separators) != path.size() - 1) path += Separator;
+  return path.append(name);
 }
 
 Result<std::uint64_t> FileSize(const std::string& path) {

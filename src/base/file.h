@@ -22,6 +22,9 @@ inline constexpr int NotAFile = -1;
 std::string FileName(std::string_view path);
 std::string FolderOf(std::string_view path);
 
+// The path of `name` in `folder`, which may end with a separator; the one put between them is the system's, as paths are shown.
+std::string PathIn(std::string_view folder, std::string_view name);
+
 // Where writing to `path` really goes: symbolic links are followed. `path` itself where nothing can be
 // resolved.
 std::string ResolvedPath(const std::string& path);

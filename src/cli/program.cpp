@@ -1,5 +1,6 @@
 #include "cli/program.h"
 
+#include "base/file.h"
 #include "support/bouquets_txt.h"
 #include "support/sr_ini.h"
 
@@ -17,13 +18,15 @@ std::string FolderOf(const Options& options, const Support::ProgramFolder& found
 bool LoadSupport(Work& work) {
   const auto place = work.options.rate22000 == 0 ? Routines::Sr22000::Come0 : Routines::Sr22000::Come2;
   const auto rates = Support::CaricaTabelleSR(work.folder, place);
-  if (!rates) return work.console.Fail(Exit::Unreadable, work.folder + "/SR.INI", rates.error().message);
+  if (!rates)
+    return work.console.Fail(Exit::Unreadable, Base::PathIn(work.folder, "SR.INI"), rates.error().message);
   work.rates = rates->table;
   work.missingRates = !rates->missing.empty();
   if (work.missingRates) work.console.Note(rates->missing);
   auto bouquets = Support::LoadBouquets(work.folder);
   work.bouquets = std::move(bouquets.tables);
-  for (const std::string& error : bouquets.errors) work.console.Note(work.folder + "/Bouquets.txt", error);
+  for (const std::string& error : bouquets.errors)
+    work.console.Note(Base::PathIn(work.folder, "Bouquets.txt"), error);
   return true;
 }
 

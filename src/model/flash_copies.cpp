@@ -79,7 +79,7 @@ Base::Result<std::string> KeepCopy(const std::string& folder, const std::string&
     highest = std::max(highest, copy.number);
     firstTaken = firstTaken || copy.number == 1;
     const std::string name = NameOf(target, copy.number);
-    if (!copy.file || copy.size != bytes.size() || !Holds(folder + "/" + name, bytes)) continue;
+    if (!copy.file || copy.size != bytes.size() || !Holds(Base::PathIn(folder, name), bytes)) continue;
     std::error_code error;
     std::filesystem::last_write_time(copy.path, file_time_type::clock::now(), error);
     return name;
@@ -87,10 +87,10 @@ Base::Result<std::string> KeepCopy(const std::string& folder, const std::string&
   // What could not be listed may be there all the same.
   for (int number = firstTaken ? highest + 1 : 1;; ++number) {
     const std::string name = NameOf(target, number);
-    const auto taken = Base::FileSize(folder + "/" + name);
+    const auto taken = Base::FileSize(Base::PathIn(folder, name));
     if (taken || taken.error().systemCode == EISDIR || taken.error().systemCode == Base::NotAFile) continue;
     if (taken.error().systemCode != ENOENT) return taken.error();
-    const auto kept = Base::ReplaceFile(folder + "/" + name, bytes, target);
+    const auto kept = Base::ReplaceFile(Base::PathIn(folder, name), bytes, target);
     if (!kept) return kept.error();
     return name;
   }

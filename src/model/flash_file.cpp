@@ -66,7 +66,7 @@ Base::Result<Saved> PutInPlace(const std::string& target, Base::ByteView before,
     const auto kept = BackUp(target, before, backups);
     if (!kept) return kept.error();
     folder = kept->folder;
-    saved.copy = folder == Base::FolderOf(target) ? kept->name : folder + "/" + kept->name;
+    saved.copy = folder == Base::FolderOf(target) ? kept->name : Base::PathIn(folder, kept->name);
   }
   const auto written = Overwrite(target, before, after, backups, saved, lastLook);
   // A failed attempt does not count: the file may hold something else by the next one.

@@ -84,7 +84,7 @@ class Reader {
 BouquetDefinitions BouquetsOf(std::string_view text) { return Reader().Run(Base::FromMarkedUtf8(text)); }
 
 BouquetDefinitions LoadBouquets(const std::string& folder) {
-  const auto bytes = Base::ReadFile(folder + "/Bouquets.txt", SizeLimit);
+  const auto bytes = Base::ReadFile(Base::PathIn(folder, "Bouquets.txt"), SizeLimit);
   if (bytes) return BouquetsOf(Base::AsText(*bytes));
   BouquetDefinitions none;
   if (bytes.error().systemCode != ENOENT) none.errors.push_back(bytes.error().message);

@@ -10,10 +10,10 @@ namespace {
 
 constexpr std::size_t SizeLimit = 1U << 20U;
 
-std::string PathIn(const std::string& programFolder) { return programFolder + "/POS.ini"; }
+std::string PathOf(const std::string& programFolder) { return Base::PathIn(programFolder, "POS.ini"); }
 
 std::string ReadText(const std::string& programFolder) {
-  const auto bytes = Base::ReadFile(PathIn(programFolder), SizeLimit);
+  const auto bytes = Base::ReadFile(PathOf(programFolder), SizeLimit);
   return bytes ? std::string(Base::AsText(*bytes)) : std::string();
 }
 
@@ -56,7 +56,7 @@ void SaveFolderOf(const std::string& programFolder, FolderKind kind, const std::
   // Most files come from where the last one did, and a flush to the disk is what a user would wait for.
   if (folders == FoldersOf(text)) return;
   // Nothing to be done where it cannot be written: the next dialog opens in its default folder.
-  static_cast<void>(Base::ReplaceFile(PathIn(programFolder), Base::AsBytes(PosIniOf(folders))));
+  static_cast<void>(Base::ReplaceFile(PathOf(programFolder), Base::AsBytes(PosIniOf(folders))));
 }
 
 }  // namespace Support

@@ -32,16 +32,17 @@ bool Copy(const std::string& from, const std::string& to) {
 
 ProgramFolder FindProgramFolder(const ProgramPlaces& places) {
   // Each of the two programs may be installed alone.
-  const std::string both = places.executable + "/../share/trovalis";
+  const std::string both =
+      Base::PathIn(Base::PathIn(Base::PathIn(places.executable, ".."), "share"), "trovalis");
   const std::string shipped = Exists(both) ? both : both + "-cli";
   const bool installed = Exists(shipped);
   if (!installed && places.writable) return {places.executable, {}};
-  return {places.data + "/trovalis", installed ? shipped : places.executable};
+  return {Base::PathIn(places.data, "trovalis"), installed ? shipped : places.executable};
 }
 
 bool HasSupportFiles(const std::string& folder) {
   return std::any_of(SupportFiles.begin(), SupportFiles.end(),
-                     [&folder](const char* name) { return Exists(folder + "/" + name); });
+                     [&folder](const char* name) { return Exists(Base::PathIn(folder, name)); });
 }
 
 void FillProgramFolder(const std::string& shipped, const std::string& folder) {
@@ -52,18 +53,19 @@ void FillProgramFolder(const std::string& shipped, const std::string& folder) {
   names.insert(names.end(), Demos.begin(), Demos.end());
   std::vector<std::string> copied;
   for (const std::string& name : names) {
-    const std::string from = shipped + "/" + name;
+    const std::string from = Base::PathIn(shipped, name);
     if (!Exists(from)) continue;
-    if (!Copy(from, folder + "/" + name)) {
+    if (!Copy(from, Base::PathIn(folder, name))) {
       // On a full disk nothing is better than a part, which the next start would take for what the user wants.
-      for (const std::string& part : copied) std::filesystem::remove(SystemPath(folder + "/" + part), error);
+      for (const std::string& part : copied)
+        std::filesystem::remove(SystemPath(Base::PathIn(folder, part)), error);
       return;
     }
     copied.push_back(name);
   }
   if (std::find(copied.begin(), copied.end(), Demo) == copied.end()) return;
   for (const auto kind : {FolderKind::Input, FolderKind::Foreign})
-    SaveFolderOf(folder, kind, folder + "/" + Demo);
+    SaveFolderOf(folder, kind, Base::PathIn(folder, Demo));
 }
 
 }  // namespace Support

@@ -14,7 +14,7 @@ std::vector<std::string> AddressesOf(std::string_view text) {
 }
 
 Base::Result<std::vector<std::string>> LoadAddresses(const std::string& folder) {
-  const std::string path = folder + "/SDX.INI";
+  const std::string path = Base::PathIn(folder, "SDX.INI");
   const auto bytes = Base::ReadFile(path, 1U << 20U);
   if (!bytes && bytes.error().systemCode == ENOENT) return Base::Error{"File SDX.INI non trovato: " + path};
   if (!bytes) return bytes.error();

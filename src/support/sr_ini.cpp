@@ -43,7 +43,7 @@ Base::Result<std::string> SymbolRatesOf(std::string_view text, Routines::Sr22000
 }
 
 Base::Result<SymbolRates> CaricaTabelleSR(const std::string& folder, Routines::Sr22000 place) {
-  const std::string path = folder + "/SR.INI";
+  const std::string path = Base::PathIn(folder, "SR.INI");
   const auto bytes = Base::ReadFile(path, SizeLimit);
   const auto table = SymbolRatesOf(bytes ? Base::AsText(*bytes) : std::string_view{}, place);
   if (!table) return table.error();

@@ -54,7 +54,7 @@ void TellFatal(QtMsgType type, const QMessageLogContext& context, const QString&
 }
 
 // Whoever has typed the file's name reads at once why it is no image; a window without a terminal says so in a box.
-bool RefusedOnTerminal(const std::string& path) {
+bool RefusedOnTerminal([[maybe_unused]] const std::string& path) {
 #ifdef Q_OS_UNIX
   const auto looks = Routines::LooksLikeFlash(path, {});
   if (looks || ::isatty(STDERR_FILENO) != 1) return false;

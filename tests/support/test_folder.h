@@ -28,7 +28,8 @@ class TestFolder {
   TestFolder& operator=(const TestFolder&) = delete;
 
   [[nodiscard]] std::string Path(std::string_view name = {}) const {
-    return name.empty() ? path_ : path_ + "/" + std::string(name);
+    constexpr auto Separator = static_cast<char>(std::filesystem::path::preferred_separator);
+    return name.empty() ? path_ : path_ + Separator + std::string(name);
   }
   // Writes a file that anybody may read and write and returns its path.
   std::string Write(std::string_view name, Base::ByteView bytes) const {

@@ -72,7 +72,7 @@ KeptWork::~KeptWork() { writer_.waitForDone(); }
 
 std::string KeptWork::PathOf(int number) const {
   const std::string suffix = number == 1 ? "" : "-" + std::to_string(number);
-  return session_.programFolder + "/trovalis" + suffix + ".recupero";
+  return Base::PathIn(session_.programFolder, "trovalis" + suffix + ".recupero");
 }
 
 QString KeptWork::FileAndTime(int number) const {

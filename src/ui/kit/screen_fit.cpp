@@ -54,7 +54,10 @@ void Fit(QDialog& dialog) {
 
 }  // namespace
 
-int Letters(const QWidget& widget, int count) { return widget.fontMetrics().averageCharWidth() * count; }
+// Where there is no font at all letters have no width, which widths are in proportion to.
+int Letters(const QWidget& widget, int count) {
+  return std::max(widget.fontMetrics().averageCharWidth(), 1) * count;
+}
 
 void ResizeOnScreen(QWidget& window, QSize usual) {
   constexpr double UsualHeight = 15;  // of a line of text

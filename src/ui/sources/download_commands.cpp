@@ -104,8 +104,8 @@ Base::Outcome DownloadCommands::KeepOldList() {
   const auto copy = Routines::KeepCopy(folder, target, *old);
   if (!copy) return copy.error();
   OldList& known = oldLists_[target];
-  const bool madeEarlier = known.made && known.copy == folder + *copy;
-  known = {folder + *copy, madeEarlier || !before.contains(PathText(*copy))};
+  const bool madeEarlier = known.made && known.copy == Base::PathIn(folder, *copy);
+  known = {Base::PathIn(folder, *copy), madeEarlier || !before.contains(PathText(*copy))};
   return Base::Done{};
 }
 

@@ -38,7 +38,7 @@ int SatelliteIn(const QComboBox& box) { return box.currentText().back().unicode(
 
 RowFilters FiltersOf(const Session& session) {
   RowFilters filters;
-  const auto text = Base::ReadFile(session.programFolder + "/Filtri.txt", LargestFilterList);
+  const auto text = Base::ReadFile(Base::PathIn(session.programFolder, "Filtri.txt"), LargestFilterList);
   if (text) filters.filtered = Formats::FilteredServices(Base::AsText(*text));
   for (const Formats::KnownService& known : Formats::KnownServices(session.document.Tables()))
     filters.known.insert(known.service);

@@ -52,6 +52,7 @@ TEST_F(Exchange, NoExportGoesIntoAFlashOfTheList) {
   EXPECT_TRUE(Contents(flash_) == images[0] && Contents(output) == images[1]);
 }
 
+#ifndef _WIN32
 TEST_F(Exchange, RawRecordsComeFromTheFlashOnTheDisk) {
   Delete(1, 1);
   {
@@ -83,6 +84,7 @@ TEST_F(Exchange, RawRecordsComeFromTheFlashOnTheDisk) {
   Tells("FormatoFLASH", "Impossibile leggere lista.dat: il file o la cartella non esiste",
         "Errore FLASH di Input");
 }
+#endif
 
 TEST_F(Exchange, SpreadsheetsGetTheListShownOrItsSelectedRows) {
   const std::string path = folder_.Path("lista.csv");

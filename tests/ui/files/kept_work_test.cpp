@@ -170,6 +170,7 @@ TEST_F(KeptWorkWindow, TwoProgramsHaveAFileEach) {
   EXPECT_TRUE(std::filesystem::exists(folder_.Path("trovalis-2.recupero")));
 }
 
+#ifndef _WIN32
 TEST_F(KeptWorkWindow, WhatCannotBeKeptIsToldAndAskedAboutOnlyAtTheEnd) {
   const std::string text = folder_.Path("lista.txt");
   Export("FormatoTesto", text);
@@ -210,6 +211,7 @@ TEST_F(KeptWorkWindow, WhatCannotBeKeptIsToldAndAskedAboutOnlyAtTheEnd) {
   EXPECT_TRUE(
       QTest::qWaitFor([&] { return driver_->TextOf("ModificheNonSalvate") == "Modifiche non salvate"; }));
 }
+#endif
 
 TEST_F(KeptWorkWindow, AMalformedSrIniEndsTheProgramWithTheWorkKept) {
   Delete(1, 1);
