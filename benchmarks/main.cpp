@@ -30,7 +30,8 @@ std::map<QString, QString> lines;  // of the table, by name; a row is run until 
 QString Figure(double value, bool memory) {
   if (memory) return QLocale().toString(value / 1024, 'f', 1) + " MB";
   if (value < 1000) return QLocale().toString(value, 'f', value < 100 ? 1 : 0) + " µs";
-  return QLocale().toString(value / 1000, 'f', value < 1e5 ? 2 : 0) + " ms";
+  if (value < 1e6) return QLocale().toString(value / 1000, 'f', value < 1e5 ? 2 : 0) + " ms";
+  return QLocale().toString(value / 1e6, 'f', 2) + " s";
 }
 
 }  // namespace
