@@ -1,5 +1,5 @@
 ; The installer, for one user and without administrator rights. packaging/windows/build calls it:
-;   makensis -DVERSION=1.0.0 -DFOLDER=the portable folder -DICON=trovalis.ico -DOUTPUT=trovalis-1.0.0-setup.exe
+;   makensis -DVERSION=… -DFOLDER=the folder to install -DFILES=removals.nsh -DICON=trovalis.ico -DKILOBYTES=… -DOUTPUT=…-setup.exe
 ; Programs and what they read lie in folders of their own, as on other systems, so that a user's files are never among them.
 ; /S asks and shows nothing, /D=C:\folder (last, without quotes) puts it elsewhere.
 Unicode true
