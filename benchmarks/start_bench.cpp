@@ -1,6 +1,5 @@
-// From the start of the process to the first picture, beside the same look with nothing behind it and beside an empty window with
-// a table; and a command without a window,
-// beside one that reads the same file.
+// From the start of the process to the first picture, beside the same look with nothing behind it and beside an empty window
+// with a table; and a command without a window, beside one that reads the same file.
 #include "beside.h"
 #include "full_list.h"
 

@@ -1,5 +1,5 @@
-// The toolkit's preview of what is printed, with all that it wants of the program. It has the toolkit's printing behind it, which
-// is a part that comes late.
+// The toolkit's preview of what is printed, with all that it wants of the program. It is a part that comes late, as the
+// toolkit's printing is behind it.
 #pragma once
 
 #include <QIcon>

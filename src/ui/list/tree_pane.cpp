@@ -65,6 +65,11 @@ void TreePane::Build() {
   column->setSpacing(3);
   column->addLayout(head);
   column->addWidget(tree_, 1);
+  // The keys come to both where the pane has its place, not behind everything that was made before them.
+  setFocusPolicy(Qt::TabFocus);
+  setTabOrder(this, tree_);
+  setTabOrder(tree_, &head->Close());
+  setFocusPolicy(Qt::NoFocus);
 }
 
 void TreePane::setVisible(bool visible) {

@@ -24,11 +24,11 @@ class Download {
   Download& operator=(const Download&) = delete;
   virtual ~Download() = default;
 
-  // Bytes so far, and in all where the server says so, else -1.
-  std::function<void(qint64 received, qint64 total)> onProgress;
+  // Both are set before Start(). Bytes so far, and in all where the server says so, else -1.
+  std::function<void(qint64 received, qint64 total)> onProgress = [](qint64, qint64) {};
   // The end of every transfer but a cancelled one. `good` means that the whole reply came without an error; else
   // Reason() says what went wrong.
-  std::function<void(bool good, const QByteArray& reply)> onFinished;
+  std::function<void(bool good, const QByteArray& reply)> onFinished = [](bool, const QByteArray&) {};
 
   [[nodiscard]] virtual bool Running() const = 0;
   // Begins a GET of an http or https address, following redirects that are no less safe. Not while one is running.

@@ -53,7 +53,6 @@ std::optional<QByteArray> Fetch(const QString& address, const Download::Limits& 
   EXPECT_TRUE(download) << download.error().message;
   std::optional<QByteArray> whole;
   bool ended = false;
-  (*download)->onProgress = [](qint64, qint64) {};
   (*download)->onFinished = [&](bool good, const QByteArray& reply) {
     ended = true;
     if (good) whole = reply;

@@ -40,6 +40,7 @@ TEST_F(Trees, ShareTheirPlaceWithTheSdxPane) {
     return Beside();
   };
   EXPECT_EQ(Beside(), "TreeView1");
+  EXPECT_EQ(bouquets_->parentWidget()->nextInFocusChain(), bouquets_) << "the keys come to it last of all";
   for (const QString& step :
        QString("VisualizzaCanali= VisualizzaCanali=TreeView1 VisualizzaTransponder= VediSDX=GrigliaSDX "
                "VisualizzaCanali=GrigliaSDX VediSDX=TreeView2 VediSDX=GrigliaSDX VisualizzaBouquet=TreeView2 "
