@@ -34,8 +34,6 @@ QString Figure(double value, bool memory) {
   return QLocale().toString(value / 1e6, 'f', 2) + " s";
 }
 
-}  // namespace
-
 bool WriteTable() {
   QFile file("tabella.md");
   if (!file.open(QFile::WriteOnly)) return false;
@@ -44,6 +42,8 @@ bool WriteTable() {
     if (lines.contains(name)) file.write((lines[name] + '\n').toUtf8());
   return file.flush();
 }
+
+}  // namespace
 
 double SecondsOf(const std::function<void()>& work) {
   const auto start = std::chrono::steady_clock::now();
