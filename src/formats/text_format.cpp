@@ -113,8 +113,8 @@ std::string TransponderText(const State& state, const TransponderRow& row, int n
   Base::Put(line, TransponderLine::Satellite, SatelliteLabel(record).substr(4));
   line.resize(TransponderLine::Bouquet.first - 1, ' ');
   AppendHarmless(line, row.BouquetName(), EndsLine);
-  // "Auto" is one letter longer than its column and pushes everything behind it one place to the right. Lists have
-  // been exchanged that way for years, and the readers of others expect it.
+  // "Auto" is one letter longer than its column and pushes everything behind it one place to the right: other
+  // programs that read such files expect it there.
   line.replace(TransponderLine::Fec.first - 1, TransponderLine::Fec.width, FecText(record));
   return line + LineEnd;
 }
@@ -167,8 +167,8 @@ int CountIn(std::string_view line, const Column& column, int most) {
   return Base::LeadingCount(Cut(line, column), most);
 }
 
-// The coding column is written in hexadecimal and read digit by digit as decimal, letters as 0: that is how lists have
-// always been taken in, and "A4" alone was ever added to it. A channel that is not active loses its coding.
+// The coding column is written in hexadecimal and read digit by digit as decimal, letters as 0 and "A4" apart. A channel
+// that is not active loses its coding.
 std::uint32_t CodingTaken(std::string_view coding, bool active) {
   if (!active) return 0;
   if (coding == "A4") return 0xA4;

@@ -40,16 +40,27 @@ std::optional<QString> FileIn(QStringList arguments) {
   return arguments.value(1);
 }
 
-// The toolkit ends the program with a heap of words where it finds no display.
-void TellFatal(QtMsgType type, const QMessageLogContext& context, const QString& text) {
+// What the toolkit has to say while it looks for a display.
+QString& SaidAtStart() {
+  static QString said;
+  return said;
+}
+
+bool NoDisplay() {
+  return SaidAtStart().contains("could not connect to display") || SaidAtStart().contains("wl_display");
+}
+
+// Where it finds none it ends the program with a heap of words, of which one sentence is enough.
+void HearStart(QtMsgType type, const QMessageLogContext& context, const QString& text) {
   if (type != QtFatalMsg) {
-    std::fputs(qPrintable(qFormatLogMessage(type, context, text) + "\n"), stderr);
+    SaidAtStart() += qFormatLogMessage(type, context, text) + '\n';
     return;
   }
-  std::fputs(
-      "trovalis: manca uno schermo su cui aprire la finestra (DISPLAY o WAYLAND_DISPLAY); senza finestra c'è "
-      "trovalis-cli\n",
-      stderr);
+  std::fputs(NoDisplay()
+                 ? "trovalis: manca uno schermo su cui aprire la finestra (DISPLAY o WAYLAND_DISPLAY); senza "
+                   "finestra c'è trovalis-cli\n"
+                 : qPrintable(SaidAtStart() + text + '\n'),
+             stderr);
   std::_Exit(1);
 }
 
@@ -71,9 +82,10 @@ int main(int argc, char** argv) {
   if (const char* answer = argc == 2 ? AnswerTo(argv[1]) : ""; *answer != '\0')
     return std::fputs(answer, stdout) < 0 ? 1 : 0;
   Ui::PrepareToolkit();
-  qInstallMessageHandler(TellFatal);
+  qInstallMessageHandler(HearStart);
   QApplication application(argc, argv);
   qInstallMessageHandler(nullptr);
+  std::fputs(qPrintable(SaidAtStart()), stderr);
   const auto file = FileIn(QApplication::arguments());
   if (!file) {
     std::fputs(Help, stderr);
