@@ -332,11 +332,15 @@ class Play {
     if (fault_.empty()) fault_ = Fault();
   }
 
-  // A list that counts as saved comes back from the image written last, or from the one opened.
+  // A list that counts as saved comes back from the image written last, or from the one opened; or from another one, as
+  // a flash without anything that is appended changes nothing.
   [[nodiscard]] std::string SavedFault() const {
     const State& list = Tables();
     if (!list.Loaded || window_->List().Unsaved()) return {};
-    for (const std::string& path : {list.OutputFlash, list.InputFlash}) {
+    std::vector<std::string> paths = {list.OutputFlash, list.InputFlash};
+    for (const auto& file : std::filesystem::directory_iterator(folder_.Path()))
+      if (file.path().extension() == ".dat") paths.push_back(file.path().string());
+    for (const std::string& path : paths) {
       const auto image = path.empty() ? Base::Error{} : Routines::ReadFlash(path, "");
       const auto again = std::make_unique<State>();
       if (image) LoadFlash(*again, *image, list.ChannelCount, 0, {});
