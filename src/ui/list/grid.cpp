@@ -3,6 +3,7 @@
 #include "ui/kit/screen_fit.h"
 #include "ui/kit/text.h"
 #include "ui/list/row_look.h"
+#include "ui/list/title_header.h"
 
 #include <QContextMenuEvent>
 #include <QDrag>
@@ -19,16 +20,6 @@
 
 namespace Ui {
 namespace {
-
-QString HeaderStyle(const QPalette& palette) {
-  const RowLook& look = RowLook::OfProgram();
-  return QString(
-             "QHeaderView::section { background-color: %1; color: %2; padding: 3px 4px;"
-             " border: 0; border-right: 1px solid %3; border-bottom: 1px solid %3; }")
-      .arg(look.Ground(ToColor(Colours::Header), palette).name(),
-           (look.Soft() ? palette.color(QPalette::Text) : TextOn(Colours::Header)).name(),
-           look.Mark(QColor(0x7f, 0xb9, 0x7f), palette).name());
-}
 
 // The numbers, with a mark at the edge of the rows that the filter finds, and a tick on those that the channel list has.
 class NumberDelegate : public RowDelegate {
@@ -70,36 +61,14 @@ class NumberDelegate : public RowDelegate {
   }
 };
 
-// A title that is wider than its column keeps its beginning: in the middle it would lose both its ends.
-class TitleHeader : public QHeaderView {
- public:
-  TitleHeader(QWidget* parent, const Grid& grid) : QHeaderView(Qt::Horizontal, parent), grid_(grid) {
-    setSectionsClickable(true);
-  }
-
- protected:
-  void initStyleOptionForIndex(QStyleOptionHeader* option, int column) const override {
-    QHeaderView::initStyleOptionForIndex(option, column);
-    const int margin = style()->pixelMetric(QStyle::PM_HeaderMargin, option, this);
-    option->text = fontMetrics().elidedText(grid_.SortMark(column) + option->text, Qt::ElideRight,
-                                            sectionSize(column) - 2 * margin);
-  }
-
- private:
-  const Grid& grid_;
-};
-
 }  // namespace
 
 Grid::Grid(QWidget* parent, int frozen)
     : QTableView(parent),
       frozenColumns_(frozen),
-      frozen_(new QTableView(this)),
       dropLine_(new QWidget(this)),
       letters_(Letters(*this, 100)) {
   SetUp(*this);
-  SetUp(*frozen_);
-  connect(&RowLook::OfProgram(), &RowLook::Changed, this, &Grid::ColourHeaders);
   setHorizontalScrollMode(ScrollPerPixel);
   horizontalHeader()->setSectionResizeMode(QHeaderView::Interactive);
   connect(horizontalHeader(), &QHeaderView::sectionResized, this,
@@ -122,22 +91,7 @@ Grid::Grid(QWidget* parent, int frozen)
   setDragDropMode(DragDrop);
   setDragDropOverwriteMode(false);
   setDefaultDropAction(Qt::MoveAction);
-
-  frozen_->setObjectName("ColonnaFissa");
-  frozen_->setFocusPolicy(Qt::NoFocus);
-  frozen_->setAttribute(Qt::WA_TransparentForMouseEvents);  // its rows are those of the grid below it
-  frozen_->setFrameShape(NoFrame);
-  frozen_->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-  frozen_->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-  frozen_->hide();
-  connect(verticalScrollBar(), &QScrollBar::valueChanged, frozen_->verticalScrollBar(),
-          &QScrollBar::setValue);
-  connect(frozen_->verticalScrollBar(), &QScrollBar::valueChanged, this, [this](int row) {
-    if (frozen_->isVisible()) verticalScrollBar()->setValue(row);
-  });
   connect(horizontalScrollBar(), &QScrollBar::valueChanged, this, &Grid::ShowFrozen);
-  viewport()->stackUnder(frozen_);
-  horizontalHeader()->stackUnder(frozen_);
 }
 
 void Grid::SetUp(QTableView& view) {
@@ -145,7 +99,6 @@ void Grid::SetUp(QTableView& view) {
   view.verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
   view.verticalHeader()->setDefaultSectionSize(fontMetrics().height() + 6);
   view.setHorizontalHeader(new TitleHeader(&view, *this));
-  view.horizontalHeader()->setStyleSheet(HeaderStyle(palette()));
   view.horizontalHeader()->setSectionResizeMode(QHeaderView::Fixed);
   view.horizontalHeader()->setHighlightSections(false);
   view.setItemDelegate(new RowDelegate(&view));
@@ -165,7 +118,7 @@ void Grid::ShowList(TableModel* list) {
     ShowOnly(std::nullopt);
     const std::unique_ptr<QItemSelectionModel> oldSelection(selectionModel());
     setModel(list);
-    if (frozen_->model() != nullptr) frozen_->setModel(nullptr);  // until it is shown
+    if (frozen_ != nullptr && frozen_->model() != nullptr) frozen_->setModel(nullptr);  // until it is shown
   }
   ReadHeader();
   HideColumns();
@@ -262,10 +215,27 @@ void Grid::currentChanged(const QModelIndex& current, const QModelIndex& previou
   Q_EMIT CurrentMoved();
 }
 
+void Grid::MakeFrozen() {
+  frozen_ = new QTableView(this);
+  SetUp(*frozen_);
+  frozen_->setObjectName("ColonnaFissa");
+  frozen_->setFocusPolicy(Qt::NoFocus);
+  frozen_->setAttribute(Qt::WA_TransparentForMouseEvents);  // its rows are those of the grid below it
+  frozen_->setFrameShape(NoFrame);
+  frozen_->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+  frozen_->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+  connect(verticalScrollBar(), &QScrollBar::valueChanged, frozen_->verticalScrollBar(),
+          &QScrollBar::setValue);
+  connect(frozen_->verticalScrollBar(), &QScrollBar::valueChanged, this, [this](int row) {
+    if (frozen_->isVisible()) verticalScrollBar()->setValue(row);
+  });
+}
+
 // It stands over the grid only while the grid's own first column is out of view: the toolkit moves the picture of a
 // view that is scrolled, but paints every cell of one that something stands over.
 void Grid::ShowFrozen(int sideways) {
-  if (frozen_->isHidden() == (sideways == 0)) return;
+  if (IsFrozen() == (sideways != 0)) return;
+  if (frozen_ == nullptr) MakeFrozen();
   frozen_->setVisible(sideways != 0);
   if (sideways == 0) return;
   if (frozen_->model() != model()) {
@@ -290,6 +260,7 @@ int Grid::FrozenWidth() const {
 }
 
 void Grid::PlaceFrozen() {
+  if (frozen_ == nullptr) return;
   for (int column = 0; column < frozenColumns_; ++column)
     frozen_->setColumnWidth(column, columnWidth(column));
   const int header = horizontalHeader()->height();
@@ -307,23 +278,11 @@ void Grid::showEvent(QShowEvent* event) {
   FitColumns();
 }
 
-void Grid::ColourHeaders() {
-  for (const QTableView* view :
-       {static_cast<const QTableView*>(this), static_cast<const QTableView*>(frozen_)})
-    view->horizontalHeader()->setStyleSheet(HeaderStyle(palette()));
-}
-
 void Grid::changeEvent(QEvent* event) {
   QTableView::changeEvent(event);
-  if (event->type() == QEvent::PaletteChange && RowLook::OfProgram().Soft() && frozen_ != nullptr)
-    ColourHeaders();
   if (event->type() != QEvent::FontChange && event->type() != QEvent::StyleChange) return;
   for (QTableView* view : {static_cast<QTableView*>(this), frozen_}) {
-    if (view == nullptr) continue;
-    // What has a style sheet of its own takes no other's letters, nor does what it is drawn on.
-    view->horizontalHeader()->setFont(font());
-    view->horizontalHeader()->viewport()->setFont(font());
-    view->verticalHeader()->setDefaultSectionSize(fontMetrics().height() + 6);
+    if (view != nullptr) view->verticalHeader()->setDefaultSectionSize(fontMetrics().height() + 6);
   }
   FollowLetters();
 }

@@ -117,7 +117,6 @@ class Grid : public QTableView {
   static constexpr int AlwaysShown = 2;  // columns
 
   void SetUp(QTableView& view);
-  void ColourHeaders();
   [[nodiscard]] const TableModel* List() const { return static_cast<const TableModel*>(model()); }
   [[nodiscard]] QItemSelection SelectionOf(const Edit::Slots& rows) const;
   [[nodiscard]] int ShownNear(int row) const;
@@ -136,15 +135,17 @@ class Grid : public QTableView {
   [[nodiscard]] std::vector<int> SharedWidths() const;
   void FitColumns();
   void KeepWidth(int column, int width);
+  [[nodiscard]] bool IsFrozen() const { return frozen_ != nullptr && !frozen_->isHidden(); }
+  void MakeFrozen();
   void ShowFrozen(int sideways);
   void PlaceFrozen();
   [[nodiscard]] int FrozenWidth() const;
 
   int frozenColumns_;
-  QTableView* frozen_;                             // the first columns, on the same model
-  QWidget* dropLine_;                              // where dragged rows would land, across all columns
-  std::vector<int> widths_;                        // of the columns without the spare width
-  int letters_;                                    // how wide some of them were when the widths were given
+  QTableView* frozen_ = nullptr;  // the first columns, on the same model, once they were wanted
+  QWidget* dropLine_;             // where dragged rows would land, across all columns
+  std::vector<int> widths_;       // of the columns without the spare width
+  int letters_;                   // how wide some of them were when the widths were given
   std::map<const TableModel*, ColumnWidths> own_;  // columns that take no part of it
   std::map<const TableModel*, ColumnSet> hidden_;
   std::optional<RowOrder> order_;

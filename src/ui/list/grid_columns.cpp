@@ -75,7 +75,7 @@ void Grid::HideColumns() {
 // In front of the columns that are scrolled away stand those that are fixed.
 void Grid::AskForColumnMenu(QPoint place) {
   const QHeaderView& header =
-      frozen_->isVisible() && place.x() < FrozenWidth() ? *frozen_->horizontalHeader() : *horizontalHeader();
+      IsFrozen() && place.x() < FrozenWidth() ? *frozen_->horizontalHeader() : *horizontalHeader();
   const int column = header.logicalIndexAt(place);
   if (column >= 0) Q_EMIT ColumnMenuWanted(column, horizontalHeader()->mapToGlobal(place));
 }

@@ -51,7 +51,7 @@ QString Grid::SortMark(int column) const {
 
 void Grid::Arrange() {
   ArrangeRowsOf(*this);
-  if (frozen_->isVisible()) ArrangeRowsOf(*frozen_);
+  if (IsFrozen()) ArrangeRowsOf(*frozen_);
 }
 
 // What the order says; of the columns in front, what the grid shows, which lets a row that has just been edited stay

@@ -177,7 +177,7 @@ void Grid::ShowOnly(std::optional<Edit::Slots> rows) {
   const bool others = rows.has_value() != only_.has_value();
   only_ = std::move(rows);
   HideRowsOf(*this);
-  if (frozen_->isVisible()) HideRowsOf(*frozen_);
+  if (IsFrozen()) HideRowsOf(*frozen_);
   LeaveHiddenRows();
   if (others) scrollTo(currentIndex());
 }

@@ -1,6 +1,7 @@
 #include "ui/sources/download_frame.h"
 
 #include "ui/kit/blank_entries.h"
+#include "ui/session/control_tips.h"
 
 #include <QComboBox>
 #include <QHBoxLayout>
@@ -12,6 +13,11 @@ namespace Ui {
 
 DownloadFrame::DownloadFrame(QWidget* parent) : QGroupBox("File SDX da scaricare", parent) {
   setObjectName("FinestraSDX");
+  hide();
+}
+
+// At its first use: most sessions have none.
+void DownloadFrame::Fill() {
   addresses_ = new QComboBox(this);
   addresses_->setObjectName("Combo3");
   addresses_->setAccessibleName(title());
@@ -33,10 +39,11 @@ DownloadFrame::DownloadFrame(QWidget* parent) : QGroupBox("File SDX da scaricare
   row->addWidget(addresses_, 1);
   row->addWidget(fetch);
   row->addWidget(cancel);
-  hide();
+  ShowTips(*this);
 }
 
 void DownloadFrame::Ask(const QStringList& addresses) {
+  if (addresses_ == nullptr) Fill();
   addresses_->clear();
   addresses_->addItems(addresses);
   NameBlankEntries(*addresses_);

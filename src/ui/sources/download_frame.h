@@ -20,7 +20,9 @@ class DownloadFrame : public QGroupBox {
   void Chosen(const QString& address);
 
  private:
-  QComboBox* addresses_;
+  void Fill();
+
+  QComboBox* addresses_ = nullptr;
 };
 
 }  // namespace Ui

@@ -13,6 +13,8 @@ namespace Ui {
 ErrorPane::ErrorPane(const std::vector<std::string>& errors, QWidget* parent)
     : QGroupBox("Errori di caricamento Bouquets", parent) {
   setObjectName("FrameErrori");
+  setVisible(!errors.empty());
+  if (errors.empty()) return;
   auto* list = new QListWidget(this);
   list->setObjectName("ListaErrori");
   list->setAccessibleName(title());
@@ -26,7 +28,6 @@ ErrorPane::ErrorPane(const std::vector<std::string>& errors, QWidget* parent)
   row->addWidget(list, 1);
   row->addWidget(close, 0, Qt::AlignTop);
   setMaximumHeight(160);
-  setVisible(!errors.empty());
 }
 
 }  // namespace Ui

@@ -7,6 +7,7 @@
 #include <QHBoxLayout>
 #include <QHash>
 #include <QLabel>
+#include <QPainter>
 #include <QPushButton>
 #include <QStyle>
 #include <QVBoxLayout>
@@ -47,6 +48,37 @@ class StepText : public QLabel {
 };
 
 }  // namespace
+
+// The number of a step, or a tick where it is done.
+class StartPage::Disc : public QLabel {
+ public:
+  explicit Disc(int size) {
+    setFixedSize(size, size);
+    QFont bold = font();
+    bold.setBold(true);
+    setFont(bold);
+  }
+
+  void Show(int step, bool done) {
+    setText(done ? QString("✓") : QString::number(step));
+    setAccessibleName(QString(done ? "Passo %1, fatto" : "Passo %1").arg(step));
+    colour_ = done ? 0x27764a : 0x3d6fa8;
+  }
+
+ protected:
+  void paintEvent(QPaintEvent*) override {
+    QPainter painter(this);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(QColor::fromRgb(colour_));
+    painter.drawEllipse(rect());
+    painter.setPen(Qt::white);
+    painter.drawText(rect(), Qt::AlignCenter, text());
+  }
+
+ private:
+  QRgb colour_ = 0;
+};
 
 StartPage::StartPage(const SettingsPanel& settings, RecentFiles& recent, QAction& open, QWidget* parent)
     : QScrollArea(parent),
@@ -97,10 +129,8 @@ StartPage::StartPage(const SettingsPanel& settings, RecentFiles& recent, QAction
 }
 
 void StartPage::AddStep(QVBoxLayout& column, const char* name, const QString& text, QWidget* button) {
-  auto* disc = new QLabel;
+  auto* disc = new Disc(DiscSize(*this));
   disc->setObjectName(name);
-  disc->setAlignment(Qt::AlignCenter);
-  disc->setFixedSize(DiscSize(*this), DiscSize(*this));
   auto* what = new StepText(text);
   auto* row = new QHBoxLayout;
   row->setSpacing(12);
@@ -115,12 +145,8 @@ void StartPage::ShowSteps() {
   const Routines::Settings chosen = settings_.Chosen();
   std::size_t step = 0;
   for (const bool done : {chosen.quantiCanali.has_value(), false, chosen.flashScrittura.has_value()}) {
-    QLabel& disc = *discs_[step++];
-    disc.setText(done ? QString("✓") : QString::number(step));
-    disc.setAccessibleName(QString(done ? "Passo %1, fatto" : "Passo %1").arg(step));
-    disc.setStyleSheet(QString("border-radius: %1px; font-weight: bold; color: white; background: %2")
-                           .arg(DiscSize(*this) / 2)
-                           .arg(done ? "#27764a" : "#3d6fa8"));
+    discs_[step]->Show(static_cast<int>(step) + 1, done);
+    ++step;
   }
 }
 

@@ -9,7 +9,6 @@
 #include <vector>
 
 class QAction;
-class QLabel;
 class QVBoxLayout;
 
 namespace Ui {
@@ -31,6 +30,8 @@ class StartPage : public QScrollArea {
   void resizeEvent(QResizeEvent* event) override;
 
  private:
+  class Disc;
+
   // A step is a number in a disc, which becomes a tick, and what to do.
   void AddStep(QVBoxLayout& column, const char* name, const QString& text, QWidget* button = nullptr);
   void ShowRecent();
@@ -39,7 +40,7 @@ class StartPage : public QScrollArea {
 
   const SettingsPanel& settings_;
   RecentFiles& recent_;
-  std::vector<QLabel*> discs_;
+  std::vector<Disc*> discs_;
   QWidget* recentBox_;
   QVBoxLayout* recentList_;
 };

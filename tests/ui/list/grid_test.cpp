@@ -134,7 +134,6 @@ TEST(Grid, ColumnsShareTheSpareWidthExceptThoseThatTheUserHasSet) {
 
 TEST_F(SmallWindow, AClosedListIsNotSeenAndTheFirstColumnOfAnOpenOneStays) {
   auto* grid = window_->findChild<Ui::Grid*>("Griglia");
-  auto* fixed = grid->findChild<QTableView*>("ColonnaFissa");
   EXPECT_FALSE(grid->selectionModel()->hasSelection());
   ASSERT_TRUE(driver_->Choose("VisualizzaCanali"));
   EXPECT_FALSE(grid->isVisible());
@@ -144,11 +143,12 @@ TEST_F(SmallWindow, AClosedListIsNotSeenAndTheFirstColumnOfAnOpenOneStays) {
   EXPECT_EQ(grid->model()->rowCount(), 999);
   window_->resize(700, 700);
   QTest::qWait(20);
-  EXPECT_EQ(fixed->geometry().right() + 1, grid->viewport()->geometry().left() + grid->columnWidth(0));
   // Scrolled down before the column is fixed, and while it is.
   grid->verticalScrollBar()->setValue(200);
   grid->horizontalScrollBar()->setValue(grid->horizontalScrollBar()->maximum());
+  auto* fixed = grid->findChild<QTableView*>("ColonnaFissa");
   EXPECT_TRUE(fixed->isVisible());
+  EXPECT_EQ(fixed->geometry().right() + 1, grid->viewport()->geometry().left() + grid->columnWidth(0));
   EXPECT_EQ(grid->rowAt(5), 200);
   EXPECT_EQ(fixed->indexAt(QPoint(5, 5)), grid->model()->index(200, 0));
   grid->verticalScrollBar()->setValue(300);

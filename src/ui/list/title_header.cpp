@@ -1,0 +1,45 @@
+#include "ui/list/title_header.h"
+
+#include "ui/kit/text.h"
+#include "ui/list/grid.h"
+#include "ui/list/row_look.h"
+
+#include <QPainter>
+
+namespace Ui {
+namespace {
+
+constexpr int Beside = 4;
+constexpr int Above = 5;
+constexpr int Line = 1;
+
+}  // namespace
+
+TitleHeader::TitleHeader(QWidget* parent, const Grid& grid)
+    : QHeaderView(Qt::Horizontal, parent), grid_(grid) {
+  setSectionsClickable(true);
+  connect(&RowLook::OfProgram(), &RowLook::Changed, viewport(), qOverload<>(&QWidget::update));
+}
+
+// The grid gives the widths.
+QSize TitleHeader::sectionSizeFromContents(int) const {
+  return {2 * Beside + Line, fontMetrics().height() + 2 * Above + Line};
+}
+
+// A title that is wider than its column keeps its beginning: in the middle it would lose both its ends.
+void TitleHeader::paintSection(QPainter* painter, const QRect& section, int column) const {
+  const RowLook& look = RowLook::OfProgram();
+  const QColor line = look.Mark(QColor(0x7f, 0xb9, 0x7f), palette());
+  painter->fillRect(section, look.Ground(ToColor(Colours::Header), palette()));
+  painter->fillRect(QRect(section.right(), section.top(), Line, section.height()), line);
+  painter->fillRect(QRect(section.left(), section.bottom(), section.width(), Line), line);
+
+  const QRect room = section.adjusted(Beside, Above, -Beside - Line, -Above - Line);
+  const QString title = grid_.SortMark(column) + model()->headerData(column, Qt::Horizontal).toString();
+  const int alignment = model()->headerData(column, Qt::Horizontal, Qt::TextAlignmentRole).toInt();
+  painter->setPen(look.Soft() ? palette().color(QPalette::Text) : TextOn(Colours::Header));
+  painter->drawText(room, alignment | Qt::AlignVCenter,
+                    fontMetrics().elidedText(title, Qt::ElideRight, room.width()));
+}
+
+}  // namespace Ui
