@@ -92,8 +92,16 @@ void Session::ArrangeFavourites() {
   auto* lists = window_->findChild<QDialog*>("ListePreferiti");
   Step("favourites", lists != nullptr && lists->isVisible(), added);
   Guide("preferiti");
-  if (lists != nullptr) lists->close();
-  Undo(2);
+  if (lists == nullptr) return;
+  auto* filter = window_->findChild<QLineEdit*>("Filtro");
+  filter->setText("film");
+  driver_->ExpectDialog("Aggiungi a Cinema",
+                        [](QDialog& box) { box.findChild<QPushButton*>("Command1")->click(); });
+  lists->findChild<QAction*>("AggiungiTrovati")->trigger();
+  Step("favourites from found", Said().contains(" a Cinema"), Said());
+  filter->clear();
+  lists->close();
+  Undo(3);
 }
 
 // What a filter finds is seen alone and brought to the front; three steps are taken back from their list.
@@ -148,7 +156,7 @@ void Session::SortChannels() {
   });
   driver_->Choose("OrdinaCanali");
   Step("sort channels", List().ChannelTable != before.ChannelTable,
-       Said() + "; first " + driver_->Cell(1, 1));
+       Said() + "; at 100 " + driver_->Cell(100, 1));
   Undo();
 }
 

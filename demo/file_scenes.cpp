@@ -24,8 +24,14 @@ void Session::PrintList() {
   });
   driver_->ExpectFile("Salva la stampa come PDF", pdf);
   const bool chosen = driver_->Choose("StampaGriglia");
-  driver_->onBox = nullptr;
   Step("print to a PDF", chosen && QFileInfo(pdf).size() > 10000, Said());
+  const QString favourites = output_ + "/preferiti.pdf";
+  driver_->ExpectDialog("Stampa Preferiti - " + QFileInfo(flash_).fileName(),
+                        [](QDialog& preview) { preview.findChild<QAction*>("SalvaPdf")->trigger(); });
+  driver_->ExpectFile("Salva la stampa come PDF", favourites);
+  driver_->Choose("StampaPreferiti");
+  driver_->onBox = nullptr;
+  Step("print favourites", QFileInfo(favourites).size() > 10000, Said());
 }
 
 void Session::ShowAbout() {

@@ -12,6 +12,7 @@
 #include <QMenu>
 #include <QPushButton>
 #include <QTest>
+#include <QToolButton>
 #include <QTreeView>
 #include <QTreeWidget>
 
@@ -98,7 +99,7 @@ void Session::TurnDark() {
   driver_->Grid().clearSelection();
 }
 
-// Sorted by name, without a column and in softer colours, while the list stays as it is.
+// Sorted by name, without a column, in softer colours and with the options in one line, while the list stays as it is.
 void Session::SortView() {
   const Routines::State before = List();
   Ui::Grid& grid = driver_->Grid();
@@ -113,6 +114,9 @@ void Session::SortView() {
   choose(Routines::ChannelColumn::Aecm, "NascondiColonna");
   driver_->Choose("ColoriTenui");
   choose(Routines::ChannelColumn::Name, "OrdinaVista");
+  auto* fold = window_->findChild<QToolButton*>("RiduciOpzioni");
+  fold->click();
+  Step("options in one line", fold->text().startsWith("3996 canali"), fold->text());
   Step("sorted view",
        grid.IsSorted() && grid.isColumnHidden(Routines::ChannelColumn::Aecm) && List() == before, Said());
   driver_->SelectRows(7, 7);
@@ -120,6 +124,7 @@ void Session::SortView() {
   window_->findChild<QMenu*>("MenuColonna")->close();
   choose(Routines::ChannelColumn::Name, "MostraColonne");
   driver_->Choose("ColoriTenui");
+  fold->click();
   driver_->Choose("OrdineDellaLista");
   grid.clearSelection();
 }

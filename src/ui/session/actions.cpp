@@ -28,7 +28,7 @@ bool Actions::Allows(CommandName command) { return Offers(command) && Meets(sess
 // Until a box of Patiently() has gone nothing else begins.
 bool Actions::Busy() const {
   if (UnderWay().isEmpty()) return false;
-  session_.status.ShowResult(UnderWay() + ": prima si attende la fine, o si annulla l'operazione");
+  session_.status.ShowResult(UnderWay() + ": prima attenderne la fine, o annullare l'operazione");
   return true;
 }
 

@@ -47,7 +47,7 @@ TEST_F(Patience, SlowReadingIsGivenUpAndNothingElseBeginsMeanwhile) {
     EXPECT_TRUE(box.isModal());
     for (const char* command : {"Azzera", "Salva", "Toolbar1_Delete"})
       window_->findChild<QAction*>(command)->trigger();
-    EXPECT_EQ(Said(), "Lettura di lista.dat: prima si attende la fine, o si annulla l'operazione");
+    EXPECT_EQ(Said(), "Lettura di lista.dat: prima attenderne la fine, o annullare l'operazione");
     GiveUp(box);
   });
   const auto read = Patiently("Lettura di lista.dat", [ready = disk.ready] {
