@@ -4,6 +4,7 @@
 #include "base/text.h"
 
 #include <algorithm>
+#include <array>
 #include <cstddef>
 #include <cstdint>
 #include <string>
@@ -30,12 +31,28 @@ inline void Put(char* line, const Column& column, std::string_view text) {
   std::fill(std::copy(text.begin(), text.end(), field), field + column.width, ' ');
 }
 
+// "00", "01" and so on up to "99".
+inline constexpr auto DigitPairs = [] {
+  std::array<char, 200> digits{};
+  for (std::size_t at = 0; at < digits.size(); ++at) {
+    digits[at] = static_cast<char>('0' + (at % 2 == 0 ? at / 20 : at / 2 % 10));
+  }
+  return digits;
+}();
+
 // Does so with the last digits of a number, zeros in front.
 inline void PutNumber(char* line, const Column& column, std::uint32_t value) {
   char* const field = line + column.first - 1;
-  for (std::size_t digit = column.width; digit-- > 0; value /= 10) {
-    field[digit] = static_cast<char>('0' + value % 10);
-  }
+  std::size_t left = column.width;
+  for (; left > 1; left -= 2, value /= 100)
+    std::copy_n(DigitPairs.begin() + value % 100 * 2, 2, field + left - 2);
+  if (left > 0) *field = static_cast<char>('0' + value % 10);
+}
+
+// Puts a byte into a column of two places, in upper-case hexadecimal digits.
+inline void PutHexByte(char* line, const Column& column, std::uint32_t value) {
+  line[column.first - 1] = HexDigits[value >> 4U & 15U];
+  line[column.first] = HexDigits[value & 15U];
 }
 
 // The value of the digits at the front of a column of at most nine places, blanks before them left out; 0 where there

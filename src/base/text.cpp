@@ -18,8 +18,8 @@ std::string ZeroPadded(int value, int width) {
 }
 
 std::string HexByte(int value) {
-  constexpr std::string_view Digits = "0123456789ABCDEF";
-  return {Digits[static_cast<std::size_t>(value >> 4 & 15)], Digits[static_cast<std::size_t>(value & 15)]};
+  return {HexDigits[static_cast<std::size_t>(value >> 4 & 15)],
+          HexDigits[static_cast<std::size_t>(value & 15)]};
 }
 
 }  // namespace Base

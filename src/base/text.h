@@ -78,6 +78,8 @@ std::string Counted(std::integral auto count, std::string_view one, std::string_
   return std::to_string(count).append(" ").append(count == 1 ? one : more);
 }
 
+inline constexpr std::string_view HexDigits = "0123456789ABCDEF";
+
 // Two upper-case hexadecimal digits of a byte.
 std::string HexByte(int value);
 

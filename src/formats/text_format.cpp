@@ -6,6 +6,8 @@
 #include "model/favourites.h"
 #include "model/symbol_rates.h"
 
+#include <algorithm>
+#include <array>
 #include <charconv>
 #include <optional>
 #include <span>
@@ -32,6 +34,7 @@ constexpr struct {
 namespace TransponderLine {
 constexpr Column Number{1, 3}, Frequency{5, 5}, Rate{29, 5}, Fec{35, 3}, Polarisation{39, 1}, Tone{41, 3},
     ToneOn{41, 2}, SatelliteWord{44, 5}, Satellite{49, 1}, Bouquet{51, Base::ToLineEnd};
+constexpr std::size_t Width = Bouquet.first - 1 + TransponderRow::BouquetNameSize;
 constexpr struct {
   Column column;
   Field<TransponderRecord> field;
@@ -46,7 +49,7 @@ constexpr Column List{1, 2}, Name{5, Base::ToLineEnd}, Slot{1, 4};
 
 constexpr Column ChannelCountColumn{10, Base::ToLineEnd};
 constexpr Column TransponderCountColumn{16, Base::ToLineEnd};
-constexpr const char* LineEnd = "\r\n";
+constexpr std::string_view LineEnd = "\r\n";
 // More than a line takes, as a rule: the text is put together without being moved.
 constexpr std::size_t LineRoom = 72;
 
@@ -65,77 +68,99 @@ void ForEach(Work work) {
   (std::make_index_sequence<std::size(Table)>());
 }
 
+// Bytes that are harmful in some line. Hardly any text has one, which takes no branch for each of its bytes to see.
+constexpr auto HarmfulBytes = [] {
+  std::array<bool, 256> harmful{};
+  std::fill_n(harmful.begin(), ' ', true);
+  harmful['['] = harmful['|'] = true;
+  return harmful;
+}();
+
 // Makes blanks of harmful bytes, and of the bracket that would end a section.
 template <class Harmful>
 void BlankOut(std::span<char> text, Harmful harmful) {
+  bool any = false;
+  for (const char c : text) any |= HarmfulBytes[static_cast<unsigned char>(c)];
+  if (!any) return;
   std::replace_if(text.begin(), text.end(), harmful, ' ');
   const std::string_view view(text.data(), text.size());
   for (std::size_t at = view.find("[END "); at != std::string_view::npos; at = view.find("[END "))
     text[at] = ' ';
 }
 
+// Puts a text into room for it.
 template <class Harmful>
-void AppendHarmless(std::string& text, std::string_view bytes, Harmful harmful) {
-  const std::size_t start = text.size();
-  text.append(bytes);
-  BlankOut(std::span(text).subspan(start), harmful);
+void PutHarmless(char* room, std::string_view text, Harmful harmful) {
+  std::copy(text.begin(), text.end(), room);
+  BlankOut({room, text.size()}, harmful);
 }
 
+// The first columns of a line, all blank.
+template <std::size_t Width>
+constexpr auto Blank = [] {
+  std::array<char, Width> line{};
+  line.fill(' ');
+  return line;
+}();
+
 void AddChannel(std::string& text, const ChannelRecord& channel, int slot) {
-  const std::size_t start = text.size();
-  text.append(ChannelLine::Width, ' ').append(LineEnd);
-  char* const line = text.data() + start;
+  auto columns = Blank<ChannelLine::Width>;
+  char* const line = columns.data();
   Base::PutNumber(line, ChannelLine::Slot, static_cast<std::uint32_t>(slot));
-  const std::string_view name = channel.Name();
-  Base::Put(line, ChannelLine::Name, name);
-  // Only the name: the blanks behind it end no section.
-  BlankOut({line + ChannelLine::Name.first - 1, name.size()}, EndsLine);
+  PutHarmless(line + ChannelLine::Name.first - 1, channel.Name(), EndsLine);
   Base::PutNumber(line, ChannelLine::Transponder, Get(channel, ChannelField::Transponder));
   ForEach<ChannelLine::Numbers>(
       [&](const auto& number) { Base::PutNumber(line, number.column, Get(channel, number.field)); });
-  Base::Put(line, ChannelLine::Coding, Base::HexByte(static_cast<int>(Get(channel, ChannelField::Flags))));
-  Base::Put(line, ChannelLine::Active, Get(channel, ChannelField::Active) != 0 ? "S" : "N");
+  Base::PutHexByte(line, ChannelLine::Coding, Get(channel, ChannelField::Flags));
+  line[ChannelLine::Active.first - 1] = Get(channel, ChannelField::Active) != 0 ? 'S' : 'N';
+  text.append(line, columns.size()).append(LineEnd);
 }
 
-std::string TransponderText(const State& state, const TransponderRow& row, int number) {
+void AddTransponder(std::string& text, const State& state, const TransponderRow& row, int number) {
   const TransponderRecord& record = row.record;
-  std::string line;
-  Base::Put(line, TransponderLine::Number, Base::ZeroPadded(number, 3));
-  Base::Put(line, TransponderLine::Frequency, Base::ZeroPadded(FrequencyMHz(record), 5));
-  for (const auto& field : TransponderLine::Numbers) {
-    Base::Put(line, field.column, Base::ZeroPadded(static_cast<int>(Get(record, field.field)), 5));
-  }
+  auto columns = Blank<TransponderLine::Width>;
+  char* const line = columns.data();
+  Base::PutNumber(line, TransponderLine::Number, static_cast<std::uint32_t>(number));
+  Base::PutNumber(line, TransponderLine::Frequency, static_cast<std::uint32_t>(FrequencyMHz(record)));
+  ForEach<TransponderLine::Numbers>(
+      [&](const auto& field) { Base::PutNumber(line, field.column, Get(record, field.field)); });
   Base::Put(line, TransponderLine::Rate,
             SymbolRateText(state.SymbolRateTable, Get(record, TransponderField::SymbolRate)));
   Base::Put(line, TransponderLine::Polarisation, Get(record, TransponderField::Horizontal) != 0 ? "H" : "V");
   Base::Put(line, TransponderLine::Tone, Get(record, TransponderField::HighBand) != 0 ? "On" : "Off");
   Base::Put(line, TransponderLine::SatelliteWord, " SAT ");
   Base::Put(line, TransponderLine::Satellite, SatelliteLabel(record).substr(4));
-  line.resize(TransponderLine::Bouquet.first - 1, ' ');
-  AppendHarmless(line, row.BouquetName(), EndsLine);
+  PutHarmless(line + TransponderLine::Bouquet.first - 1, row.BouquetName(), EndsLine);
   // "Auto" is one letter longer than its column and pushes everything behind it one place to the right: other
   // programs that read such files expect it there.
-  line.replace(TransponderLine::Fec.first - 1, TransponderLine::Fec.width, FecText(record));
-  return line + LineEnd;
+  constexpr std::size_t Fec = TransponderLine::Fec.first - 1, BehindFec = Fec + TransponderLine::Fec.width;
+  text.append(line, Fec)
+      .append(FecText(record))
+      .append(line + BehindFec, columns.size() - BehindFec)
+      .append(LineEnd);
 }
 
-std::string FavouritesText(const State& state) {
-  std::string text = std::string("[PREFERITI]") + LineEnd;
+void AddFavourite(std::string& text, const ChannelRecord& channel, int slot) {
+  constexpr std::size_t Name = FavouriteLine::Slot.width + 1;
+  auto columns = Blank<Name + ChannelRecord::NameSize>;
+  Base::PutNumber(columns.data(), FavouriteLine::Slot, static_cast<std::uint32_t>(slot));
+  const std::string_view name = channel.Name();
+  PutHarmless(columns.data() + Name, name, EndsEntry);
+  text.append(columns.data(), Name + name.size()).append(LineEnd);
+}
+
+void AddFavourites(std::string& text, const State& state) {
+  text.append("[PREFERITI]").append(LineEnd);
   for (std::size_t list = 0; list < FavouriteLists; ++list) {
-    text += Base::ZeroPadded(static_cast<int>(list), 2) + "| ";
-    AppendHarmless(text, FavouriteNameOf(state.FavouritesBlock, list), EndsLine);
-    text += LineEnd;
+    std::string name = FavouriteNameOf(state.FavouritesBlock, list);
+    BlankOut(name, EndsLine);
+    text.append(Base::ZeroPadded(static_cast<int>(list), 2)).append("| ").append(name).append(LineEnd);
     for (const int slot : FavouriteEntriesOf(state.FavouritesBlock, list)) {
-      if (slot > LastChannelSlot) continue;  // junk, and too long for its column
-      const std::string_view name = state.Channel(slot).Name();
-      text.append(FavouriteLine::Slot.width + 1, ' ');
-      Base::PutNumber(&text[text.size() - FavouriteLine::Slot.width - 1], FavouriteLine::Slot,
-                      static_cast<std::uint32_t>(slot));
-      AppendHarmless(text, name, EndsEntry);
-      text += LineEnd;
+      // What is larger is junk, and too long for its column.
+      if (slot <= LastChannelSlot) AddFavourite(text, state.Channel(slot), slot);
     }
   }
-  return text + "[END PREFERITI]" + LineEnd;
+  text.append("[END PREFERITI]").append(LineEnd);
 }
 
 // The leading digits of a column of at most five places; nothing when the number is larger than `most`.
@@ -360,8 +385,8 @@ class Reader {
 }  // namespace
 
 std::string WriteText(const State& state) {
-  const std::string channels = Base::ZeroPadded(state.ChannelCount, 4) + LineEnd;
-  const std::string transponders = Base::ZeroPadded(state.TransponderCount, 4) + LineEnd;
+  const std::string channels = Base::ZeroPadded(state.ChannelCount, 4).append(LineEnd);
+  const std::string transponders = Base::ZeroPadded(state.TransponderCount, 4).append(LineEnd);
   std::string text;
   text.reserve(LineRoom * (static_cast<std::size_t>(UsedChannels(state) + UsedTransponders(state)) +
                            FavouriteLists * FavouriteEntries));
@@ -376,10 +401,10 @@ std::string WriteText(const State& state) {
   text += "[END CANALI] " + channels + "[TRANSPONDERS] " + transponders;
   for (int number = 1; number <= state.TransponderCount; ++number) {
     const TransponderRow& row = state.Transponder(number);
-    if (!IsFree(row.record)) text += TransponderText(state, row, number);
+    if (!IsFree(row.record)) AddTransponder(text, state, row, number);
   }
   text += "[END TRANSPONDERS] " + transponders;
-  if (!IsBlankFavourites(state.FavouritesBlock)) text += FavouritesText(state);
+  if (!IsBlankFavourites(state.FavouritesBlock)) AddFavourites(text, state);
   return text;
 }
 
