@@ -2,6 +2,7 @@
 #pragma once
 
 #include <algorithm>
+#include <array>
 #include <concepts>
 #include <cstddef>
 #include <cstdint>
@@ -41,6 +42,14 @@ inline std::string_view LeadingDigits(std::string_view text) {
   while (digits < text.size() && text[digits] >= '0' && text[digits] <= '9') ++digits;
   return text.substr(0, digits);
 }
+
+// What each character is worth as a decimal digit; 16 for those that are none.
+inline constexpr auto DigitValues = [] {
+  std::array<std::uint8_t, 256> values{};
+  values.fill(16);
+  for (std::uint8_t digit = 0; digit < 10; ++digit) values['0' + digit] = digit;
+  return values;
+}();
 
 // Takes the decimal digits at the front off `text`: their value, `most` + 1 where it is larger than `most`, -1 where there
 // are none.

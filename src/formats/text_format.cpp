@@ -22,13 +22,15 @@ using Base::Cut;
 
 // The columns of each kind of line, for the writer and the reader alike.
 namespace ChannelLine {
-constexpr Column Slot{1, 4}, Name{6, 16}, Transponder{23, 3}, Coding{63, 2}, Active{66, 1};
+constexpr Column Slot{1, 4}, Name{6, 16}, Coding{63, 2}, Active{66, 1};
 constexpr std::size_t Width = 66;
 constexpr struct {
   Column column;
   Field<ChannelRecord> field;
-} Numbers[] = {{{27, 5}, ChannelField::Sid},  {{33, 5}, ChannelField::Vpid}, {{39, 5}, ChannelField::Apid},
-               {{45, 5}, ChannelField::Aecm}, {{51, 5}, ChannelField::Vecm}, {{57, 5}, ChannelField::Pcr}};
+} Numbers[] = {{{23, 3}, ChannelField::Transponder}, {{27, 5}, ChannelField::Sid},
+               {{33, 5}, ChannelField::Vpid},        {{39, 5}, ChannelField::Apid},
+               {{45, 5}, ChannelField::Aecm},        {{51, 5}, ChannelField::Vecm},
+               {{57, 5}, ChannelField::Pcr}};
 }  // namespace ChannelLine
 
 namespace TransponderLine {
@@ -108,7 +110,6 @@ void AddChannel(std::string& text, const ChannelRecord& channel, int slot) {
   char* const line = columns.data();
   Base::PutNumber(line, ChannelLine::Slot, static_cast<std::uint32_t>(slot));
   PutHarmless(line + ChannelLine::Name.first - 1, channel.Name(), EndsLine);
-  Base::PutNumber(line, ChannelLine::Transponder, Get(channel, ChannelField::Transponder));
   ForEach<ChannelLine::Numbers>(
       [&](const auto& number) { Base::PutNumber(line, number.column, Get(channel, number.field)); });
   Base::PutHexByte(line, ChannelLine::Coding, Get(channel, ChannelField::Flags));
@@ -167,14 +168,15 @@ void AddFavourites(std::string& text, const State& state) {
 inline std::optional<std::uint32_t> NumberIn(std::string_view line, const Column& column,
                                              std::uint32_t most) {
   // Nearly every number fills its column: such a one is read without a branch for each of its places.
-  std::uint32_t value = 0;
+  std::uint32_t value = 0, digits = 0;
   bool whole = line.size() >= column.first - 1 + column.width;
   if (whole) {
     for (std::size_t at = 0; at < column.width; ++at) {
-      const auto digit = static_cast<std::uint32_t>(line[column.first - 1 + at] - '0');
-      whole &= digit <= 9;
+      const unsigned digit = Base::DigitValues[static_cast<unsigned char>(line[column.first - 1 + at])];
+      digits |= digit;
       value = value * 10 + digit;
     }
+    whole = digits <= 0xF;
   }
   if (!whole) value = Base::ColumnNumber(Cut(line, column));
   return value > most ? std::nullopt : std::optional(value);
@@ -244,12 +246,14 @@ class Reader {
   // Hands every line up to the one with the marker in it to `take`; false when the file ends before it.
   template <class Take>
   bool Lines(std::string_view marker, Take take) {
-    while (!rest_.empty()) {
-      const std::string_view line = Base::TakeLine(rest_);
-      if (line.find(marker) != std::string_view::npos) return true;
-      take(line);
-    }
-    return false;
+    // No line end is in it, so it is looked for in all of them at once.
+    const std::size_t end = rest_.find(marker);
+    const bool ended = end != std::string_view::npos;
+    std::string_view lines = ended ? rest_.substr(0, rest_.rfind('\n', end) + 1) : rest_;
+    rest_.remove_prefix(lines.size());
+    Base::TakeLine(rest_);
+    while (!lines.empty()) take(Base::TakeLine(lines));
+    return ended;
   }
 
   bool ReadChannels() {
@@ -267,7 +271,6 @@ class Reader {
     ChannelRecord& channel = state_.Channel(*slot);
     const std::string_view name = Cut(line, ChannelLine::Name);
     std::copy(name.begin(), name.end(), channel.bytes.begin());
-    SetNumber(channel, ChannelField::Transponder, line, ChannelLine::Transponder);
     ForEach<ChannelLine::Numbers>(
         [&](const auto& number) { SetNumber(channel, number.field, line, number.column); });
     const std::string_view coding = Cut(line, ChannelLine::Coding);
