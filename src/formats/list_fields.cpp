@@ -15,9 +15,7 @@ bool IsDigit(char c) { return c >= '0' && c <= '9'; }
 
 // Nearly every name is of letters that all code pages have.
 bool IsPlain(std::string_view bytes) {
-  bool plain = true;
-  for (const char c : bytes) plain &= c >= ' ';
-  return plain;
+  return std::all_of(bytes.begin(), bytes.end(), [](char c) { return c >= ' '; });
 }
 
 // A broadcast name may have marks round the part that stands for it where room is short, and line breaks: characters

@@ -11,9 +11,9 @@ namespace Formats {
 
 // Takes the field at the front off `rest`, with the separator behind it.
 inline std::string_view TakeField(std::string_view& rest, char separator) {
-  const std::size_t end = std::min(rest.find(separator), rest.size());
+  const std::size_t end = rest.find(separator);
   const std::string_view field = rest.substr(0, end);
-  rest.remove_prefix(std::min(end + 1, rest.size()));
+  rest.remove_prefix(end == std::string_view::npos ? rest.size() : end + 1);
   return field;
 }
 
@@ -37,13 +37,15 @@ inline constexpr auto HexValues = [] {
 // Takes the hexadecimal digits; nothing where there are none or more than eight.
 inline std::optional<std::uint32_t> TakeHex(std::string_view& rest) {
   constexpr std::size_t MostDigits = 8;
-  std::size_t digits = 0;
   std::uint32_t value = 0;
-  for (; digits < rest.size(); ++digits) {
-    const unsigned digit = HexValues[static_cast<unsigned char>(rest[digits])];
+  const char* at = rest.data();
+  const char* const end = at + rest.size();
+  for (; at != end; ++at) {
+    const unsigned digit = HexValues[static_cast<unsigned char>(*at)];
     if (digit > 0xF) break;
     value = value << 4U | digit;
   }
+  const auto digits = static_cast<std::size_t>(at - rest.data());
   rest.remove_prefix(digits);
   return digits == 0 || digits > MostDigits ? std::nullopt : std::optional(value);
 }

@@ -87,14 +87,9 @@ void VdrReader::TakeGroup(std::string_view line) {
   number_ = std::max(number_, TakeNumber(line, HighestNumber) - 1);
 }
 
-bool VdrReader::ReadTransponder(std::string_view line) {
-  name_ = TakeField(line, Separator);
-  sameTransponder_ = !tuning_.empty() && line.starts_with(tuning_);
-  if (sameTransponder_) {
-    rest_ = line.substr(tuning_.size());
-    return true;
-  }
-  const std::string_view fields = line;
+bool VdrReader::ReadTransponder() {
+  const std::string_view fields = rest_;
+  std::string_view line = rest_;
   const std::string_view frequency = TakeField(line, Separator);
   const std::string_view parameters = TakeField(line, Separator);
   const std::string_view source = TakeField(line, Separator);
@@ -118,12 +113,17 @@ bool VdrReader::Next() {
     const std::string_view line = Base::TakeLine(text_);
     if (line.starts_with(Separator)) {
       TakeGroup(line);
-    } else if (ReadTransponder(line)) {
+      continue;
+    }
+    rest_ = line;
+    name_ = TakeField(rest_, Separator);
+    sameTransponder_ = !tuning_.empty() && rest_.starts_with(tuning_);
+    if (sameTransponder_) rest_.remove_prefix(tuning_.size());
+    if (sameTransponder_ || ReadTransponder()) {
       ++number_;
       return true;
-    } else if (!Bare(line).empty() && line.front() != '#') {
-      ++unreadable_;
     }
+    if (!Bare(line).empty() && line.front() != '#') ++unreadable_;
   }
   return false;
 }

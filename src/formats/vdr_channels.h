@@ -17,7 +17,7 @@ class VdrReader final : public ServiceReader {
   void TakeIdentity() override;
 
  private:
-  bool ReadTransponder(std::string_view line);
+  bool ReadTransponder();
   void TakeGroup(std::string_view line);
 
   std::string_view text_;
