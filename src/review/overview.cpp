@@ -21,6 +21,7 @@ class Counter {
  public:
   Counter(const State& state, const std::vector<Satellite>& satellites)
       : state_(state), satellites_(satellites) {
+    for (int slot = 1; slot <= state.TransponderCount; ++slot) GroupTransponder(slot);
     for (int slot = 1; slot <= state.ChannelCount; ++slot) CountChannel(slot);
     for (int slot = 1; slot <= state.TransponderCount; ++slot) CountTransponder(slot);
   }
@@ -38,6 +39,8 @@ class Counter {
  private:
   using Slots = std::vector<int>;
 
+  Slots& ByKind(ChannelKind kind) { return byKind_[static_cast<std::size_t>(kind)]; }
+
   void CountChannel(int slot) {
     const ChannelRecord& channel = state_.Channel(slot);
     if (channel.Empty()) {
@@ -45,11 +48,28 @@ class Counter {
       return;
     }
     used_.push_back(slot);
-    byKind_[KindOf(channel)].push_back(slot);
+    ByKind(KindOf(channel)).push_back(slot);
     if (Get(channel, ChannelField::Active) == 0) inactive_.push_back(slot);
     byCoding_[Get(channel, ChannelField::Flags)].push_back(slot);
     const std::uint32_t number = Get(channel, ChannelField::Transponder);
-    (TransponderInUse(state_, number) == nullptr ? lost_ : onTransponder_[number]).push_back(slot);
+    if (TransponderInUse(state_, number) == nullptr) {
+      lost_.push_back(slot);
+      return;
+    }
+    OnTransponder& transponder = onTransponder_[number];
+    ++transponder.channels;
+    transponder.satellite->push_back(slot);
+    transponder.bouquet->push_back(slot);
+  }
+
+  // Where its channels belong, so that those of a satellite and a bouquet come in their order.
+  void GroupTransponder(int slot) {
+    const TransponderRow& row = state_.Transponder(slot);
+    if (IsFree(row.record)) return;
+    const std::uint32_t satellite = Get(row.record, TransponderField::Satellite);
+    const std::string_view bouquet = Base::Trimmed(row.BouquetName());
+    const std::string name(bouquet.empty() ? "Nessuno" : bouquet);
+    onTransponder_[slot] = {0, &bySatellite_[satellite], &byBouquet_[{satellite, name}]};
   }
 
   void CountTransponder(int slot) {
@@ -59,19 +79,13 @@ class Counter {
       return;
     }
     usedTransponders_.push_back(slot);
-    const Slots& channels = onTransponder_[slot];
-    const std::uint32_t satellite = Get(row.record, TransponderField::Satellite);
-    const std::string_view bouquet = Base::Trimmed(row.BouquetName());
-    const std::string name(bouquet.empty() ? "Nessuno" : bouquet);
-    for (Slots* group : {&bySatellite_[satellite], &byBouquet_[{satellite, name}]}) {
-      group->insert(group->end(), channels.begin(), channels.end());
-    }
-    if (channels.empty()) unused_.push_back(slot);
+    const std::size_t channels = onTransponder_[slot].channels;
+    if (channels == 0) unused_.push_back(slot);
     if (TransponderRowKind(state_, slot) == RowKind::DoubtfulTransponder) doubtful_.push_back(slot);
     // Counts stop at 254 or 255.
     constexpr std::size_t Most = 254;
     const std::size_t told = Get(row.record, TransponderField::ChannelCount);
-    if (std::min(told, Most) != std::min(channels.size(), Most)) miscounted_.push_back(slot);
+    if (std::min(told, Most) != std::min(channels, Most)) miscounted_.push_back(slot);
   }
 
   OverviewLine& Add(Section section, std::string text, Slots slots, std::size_t of,
@@ -107,9 +121,9 @@ class Counter {
   }
 
   void AddKinds() {
-    AddKind(Section::Kind, "TV", RowKind::Tv, byKind_[ChannelKind::Tv], used_.size());
-    AddKind(Section::Kind, "Radio", RowKind::Radio, byKind_[ChannelKind::Radio], used_.size());
-    AddKind(Section::Kind, "Servizi", RowKind::Service, byKind_[ChannelKind::Service], used_.size());
+    AddKind(Section::Kind, "TV", RowKind::Tv, ByKind(ChannelKind::Tv), used_.size());
+    AddKind(Section::Kind, "Radio", RowKind::Radio, ByKind(ChannelKind::Radio), used_.size());
+    AddKind(Section::Kind, "Servizi", RowKind::Service, ByKind(ChannelKind::Service), used_.size());
     AddKind(Section::Kind, "di cui non attivi", RowKind::Inactive, inactive_, used_.size());
   }
 
@@ -133,8 +147,9 @@ class Counter {
 
   void AddCodings() {
     std::vector<std::pair<std::string, Slots>> groups;
-    for (auto& [flags, slots] : byCoding_) {
-      groups.emplace_back(Base::HexByte(static_cast<int>(flags)), std::move(slots));
+    for (std::size_t flags = 0; flags < byCoding_.size(); ++flags) {
+      if (!byCoding_[flags].empty())
+        groups.emplace_back(Base::HexByte(static_cast<int>(flags)), std::move(byCoding_[flags]));
     }
     AddByCount(Section::Coding, std::move(groups));
   }
@@ -165,10 +180,15 @@ class Counter {
   const std::vector<Satellite>& satellites_;
   int lastUsed_ = LastOccupied(state_);
   Slots used_, gaps_, rest_, inactive_, lost_;
-  PerSlot<Slots, 255> onTransponder_;  // by number
+  struct OnTransponder {
+    std::size_t channels = 0;
+    Slots* satellite = nullptr;
+    Slots* bouquet = nullptr;
+  };
+  PerSlot<OnTransponder, 255> onTransponder_;  // by number
   Slots usedTransponders_, freeTransponders_, unused_, doubtful_, miscounted_;
-  std::map<ChannelKind, Slots> byKind_;
-  std::map<std::uint32_t, Slots> byCoding_;
+  std::array<Slots, 4> byKind_;
+  std::array<Slots, 256> byCoding_;
   std::map<std::uint32_t, Slots> bySatellite_;
   std::map<std::pair<std::uint32_t, std::string>, Slots> byBouquet_;
   std::vector<OverviewLine> lines_;
