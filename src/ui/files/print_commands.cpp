@@ -88,8 +88,8 @@ std::optional<Edit::Slots> PrintCommands::AskRows(const Grid& grid, int lastRow)
 // The line for the status bar; empty where the file could not be written, which a box has told then.
 QString PrintCommands::Save(const PrintReport& report, const std::string& path,
                             const QPagedPaintDevice& like) {
-  if (session_.IsFlashOfList(path)) {
-    session_.dialogs.Message(QString("Non stampato: ") + FlashOfListChosen, {});
+  if (const char* why = session_.WhyOnlySaved(path); why != nullptr) {
+    session_.dialogs.Message(QString("Non stampato: ") + why, {});
     return {};
   }
   const auto pages = SavePdf(report, path, like.pageLayout(), like.pageRanges());

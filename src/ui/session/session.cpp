@@ -76,8 +76,9 @@ std::string Session::AskOpen(const QString& title, const QString& filters, Folde
 std::string Session::AskSave(const QString& title, const QString& filters, FolderKind kind,
                              const char* refusal) const {
   std::string path = PathBytes(dialogs.SaveFile({title, filters, FolderFor(kind)}));
-  if (!IsFlashOfList(path)) return path;
-  status.ShowResult(QString("%1: %2").arg(refusal, FlashOfListChosen));
+  const char* why = WhyOnlySaved(path);
+  if (why == nullptr) return path;
+  status.ShowResult(QString("%1: %2").arg(refusal, why));
   return {};
 }
 
@@ -101,11 +102,13 @@ QString Session::ChannelLines(const std::vector<int>& slots) const {
   return lines;
 }
 
-bool Session::IsFlashOfList(const std::string& path) const {
-  if (path.empty()) return false;
+const char* Session::WhyOnlySaved(const std::string& path) const {
+  if (path.empty()) return nullptr;
   const Routines::State& state = document.Tables();
   const std::string target = Base::ResolvedPath(path);
-  return target == Base::ResolvedPath(state.InputFlash) || target == Base::ResolvedPath(state.OutputFlash);
+  if (target == Base::ResolvedPath(state.InputFlash) || target == Base::ResolvedPath(state.OutputFlash))
+    return "il file scelto è la flash aperta o quella di output";
+  return Routines::LooksLikeFlash(path, {}) ? "il file scelto sembra l'immagine di un ricevitore" : nullptr;
 }
 
 std::optional<Support::SymbolRates> Session::LoadSymbolRates(const Routines::Settings& chosen) {

@@ -19,9 +19,6 @@
 
 namespace Ui {
 
-// Why nothing but a save goes into a file that IsFlashOfList knows.
-inline constexpr const char* FlashOfListChosen = "il file scelto è la flash aperta o quella di output";
-
 using Support::FolderKind;
 
 // No list of channels that anybody has is larger, in bytes: a SatcoDX list of a million lines is some 130 MB.
@@ -101,8 +98,9 @@ struct Session {
   // "0012 Rai Uno", a line for each slot.
   [[nodiscard]] QString ChannelLines(const std::vector<int>& slots) const;
 
-  // Whether a file about to be written is the opened flash or the one of the output, which only a save may write.
-  [[nodiscard]] bool IsFlashOfList(const std::string& path) const;
+  // Why nothing but a save may write a file: it is the opened flash, the one of the output, or as large as any
+  // receiver's. Null where it may be written.
+  [[nodiscard]] const char* WhyOnlySaved(const std::string& path) const;
 
   // The symbol rates of SR.INI as `SRDef` now places them. Where the file is missing it says so, in a box
   // once and in the status bar after that. A malformed file ends the program: nothing comes back then.

@@ -40,7 +40,7 @@ TEST_F(Exchange, ABrokenTextIsOneStep) {
   EXPECT_TRUE(List() == before);
 }
 
-TEST_F(Exchange, NoExportGoesIntoAFlashOfTheList) {
+TEST_F(Exchange, NoExportGoesIntoAFlash) {
   const std::string output = folder_.Write("copia.dat", Contents(flash_));
   SaveAs(output, 12);
   const Base::Bytes images[] = {Contents(flash_), Contents(output)};
@@ -50,6 +50,10 @@ TEST_F(Exchange, NoExportGoesIntoAFlashOfTheList) {
     EXPECT_EQ(Said(), "Non esportato: il file scelto è la flash aperta o quella di output");
   }
   EXPECT_TRUE(Contents(flash_) == images[0] && Contents(output) == images[1]);
+  ExpectOpenedFlashChosen("Selezionare il file di output", folder_.Write("altra.dat", images[0]));
+  ASSERT_TRUE(driver_->Choose("FormatoTesto"));
+  EXPECT_EQ(Said(), "Non esportato: il file scelto sembra l'immagine di un ricevitore");
+  EXPECT_TRUE(Contents(folder_.Path("altra.dat")) == images[0]);
 }
 
 #ifndef _WIN32
