@@ -187,8 +187,11 @@ void SdxCommands::AskAndInsert(const Rows& rows) {
     session_.dialogs.Message("Posizione non valida", {});
     return;
   }
-  const bool shift = session_.dialogs.YesNo("Si desidera spostare i canali verso il basso?");
-  Put(rows, Formats::SlotsFrom(state, position, rows.Count()), shift ? Way::Shift : Way::Overwrite);
+  // Escape must not be the answer that writes over a channel.
+  const Answer way = session_.dialogs.YesNoCancel("Si desidera spostare i canali verso il basso?");
+  if (way == Answer::Cancel) return;
+  Put(rows, Formats::SlotsFrom(state, position, rows.Count()),
+      way == Answer::Yes ? Way::Shift : Way::Overwrite);
 }
 
 void SdxCommands::Drop(const Edit::Slots& numbers, int before) {

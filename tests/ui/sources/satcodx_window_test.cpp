@@ -71,6 +71,10 @@ TEST_F(SatcodxWindow, ItsRowsAreShownAndInserted) {
   driver_->ExpectLine("Inserire la posizione in cui inserire Nuovo 1", "1000");
   Tells("Toolbar1_Copy_SDX", "Posizione non valida");
   driver_->ExpectLine("Inserire la posizione in cui inserire Nuovo 1", "1");
+  driver_->ExpectDialog("Trovalis", [](QDialog& box) { QTest::keyClick(&box, Qt::Key_Escape); });
+  ASSERT_TRUE(driver_->Press("Toolbar1_Copy_SDX"));
+  EXPECT_EQ(Names(1, 1), "Uno") << "giving up writes over nothing";
+  driver_->ExpectLine("Inserire la posizione in cui inserire Nuovo 1", "1");
   driver_->ExpectQuestion("Si desidera spostare i canali verso il basso?", true);
   ASSERT_TRUE(driver_->Press("Toolbar1_Copy_SDX"));
   EXPECT_EQ(Names(1, 4), "Nuovo 1,Nuovo 3,Uno,Due");
