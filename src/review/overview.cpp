@@ -169,7 +169,7 @@ class Counter {
     for (const Slots& group : FindDuplicates(state_, {}))
       twice.insert(twice.end(), group.begin(), group.end());
     AddWrong(Section::Checks, "Canali su transponder mancanti", lost_, used_.size());
-    AddWrong(Section::Checks, "Canali doppi", twice, used_.size());
+    AddWrong(Section::Checks, DuplicatesText, twice, used_.size());
     const std::size_t used = usedTransponders_.size();
     AddWrong(Section::Checks, "Transponder senza canali", unused_, used, true);
     AddWrong(Section::Checks, "Transponder fuori banda o senza SR", doubtful_, used, true);

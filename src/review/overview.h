@@ -14,6 +14,9 @@ namespace Review {
 
 enum class OverviewSection { Kind, Satellite, Bouquet, Coding, Transponders, Places, Checks };
 
+// The text of the line among the checks with every copy of each channel that is there twice.
+inline constexpr const char* DuplicatesText = "Canali doppi";
+
 struct OverviewLine {
   OverviewSection section;
   std::string text;                       // UTF-8; no other line of the section has the same

@@ -13,6 +13,16 @@ namespace Ui {
 using Edit::Slots;
 using Routines::State;
 
+namespace {
+
+// ", sovrascritto RAI 1": the channels that stand in some slots; empty where there are none.
+QString Overwritten(const State& state, Slots slots) {
+  std::erase_if(slots, [&](int slot) { return state.Channel(slot).Empty(); });
+  return slots.empty() ? QString() : ", " + Text(Edit::Told(state, slots, "sovrascritto", "sovrascritti"));
+}
+
+}  // namespace
+
 void EditCommands::Connect(Actions& actions) {
   actions.Connect("Copia", [this] { Copy(); });
   actions.Connect("Taglia", [this] { Cut(); });
@@ -77,6 +87,8 @@ void EditCommands::Paste() {
                                          .arg(position)
                                          .arg(count));
   if (way == Answer::Cancel) return;
+  const Slots places = Edit::SlotRun(position, position + count - 1);
+  const QString overwritten = way == Answer::No ? Overwritten(session_.document.Tables(), places) : QString();
   std::string label;
   const auto pasted = session_.document.Apply(label, [&](State& state, Edit::Clipboard& clipboard) {
     auto report = Edit::Paste(state, clipboard, position,
@@ -84,7 +96,7 @@ void EditCommands::Paste() {
                               session_.bouquets.tables);
     if (!report) return report;
     clipboard = {};
-    label = Edit::Told(state, Edit::SlotRun(position, position + count - 1), "Incollato", "Incollati",
+    label = Edit::Told(state, places, "Incollato", "Incollati",
                        (count == 1 ? " al " : " dal ") + std::to_string(position));
     return report;
   });
@@ -92,9 +104,9 @@ void EditCommands::Paste() {
     session_.Message(pasted.error());
     return;
   }
-  session_.view.ListGrid().Select(Edit::SlotRun(position, position + count - 1));
+  session_.view.ListGrid().Select(places);
   session_.view.ListGrid().ScrollToTop(position);
-  TellPasted(Text(label), *pasted);
+  TellPasted(Text(label) + overwritten, *pasted);
 }
 
 void EditCommands::TellPasted(QString text, const Edit::PasteReport& report) {

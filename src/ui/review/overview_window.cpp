@@ -38,6 +38,13 @@ QString RowsTitle(const OverviewLine& line) {
          Text(line.text);
 }
 
+// Who deletes what is there twice wants to keep one of each.
+QString WarningFor(const OverviewLine& line) {
+  return line.section == Section::Checks && line.text == Review::DuplicatesText
+             ? "Sono tutte le copie, anche la prima: per tenerne una c'è Controlla Canali Doppi."
+             : "";
+}
+
 // Of the rows in the grid where they are of one kind, else one that stands for the section.
 Colour BarColour(const OverviewLine& line) {
   if (line.wrong) return Colours::Wrong;
@@ -155,15 +162,23 @@ QLayout* OverviewWindow::Bottom() {
   auto* hint = new QLabel("Un clic o Invio mostra le righe; F3 va alla prossima.", this);
   hint->setWordWrap(true);
   goTo_ = AddButton(*row, "VaiAlleRighe", "Vai alle righe", [this] { GoTo(tree_->currentItem()); });
-  const auto onFound = [this](void (*command)(Session&, const Edit::Slots&)) {
+  // On copies: what is done makes the lines anew.
+  const auto onFound = [this](const auto& command) {
     return [this, command] {
       const OverviewLine* line = LineOf(tree_->currentItem());
-      if (HasChannels(line)) command(session_, Edit::Slots(line->slots));
+      if (HasChannels(line)) command(Edit::Slots(line->slots), WarningFor(*line));
     };
   };
-  forChannels_ = {AddButton(*row, "SelezionaRighe", "Seleziona i trovati", onFound(SelectChannels)),
-                  AddButton(*row, "EliminaRighe", "Elimina…", onFound(AskAndDelete)),
-                  AddButton(*row, "DisattivaRighe", "Disattiva…", onFound(AskAndDeactivate))};
+  const auto select = [this](const Edit::Slots& slots, const QString&) { SelectChannels(session_, slots); };
+  const auto remove = [this](const Edit::Slots& slots, const QString& warning) {
+    AskAndDelete(session_, slots, warning);
+  };
+  const auto deactivate = [this](const Edit::Slots& slots, const QString& warning) {
+    AskAndDeactivate(session_, slots, warning);
+  };
+  forChannels_ = {AddButton(*row, "SelezionaRighe", "Seleziona i trovati", onFound(select)),
+                  AddButton(*row, "EliminaRighe", "Elimina…", onFound(remove)),
+                  AddButton(*row, "DisattivaRighe", "Disattiva…", onFound(deactivate))};
   connect(tree_, &QTreeWidget::currentItemChanged, this, &OverviewWindow::EnableButtons);
   auto* column = new QVBoxLayout;
   column->addWidget(hint);

@@ -10,9 +10,12 @@ using Routines::State;
 
 namespace {
 
-bool Confirms(Session& session, const Edit::Slots& slots, const char* one, const char* more) {
-  const std::string told = Edit::Told(session.document.Tables(), slots, one, more);
-  return slots.size() == 1 || session.dialogs.YesNo(Text(told) + ". Continuo?");
+bool Confirms(Session& session, const Edit::Slots& slots, const char* one, const char* more,
+              const QString& warning) {
+  if (slots.size() == 1) return true;
+  const QString told = Text(Edit::Told(session.document.Tables(), slots, one, more));
+  const QString stop = told.endsWith("…") ? "" : ".";
+  return session.dialogs.YesNo(told + stop + (warning.isEmpty() ? "" : " " + warning) + " Continuo?");
 }
 
 }  // namespace
@@ -32,12 +35,12 @@ void DeactivateChannels(Session& session, const Edit::Slots& slots) {
   session.status.ShowResult(changed ? Text(label) : Text(changed.error().message));
 }
 
-void AskAndDelete(Session& session, const Edit::Slots& slots) {
-  if (Confirms(session, slots, "Si elimina", "Si eliminano")) DeleteChannels(session, slots);
+void AskAndDelete(Session& session, const Edit::Slots& slots, const QString& warning) {
+  if (Confirms(session, slots, "Si elimina", "Si eliminano", warning)) DeleteChannels(session, slots);
 }
 
-void AskAndDeactivate(Session& session, const Edit::Slots& slots) {
-  if (Confirms(session, slots, "Si disattiva", "Si disattivano")) DeactivateChannels(session, slots);
+void AskAndDeactivate(Session& session, const Edit::Slots& slots, const QString& warning) {
+  if (Confirms(session, slots, "Si disattiva", "Si disattivano", warning)) DeactivateChannels(session, slots);
 }
 
 void SelectChannels(Session& session, const Edit::Slots& slots) {

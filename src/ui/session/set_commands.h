@@ -9,9 +9,9 @@ namespace Ui {
 void DeleteChannels(Session& session, const Edit::Slots& slots);
 void DeactivateChannels(Session& session, const Edit::Slots& slots);
 
-// Both ask before, naming channels that the user may not see.
-void AskAndDelete(Session& session, const Edit::Slots& slots);
-void AskAndDeactivate(Session& session, const Edit::Slots& slots);
+// Both ask before, naming channels that the user may not see; a warning about the set is a sentence with its stop.
+void AskAndDelete(Session& session, const Edit::Slots& slots, const QString& warning = {});
+void AskAndDeactivate(Session& session, const Edit::Slots& slots, const QString& warning = {});
 
 // Selects them in the channel list, which is shown.
 void SelectChannels(Session& session, const Edit::Slots& slots);

@@ -49,6 +49,20 @@ TEST_F(OverviewLines, ALinesChannelsAreSelectedSwitchedOffAndDeleted) {
   driver_->ExpectQuestion("Si eliminano 3 canali: Radio Otto, Radio Nove, Dodici. Continuo?", true);
   Click("EliminaRighe");
   EXPECT_EQ(Names(8, 10), "Dati,due,");
+
+  driver_->SelectRows(1, 1);
+  ASSERT_TRUE(driver_->Press("Toolbar1_Copy"));
+  driver_->ExpectLine("Inserire il numero di canale da cui inserire", "2");
+  driver_->ExpectQuestion(HowToPaste.arg(2).arg(1), false);
+  ASSERT_TRUE(driver_->Press("Toolbar1_Paste"));
+  EXPECT_EQ(Said(), "Incollato Uno al 2, sovrascritto Due");
+  tree_->setCurrentItem(Line("Canali doppi"));
+  driver_->ExpectQuestion(
+      "Si eliminano 2 canali: Uno, Uno. Sono tutte le copie, anche la prima: per tenerne una c'è Controlla "
+      "Canali Doppi. Continuo?",
+      false);
+  Click("EliminaRighe");
+  EXPECT_EQ(Names(1, 3), "Uno,Uno,Tre");
 }
 
 TEST_F(OverviewLines, ALineOfTranspondersShowsThem) {
