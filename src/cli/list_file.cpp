@@ -114,6 +114,7 @@ std::unique_ptr<State> Loaded(Work& work, const std::string& path, Base::ByteVie
   if (report != nullptr) *report = text;
   const bool part = loaded.channelsInImage > loaded.channelsRead || !loaded.stranded.empty();
   if (report == nullptr && part) work.console.Note(path, text);
+  if (report == nullptr && loaded.channelsInImage > loaded.channelsRead) work.console.exit = Exit::Found;
   return state;
 }
 

@@ -9,6 +9,7 @@
 #include "edit/sort_channels.h"
 #include "edit/take_over.h"
 #include "formats/list_format.h"
+#include "model/flash_loader.h"
 #include "review/order_match.h"
 
 #include <algorithm>
@@ -25,12 +26,24 @@ struct Opened {
   std::unique_ptr<State> state;
 };
 
+// Channels that were not read would be gone from an image that is written over.
+bool IsWhole(Work& work, Base::ByteView image, const State& state) {
+  const Options& options = work.options;
+  if (!options.inPlace || options.force) return true;
+  const auto all = std::make_unique<State>();
+  const int held = LoadFlash(*all, image, Routines::LastChannelSlot, 0, {}).channelsInImage;
+  return held <= UsedChannels(state) ||
+         work.console.Fail(Exit::NotWritten, options.second,
+                           "i canali non letti andrebbero persi: serve una --capacity più grande, o --force");
+}
+
 // The image that is to be changed; nothing where it cannot be, which is noted.
 std::optional<Opened> Open(Work& work) {
   if (!KnowsOutput(work, work.options.second)) return std::nullopt;
   auto image = ReadImage(work, work.options.second);
   if (!image) return std::nullopt;
   auto state = Loaded(work, work.options.second, *image);
+  if (!IsWhole(work, *image, *state)) return std::nullopt;
   return Opened{std::move(*image), std::move(state)};
 }
 

@@ -4,6 +4,7 @@
 #include "demo_flash.h"
 #include "formats/text_format.h"
 #include "formats/vdr_channels.h"
+#include "image_builder.h"
 #include "model/flash_loader.h"
 #include "model/flash_writer.h"
 #include "support/bouquets_txt.h"
@@ -295,6 +296,18 @@ TEST_F(CommandLine, AnImageIsNeverReplacedUnaskedNorWithoutACopy) {
   EXPECT_EQ(Run(with({"-o", folder_.Path("n.dat")})).code, 0);
   EXPECT_EQ(Run(with({"-o", other, "--force"})).code, 0);
   EXPECT_EQ(Base::AsText(Tests::Contents(other + ".bak")), "una lista d'altri");
+  const std::vector<Routines::ChannelRecord> many(1100, state_->Channel(5));
+  const std::string large =
+      folder_.Write("grande.dat", Samples::ImageBuilder(3).PutRecords(1, 0, 16, "TCS", many).Image());
+  const Arguments small = {"rename", large, "--capacity", "999", "--rule", "maiuscole"};
+  const auto ends = [&](const Arguments& more) {
+    Arguments all = small;
+    all.insert(all.end(), more.begin(), more.end());
+    return Run(all).code;
+  };
+  EXPECT_EQ(ends({"-o", folder_.Path("parte.dat")}), 1) << "not all was read";
+  EXPECT_EQ(ends({"--in-place"}), 4) << "the rest would be lost";
+  EXPECT_EQ(ends({"--in-place", "--force", "--dry-run"}), 1);
   const auto json = nlohmann::json::parse(Run(with({"--in-place", "--json"})).out);
   EXPECT_EQ(json["copy"], "lista.dat.bak");
   EXPECT_TRUE(Tests::Contents(flash_ + ".bak") == image_);
