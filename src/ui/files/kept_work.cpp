@@ -115,8 +115,9 @@ QString KeptWork::OfferOne(int number) {
   auto recovery = bytes ? Edit::DecodeRecovery(*bytes) : bytes.error();
   if (!recovery)
     return AsideText(Text(recovery.error().message) + ", messo da parte", SetAside(place->path, Damaged));
+  const QString list = PathText(Base::FileName(recovery->state.InputFlash));
   if (!session_.dialogs.YesNo("Esistono modifiche non salvate dell'ultima sessione in " + file +
-                              ". Si desidera recuperarle?"))
+                              (list.isEmpty() ? "" : ", lista " + list) + ". Si desidera recuperarle?"))
     return AsideText("Modifiche messe da parte", SetAside(place->path, Old));
   if (!MayReplace()) return {};
   Restore(*recovery);

@@ -16,7 +16,7 @@ class KeptWorkWindow : public SmallWindow {
   }
   void ExpectOffer(const char* name, bool yes) {
     driver_->ExpectQuestion("Esistono modifiche non salvate dell'ultima sessione in " + FileAndTime(name) +
-                                ". Si desidera recuperarle?",
+                                ", lista lista.dat. Si desidera recuperarle?",
                             yes);
   }
   void StartAndAnswer(bool yes, const char* name = "trovalis.recupero") {
