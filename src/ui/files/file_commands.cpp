@@ -31,12 +31,31 @@ QString ShortName(const std::string& path) {
   return name.size() <= Longest ? name : name.left(Longest / 2) + "…" + name.right(Longest / 2);
 }
 
-// What the summary's number counts, as it says no more than "Canali effettivi".
-QString WrittenText(const State& state) {
+int ChannelsIn(const Base::Bytes& image) {
+  State state;
+  return LoadFlash(state, image, Routines::LastChannelSlot, 0, {}).channelsInImage;
+}
+
+// What the summary's number counts, as it says no more than "Canali effettivi", and whether the image had more.
+QString WrittenText(const State& state, const Base::Bytes* replaced) {
   const int last = LastUsedChannel(state);
   int channels = 0;
   for (int slot = 1; slot <= last; ++slot) channels += state.Channel(slot).Empty() ? 0 : 1;
-  return QString(" (%1, fino al posto %2)").arg(Counted(channels, "canale", "canali")).arg(last);
+  const int before = replaced == nullptr ? 0 : ChannelsIn(*replaced);
+  return QString(" (%1, fino al posto %2%3)")
+      .arg(Counted(channels, "canale", "canali"))
+      .arg(last)
+      .arg(before > channels ? QString("; prima ne aveva %1").arg(before) : "");
+}
+
+// What to do where a list is not, or not all of it, what the user will have looked for.
+QString HintFor(const Routines::LoadReport& report, const Routines::Settings& settings,
+                bool anyTransponders) {
+  if (report.channelsInImage > report.channelsRead && settings.Capacity() < Routines::LastChannelSlot)
+    return " - per leggerli tutti scegliere in Canali da copiare un numero più grande e riaprire la flash";
+  if (report.channelsInImage == 0 && !anyTransponders)
+    return " - nel file non c'è una lista, forse non è l'immagine di questo tipo di ricevitore";
+  return {};
 }
 
 // The channels that an append has left without a transponder of their own, in rising order.
@@ -118,9 +137,10 @@ void FileCommands::Load(const std::string& path, const Base::Bytes& image, int a
       tellMore = session_.dialogs.RepeatedMessage(Text(message));
     }
   }
-  const QString result = ShortName(path) + ": " +
-                         Text(Routines::TextOf(report, document.Tables().TransponderCount, appended)) +
-                         (ratesMoved ? RatesMovedText : "");
+  const QString result =
+      ShortName(path) + ": " + Text(Routines::TextOf(report, document.Tables().TransponderCount, appended)) +
+      (appended ? QString() : HintFor(report, settings, document.Tables().TransponderCount > 0)) +
+      (ratesMoved ? RatesMovedText : "");
   const std::vector<int> lost = appended ? WithoutTransponder(report) : std::vector<int>();
   if (lost.empty()) {
     session_.status.ShowResult(result);
@@ -203,7 +223,7 @@ void FileCommands::Write(const std::string& path, const Base::Bytes& original, c
   status.ShowProgress(100);
   if (!saved) return session_.Message({saved.error().message, OutputTitle, saved.error().systemCode});
   session_.backups = std::move(saved->second);
-  TellWritten(path, patched, preparation, saved->first);
+  TellWritten(path, patched, preparation, saved->first, save == Routines::SaveFlash ? &original : nullptr);
   if (onWritten) onWritten();
 }
 
@@ -215,7 +235,8 @@ QString FileCommands::LostChannels(const Routines::Unwritten& unwritten) const {
 }
 
 void FileCommands::TellWritten(const std::string& path, const Routines::PatchedFlash& patched,
-                               const Preparation& preparation, const Routines::Saved& saved) {
+                               const Preparation& preparation, const Routines::Saved& saved,
+                               const Base::Bytes* replaced) {
   Document& document = session_.document;
   const Routines::Unwritten unwritten =
       Routines::FindUnwritten(document.Tables(), patched.image, preparation.plan);
@@ -231,7 +252,7 @@ void FileCommands::TellWritten(const std::string& path, const Routines::PatchedF
     document.MarkUnsaved();
   }
 
-  QString result = "Scritta " + ShortName(path) + WrittenText(document.Tables()) +
+  QString result = "Scritta " + ShortName(path) + WrittenText(document.Tables(), replaced) +
                    Text(Routines::TextOf(patched, unwritten));
   if (preparation.ratesMoved) result += RatesMovedText;
   result += Text(Routines::TextOf(saved, ShortName(path).toStdString()));

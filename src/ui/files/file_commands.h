@@ -44,8 +44,9 @@ class FileCommands {
   void Write(const std::string& path, const Base::Bytes& original, const Preparation& preparation, Save save);
   // Those that a save left out, for the window that names them.
   [[nodiscard]] QString LostChannels(const Routines::Unwritten& unwritten) const;
+  // `replaced` is what the file held before; null where there was none.
   void TellWritten(const std::string& path, const Routines::PatchedFlash& patched,
-                   const Preparation& preparation, const Routines::Saved& saved);
+                   const Preparation& preparation, const Routines::Saved& saved, const Base::Bytes* replaced);
 
   Session& session_;
 };

@@ -14,6 +14,7 @@ TEST_F(Saving, RefusesWhatNeedsAFlash) {
   EXPECT_EQ(window_->windowTitle(), "Trovalis  - Versione 1.0ß");
   for (const char* name : {"Salva", "ApriFlashOutput", "ConvertiSR"})
     EXPECT_FALSE(Action(name).isEnabled()) << name;
+  EXPECT_FALSE(Action("CambiaNomi").isEnabled()) << "it would refuse for the want of a view, not of a list";
   Tells("ApriFlashInput", "Si deve selezionare il numero di canali da visualizzare");
   for (const char* name : {"VisualizzaCanali", "VisualizzaTransponder", "VisualizzaBouquet", "Riepilogo",
                            "Confronta", "ConfrontaDisco", "CanaliDoppi", "SpostaRadio", "Toolbar1_Save"}) {
@@ -21,6 +22,34 @@ TEST_F(Saving, RefusesWhatNeedsAFlash) {
     const auto* action = window_->findChild<QAction*>(name);
     EXPECT_FALSE(action != nullptr && action->isChecked()) << name << " gets its old check mark back";
   }
+}
+
+TEST_F(Saving, WhoReadsOnlyAPartIsToldWhenOpeningAndWhenSaving) {
+  Open(folder_.Write("altro.dat", Samples::ImageBuilder(1).Image()), "QuantiCanali_0");
+  EXPECT_EQ(
+      Said(),
+      "altro.dat: letti 0 canali - nel file non c'è una lista, forse non è l'immagine di questo tipo di "
+      "ricevitore");
+  const std::vector<Routines::ChannelRecord> channels(1100, Samples::MakeChannel("Uno", 1, 1, 500, 600, 4));
+  const std::vector transponders = {Samples::MakeTransponder(11766, false, 0, 3, 2, 1200, 318)};
+  const auto whole = Samples::ImageBuilder(2)
+                         .PutRecords(1, 0, 16, "TCS", channels)
+                         .PutRecords(2, 0, 16, "TPT", transponders)
+                         .Image();
+  const std::string path = folder_.Write("intera.dat", whole);
+  Open(path, "QuantiCanali_0");
+  EXPECT_EQ(Said(),
+            "intera.dat: letti 999 di 1100 canali - per leggerli tutti scegliere in Canali da copiare un "
+            "numero più "
+            "grande e riaprire la flash");
+  ASSERT_TRUE(driver_->Pick("FlashScrittura_0"));
+  driver_->ExpectFile(OutputDialog, PathText(path));
+  Summary(*driver_, 1, 999, false);
+  ASSERT_TRUE(driver_->Choose("ApriFlashOutput"));
+  EXPECT_EQ(
+      Said(),
+      "Scritta intera.dat (999 canali, fino al posto 999; prima ne aveva 1100) - com'era prima resta in "
+      "intera.dat.bak");
 }
 
 TEST_F(Window, AWholeSessionGivesTheSameListBack) {
