@@ -6,6 +6,7 @@
 
 #include <QApplication>
 #include <QFileInfo>
+#include <QMessageBox>
 
 #include <cstdio>
 #include <cstdlib>
@@ -29,6 +30,22 @@ constexpr const char* Help =
 const char* AnswerTo(const char* argument) {
   if (std::strcmp(argument, "-h") == 0 || std::strcmp(argument, "--help") == 0) return Help;
   return std::strcmp(argument, "--version") == 0 ? "trovalis " TROVALIS_VERSION "\n" : "";
+}
+
+// On Windows a program with a window has no terminal, unless what it says is led somewhere.
+bool HasTerminal() {
+#ifdef Q_OS_WIN
+  return ::_fileno(stdout) >= 0 && ::_fileno(stderr) >= 0;
+#else
+  return true;
+#endif
+}
+
+// Into the terminal, or in a box where there is none. False where it cannot be said.
+bool Say(const char* text, std::FILE* stream) {
+  if (HasTerminal()) return std::fputs(text, stream) >= 0;
+  QMessageBox(QMessageBox::NoIcon, "Trovalis", text).exec();
+  return true;
 }
 
 // Behind "--" everything is a file's name. Nothing where there is something else than one such name.
@@ -79,16 +96,17 @@ bool RefusedOnTerminal([[maybe_unused]] const std::string& path) {
 }  // namespace
 
 int main(int argc, char** argv) {
-  if (const char* answer = argc == 2 ? AnswerTo(argv[1]) : ""; *answer != '\0')
-    return std::fputs(answer, stdout) < 0 ? 1 : 0;
+  const char* answer = argc == 2 ? AnswerTo(argv[1]) : "";
+  if (*answer != '\0' && HasTerminal()) return Say(answer, stdout) ? 0 : 1;
   Ui::PrepareToolkit();
   qInstallMessageHandler(HearStart);
   QApplication application(argc, argv);
   qInstallMessageHandler(nullptr);
   std::fputs(qPrintable(SaidAtStart()), stderr);
+  if (*answer != '\0') return Say(answer, stdout) ? 0 : 1;
   const auto file = FileIn(QApplication::arguments());
   if (!file) {
-    std::fputs(Help, stderr);
+    Say(Help, stderr);
     return 2;
   }
   const std::string path = file->isEmpty() ? "" : Ui::PathBytes(QFileInfo(*file).absoluteFilePath());
