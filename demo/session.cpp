@@ -35,6 +35,7 @@ QPixmap Framed(QWidget& box) {
 Session::Session(const QString& flash, const QString& support, const QString& output)
     : flash_(QFileInfo(flash).absoluteFilePath()), output_(QDir(output).absolutePath()) {
   QDir(output_).removeRecursively();
+  QApplication::setCursorFlashTime(0);  // pictures of one session are those of the next
   for (const QString& folder : {ProgramFolder(), output_ + "/guida"}) QDir().mkpath(folder);
   for (const char* name : {"Bouquets.txt", "SR.INI", "SDX.INI"}) {
     QFile::copy(support + "/" + name, ProgramFolder() + "/" + name);
