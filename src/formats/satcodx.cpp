@@ -113,24 +113,24 @@ class Loader {
       if (!options_.allFormats && Cut(line, SdxLine::Format) != "MPG2") return Dropped(Drop::NotMpeg2);
       if (Value(Cut(line, type == 'T' ? SdxLine::Vpid : SdxLine::Apid)) == 0) return WithoutPid(line);
     }
-    const auto drop = FilteredOut(line);
-    return drop ? Dropped(*drop) : true;
+    if (!HasWantedCode(line)) return Dropped(Drop::Code);
+    return IsLeftOut(line) ? Dropped(Drop::Filter) : true;
   }
 
   bool WithoutPid(std::string_view line) {
-    if (!FilteredOut(line)) Fill(table_.others.emplace_back(), line);
+    if (HasWantedCode(line) && !IsLeftOut(line)) Fill(table_.others.emplace_back(), line);
     return Dropped(Drop::NoPid);
   }
 
-  [[nodiscard]] std::optional<Drop> FilteredOut(std::string_view line) const {
-    const std::string_view code = Cut(line, SdxLine::Code);
-    if (!options_.allCodes &&
-        std::find(options_.codes.begin(), options_.codes.end(), code) == options_.codes.end()) {
-      return Drop::Code;
-    }
-    const bool left = options_.LeavesOut(options_.satellite, Value(Cut(line, SdxLine::Tid)),
-                                         Value(Cut(line, SdxLine::Sid)), Value(Cut(line, SdxLine::Apid)));
-    return left ? std::optional(Drop::Filter) : std::nullopt;
+  [[nodiscard]] bool HasWantedCode(std::string_view line) const {
+    const auto& codes = options_.codes;
+    return options_.allCodes ||
+           std::find(codes.begin(), codes.end(), Cut(line, SdxLine::Code)) != codes.end();
+  }
+
+  [[nodiscard]] bool IsLeftOut(std::string_view line) const {
+    return options_.LeavesOut(options_.satellite, Value(Cut(line, SdxLine::Tid)),
+                              Value(Cut(line, SdxLine::Sid)), Value(Cut(line, SdxLine::Apid)));
   }
 
   bool Dropped(Drop reason) {
