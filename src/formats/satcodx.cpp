@@ -62,12 +62,6 @@ inline bool Above(std::string_view text, std::string_view limit) {
 
 std::string_view PidText(std::string_view text) { return Value(text) == 0 ? Absent : text; }
 
-SdxRow::Number FiveDigits(int value) {
-  std::array<char, SdxLine::Tid.width> digits;
-  Base::PutNumber(digits.data(), {1, digits.size()}, static_cast<std::uint32_t>(value));
-  return std::string_view(digits.data(), digits.size());
-}
-
 bool IsHorizontal(std::string_view line) {
   const std::string_view polarisation = Cut(line, SdxLine::Polarisation);
   return polarisation == "H" || polarisation == "1";

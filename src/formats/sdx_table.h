@@ -2,14 +2,18 @@
 // it. Rows keep their fields as texts.
 #pragma once
 
+#include "base/columns.h"
 #include "base/short_text.h"
 #include "formats/drop_report.h"
 #include "model/row_kind.h"
 #include "model/sdx_fields.h"
 #include "model/transponder.h"
 
+#include <array>
+#include <cstdint>
 #include <optional>
 #include <string>
+#include <string_view>
 #include <vector>
 
 namespace Formats {
@@ -48,6 +52,13 @@ struct SdxRow {
 
   friend bool operator==(const SdxRow&, const SdxRow&) = default;
 };
+
+// The last five digits of a number, zeros in front.
+inline SdxRow::Number FiveDigits(int value) {
+  std::array<char, 5> digits;
+  Base::PutNumber(digits.data(), {1, digits.size()}, static_cast<std::uint32_t>(value));
+  return std::string_view(digits.data(), digits.size());
+}
 
 struct SdxTable {
   std::string satelliteName;  // of the file, 17 characters

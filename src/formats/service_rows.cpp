@@ -5,13 +5,11 @@
 
 #include <algorithm>
 #include <bitset>
-#include <charconv>
 
 namespace Formats {
 namespace {
 
 constexpr std::string_view Absent = "65535";
-constexpr std::string_view NoStream = "00000";
 constexpr int Free = 0x04;
 constexpr int LowestMegahertz = 10000;
 constexpr int HighestMegahertz = 13999;
@@ -19,10 +17,11 @@ constexpr int LargestRate = 99999;  // kBd
 
 int Rounded(int thousandths) { return (thousandths + 500) / 1000; }
 
+// Of a number of at most five digits.
 SdxRow::Number Digits(int value) {
-  std::array<char, 12> digits;
-  const auto written = std::to_chars(digits.data(), digits.data() + digits.size(), value);
-  return std::string_view(digits.data(), static_cast<std::size_t>(written.ptr - digits.data()));
+  const SdxRow::Number padded = FiveDigits(value);
+  const std::string_view digits = padded;
+  return digits.substr(std::min(digits.find_first_not_of('0'), digits.size() - 1));
 }
 
 SdxRow::Number PidText(int pid) { return pid > 0 ? Digits(pid) : SdxRow::Number(Absent); }
@@ -142,15 +141,14 @@ class Maker {
     FillIds(row, service.transponder);
     row.vpid = row.type == 'R' ? SdxRow::Number(Absent) : PidText(service.vpid);
     row.apid = PidText(service.apid);
-    row.pcr = PidText(service.pcr > 0 ? service.pcr : row.type == 'R' ? service.apid : service.vpid);
+    row.pcr = service.pcr > 0 ? Digits(service.pcr) : row.type == 'R' ? row.apid : row.vpid;
     row.sid = Digits(std::max(service.sid, 0));
     row.codifica = codifica_;
   }
 
   static void FillIds(SdxRow& row, const ListedTransponder& transponder) {
     if (transponder.nid != NotSaid) row.nid = Digits(transponder.nid);
-    const SdxRow::Number tid = Digits(std::max(transponder.tid, 0));
-    row.tid.Append(NoStream.substr(std::string_view(tid).size())).Append(tid);
+    row.tid = FiveDigits(std::max(transponder.tid, 0));
   }
 
   static SdxRow::Number RateText(int kilobaud) { return Digits(kilobaud).Append("\\\\\\\\"); }
