@@ -1,168 +1,26 @@
-#include "formats/text_format.h"
-
 #include "base/code_page.h"
-#include "base/columns.h"
 #include "base/text.h"
+#include "formats/text_columns.h"
+#include "formats/text_format.h"
 #include "model/favourites.h"
 #include "model/symbol_rates.h"
 
-#include <algorithm>
-#include <array>
 #include <charconv>
 #include <optional>
-#include <span>
 #include <vector>
 
 namespace Formats {
 namespace {
 
 using namespace Routines;
-using Base::Column;
+using namespace TextColumns;
 using Base::Cut;
-
-// The columns of each kind of line, for the writer and the reader alike.
-namespace ChannelLine {
-constexpr Column Slot{1, 4}, Name{6, 16}, Coding{63, 2}, Active{66, 1};
-constexpr std::size_t Width = 66;
-constexpr struct {
-  Column column;
-  Field<ChannelRecord> field;
-} Numbers[] = {{{23, 3}, ChannelField::Transponder}, {{27, 5}, ChannelField::Sid},
-               {{33, 5}, ChannelField::Vpid},        {{39, 5}, ChannelField::Apid},
-               {{45, 5}, ChannelField::Aecm},        {{51, 5}, ChannelField::Vecm},
-               {{57, 5}, ChannelField::Pcr}};
-}  // namespace ChannelLine
-
-namespace TransponderLine {
-constexpr Column Number{1, 3}, Frequency{5, 5}, Rate{29, 5}, Fec{35, 3}, Polarisation{39, 1}, Tone{41, 3},
-    ToneOn{41, 2}, SatelliteWord{44, 5}, Satellite{49, 1}, Bouquet{51, Base::ToLineEnd};
-constexpr std::size_t Width = Bouquet.first - 1 + TransponderRow::BouquetNameSize;
-constexpr struct {
-  Column column;
-  Field<TransponderRecord> field;
-} Numbers[] = {{{11, 5}, TransponderField::Tid},
-               {{17, 5}, TransponderField::Nid},
-               {{23, 5}, TransponderField::ChannelCount}};
-}  // namespace TransponderLine
-
-namespace FavouriteLine {
-constexpr Column List{1, 2}, Name{5, Base::ToLineEnd}, Slot{1, 4};
-}  // namespace FavouriteLine
 
 constexpr Column ChannelCountColumn{10, Base::ToLineEnd};
 constexpr Column TransponderCountColumn{16, Base::ToLineEnd};
-constexpr std::string_view LineEnd = "\r\n";
-// More than a line takes, as a rule: the text is put together without being moved.
-constexpr std::size_t LineRoom = 72;
 
 // What a favourites block measures after an import: the receivers' first kind had no more.
 constexpr std::size_t ImportedFavouritesSize = 2291;
-
-bool EndsLine(char byte) { return byte == '\r' || byte == '\n'; }
-// In favourites a bar makes a line look like a list's header.
-bool EndsEntry(char byte) { return byte == '|' || (byte >= 0 && byte < ' '); }
-
-// Hands over each entry of a table with its numbers known when the program is built, which makes a line's columns
-// as cheap as if they were spelled out.
-template <const auto& Table, class Work>
-void ForEach(Work work) {
-  [&work]<std::size_t... Index>(std::index_sequence<Index...>) { (work(Table[Index]), ...); }
-  (std::make_index_sequence<std::size(Table)>());
-}
-
-// Bytes that are harmful in some line. Hardly any text has one, which takes no branch for each of its bytes to see.
-constexpr auto HarmfulBytes = [] {
-  std::array<bool, 256> harmful{};
-  std::fill_n(harmful.begin(), ' ', true);
-  harmful['['] = harmful['|'] = true;
-  return harmful;
-}();
-
-// Makes blanks of harmful bytes, and of the bracket that would end a section.
-template <class Harmful>
-void BlankOut(std::span<char> text, Harmful harmful) {
-  bool any = false;
-  for (const char c : text) any |= HarmfulBytes[static_cast<unsigned char>(c)];
-  if (!any) return;
-  std::replace_if(text.begin(), text.end(), harmful, ' ');
-  const std::string_view view(text.data(), text.size());
-  for (std::size_t at = view.find("[END "); at != std::string_view::npos; at = view.find("[END "))
-    text[at] = ' ';
-}
-
-// Puts a text into room for it.
-template <class Harmful>
-void PutHarmless(char* room, std::string_view text, Harmful harmful) {
-  std::copy(text.begin(), text.end(), room);
-  BlankOut({room, text.size()}, harmful);
-}
-
-// The first columns of a line, all blank.
-template <std::size_t Width>
-constexpr auto Blank = [] {
-  std::array<char, Width> line{};
-  line.fill(' ');
-  return line;
-}();
-
-void AddChannel(std::string& text, const ChannelRecord& channel, int slot) {
-  auto columns = Blank<ChannelLine::Width>;
-  char* const line = columns.data();
-  Base::PutNumber(line, ChannelLine::Slot, static_cast<std::uint32_t>(slot));
-  PutHarmless(line + ChannelLine::Name.first - 1, channel.Name(), EndsLine);
-  ForEach<ChannelLine::Numbers>(
-      [&](const auto& number) { Base::PutNumber(line, number.column, Get(channel, number.field)); });
-  Base::PutHexByte(line, ChannelLine::Coding, Get(channel, ChannelField::Flags));
-  line[ChannelLine::Active.first - 1] = Get(channel, ChannelField::Active) != 0 ? 'S' : 'N';
-  text.append(line, columns.size()).append(LineEnd);
-}
-
-void AddTransponder(std::string& text, const State& state, const TransponderRow& row, int number) {
-  const TransponderRecord& record = row.record;
-  auto columns = Blank<TransponderLine::Width>;
-  char* const line = columns.data();
-  Base::PutNumber(line, TransponderLine::Number, static_cast<std::uint32_t>(number));
-  Base::PutNumber(line, TransponderLine::Frequency, static_cast<std::uint32_t>(FrequencyMHz(record)));
-  ForEach<TransponderLine::Numbers>(
-      [&](const auto& field) { Base::PutNumber(line, field.column, Get(record, field.field)); });
-  Base::Put(line, TransponderLine::Rate,
-            SymbolRateText(state.SymbolRateTable, Get(record, TransponderField::SymbolRate)));
-  Base::Put(line, TransponderLine::Polarisation, Get(record, TransponderField::Horizontal) != 0 ? "H" : "V");
-  Base::Put(line, TransponderLine::Tone, Get(record, TransponderField::HighBand) != 0 ? "On" : "Off");
-  Base::Put(line, TransponderLine::SatelliteWord, " SAT ");
-  Base::Put(line, TransponderLine::Satellite, SatelliteLabel(record).substr(4));
-  PutHarmless(line + TransponderLine::Bouquet.first - 1, row.BouquetName(), EndsLine);
-  // "Auto" is one letter longer than its column and pushes everything behind it one place to the right: other
-  // programs that read such files expect it there.
-  constexpr std::size_t Fec = TransponderLine::Fec.first - 1, BehindFec = Fec + TransponderLine::Fec.width;
-  text.append(line, Fec)
-      .append(FecText(record))
-      .append(line + BehindFec, columns.size() - BehindFec)
-      .append(LineEnd);
-}
-
-void AddFavourite(std::string& text, const ChannelRecord& channel, int slot) {
-  constexpr std::size_t Name = FavouriteLine::Slot.width + 1;
-  auto columns = Blank<Name + ChannelRecord::NameSize>;
-  Base::PutNumber(columns.data(), FavouriteLine::Slot, static_cast<std::uint32_t>(slot));
-  const std::string_view name = channel.Name();
-  PutHarmless(columns.data() + Name, name, EndsEntry);
-  text.append(columns.data(), Name + name.size()).append(LineEnd);
-}
-
-void AddFavourites(std::string& text, const State& state) {
-  text.append("[PREFERITI]").append(LineEnd);
-  for (std::size_t list = 0; list < FavouriteLists; ++list) {
-    std::string name = FavouriteNameOf(state.FavouritesBlock, list);
-    BlankOut(name, EndsLine);
-    text.append(Base::ZeroPadded(static_cast<int>(list), 2)).append("| ").append(name).append(LineEnd);
-    for (const int slot : FavouriteEntriesOf(state.FavouritesBlock, list)) {
-      // What is larger is junk, and too long for its column.
-      if (slot <= LastChannelSlot) AddFavourite(text, state.Channel(slot), slot);
-    }
-  }
-  text.append("[END PREFERITI]").append(LineEnd);
-}
 
 // The leading digits of a column of at most five places; nothing when the number is larger than `most`.
 inline std::optional<std::uint32_t> NumberIn(std::string_view line, const Column& column,
@@ -386,30 +244,6 @@ class Reader {
 };
 
 }  // namespace
-
-std::string WriteText(const State& state) {
-  const std::string channels = Base::ZeroPadded(state.ChannelCount, 4).append(LineEnd);
-  const std::string transponders = Base::ZeroPadded(state.TransponderCount, 4).append(LineEnd);
-  std::string text;
-  text.reserve(LineRoom * (static_cast<std::size_t>(UsedChannels(state) + UsedTransponders(state)) +
-                           FavouriteLists * FavouriteEntries));
-  text = "[CANALI] " + channels;
-  for (int slot = 1; slot <= state.ChannelCount; ++slot) {
-    const ChannelRecord& channel = state.Channel(slot);
-    const auto nameEnd = channel.bytes.begin() + ChannelRecord::NameSize;
-    if (std::any_of(channel.bytes.begin(), nameEnd, [](Base::Byte byte) { return byte != 0; })) {
-      AddChannel(text, channel, slot);
-    }
-  }
-  text += "[END CANALI] " + channels + "[TRANSPONDERS] " + transponders;
-  for (int number = 1; number <= state.TransponderCount; ++number) {
-    const TransponderRow& row = state.Transponder(number);
-    if (!IsFree(row.record)) AddTransponder(text, state, row, number);
-  }
-  text += "[END TRANSPONDERS] " + transponders;
-  if (!IsBlankFavourites(state.FavouritesBlock)) AddFavourites(text, state);
-  return text;
-}
 
 CodingChanges CodingsLostAsText(const State& state) {
   CodingChanges changes;
