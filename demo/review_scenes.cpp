@@ -23,17 +23,16 @@ void Session::CompareWithDisk() {
   driver_->ExpectLine("Inserire il numero di canale a cui spostare", "3");
   driver_->Choose("SpostaA");
   driver_->Choose("ConfrontaDisco");
-  auto* found = window_->findChild<QDialog*>("FinestraConfronto");
-  auto* table = found != nullptr ? found->findChild<QTableView*>("Differenze") : nullptr;
+  auto* table = window_->findChild<QTableView*>("Differenze");
   if (table == nullptr) return Step("compare with the disk", false, "no window");
   table->selectRow(0);
   QTest::keyClick(table, Qt::Key_Space);
   Step("compare with the disk", table->model()->rowCount() == 5,
        QString("%1 differences").arg(table->model()->rowCount()));
-  GuideBox("confronto", *found);
-  QTest::mouseClick(found->findChild<QPushButton*>("ApplicaSegnati"), Qt::LeftButton);
+  GuideBox("confronto", *table->window());
+  QTest::mouseClick(table->window()->findChild<QPushButton*>("ApplicaSegnati"), Qt::LeftButton);
   Step("take back one change", table->model()->rowCount() == 4, Said());
-  found->close();
+  table->window()->close();
   Undo(5);
 }
 
@@ -72,12 +71,11 @@ void Session::CompareWithSpreadsheet() {
   changed.close();
   driver_->ExpectFile("Selezionare il file CSV", changed.fileName());
   driver_->Choose("DaCSV");
-  auto* found = window_->findChild<QDialog*>("FinestraConfronto");
-  auto* table = found != nullptr ? found->findChild<QTableView*>("Differenze") : nullptr;
+  auto* table = window_->findChild<QTableView*>("Differenze");
   if (table == nullptr) return Step("changed in a spreadsheet", false, "no window");
   Step("changed in a spreadsheet", table->model()->rowCount() == 1,
        table->model()->index(0, 1).data().toString() + ": " + table->model()->index(0, 4).data().toString());
-  found->close();
+  table->window()->close();
 }
 
 // The channels of the first favourites list before all others, in its order.

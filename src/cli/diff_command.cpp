@@ -132,7 +132,7 @@ void Tell(Work& work, const Sides& sides) {
   const std::string rest = Review::OtherDifferences(found, "solo nella seconda");
   Json json = {{"first", work.options.first},
                {"second", work.options.second},
-               {"same", work.console.exit == Exit::Done},
+               {"same", found.Nothing()},
                {"differences", Json::array()},
                {"others", rest}};
   std::string text;

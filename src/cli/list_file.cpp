@@ -101,7 +101,7 @@ std::optional<ListFile> ReadList(Work& work, const std::string& path) {
 }
 
 std::unique_ptr<State> Loaded(Work& work, const std::string& path, Base::ByteView image,
-                              std::string* report) {
+                              Routines::LoadReport* report) {
   auto state = std::make_unique<State>();
   const auto loaded = Routines::LoadFlash(*state, image, CapacityOf(work), 0, work.bouquets);
   state->SymbolRateTable = work.rates;
@@ -110,12 +110,18 @@ std::unique_ptr<State> Loaded(Work& work, const std::string& path, Base::ByteVie
   if (loaded.repeats)
     work.console.Note(path, "l'immagine ripete la sua lista: --capacity " +
                                 std::to_string(Routines::CapacityOf(image)) + " ne legge una copia sola");
-  const std::string text = Routines::TextOf(loaded, state->TransponderCount, false);
-  if (report != nullptr) *report = text;
-  const bool part = loaded.channelsInImage > loaded.channelsRead || !loaded.stranded.empty();
-  if (report == nullptr && part) work.console.Note(path, text);
-  if (report == nullptr && loaded.channelsInImage > loaded.channelsRead) work.console.exit = Exit::Found;
+  if (report != nullptr) {
+    *report = loaded;
+  } else {
+    TellPart(work, path, loaded, state->TransponderCount);
+  }
   return state;
+}
+
+void TellPart(Work& work, const std::string& path, const Routines::LoadReport& report, int transponders) {
+  if (IsPart(report)) work.console.exit = Exit::Found;
+  if (IsPart(report) || !report.stranded.empty())
+    work.console.Note(path, Routines::TextOf(report, transponders, false));
 }
 
 std::unique_ptr<State> StateOf(Work& work, const ListFile& file, const State* like,

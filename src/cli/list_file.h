@@ -3,6 +3,7 @@
 
 #include "cli/program.h"
 #include "formats/sdx_table.h"
+#include "model/flash_loader.h"
 #include "model/other_list.h"
 #include "model/routines.h"
 
@@ -28,9 +29,15 @@ std::optional<Base::Bytes> ReadBytes(Work& work, const std::string& path);
 std::optional<Base::Bytes> ReadImage(Work& work, const std::string& path);
 std::optional<ListFile> ReadList(Work& work, const std::string& path);
 
-// An image as a list, with what loading it has to tell among the notes, or in `report` where that is wanted.
+// An image as a list, with what loading it has to tell among the notes. How much of it was read is told too, by the exit
+// as well, unless `report` is wanted.
 std::unique_ptr<Routines::State> Loaded(Work& work, const std::string& path, Base::ByteView image,
-                                        std::string* report = nullptr);
+                                        Routines::LoadReport* report = nullptr);
+// The image has channels that were not read.
+inline bool IsPart(const Routines::LoadReport& report) {
+  return report.channelsInImage > report.channelsRead;
+}
+void TellPart(Work& work, const std::string& path, const Routines::LoadReport& report, int transponders);
 
 // A list by itself. Rows have the numbers of their slots, and their satellites are those that they have in the list `like`, if
 // there is one; `said` becomes what they say.

@@ -68,11 +68,14 @@ std::vector<OverviewLine> FindingsOf(const Work& work, const State& state) {
 void Info(Work& work) {
   const auto image = ReadImage(work, work.options.first);
   if (!image) return;
-  std::string loaded;
-  const auto state = Loaded(work, work.options.first, *image, &loaded);
+  Routines::LoadReport report;
+  const auto state = Loaded(work, work.options.first, *image, &report);
+  if (IsPart(report)) work.console.exit = Exit::Found;
   const auto lines = Review::Overview(*state, work.bouquets.satellites);
-  if (!work.options.json) return PrintOverview(work, lines, loaded);
+  if (!work.options.json)
+    return PrintOverview(work, lines, Routines::TextOf(report, state->TransponderCount, false));
   Json json = {{"file", work.options.first},
+               {"channelsInImage", report.channelsInImage},
                {"channels", Routines::UsedChannels(*state)},
                {"lastChannel", Routines::LastOccupied(*state)},
                {"places", state->ChannelCount},

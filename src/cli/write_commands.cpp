@@ -26,24 +26,29 @@ struct Opened {
   std::unique_ptr<State> state;
 };
 
-// Channels that were not read would be gone from an image that is written over.
-bool IsWhole(Work& work, Base::ByteView image, const State& state) {
+// What becomes of the image's own list.
+enum class Its { Changed, Replaced };
+
+// Of an image whose list is changed, channels that were not read are gone from what is written. False where it is that
+// image itself, which is noted.
+bool MayLack(Work& work, const Routines::LoadReport& report, int transponders) {
   const Options& options = work.options;
-  if (!options.inPlace || options.force) return true;
-  const auto all = std::make_unique<State>();
-  const int held = LoadFlash(*all, image, Routines::LastChannelSlot, 0, {}).channelsInImage;
-  return held <= UsedChannels(state) ||
-         work.console.Fail(Exit::NotWritten, options.second,
-                           "i canali non letti andrebbero persi: serve una --capacity più grande, o --force");
+  if (IsPart(report) && options.inPlace && !options.force)
+    return work.console.Fail(
+        Exit::NotWritten, options.second,
+        "i canali non letti andrebbero persi: serve una --capacity più grande, o --force");
+  TellPart(work, options.second, report, transponders);
+  return true;
 }
 
-// The image that is to be changed; nothing where it cannot be, which is noted.
-std::optional<Opened> Open(Work& work) {
+// The image that is to be written; nothing where it cannot be, which is noted.
+std::optional<Opened> Open(Work& work, Its list = Its::Changed) {
   if (!KnowsOutput(work, work.options.second)) return std::nullopt;
   auto image = ReadImage(work, work.options.second);
   if (!image) return std::nullopt;
-  auto state = Loaded(work, work.options.second, *image);
-  if (!IsWhole(work, *image, *state)) return std::nullopt;
+  Routines::LoadReport report;
+  auto state = Loaded(work, work.options.second, *image, &report);
+  if (list == Its::Changed && !MayLack(work, report, state->TransponderCount)) return std::nullopt;
   return Opened{std::move(*image), std::move(state)};
 }
 
@@ -135,7 +140,7 @@ void NoteMissing(Work& work, const Review::OrderMatch& match) {
 }  // namespace
 
 void Write(Work& work) {
-  const auto opened = Open(work);
+  const auto opened = Open(work, Its::Replaced);
   const auto file = opened ? ReadList(work, work.options.first) : std::nullopt;
   const auto state = file ? StateOf(work, *file, opened->state.get()) : nullptr;
   if (!state) return;

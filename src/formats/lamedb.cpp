@@ -4,6 +4,8 @@
 #include "formats/foreign_fields.h"
 #include "formats/list_fields.h"
 
+#include <optional>
+
 namespace Formats {
 namespace {
 

@@ -6,7 +6,6 @@
 #include "formats/scan_table.h"
 
 #include <algorithm>
-#include <array>
 #include <cstdint>
 #include <map>
 

@@ -7,6 +7,7 @@
 
 #include <cstddef>
 #include <iterator>
+#include <string_view>
 #include <utility>
 
 namespace Formats::TextColumns {
@@ -48,6 +49,10 @@ inline constexpr NumberField Numbers[] = {{{11, 5}, TransponderField::Tid},
 namespace FavouriteLine {
 inline constexpr Column List{1, 2}, Name{5, Base::ToLineEnd}, Slot{1, 4};
 }  // namespace FavouriteLine
+
+// What ends a section, wherever in a line it stands.
+inline constexpr std::string_view ChannelsEnd = "[END CANALI]", TranspondersEnd = "[END TRANSPONDERS]",
+                                  FavouritesEnd = "[END PREFERITI]";
 
 // Hands over each entry of a table with its numbers known when the program is built, which makes a line's columns
 // as cheap as if they were spelled out.

@@ -120,7 +120,7 @@ class Reader {
     changed_ = true;
     state_.MaxChannels = state_.ChannelCount = CountIn(*header, ChannelCountColumn, LastChannelSlot);
     std::fill_n(state_.ChannelTable.begin() + 1, state_.ChannelCount, ChannelRecord{});
-    return Lines("[END CANALI]", [this](std::string_view line) { TakeChannel(line); });
+    return Lines(ChannelsEnd, [this](std::string_view line) { TakeChannel(line); });
   }
 
   void TakeChannel(std::string_view line) {
@@ -148,8 +148,7 @@ class Reader {
     for (std::size_t slot = 1; slot < state_.TransponderTable.size(); ++slot) {
       state_.Transponder(slot).record = {};
     }
-    const bool ended =
-        Lines("[END TRANSPONDERS]", [&](std::string_view line) { TakeTransponder(line, report); });
+    const bool ended = Lines(TranspondersEnd, [&](std::string_view line) { TakeTransponder(line, report); });
     for (TransponderRow& row : state_.TransponderTable) FindCode(row);
     return ended;
   }
@@ -204,7 +203,7 @@ class Reader {
     state_.FavouritesBlock.assign(ImportedFavouritesSize, 0);
     std::vector<std::uint32_t> pending;
     std::size_t list = 0;
-    const bool ended = Lines("[END PREFERITI]", [&](std::string_view line) {
+    const bool ended = Lines(FavouritesEnd, [&](std::string_view line) {
       if (line.find('|') == std::string_view::npos) {
         pending.push_back(NumberIn(line, FavouriteLine::Slot, 9999).value_or(0));
         return;

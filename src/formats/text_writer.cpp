@@ -30,7 +30,7 @@ constexpr auto HarmfulBytes = [] {
   return harmful;
 }();
 
-// Makes blanks of harmful bytes, and of the bracket that would end a section.
+// Makes blanks of harmful bytes, and of brackets that would end a section.
 template <class Harmful>
 void BlankOut(std::span<char> text, Harmful harmful) {
   bool any = false;
@@ -38,8 +38,9 @@ void BlankOut(std::span<char> text, Harmful harmful) {
   if (!any) return;
   std::replace_if(text.begin(), text.end(), harmful, ' ');
   const std::string_view view(text.data(), text.size());
-  for (std::size_t at = view.find("[END "); at != std::string_view::npos; at = view.find("[END "))
-    text[at] = ' ';
+  for (const std::string_view end : {ChannelsEnd, TranspondersEnd, FavouritesEnd}) {
+    for (std::size_t at = view.find(end); at != std::string_view::npos; at = view.find(end)) text[at] = ' ';
+  }
 }
 
 // Puts a text into room for it.

@@ -308,6 +308,12 @@ TEST_F(CommandLine, AnImageIsNeverReplacedUnaskedNorWithoutACopy) {
   EXPECT_EQ(ends({"-o", folder_.Path("parte.dat")}), 1) << "not all was read";
   EXPECT_EQ(ends({"--in-place"}), 4) << "the rest would be lost";
   EXPECT_EQ(ends({"--in-place", "--force", "--dry-run"}), 1);
+  EXPECT_EQ(Run({"info", large, "--capacity", "999"}).code, 1);
+  const Ended written = Run(
+      {"write", flash_, large, "--capacity", "999", "--type", "1", "--sr", "2", "--in-place", "--dry-run"});
+  EXPECT_EQ(written.err.find("letti"), std::string::npos)
+      << "what another list takes the place of" << written.err;
+  EXPECT_NE(written.out.find("Prova, non scritta"), std::string::npos) << written.err;
   const auto json = nlohmann::json::parse(Run(with({"--in-place", "--json"})).out);
   EXPECT_EQ(json["copy"], "lista.dat.bak");
   EXPECT_TRUE(Tests::Contents(flash_ + ".bak") == image_);

@@ -112,6 +112,7 @@ class Play {
     const bool unsaved = window_->List().Unsaved();
     const QString copied = Label("CanaliCopiati");
     window_.reset();
+    began_.clear();
     Open();
     window_->OfferKeptWork();
     if (unsaved && answers_->questions == 0) fault_ = "unsaved work is not offered";
@@ -332,15 +333,13 @@ class Play {
     if (fault_.empty()) fault_ = Fault();
   }
 
-  // A list that counts as saved comes back from the image written last, or from the one opened; or from another one, as
-  // a flash without anything that is appended changes nothing.
-  [[nodiscard]] std::string SavedFault() const {
+  // A list that counts as saved comes back from the image written last, or from the one opened; or from the one that it
+  // began with, as a flash without anything that is appended changes nothing.
+  [[nodiscard]] std::string SavedFault() {
     const State& list = Tables();
+    const std::string& began = began_.emplace(list.ListNumber, list.InputFlash).first->second;
     if (!list.Loaded || window_->List().Unsaved()) return {};
-    std::vector<std::string> paths = {list.OutputFlash, list.InputFlash};
-    for (const auto& file : std::filesystem::directory_iterator(folder_.Path()))
-      if (file.path().extension() == ".dat") paths.push_back(file.path().string());
-    for (const std::string& path : paths) {
+    for (const std::string& path : {list.OutputFlash, list.InputFlash, began}) {
       const auto image = path.empty() ? Base::Error{} : Routines::ReadFlash(path, "");
       const auto again = std::make_unique<State>();
       if (image) LoadFlash(*again, *image, list.ChannelCount, 0, {});
@@ -373,6 +372,7 @@ class Play {
   RandomAnswers* answers_ = nullptr;
   std::unique_ptr<State> last_;
   std::unique_ptr<MainWindow> window_;  // behind what it tells its changes to
+  std::map<int, std::string> began_;    // the flash that each list was first seen with, by its number
   int changes_ = 0;
   int boxTicks_ = 0;
   QTimer boxes_;

@@ -32,8 +32,8 @@ QString ShortName(const std::string& path) {
 }
 
 int ChannelsIn(const Base::Bytes& image) {
-  State state;
-  return LoadFlash(state, image, Routines::LastChannelSlot, 0, {}).channelsInImage;
+  const auto state = std::make_unique<State>();
+  return LoadFlash(*state, image, Routines::LastChannelSlot, 0, {}).channelsInImage;
 }
 
 // What the summary's number counts, as it says no more than "Canali effettivi", and whether the image had more.

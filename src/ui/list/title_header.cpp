@@ -1,7 +1,7 @@
 #include "ui/list/title_header.h"
 
-#include "ui/kit/text.h"
 #include "ui/list/grid.h"
+#include "ui/list/row_colours.h"
 #include "ui/list/row_look.h"
 
 #include <QPainter>
@@ -21,9 +21,14 @@ TitleHeader::TitleHeader(QWidget* parent, const Grid& grid)
   connect(&RowLook::OfProgram(), &RowLook::Changed, viewport(), qOverload<>(&QWidget::update));
 }
 
-// The grid gives the widths.
-QSize TitleHeader::sectionSizeFromContents(int) const {
-  return {2 * Beside + Line, fontMetrics().height() + 2 * Above + Line};
+QString TitleHeader::Title(int column) const {
+  if (model() == nullptr) return {};  // on the way from one list to another
+  return grid_.SortMark(column) + model()->headerData(column, Qt::Horizontal).toString();
+}
+
+QSize TitleHeader::sectionSizeFromContents(int column) const {
+  return {fontMetrics().horizontalAdvance(Title(column)) + 2 * Beside + Line,
+          fontMetrics().height() + 2 * Above + Line};
 }
 
 // A title that is wider than its column keeps its beginning: in the middle it would lose both its ends.
@@ -35,11 +40,10 @@ void TitleHeader::paintSection(QPainter* painter, const QRect& section, int colu
   painter->fillRect(QRect(section.left(), section.bottom(), section.width(), Line), line);
 
   const QRect room = section.adjusted(Beside, Above, -Beside - Line, -Above - Line);
-  const QString title = grid_.SortMark(column) + model()->headerData(column, Qt::Horizontal).toString();
   const int alignment = model()->headerData(column, Qt::Horizontal, Qt::TextAlignmentRole).toInt();
   painter->setPen(look.Soft() ? palette().color(QPalette::Text) : TextOn(Colours::Header));
   painter->drawText(room, alignment | Qt::AlignVCenter,
-                    fontMetrics().elidedText(title, Qt::ElideRight, room.width()));
+                    fontMetrics().elidedText(Title(column), Qt::ElideRight, room.width()));
 }
 
 }  // namespace Ui

@@ -17,6 +17,8 @@ class TitleHeader : public QHeaderView {
   void paintSection(QPainter* painter, const QRect& section, int column) const override;
 
  private:
+  [[nodiscard]] QString Title(int column) const;
+
   const Grid& grid_;
 };
 

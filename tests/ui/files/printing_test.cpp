@@ -167,9 +167,10 @@ TEST_F(PrintingWindow, WhatCannotBePrintedIsTold) {
     preview.findChild<QAction*>("SalvaPdf")->trigger();
     preview.reject();
   });
-  ExpectOpenedFlashChosen("Salva la stampa come PDF");
-  Tells("StampaGriglia", "Non stampato: il file scelto è la flash aperta o quella di output");
-  EXPECT_EQ(Contents(flash_), image);
+  const std::string other = folder_.Write("altra.dat", image);
+  ExpectOpenedFlashChosen("Salva la stampa come PDF", other);
+  Tells("StampaGriglia", "Non stampato: il file scelto sembra l'immagine di un ricevitore");
+  EXPECT_EQ(Contents(other), image);
   Tells("Azzera", "Sono stati azzerati 12 Canali");
   Tells("StampaGriglia", "Nessuna riga da stampare");
   ASSERT_TRUE(driver_->Choose("VisualizzaCanali"));

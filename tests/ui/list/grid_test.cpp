@@ -128,6 +128,9 @@ TEST(Grid, ColumnsShareTheSpareWidthExceptThoseThatTheUserHasSet) {
   grid.resize(1700, 400);
   EXPECT_EQ(grid.columnWidth(2), 90);
   EXPECT_EQ(grid.horizontalHeader()->length(), grid.viewport()->width());
+  grid.resizeColumnToContents(2);
+  EXPECT_GT(grid.columnWidth(2), grid.fontMetrics().horizontalAdvance("SID"))
+      << "its title is wider than its cells";
 }
 
 }  // namespace
@@ -147,6 +150,7 @@ TEST_F(SmallWindow, AClosedListIsNotSeenAndTheFirstColumnOfAnOpenOneStays) {
   grid->verticalScrollBar()->setValue(200);
   grid->horizontalScrollBar()->setValue(grid->horizontalScrollBar()->maximum());
   auto* fixed = grid->findChild<QTableView*>("ColonnaFissa");
+  ASSERT_NE(fixed, nullptr);
   EXPECT_TRUE(fixed->isVisible());
   EXPECT_EQ(fixed->geometry().right() + 1, grid->viewport()->geometry().left() + grid->columnWidth(0));
   EXPECT_EQ(grid->rowAt(5), 200);
