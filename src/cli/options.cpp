@@ -225,7 +225,9 @@ class Line {
     type->check(Number(1, 3))->required(typed)->group(LineOptions);
     Rate(app, typed);
     auto* output = File(app, "-o,--output", options_.output, "immagine da scrivere");
-    app.add_flag("--in-place", options_.inPlace, "scrive nell'immagine stessa, tenendone una copia .bak")
+    app.add_flag(
+           "--in-place", options_.inPlace,
+           "scrive nell'immagine stessa, tenendone una copia .bak; di una letta in parte solo con --force")
         ->excludes(output)
         ->group(LineOptions);
     Force(app);
