@@ -9,32 +9,30 @@ class OptionsLine : public SmallWindow {
     return *window_->findChild<QAbstractButton*>("RiduciOpzioni");
   }
   [[nodiscard]] bool Groups() const { return window_->findChild<QWidget*>("QuantiCanali")->isVisible(); }
-  void Resize(int height) {
+  void Resize(int height, bool groups) {
     window_->resize(900, height);
     QTest::qWait(20);
+    EXPECT_TRUE(QTest::qWaitFor([&] { return Groups() == groups; })) << height;
   }
 };
 
 TEST_F(OptionsLine, ComesByItselfWhereTheListIsShortUntilTheUserSaysOtherwise) {
-  Resize(700);
-  EXPECT_TRUE(Groups());
-  Resize(430);
-  EXPECT_FALSE(Groups());
+  Resize(700, true);
+  Resize(430, false);
   EXPECT_EQ(Button().text(), "999 canali · scrive D-2.x · SR 22000 come 2");
-  Resize(700);
-  EXPECT_TRUE(Groups());
-  Resize(430);
+  Resize(700, true);
+  Resize(430, false);
   Button().click();
   EXPECT_TRUE(Groups());
   StartEmpty();
-  Resize(430);
+  Resize(430, true);
   Open(flash_, "QuantiCanali_0");
   ASSERT_TRUE(driver_->Pick("FlashScrittura_1"));
   EXPECT_TRUE(Groups()) << "opened by hand once";
 }
 
 TEST_F(OptionsLine, IsRememberedAndMakesWayForAChoiceThatIsMissing) {
-  Resize(700);
+  Resize(700, true);
   Button().click();
   EXPECT_FALSE(Groups());
   StartEmpty();
