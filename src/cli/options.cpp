@@ -213,7 +213,8 @@ class Line {
         ->check(OneOf({"text", "fls", "csv", "vdr"}));
   }
 
-  // Of commands that write an image; `typed` ones have to say the flash's type and the place of SR 22000.
+  // Of commands that write an image; a `typed` one, which puts another list there, has to say the flash's type and the
+  // place of SR 22000.
   void Writing(CLI::App& app, bool typed) {
     Capacity(app, "canali che il ricevitore può tenere: 999, 2000 o 3996; va sempre detto")
         ->required()
@@ -225,9 +226,9 @@ class Line {
     type->check(Number(1, 3))->required(typed)->group(LineOptions);
     Rate(app, typed);
     auto* output = File(app, "-o,--output", options_.output, "immagine da scrivere");
-    app.add_flag(
-           "--in-place", options_.inPlace,
-           "scrive nell'immagine stessa, tenendone una copia .bak; di una letta in parte solo con --force")
+    const std::string inPlace = "scrive nell'immagine stessa, tenendone una copia .bak";
+    app.add_flag("--in-place", options_.inPlace,
+                 typed ? inPlace : inPlace + "; di una letta in parte solo con --force")
         ->excludes(output)
         ->group(LineOptions);
     Force(app);

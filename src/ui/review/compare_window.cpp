@@ -114,9 +114,8 @@ CompareWindow::CompareWindow(Session& session, OtherSide other, QMainWindow& win
   if (model_->rowCount() > 0) table_->selectRow(0);
   Tell(IsOrder()
            ? "Un clic porta al canale. I canali che l'elenco non ha vanno dopo gli altri, nel loro ordine."
-           : "Un clic porta al canale; la barra spaziatrice segna le righe selezionate. Si applica "
-             "solo ciò che "
-             "le caselle in alto mostrano.");
+           : "Un clic porta al canale; la barra spaziatrice segna le righe selezionate. Si applica solo "
+             "ciò che le caselle in alto mostrano.");
   table_->setFocus();
 }
 
